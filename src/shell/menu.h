@@ -1,0 +1,88 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace vendrel {
+
+/// The entries of the main menu, in menu order.
+enum class MenuId {
+    FileHeader,
+    LoadBMP,
+    LoadStipples,
+    StartupPaintShop,
+    ChangeToStipples,
+    ColorPickerSelect,
+    PaintItNow,
+    PrintMenu,
+    PrintWorkform,
+    SaveReference,
+    PrintAll,
+    PrintColorChart,
+    SaveItAll,
+    SaveKitPdf,
+    Difficulty,
+    EasySet,
+    MediumSet,
+    HardSet,
+    SetPaintMax,
+    Set16Colors,
+    Set32Colors,
+    Set40Colors,
+    Set50Colors,
+    TemplateMenu,
+    RunTemplateShop,
+    NextBestColors,
+    SampleMethod,
+    AveragePixel,
+    SamplePixel,
+    WatchItPaint,
+    ShowAbout,
+    EndItAll,
+    kMenuBar,  // parent of the entries on the bar; no entry of its own
+};
+
+inline constexpr std::size_t kMenuEntryCount = static_cast<std::size_t>(MenuId::kMenuBar);
+
+/// One entry: its name in code, its caption on screen and where it hangs.
+struct MenuEntry {
+    MenuId Id;
+    std::string_view Name;
+    std::string_view Caption;
+    MenuId Parent;
+    bool Enabled = true;
+    bool Checked = false;
+};
+
+/// The main menu as data; the window mirrors it.
+class Menu {
+  public:
+    Menu();
+
+    [[nodiscard]] MenuEntry& operator[](MenuId id) {
+        return entries_[static_cast<std::size_t>(id)];
+    }
+    [[nodiscard]] const MenuEntry& operator[](MenuId id) const {
+        return entries_[static_cast<std::size_t>(id)];
+    }
+    [[nodiscard]] const std::array<MenuEntry, kMenuEntryCount>& Entries() const { return entries_; }
+
+  private:
+    std::array<MenuEntry, kMenuEntryCount> entries_;
+};
+
+/// Enables and disables entries for a stage of the work: 1 start, 2 photo or setting chosen,
+/// 3 stipples made, 4 painted, 5 everything off. Entries a stage does not name stay as they were.
+void SetupMenuItems(Menu& menu, int stage);
+
+/// Checks exactly the final-paints entry equal to `finalColors` (16, 32, 40 or 50).
+void SetColorChecks(Menu& menu, int finalColors);
+
+/// "Easy", "Medium" or "Difficult" after the checked difficulty: the word in file names.
+[[nodiscard]] std::string_view DifficultyWord(const Menu& menu);
+
+/// The final paints wanted after the checked entry: 16, 32, 40 or 50; 0 when none is checked.
+[[nodiscard]] int WantedFinalColors(const Menu& menu);
+
+}  // namespace vendrel

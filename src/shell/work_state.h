@@ -1,0 +1,91 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "shell/records.h"
+#include "support/cell_queue.h"
+#include "support/color.h"
+#include "support/dib_view.h"
+#include "support/grid.h"
+
+namespace vendrel {
+
+/// What every procedure and form reads and writes, from start-up to exit. Lists and grids keep an
+/// empty element 0. Colours are packed, sizes in pixels or twips as named.
+struct WorkState {
+    // The catalogue and its ranges: never changed after loading.
+    std::vector<PaintColor> MasterColors{1};
+    int MasterCount = 0;
+    std::vector<PaintSet> PaintSets{1};
+    int PaintSetCount = 0;
+
+    // The working palette.
+    std::vector<PaintColor> PaintColors{1};
+    int PaintCount = 0;
+    std::vector<PaintColor> FoundColors{1};
+    int FoundCount = 0;
+    std::vector<int> ColorCounts{0};  // stipples per paint, rebuilt by every count
+
+    // What the paint shop keeps while it is closed.
+    bool PaintShopLoaded = false;
+    bool MfgSelected = true;  // paint sets rather than a template
+    std::vector<std::string> SelectedPaintsList;
+    bool TemplateMode = false;
+    bool TemplateLoaded = false;
+    std::string SelectedTemplate;
+    std::string LastTemplate;
+    int SwatchSize = 0;  // pixels
+
+    // Settings.
+    int StippleSize = 8;  // pixels: 8 Easy, 6 Medium, 4 Difficult
+    int HalfStipple = 4;
+    int StippleCheck = 4;
+    int FinalColors = 50;
+    bool KeepAllColors = false;
+    int CleanLevel = 8;
+    Color EdgeColor = Rgb(0, 255, 0);
+    Color BorderColor = Rgb(0, 0, 0);
+    Color SymbolColor = Rgb(125, 125, 125);
+
+    // The photo.
+    std::string PicturesFolder;
+    std::string PictureFile;
+    std::string PicturePath;
+    std::string PictureName;
+    bool PictureLoaded = false;
+    int BmpWidth = 0;  // pixels, from the file's header
+    int BmpHeight = 0;
+    int AspectWidth = 0;
+    int AspectHeight = 0;
+    bool Landscape = true;
+    int PictureWidth = 0;  // twips
+    int PictureHeight = 0;
+
+    // The stipple grid.
+    Grid<StippleCell> Stipples;
+    Grid<CellMark> CellMarks;
+    int CellsAcross = 0;
+    int CellsDown = 0;
+    bool StipplesMade = false;
+    bool StipplesShown = false;
+    int WorkStage = 0;
+
+    // The paint pass.
+    Grid<MapPixel> PixelMap;  // one per photo pixel, 0..width, 0..height
+    std::vector<PaintArea> Areas;
+    int AreaCount = 0;  // one more than the areas found
+    int NextAreaNumber = 1;
+    bool PaintingDone = false;
+    CellQueue TestCells;
+
+    // Symbols and the sheet.
+    std::array<std::int16_t, 51> SymbolCodes{};
+    std::vector<SymbolGlyph> SymbolGlyphs;
+    DibView SheetDC;
+    int SheetCellSize = 2;  // sheet pixels per photo pixel
+};
+
+}  // namespace vendrel

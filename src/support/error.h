@@ -1,0 +1,41 @@
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace vendrel {
+
+/// A failure with a sentence for the user: what went wrong and what to do.
+class Error : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A file or folder that cannot be found, read, written or replaced.
+class FileError : public Error {
+  public:
+    /// "<file>: <problem>", the problem ending with what to do.
+    FileError(const std::filesystem::path& file, const std::string& problem);
+};
+
+/// A file that can be read but does not hold what it should.
+class FormatError : public Error {
+  public:
+    /// "<file>, line <line>: <problem>"; line counts from 1, 0 leaves it out.
+    FormatError(const std::filesystem::path& file, int line, const std::string& problem);
+};
+
+/// A counter that a photo drove past 32767.
+class OverflowError : public Error {
+  public:
+    using Error::Error;
+};
+
+/// A command line or a request that makes no sense as it was given.
+class UsageError : public Error {
+  public:
+    using Error::Error;
+};
+
+}  // namespace vendrel

@@ -1,0 +1,63 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/error.h"
+#include "support/program_folder.h"
+#include "support/temp_folder.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::size_t FilesIn(const fs::path& folder) {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+}
+
+TEST(WholeFile, KeepsTheOldFileUntilCommit) {
+    const test::TempFolder folder;
+    folder.Write("a.txt", "old");
+    {
+        WholeFile abandoned(folder / "a.txt");
+        abandoned.Write("half of the n");
+    }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(FilesIn(folder.Path()), 1U);
+    WriteWholeFile(folder / "a.txt", "new");
+    EXPECT_EQ(folder.Read("a.txt"), "new");
+    EXPECT_EQ(FilesIn(folder.Path()), 1U);
+}
+
+TEST(WholeFile, CreatesFoldersAndNamesWhatIsInTheWay) {
+    const test::TempFolder folder;
+    WriteWholeFile(folder / "new/deep/a.txt", "x");
+    EXPECT_EQ(folder.Read("new/deep/a.txt"), "x");
+    try {
+        WriteWholeFile(folder / "new/deep", "x");
+        ADD_FAILURE();
+    } catch (const FileError& error) {
+        EXPECT_THAT(error.what(), testing::HasSubstr("deep"));
+    }
+    EXPECT_THROW(WriteWholeFile(folder / "new/deep/a.txt/b.txt", "x"), FileError);
+    EXPECT_THROW(WriteWholeFile("/dev/full/x", "x"), FileError);
+}
+
+TEST(ProgramFolder, FindsNamesWhateverTheirCase) {
+    const test::TempFolder folder;
+    folder.Write("data/StudioPaint.CSV", "0");
+    folder.Write("shipped/Data/studiopaint.csv", "1");
+    folder.Write("shipped/Data/Symbols.txt", "1");
+    const ProgramFolder program(folder.Path(), folder / "shipped");
+    EXPECT_EQ(program.Path("Data/studiopaint.csv"), folder / "data/StudioPaint.CSV");
+    EXPECT_EQ(program.Path("DATA/new.txt"), folder / "data/new.txt");
+    EXPECT_EQ(program.DataFile("Data/studiopaint.csv"), folder / "data/StudioPaint.CSV");
+    EXPECT_EQ(program.DataFile("Data/symbols.txt"), folder / "shipped/Data/Symbols.txt");
+    EXPECT_EQ(program.DataFile("Data/none.txt"), folder / "data/none.txt");
+    EXPECT_TRUE(program.Exists("DATA"));
+    EXPECT_FALSE(program.Exists("Results"));
+}
+
+}  // namespace
+}  // namespace vendrel
