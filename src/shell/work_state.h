@@ -67,11 +67,13 @@ struct WorkState {
     // The stipple grid.
     Grid<StippleCell> Stipples;
     Grid<CellMark> CellMarks;
+    Grid<StippleCell> EditStipples;  // the touch-up editor's copy; its paints are FoundColors
     int CellsAcross = 0;
     int CellsDown = 0;
     bool StipplesMade = false;
     bool StipplesShown = false;
     int WorkStage = 0;
+    bool HasUnsavedWork = false;  // touched up and accepted, but in no saved grid yet
 
     // The paint pass.
     Grid<MapPixel> PixelMap;  // one per photo pixel, 0..width, 0..height
