@@ -1,0 +1,281 @@
+#include "kit/arguments.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+constexpr std::string_view kHelp =
+    R"(Vendrel turns a photograph into a paint-by-symbol kit.
+
+  vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
+  vendrel symbols        draws the symbols anew into Data/Symbols.txt
+  vendrel --help         shows this text
+  vendrel --version      shows the version
+
+Try: vendrel kit PBNLady.bmp
+)";
+
+constexpr std::string_view kKitHelp =
+    R"(vendrel kit PHOTO... makes a paint-by-symbol kit of each photo.
+
+PHOTO is a path to a .bmp file or the name of one in Pictures.
+
+  --folder DIR               works in DIR instead of the folder it is started in
+  --difficulty LEVEL         easy (default), medium or difficult
+  --final-paints N           16, 32, 40 or 50 (default) paints at most
+  --sample METHOD            average (default) or pixel
+  --sets NAME                allows this paint set; may be repeated
+  --template NAME            allows the paints of templates/NAME.csv
+  --screen WIDTHxHEIGHT      sizes the picture for this screen (default 1920x1080)
+  --outputs LIST             of sheet,painting,grid (default all)
+  --from-grid                takes the saved grid instead of converting the photo
+  --replace-grid             writes over a saved grid that differs
+  --json                     prints one JSON object per photo
+  --quiet                    prints nothing but errors
+
+Without --sets and --template the paints are those of Data/paintlist.txt.
+Sheets and paintings go to Results, grids to "Saved Stipples".
+)";
+
+// The words of a command line, taken one by one. "--name=value" and "--name value" are the same.
+class Words {
+  public:
+    explicit Words(std::span<const std::string_view> words) : words_(words) {}
+
+    bool Next() {
+        if (at_ == words_.size()) {
+            return false;
+        }
+        word_ = words_[at_++];
+        value_.reset();
+        const bool isOption = !onlyPhotos_ && word_.starts_with("--");
+        if (const auto equals = word_.find('='); isOption && equals != word_.npos) {
+            value_ = word_.substr(equals + 1);
+            word_ = word_.substr(0, equals);
+        }
+        if (isOption && word_ == "--") {
+            onlyPhotos_ = true;
+            return Next();
+        }
+        return true;
+    }
+    [[nodiscard]] std::string_view Word() const { return word_; }
+    [[nodiscard]] bool IsOption() const {
+        return !onlyPhotos_ && word_.size() > 1 && word_.front() == '-';
+    }
+    [[nodiscard]] bool HasOwnValue() const { return value_.has_value(); }
+    /// The value of the option just taken.
+    [[nodiscard]] std::string_view Value() {
+        if (!value_) {
+            if (at_ == words_.size()) {
+                throw UsageError(std::string(word_) + " needs a value behind it.");
+            }
+            value_ = words_[at_++];
+        }
+        if (value_->empty()) {
+            throw UsageError(std::string(word_) + " needs a value that is not empty.");
+        }
+        return *value_;
+    }
+
+  private:
+    std::span<const std::string_view> words_;
+    std::size_t at_ = 0;
+    std::string_view word_;
+    std::optional<std::string_view> value_;
+    bool onlyPhotos_ = false;
+};
+
+[[noreturn]] void RefuseValue(std::string_view option, std::string_view value,
+                              std::string_view choices) {
+    throw UsageError(std::string(option) + " cannot be \"" + std::string(value) + "\"; choose " +
+                     std::string(choices) + ".");
+}
+
+[[nodiscard]] std::optional<int> ToInt(std::string_view text) {
+    int number = 0;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (failure != std::errc{} || end != text.data() + text.size()) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+MenuId ToDifficulty(std::string_view value) {
+    if (value == "easy") {
+        return MenuId::EasySet;
+    }
+    if (value == "medium") {
+        return MenuId::MediumSet;
+    }
+    if (value == "difficult") {
+        return MenuId::HardSet;
+    }
+    RefuseValue("--difficulty", value, "easy, medium or difficult");
+}
+
+int ToFinalPaints(std::string_view value) {
+    const int paints = ToInt(value).value_or(0);
+    if (paints != 16 && paints != 32 && paints != 40 && paints != 50) {
+        RefuseValue("--final-paints", value, "16, 32, 40 or 50");
+    }
+    return paints;
+}
+
+bool ToSamplePixel(std::string_view value) {
+    if (value != "average" && value != "pixel") {
+        RefuseValue("--sample", value, "average or pixel");
+    }
+    return value == "pixel";
+}
+
+ScreenSize ToScreen(std::string_view value) {
+    constexpr int kLargest = 32767;
+    const auto cross = std::min(value.find('x'), value.size());
+    const int width = ToInt(value.substr(0, cross)).value_or(0);
+    const int height = cross < value.size() ? ToInt(value.substr(cross + 1)).value_or(0) : 0;
+    if (std::min(width, height) < 1 || std::max(width, height) > kLargest) {
+        RefuseValue("--screen", value, "WIDTHxHEIGHT in pixels, as in 1920x1080");
+    }
+    return ScreenSize::FromPixels(width, height);
+}
+
+KitOutputs ToOutputs(std::string_view value) {
+    KitOutputs outputs{false, false, false};
+    while (!value.empty()) {
+        const auto comma = std::min(value.find(','), value.size());
+        const std::string_view name = value.substr(0, comma);
+        if (name == "sheet") {
+            outputs.Sheet = true;
+        } else if (name == "painting") {
+            outputs.Painting = true;
+        } else if (name == "grid") {
+            outputs.Grid = true;
+        } else {
+            RefuseValue("--outputs", name, "from sheet, painting and grid, with commas between");
+        }
+        value.remove_prefix(std::min(comma + 1, value.size()));
+    }
+    return outputs;
+}
+
+// Options that take no value; answers whether this was one.
+bool TakeSwitch(Words& words, KitOptions& kit) {
+    bool* const target = words.Word() == "--json"           ? &kit.Json
+                         : words.Word() == "--quiet"        ? &kit.Quiet
+                         : words.Word() == "--from-grid"    ? &kit.FromGrid
+                         : words.Word() == "--replace-grid" ? &kit.ReplaceGrid
+                                                            : nullptr;
+    if (target == nullptr) {
+        return false;
+    }
+    if (words.HasOwnValue()) {
+        throw UsageError(std::string(words.Word()) + " takes no value.");
+    }
+    *target = true;
+    return true;
+}
+
+[[noreturn]] void RefuseOption(std::string_view option, std::string_view help) {
+    throw UsageError("There is no option " + std::string(option) + ". \"" + std::string(help) +
+                     "\" lists them.");
+}
+
+void TakeKitOption(Words& words, KitOptions& kit) {
+    const std::string_view option = words.Word();
+    if (TakeSwitch(words, kit)) {
+        return;
+    }
+    if (option == "--folder") {
+        kit.Folder = words.Value();
+    } else if (option == "--difficulty") {
+        kit.Difficulty = ToDifficulty(words.Value());
+    } else if (option == "--final-paints") {
+        kit.FinalPaints = ToFinalPaints(words.Value());
+    } else if (option == "--sample") {
+        kit.SamplePixel = ToSamplePixel(words.Value());
+    } else if (option == "--sets") {
+        kit.Sets.emplace_back(words.Value());
+    } else if (option == "--template") {
+        kit.Template = words.Value();
+    } else if (option == "--screen") {
+        kit.Screen = ToScreen(words.Value());
+    } else if (option == "--outputs") {
+        kit.Outputs = ToOutputs(words.Value());
+    } else {
+        RefuseOption(option, "vendrel kit --help");
+    }
+}
+
+Arguments ParseKit(Words& words) {
+    Arguments arguments{Command::Kit, {}, {}};
+    KitOptions& kit = arguments.Kit;
+    while (words.Next()) {
+        if (!words.IsOption()) {
+            kit.Photos.emplace_back(words.Word());
+        } else if (words.Word() == "--help" || words.Word() == "-h") {
+            return {Command::KitHelp, {}, {}};
+        } else {
+            TakeKitOption(words, kit);
+        }
+    }
+    if (kit.Photos.empty()) {
+        throw UsageError("Name at least one photo, as in \"vendrel kit PBNLady.bmp\".");
+    }
+    if (kit.Template && !kit.Sets.empty()) {
+        throw UsageError("Choose paints by --sets or by --template, not by both.");
+    }
+    return arguments;
+}
+
+Arguments ParseSymbols(Words& words) {
+    Arguments arguments{Command::Symbols, {}, "."};
+    while (words.Next()) {
+        if (words.Word() == "--help" || words.Word() == "-h") {
+            return {Command::Help, {}, {}};
+        }
+        if (words.Word() != "--folder") {
+            RefuseOption(words.Word(), "vendrel --help");
+        }
+        arguments.Folder = words.Value();
+    }
+    return arguments;
+}
+
+}  // namespace
+
+Arguments ParseArguments(std::span<const std::string_view> given) {
+    Words words(given);
+    if (!words.Next()) {
+        return {};
+    }
+    const std::string_view command = words.Word();
+    if (command == "kit") {
+        return ParseKit(words);
+    }
+    if (command == "symbols") {
+        return ParseSymbols(words);
+    }
+    if (command == "--help" || command == "-h" || command == "help") {
+        return {Command::Help, {}, {}};
+    }
+    if (command == "--version") {
+        return {Command::Version, {}, {}};
+    }
+    throw UsageError("\"" + std::string(command) +
+                     "\" is nothing that Vendrel does. \"vendrel --help\" lists what it does.");
+}
+
+std::string_view HelpText() {
+    return kHelp;
+}
+
+std::string_view KitHelpText() {
+    return kKitHelp;
+}
+
+}  // namespace vendrel

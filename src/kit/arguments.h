@@ -1,0 +1,53 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/menu.h"
+#include "support/twips.h"
+
+namespace vendrel {
+
+/// What a kit may consist of.
+struct KitOutputs {
+    bool Sheet = true;
+    bool Painting = true;
+    bool Grid = true;
+};
+
+/// `vendrel kit`: photos and the settings that hold for all of them.
+struct KitOptions {
+    std::vector<std::string> Photos;
+    std::filesystem::path Folder = ".";
+    MenuId Difficulty = MenuId::EasySet;
+    int FinalPaints = 50;
+    bool SamplePixel = false;
+    std::vector<std::string> Sets;  // empty: the saved selection
+    std::optional<std::string> Template;
+    ScreenSize Screen = ScreenSize::FromPixels(1920, 1080);
+    KitOutputs Outputs;
+    bool ReplaceGrid = false;
+    bool FromGrid = false;
+    bool Json = false;
+    bool Quiet = false;
+};
+
+enum class Command { Window, Kit, Symbols, Help, KitHelp, Version };
+
+struct Arguments {
+    Command What = Command::Window;
+    KitOptions Kit;                      // for Command::Kit
+    std::filesystem::path Folder = ".";  // for Command::Symbols
+};
+
+/// Reads the words behind the program's name. Throws UsageError with a sentence.
+[[nodiscard]] Arguments ParseArguments(std::span<const std::string_view> words);
+
+[[nodiscard]] std::string_view HelpText();
+[[nodiscard]] std::string_view KitHelpText();
+
+}  // namespace vendrel

@@ -1,0 +1,78 @@
+#include "kit/terminal_ui.h"
+
+#include <algorithm>
+
+namespace vendrel {
+namespace {
+
+constexpr std::string_view kWipe = "\r\x1b[K";
+// Faster than this nobody reads, and a terminal may be slower than the painting.
+constexpr std::chrono::milliseconds kRedrawPause{50};
+
+}  // namespace
+
+std::string_view StageOf(std::string_view caption) {
+    std::size_t end = caption.find_first_of("0123456789");
+    for (const std::string_view lead : {" with ", " For "}) {
+        if (const auto at = caption.find(lead); at != caption.npos) {
+            end = std::min(end, at + lead.size());
+        }
+    }
+    return caption.substr(0, end);
+}
+
+void TerminalUi::SetCaption(std::string_view caption) {
+    const bool newStage = StageOf(caption) != StageOf(caption_);
+    caption_ = caption;
+    if (chatter_ == Chatter::Stages && newStage) {
+        out_ << caption_ << '\n';
+    } else if (chatter_ == Chatter::Progress) {
+        if (newStage) {
+            percent_ = -1;
+        }
+        DrawLine(newStage);
+    }
+}
+
+void TerminalUi::ReportProgress(int done, int total) {
+    if (chatter_ != Chatter::Progress) {
+        return;
+    }
+    const int percent = total > 0 ? static_cast<int>(100LL * done / total) : -1;
+    if (percent != percent_) {
+        percent_ = percent;
+        DrawLine(false);
+    }
+}
+
+void TerminalUi::ShowMessage(std::string_view title, std::string_view sentence) {
+    std::string message(title);
+    message += message.empty() ? "" : ": ";
+    message += sentence;
+    std::replace(message.begin(), message.end(), '\n', ' ');
+    messages_.push_back(std::move(message));
+}
+
+void TerminalUi::DrawLine(bool atOnce) {
+    const auto now = std::chrono::steady_clock::now();
+    if (!atOnce && now - lastDrawn_ < kRedrawPause) {
+        return;
+    }
+    lastDrawn_ = now;
+    lineShown_ = true;
+    out_ << kWipe << caption_;
+    if (percent_ >= 0) {
+        out_ << "  " << percent_ << " %";
+    }
+    out_ << std::flush;
+}
+
+void TerminalUi::ClearLine() {
+    if (lineShown_) {
+        out_ << kWipe << std::flush;
+        lineShown_ = false;
+    }
+    caption_.clear();
+}
+
+}  // namespace vendrel

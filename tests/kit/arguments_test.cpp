@@ -1,0 +1,107 @@
+#include "kit/arguments.h"
+
+#include <gmock/gmock.h>
+
+#include <initializer_list>
+#include <string>
+
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+Arguments Parse(std::initializer_list<std::string_view> words) {
+    return ParseArguments({words.begin(), words.size()});
+}
+
+TEST(Arguments, APhotoAloneGetsTheDefaults) {
+    const Arguments arguments = Parse({"kit", "lady.bmp"});
+    ASSERT_EQ(arguments.What, Command::Kit);
+    const KitOptions& kit = arguments.Kit;
+    EXPECT_THAT(kit.Photos, ElementsAre("lady.bmp"));
+    EXPECT_EQ(kit.Folder, ".");
+    EXPECT_EQ(kit.Difficulty, MenuId::EasySet);
+    EXPECT_EQ(kit.FinalPaints, 50);
+    EXPECT_FALSE(kit.SamplePixel);
+    EXPECT_THAT(kit.Sets, IsEmpty());
+    EXPECT_FALSE(kit.Template.has_value());
+    EXPECT_EQ(kit.Screen.Width, 1920 * 15);
+    EXPECT_EQ(kit.Screen.Height, 1080 * 15);
+    EXPECT_TRUE(kit.Outputs.Sheet && kit.Outputs.Painting && kit.Outputs.Grid);
+    EXPECT_FALSE(kit.FromGrid || kit.ReplaceGrid || kit.Json || kit.Quiet);
+}
+
+TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
+    const KitOptions kit = Parse({"kit",          "--folder=here",
+                                  "--difficulty", "difficult",
+                                  "a.bmp",        "--final-paints=16",
+                                  "--sample",     "pixel",
+                                  "--sets",       "Oils, Fine",
+                                  "--sets=Greys", "--screen",
+                                  "800x600",      "--outputs=painting,grid",
+                                  "--from-grid",  "--replace-grid",
+                                  "--json",       "--quiet",
+                                  "--",           "--odd.bmp"})
+                               .Kit;
+    EXPECT_EQ(kit.Folder, "here");
+    EXPECT_EQ(kit.Difficulty, MenuId::HardSet);
+    EXPECT_EQ(kit.FinalPaints, 16);
+    EXPECT_TRUE(kit.SamplePixel);
+    EXPECT_THAT(kit.Sets, ElementsAre("Oils, Fine", "Greys"));
+    EXPECT_EQ(kit.Screen.Height, 600 * 15);
+    EXPECT_TRUE(!kit.Outputs.Sheet && kit.Outputs.Painting && kit.Outputs.Grid);
+    EXPECT_TRUE(kit.FromGrid && kit.ReplaceGrid && kit.Json && kit.Quiet);
+    EXPECT_THAT(kit.Photos, ElementsAre("a.bmp", "--odd.bmp"));
+    EXPECT_EQ(Parse({"kit", "a.bmp", "--template", "Skin"}).Kit.Template, "Skin");
+}
+
+TEST(Arguments, OtherCommandsAreTold) {
+    EXPECT_EQ(Parse({}).What, Command::Window);
+    EXPECT_EQ(Parse({"--help"}).What, Command::Help);
+    EXPECT_EQ(Parse({"--version"}).What, Command::Version);
+    EXPECT_EQ(Parse({"kit", "a.bmp", "--help"}).What, Command::KitHelp);
+    EXPECT_EQ(Parse({"symbols"}).Folder, ".");
+    EXPECT_EQ(Parse({"symbols", "--folder", "x"}).Folder, "x");
+}
+
+TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
+    struct Case {
+        std::initializer_list<std::string_view> Words;
+        const char* Part;
+    };
+    const Case cases[] = {
+        {{"paint"}, "\"paint\""},
+        {{"kit"}, "at least one photo"},
+        {{"kit", "--json"}, "at least one photo"},
+        {{"kit", "a.bmp", "--colour"}, "no option --colour"},
+        {{"kit", "a.bmp", "-q"}, "no option -q"},
+        {{"kit", "a.bmp", "--difficulty", "hard"}, "easy, medium or difficult"},
+        {{"kit", "a.bmp", "--difficulty"}, "--difficulty needs a value"},
+        {{"kit", "a.bmp", "--folder="}, "--folder needs a value"},
+        {{"kit", "a.bmp", "--final-paints", "17"}, "16, 32, 40 or 50"},
+        {{"kit", "a.bmp", "--final-paints", "16x"}, "16, 32, 40 or 50"},
+        {{"kit", "a.bmp", "--sample=mean"}, "average or pixel"},
+        {{"kit", "a.bmp", "--screen", "800"}, "WIDTHxHEIGHT"},
+        {{"kit", "a.bmp", "--screen", "0x600"}, "WIDTHxHEIGHT"},
+        {{"kit", "a.bmp", "--screen", "800x600x2"}, "WIDTHxHEIGHT"},
+        {{"kit", "a.bmp", "--outputs", "sheet,poster"}, "\"poster\""},
+        {{"kit", "a.bmp", "--json=yes"}, "--json takes no value"},
+        {{"kit", "a.bmp", "--sets", "Oils", "--template", "Skin"}, "not by both"},
+        {{"symbols", "a.bmp"}, "a.bmp"},
+    };
+    for (const Case& c : cases) {
+        try {
+            (void)Parse(c.Words);
+            ADD_FAILURE() << "accepted; expected: " << c.Part;
+        } catch (const UsageError& error) {
+            EXPECT_THAT(error.what(), HasSubstr(c.Part));
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vendrel
