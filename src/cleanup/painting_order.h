@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "shell/records.h"
+
+namespace vendrel {
+
+/// The order in which areas are painted: largest first, equal sizes by area number. Sorted once,
+/// so that picking the next area does not search them all.
+class PaintingOrder {
+  public:
+    /// `areas` with an unused entry 0; areas without cells or already painted are left out.
+    explicit PaintingOrder(const std::vector<PaintArea>& areas);
+
+    /// Number of the next area and marks it Painted; 0, marking entry 0, when none is left.
+    [[nodiscard]] int GetBiggestCell(std::vector<PaintArea>& areas);
+
+  private:
+    std::vector<int> order_;
+    std::size_t next_ = 0;
+};
+
+}  // namespace vendrel
