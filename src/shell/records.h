@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -65,6 +66,25 @@ struct PaintArea {
     int ColorIndex = 0;
     std::vector<CellPos> Members;  // row-major order
     bool Painted = false;
+};
+
+/// What the numbering of a sheet finds on one picture pixel. Small, since a picture has a million.
+struct NumberPixel {
+    std::int16_t ColorIndex = 0;  // the paint of the pixel, 0 none
+    std::int16_t XTwips = 0;
+    std::int16_t YTwips = 0;
+    std::int16_t AreaNumber = 0;  // the area that met the pixel as its border last
+    bool IsBorder = false;
+
+    bool operator==(const NumberPixel&) const = default;
+};
+
+/// Visit mark of the numbering.
+struct NumberMark {
+    std::int16_t AreaNumber = 0;  // the area the pixel belongs to
+    bool Marked = false;
+
+    bool operator==(const NumberMark&) const = default;
 };
 
 /// A pixel of a symbol, relative to the corner it is stamped at.

@@ -83,6 +83,12 @@ struct WorkState {
     bool PaintingDone = false;
     CellQueue TestCells;
 
+    // The numbers of the sheet made last, one per picture pixel.
+    int NumberWidth = 0;
+    int NumberHeight = 0;
+    Grid<NumberPixel> NumberGrid;
+    Grid<NumberMark> NumberMarks;
+
     // Symbols and the sheet.
     std::array<std::int16_t, 51> SymbolCodes{};
     std::vector<SymbolGlyph> SymbolGlyphs;
