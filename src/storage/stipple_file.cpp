@@ -1,0 +1,185 @@
+#include "storage/stipple_file.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+#include "support/counter.h"
+#include "support/error.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+// Room for a cell's line at its longest: four numbers of up to six characters and their marks.
+constexpr std::size_t kCellLine = 32;
+
+void AppendNumber(std::string& out, int value) {
+    char digits[16];
+    out.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+}
+
+void AppendNumbers(std::string& out, std::initializer_list<int> values) {
+    for (const int value : values) {
+        AppendNumber(out, value);
+        out += ',';
+    }
+}
+
+// Nothing marks a double quote inside a text as part of it; written as it is, it would end the
+// text early and nobody could load the file again.
+void AppendText(std::string& out, std::string_view text) {
+    const std::size_t begin = out.size() + 1;
+    out += '"';
+    out += text;
+    std::replace(out.begin() + static_cast<std::ptrdiff_t>(begin), out.end(), '"', '\'');
+    out += '"';
+}
+
+void AppendPaint(std::string& out, const PaintColor& paint, int cellCount) {
+    AppendNumbers(out, {paint.Red, paint.Green, paint.Blue});
+    AppendText(out, paint.PaintName);
+    out += ',';
+    AppendNumbers(out, {cellCount});
+    AppendText(out, paint.Mfg);
+    out += ',';
+    AppendText(out, paint.PaintCode);
+    out += "\r\n";
+}
+
+char* PutNumber(char* at, int value, char after) {
+    at = std::to_chars(at, at + 12, value).ptr;
+    *at = after;
+    return at + 1;
+}
+
+char* PutCell(char* at, const StippleCell& cell) {
+    at = PutNumber(at, cell.AreaNumber, ',');
+    at = PutNumber(at, cell.ColorIndex, ',');
+    at = PutNumber(at, cell.X, ',');
+    at = PutNumber(at, cell.Y, '\r');
+    *at = '\n';
+    return at + 1;
+}
+
+void AppendRow(std::string& out, std::span<const StippleCell> row) {
+    const std::size_t begin = out.size();
+    out.resize(begin + row.size() * kCellLine);
+    char* at = out.data() + begin;
+    for (const StippleCell& cell : row) {
+        at = PutCell(at, cell);
+    }
+    out.resize(static_cast<std::size_t>(at - out.data()));
+}
+
+std::span<const StippleCell> CellsOfRow(const SavedGrid& saved, int y) {
+    return saved.Cells.Row(y).subspan(1, static_cast<std::size_t>(saved.Across));
+}
+
+std::vector<int> CountCells(const SavedGrid& saved) {
+    std::vector<int> counts(saved.Palette.size());
+    for (int y = 1; y <= saved.Down; ++y) {
+        for (const StippleCell& cell : CellsOfRow(saved, y)) {
+            if (static_cast<std::size_t>(cell.ColorIndex) < counts.size()) {
+                ++counts[static_cast<std::size_t>(cell.ColorIndex)];
+            }
+        }
+    }
+    return counts;
+}
+
+}  // namespace
+
+std::filesystem::path StippleFilePath(const Workplace& place) {
+    return place.Folder.Path("Saved Stipples/" + place.State.PictureName + "-" +
+                             std::string(DifficultyWord(place.MainMenu)) + ".stp");
+}
+
+bool StippleFileExists(const Workplace& place) {
+    return std::filesystem::is_regular_file(StippleFilePath(place));
+}
+
+std::string FormatStippleFile(const SavedGrid& saved) {
+    const std::vector<int> counts = CountCells(saved);
+    const int paintCount = static_cast<int>(saved.Palette.size()) - 1;
+    std::string out;
+    out.reserve(static_cast<std::size_t>(paintCount) * 80 +
+                static_cast<std::size_t>(saved.Across) * static_cast<std::size_t>(saved.Down + 2) *
+                    (kCellLine - 8));
+    AppendNumbers(out, {paintCount, saved.Across, saved.Down});
+    AppendNumber(out, saved.FinalColors);
+    out += "\r\n";
+    for (std::size_t i = 1; i < saved.Palette.size(); ++i) {
+        AppendPaint(out, saved.Palette[i], counts[i]);
+    }
+    for (int y = 1; y <= saved.Down; ++y) {
+        AppendRow(out, CellsOfRow(saved, y));
+    }
+    return out;
+}
+
+void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved) {
+    WriteWholeFile(path, FormatStippleFile(saved));
+}
+
+StippleFileReader::StippleFileReader(std::string_view text, const std::filesystem::path& path)
+    : fields_(text, path) {
+    header_.PaintCount = ReadFirst("the number of paints", 0, kMaxCounter);
+    header_.Across = fields_.ReadInt("the number of stipples across", 0, kMaxCounter);
+    header_.Down = fields_.ReadInt("the number of stipples down", 0, kMaxCounter);
+    header_.FinalColors = fields_.ReadInt("the number of final paints", 0, kMaxCounter);
+    EndRecord();
+}
+
+// A field too many or too few would otherwise shift all that follows and be noticed only where
+// the file ends, thousands of lines further down.
+int StippleFileReader::ReadFirst(const char* what, int min, int max) {
+    const int value = fields_.ReadInt(what, min, max);
+    if (fields_.Line() == recordLine_) {
+        throw FormatError(fields_.File(), recordLine_,
+                          "there are too many fields. Correct this line.");
+    }
+    recordLine_ = fields_.Line();
+    return value;
+}
+
+void StippleFileReader::EndRecord() const {
+    if (fields_.Line() != recordLine_) {
+        throw FormatError(fields_.File(), recordLine_,
+                          "there are too few fields. Correct this line.");
+    }
+}
+
+PaintColor StippleFileReader::ReadPaint() {
+    PaintColor paint;
+    paint.Red = ReadFirst("a paint's red", 0, 255);
+    paint.Green = fields_.ReadInt("a paint's green", 0, 255);
+    paint.Blue = fields_.ReadInt("a paint's blue", 0, 255);
+    paint.PaintName = fields_.ReadText("a paint's name");
+    paint.CellCount =
+        fields_.ReadInt("a paint's stipple count", 0, std::numeric_limits<int>::max());
+    paint.Mfg = fields_.ReadText("a paint's set");
+    paint.PaintCode = fields_.ReadText("a paint's code");
+    EndRecord();
+    return paint;
+}
+
+std::vector<PaintColor> StippleFileReader::ReadPalette() {
+    std::vector<PaintColor> palette(1);
+    for (int i = 1; i <= header_.PaintCount; ++i) {
+        palette.push_back(ReadPaint());
+    }
+    return palette;
+}
+
+void StippleFileReader::ReadRow(Grid<StippleCell>& cells, int y, int across) {
+    for (StippleCell& cell : cells.Row(y).subspan(1, static_cast<std::size_t>(across))) {
+        cell.AreaNumber = ReadFirst("a stipple's area", 0, kMaxCounter);
+        cell.ColorIndex = fields_.ReadInt("a stipple's paint", 1, header_.PaintCount);
+        cell.X = fields_.ReadInt("a stipple's pixel column", 0, kMaxCounter);
+        cell.Y = fields_.ReadInt("a stipple's pixel row", 0, kMaxCounter);
+        EndRecord();
+    }
+}
+
+}  // namespace vendrel

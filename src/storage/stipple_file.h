@@ -1,0 +1,67 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/records.h"
+#include "shell/workplace.h"
+#include "support/field_reader.h"
+#include "support/grid.h"
+
+namespace vendrel {
+
+/// "Saved Stipples/<PictureName>-<Easy|Medium|Difficult>.stp" of the photo and the difficulty
+/// chosen now, existing or not.
+[[nodiscard]] std::filesystem::path StippleFilePath(const Workplace& place);
+[[nodiscard]] bool StippleFileExists(const Workplace& place);
+
+/// What a stipple file keeps. References only, so that an editor's working copies can be saved as
+/// well as the kit's own.
+struct SavedGrid {
+    const std::vector<PaintColor>& Palette;  // entry 0 is not saved
+    const Grid<StippleCell>& Cells;
+    int Across = 0;
+    int Down = 0;
+    int FinalColors = 50;
+};
+
+/// The bytes of the file. The paints' CellCount is counted afresh from the cells.
+[[nodiscard]] std::string FormatStippleFile(const SavedGrid& saved);
+/// Replaces `path` whole or not at all; creates its folder. Throws FileError.
+void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved);
+
+/// The first line of a stipple file.
+struct StippleHeader {
+    int PaintCount = 0;
+    int Across = 0;
+    int Down = 0;
+    int FinalColors = 0;
+};
+
+/// Reads a stipple file from front to back: the header at once, then PaintCount times ReadPaint,
+/// then ReadRow for every row. How many rows of what length is the caller's choice: the file
+/// carries no marks between them. All throw FormatError with file and line.
+class StippleFileReader {
+  public:
+    /// `text` must outlive the reader.
+    StippleFileReader(std::string_view text, const std::filesystem::path& path);
+
+    [[nodiscard]] const StippleHeader& Header() const { return header_; }
+    [[nodiscard]] PaintColor ReadPaint();
+    /// The whole palette, with its empty entry 0.
+    [[nodiscard]] std::vector<PaintColor> ReadPalette();
+    /// Columns 1..across of row y of `cells`, which must hold them.
+    void ReadRow(Grid<StippleCell>& cells, int y, int across);
+
+  private:
+    [[nodiscard]] int ReadFirst(const char* what, int min, int max);
+    void EndRecord() const;
+
+    FieldReader fields_;
+    StippleHeader header_;
+    int recordLine_ = 0;
+};
+
+}  // namespace vendrel
