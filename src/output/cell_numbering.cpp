@@ -1,0 +1,255 @@
+#include "output/cell_numbering.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "output/nearest_stipple.h"
+#include "output/symbol_set.h"
+#include "support/counter.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+// Pixels walked between two symbols of an area: smaller stipples make longer, thinner areas.
+int SymbolPeriod(int stippleSize) {
+    return stippleSize == 4 ? 1000 : stippleSize == 6 ? 800 : 600;
+}
+
+// Draws onto the sheet, where a picture pixel takes SheetCellSize pixels each way.
+class SheetSink : public NumberSink {
+  public:
+    explicit SheetSink(const WorkState& state) : state_(state) {}
+
+    void Dot(CellPos at) override {
+        state_.SheetDC.Set(state_.SheetCellSize * at.X, state_.SheetCellSize * at.Y,
+                           state_.BorderColor);
+    }
+    void Stamp(int paint, CellPos at) override {
+        Number2CDIB(state_, paint, state_.SheetCellSize, state_.SymbolColor, at);
+    }
+
+  private:
+    const WorkState& state_;
+};
+
+class Numbering {
+  public:
+    Numbering(const Workplace& place, Surface& picture, NumberSink& sink)
+        : place_(place),
+          state_(place.State),
+          picture_(picture),
+          sink_(&picture == &place.Frames.WorkFrame.Picture ? &sink : nullptr),
+          finder_(place.State, place.Screen.Screen().Twips),
+          period_(SymbolPeriod(place.State.StippleSize)) {}
+
+    NumberingCounts Run();
+
+  private:
+    void SizeGrids();
+    void FillRow(int y, TwipsPerPixel twips);
+    void ReMarkCells(int paint);
+    void MarkOneNumber(CellPos seed);
+    void AddSeedNeighbours(CellPos seed);
+    void AddNeighbours(CellPos at);
+    void AddToNumberCells(CellPos at);
+    void Claim(CellPos at);
+    void Stamp(CellPos at);
+    void DrawBorder(CellPos at);
+    void Breathe();
+
+    const Workplace& place_;
+    WorkState& state_;
+    Surface& picture_;
+    NumberSink* sink_;  // null when only the picture is recoloured
+    StippleFinder finder_;
+    int period_;
+    std::vector<std::vector<CellPos>> seeds_;  // per paint, in row-major order
+    NumberingCounts counts_;
+    unsigned walked_ = 0;
+
+    // The area being walked.
+    int paint_ = 0;
+    Color color_ = kBlack;
+    std::int16_t area_ = 0;
+};
+
+void Numbering::SizeGrids() {
+    state_.NumberWidth = place_.Frames.WorkFrame.Picture.Width();
+    state_.NumberHeight = place_.Frames.WorkFrame.Picture.Height();
+    if (state_.PixelMap.Across() < state_.NumberWidth ||
+        state_.PixelMap.Down() < state_.NumberHeight) {
+        throw Error("The picture is not painted yet. Paint it before its areas are numbered.");
+    }
+    state_.NumberGrid = Grid<NumberPixel>(state_.NumberWidth, state_.NumberHeight);
+    state_.NumberMarks = Grid<NumberMark>(state_.NumberWidth, state_.NumberHeight);
+    state_.TestCells = CellQueue(state_.NumberWidth, state_.NumberHeight);
+    seeds_.assign(static_cast<std::size_t>(state_.PaintCount) + 1, {});
+    const TwipsPerPixel twips = place_.Screen.Screen().Twips;
+    for (int y = 1; y <= state_.NumberHeight; ++y) {
+        FillRow(y, twips);
+    }
+}
+
+// An area can begin only where a run of its paint begins, or in the last column, which the walk
+// never enters from the left: every other pixel is reached from its left neighbour. So the search
+// for first pixels looks at these alone, once for all paints.
+void Numbering::FillRow(int y, TwipsPerPixel twips) {
+    const std::span<const MapPixel> from = state_.PixelMap.Row(y);
+    const std::span<NumberPixel> to = state_.NumberGrid.Row(y);
+    int before = 0;
+    for (int x = 1; x <= state_.NumberWidth; ++x) {
+        const int paint = from[static_cast<std::size_t>(x)].ColorIndex;
+        NumberPixel& pixel = to[static_cast<std::size_t>(x)];
+        pixel.ColorIndex = static_cast<std::int16_t>(paint);
+        pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
+        pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
+        if ((paint != before || x == state_.NumberWidth) && paint > 0 &&
+            paint <= state_.PaintCount) {
+            seeds_[static_cast<std::size_t>(paint)].push_back({x, y});
+        }
+        before = paint;
+    }
+}
+
+NumberingCounts Numbering::Run() {
+    place_.Screen.SetCaption("Setting Up Cell Numbers");
+    SizeGrids();
+    state_.NextAreaNumber = 1;
+    for (int k = 1; k <= state_.PaintCount; ++k) {
+        const PaintColor& paint = state_.PaintColors[static_cast<std::size_t>(k)];
+        place_.Screen.SetCaption("Finding Borders and Numbers For " + paint.Mfg + " " +
+                                 paint.PaintName + " [" + std::to_string(k) + "]");
+        place_.Screen.ReportProgress(k, state_.PaintCount);
+        ReMarkCells(k);
+    }
+    place_.Screen.ReportProgress(0, 0);
+    counts_.Areas = state_.NextAreaNumber - 1;
+    return counts_;
+}
+
+void Numbering::ReMarkCells(int paint) {
+    paint_ = paint;
+    color_ = ColorOf(state_.PaintColors[static_cast<std::size_t>(paint)]);
+    for (const CellPos seed : seeds_[static_cast<std::size_t>(paint)]) {
+        if (!state_.NumberMarks(seed.X, seed.Y).Marked) {
+            area_ = static_cast<std::int16_t>(state_.NextAreaNumber);
+            Claim(seed);
+            MarkOneNumber(seed);
+            CountUp(state_.NextAreaNumber, "areas on the sheet");
+        }
+    }
+    place_.Screen.RefreshWorkFrame();
+}
+
+void Numbering::MarkOneNumber(CellPos seed) {
+    CellQueue& queue = state_.TestCells;
+    const int symbolsBefore = counts_.Symbols;
+    int sinceSymbol = 0;
+    for (AddSeedNeighbours(seed); !queue.Empty(); queue.Pop()) {
+        const CellPos at = queue.Front();
+        if (state_.NumberGrid(at.X, at.Y).ColorIndex != paint_) {
+            DrawBorder(at);
+        } else if (!state_.NumberMarks(at.X, at.Y).Marked) {
+            Claim(at);
+            if (sinceSymbol == 0) {
+                Stamp(at);
+            }
+            sinceSymbol = sinceSymbol + 1 == period_ ? 0 : sinceSymbol + 1;
+            AddNeighbours(at);
+        }
+        Breathe();
+    }
+    counts_.AreasWithoutSymbol += counts_.Symbols == symbolsBefore ? 1 : 0;
+}
+
+void Numbering::Claim(CellPos at) {
+    state_.NumberMarks(at.X, at.Y) = {area_, true};
+    picture_.Set(at.X, at.Y, color_);
+}
+
+// Unlike the walk's own steps a seed looks at its neighbours wherever they are, only not beyond
+// the grid, where nothing could be dotted.
+void Numbering::AddSeedNeighbours(CellPos seed) {
+    const std::array<CellPos, 4> around = {
+        {{seed.X, seed.Y - 1}, {seed.X + 1, seed.Y}, {seed.X, seed.Y + 1}, {seed.X - 1, seed.Y}}};
+    for (const CellPos at : around) {
+        if (state_.NumberGrid.Holds(at.X, at.Y)) {
+            state_.TestCells.Push(at);
+        }
+    }
+}
+
+// The last column and row are left out on purpose: no step to the right or down enters them.
+void Numbering::AddNeighbours(CellPos at) {
+    if (at.Y - 1 > 0) {
+        AddToNumberCells({at.X, at.Y - 1});
+    }
+    if (at.X + 1 < state_.NumberWidth) {
+        AddToNumberCells({at.X + 1, at.Y});
+    }
+    if (at.Y + 1 < state_.NumberHeight) {
+        AddToNumberCells({at.X, at.Y + 1});
+    }
+    if (at.X - 1 >= 1) {
+        AddToNumberCells({at.X - 1, at.Y});
+    }
+}
+
+void Numbering::AddToNumberCells(CellPos at) {
+    if (!state_.NumberMarks(at.X, at.Y).Marked) {
+        state_.TestCells.Push(at);
+    }
+}
+
+void Numbering::Stamp(CellPos at) {
+    if (sink_ == nullptr || at.X >= state_.NumberWidth || at.Y >= state_.NumberHeight) {
+        return;
+    }
+    const CellPos cell = finder_.NearestCell(at);
+    sink_->Stamp(paint_, finder_.SymbolPlace(cell));
+    ++counts_.Symbols;
+    counts_.SymbolsAstray += state_.Stipples(cell.X, cell.Y).ColorIndex != paint_ ? 1 : 0;
+}
+
+void Numbering::DrawBorder(CellPos at) {
+    NumberPixel& pixel = state_.NumberGrid(at.X, at.Y);
+    if (sink_ != nullptr) {
+        sink_->Dot(at);
+        counts_.BorderDots += !pixel.IsBorder && picture_.Holds(at.X, at.Y) ? 1 : 0;
+    }
+    picture_.Set(at.X, at.Y, state_.EdgeColor);
+    pixel.IsBorder = true;
+    pixel.AreaNumber = area_;
+}
+
+// Events get their turn often enough for the hand on the mouse, not for every pixel.
+void Numbering::Breathe() {
+    constexpr unsigned kPixelsPerBreath = 1024;
+    if (++walked_ % kPixelsPerBreath == 0) {
+        place_.Screen.Yield();
+    }
+}
+
+}  // namespace
+
+void RequireSymbols(const WorkState& state) {
+    if (state.PaintCount > kSymbolCount) {
+        throw Error("The palette holds " + std::to_string(state.PaintCount) +
+                    " paints, but a sheet can show " + std::to_string(kSymbolCount) +
+                    " symbols. Choose fewer final paints and convert the photo again.");
+    }
+}
+
+NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture) {
+    SheetSink sheet(place.State);
+    return SetupCellNumbers(place, picture, sheet);
+}
+
+NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture, NumberSink& sink) {
+    RequireSymbols(place.State);
+    return Numbering(place, picture, sink).Run();
+}
+
+}  // namespace vendrel

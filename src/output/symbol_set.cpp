@@ -1,0 +1,121 @@
+#include "output/symbol_set.h"
+
+#include <limits>
+#include <string>
+
+#include "support/error.h"
+#include "support/field_reader.h"
+#include "support/text_file.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+constexpr int kMin = std::numeric_limits<std::int16_t>::min();
+constexpr int kMax = std::numeric_limits<std::int16_t>::max();
+
+// From where a character is printed on the canvas to where its ink should stand on the sheet.
+constexpr GlyphPoint kShift = {-2, -4};
+
+int ReadShifted(FieldReader& fields, const char* what, int shift) {
+    const int value = fields.ReadInt(what, kMin, kMax) + shift;
+    if (value < kMin) {
+        throw FormatError(fields.File(), fields.Line(),
+                          std::string(what) + " lies too far out. Correct this line.");
+    }
+    return value;
+}
+
+SymbolGlyph ReadGlyph(FieldReader& fields) {
+    SymbolGlyph glyph;
+    glyph.PointCount = fields.ReadInt("a symbol's pixel count", 0, kMax);
+    glyph.Points.resize(1);
+    for (int i = 1; i <= glyph.PointCount; ++i) {
+        const int x = ReadShifted(fields, "a symbol pixel's column", kShift.X);
+        const int y = ReadShifted(fields, "a symbol pixel's row", kShift.Y);
+        glyph.Points.push_back({x, y});
+    }
+    return glyph;
+}
+
+void FillSymbolCodes(WorkState& state) {
+    for (std::size_t k = 1; k <= kSymbolCount; ++k) {
+        state.SymbolCodes[k] = kSymbolCharacters[k - 1];
+    }
+}
+
+int OnSheet(int cellSize, int position, int offset) {
+    const int at = cellSize * position + offset;
+    if (at < kMin || at > kMax) {
+        throw OverflowError("The sheet is too large for its symbols (" + std::to_string(at) +
+                            " pixels). Try a smaller photo.");
+    }
+    return at;
+}
+
+void AppendGlyph(std::string& text, const SymbolGlyph& glyph) {
+    text += ' ' + std::to_string(glyph.Points.size() - 1) + "\r\n";
+    for (std::size_t i = 1; i < glyph.Points.size(); ++i) {
+        const GlyphPoint point = glyph.Points[i];
+        text += std::to_string(point.X) + ',' + std::to_string(point.Y) + "\r\n";
+    }
+}
+
+// Only pixels of exactly the ink count: the softened rim of a smoothed letter is no part of it.
+void CollectInk(SymbolGlyph& glyph, const Canvas& canvas, Color ink) {
+    glyph.Points.resize(1);
+    for (int y = 0; y < canvas.Height(); ++y) {
+        for (int x = 0; x < canvas.Width(); ++x) {
+            if (canvas.Get(x, y) == ink) {
+                glyph.Points.push_back({x, y});
+            }
+        }
+    }
+}
+
+void MakeAsciiSymbols(WorkState& state, Canvas& canvas, std::size_t symbol) {
+    canvas.Clear(kWhite);
+    canvas.SetFont("Courier New", 12);
+    canvas.Print(static_cast<char>(state.SymbolCodes[symbol]), state.SymbolColor);
+    CollectInk(state.SymbolGlyphs[symbol], canvas, state.SymbolColor);
+}
+
+}  // namespace
+
+void SetupBMPSymbols(const Workplace& place) {
+    const std::filesystem::path file = place.Folder.DataFile("Data/Symbols.txt");
+    const std::string text = ReadTextFile(file);
+    FieldReader fields(text, file);
+    std::vector<SymbolGlyph> glyphs(1);
+    for (int k = 1; k <= kSymbolCount; ++k) {
+        glyphs.push_back(ReadGlyph(fields));
+    }
+    place.State.SymbolGlyphs = std::move(glyphs);
+    FillSymbolCodes(place.State);
+}
+
+void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, CellPos at) {
+    if (symbol < 0 || symbol > kSymbolCount ||
+        static_cast<std::size_t>(symbol) >= state.SymbolGlyphs.size()) {
+        throw Error("There is no symbol " + std::to_string(symbol) +
+                    ": a sheet can show 50 paints. Reduce the final paints to 50 or fewer.");
+    }
+    const SymbolGlyph& glyph = state.SymbolGlyphs[static_cast<std::size_t>(symbol)];
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(glyph.PointCount); ++i) {
+        state.SheetDC.Set(OnSheet(cellSize, at.X, glyph.Points[i].X),
+                          OnSheet(cellSize, at.Y, glyph.Points[i].Y), color);
+    }
+}
+
+void MakeSymbolFile(WorkState& state, const std::filesystem::path& file, Canvas& canvas) {
+    FillSymbolCodes(state);
+    state.SymbolGlyphs.assign(kSymbolCount + 1, {});
+    std::string text;
+    for (std::size_t k = 1; k <= kSymbolCount; ++k) {
+        MakeAsciiSymbols(state, canvas, k);
+        AppendGlyph(text, state.SymbolGlyphs[k]);
+    }
+    WriteWholeFile(file, text);
+}
+
+}  // namespace vendrel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "shell/work_state.h"
+#include "shell/workplace.h"
+#include "support/color.h"
+
+namespace vendrel {
+
+/// Paint k is marked with symbol k; there are no more symbols than this.
+inline constexpr int kSymbolCount = 50;
+
+/// The characters of symbols 1 to 50. Letters that look like another symbol or a digit are left
+/// out; the zero stands where an O would.
+inline constexpr std::string_view kSymbolCharacters =
+    "123456789ABCDEFGHIJKLMN0PRSTUWXYZacdefgkmnrstuwxyz";
+static_assert(kSymbolCharacters.size() == kSymbolCount);
+
+/// Reads the glyphs of `Data/Symbols.txt` and fills SymbolCodes. Throws FileError and FormatError.
+void SetupBMPSymbols(const Workplace& place);
+
+/// Stamps a symbol's pixels onto SheetDC, its origin at sheet pixel (cellSize * column,
+/// cellSize * row); pixels outside are not drawn. Throws Error for a symbol outside 0..50 and
+/// OverflowError for a sheet position beyond 16 bits.
+void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, CellPos at);
+
+/// A plain drawing area with a font: what making the glyphs needs.
+class Canvas {
+  public:
+    Canvas() = default;
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+    virtual ~Canvas() = default;
+
+    [[nodiscard]] virtual int Width() const = 0;
+    [[nodiscard]] virtual int Height() const = 0;
+    virtual void Clear(Color background) = 0;
+    /// A fixed-width font by name; the canvas may take one of the same widths for it.
+    virtual void SetFont(std::string_view name, int points) = 0;
+    /// Prints one character at the upper left corner.
+    virtual void Print(char character, Color ink) = 0;
+    [[nodiscard]] virtual Color Get(int x, int y) const = 0;
+};
+
+/// Draws every symbol's character and writes the pixels to `file`, whole or not at all. The glyphs
+/// hold canvas positions until SetupBMPSymbols reads the file again. Throws FileError.
+void MakeSymbolFile(WorkState& state, const std::filesystem::path& file, Canvas& canvas);
+
+}  // namespace vendrel

@@ -1,0 +1,296 @@
+#include "output/cell_numbering.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "output/nearest_stipple.h"
+#include "shell/recorder.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+// What a sink was told: dots as paint 0.
+struct Mark {
+    int Paint = 0;
+    CellPos At;
+    bool operator==(const Mark&) const = default;
+};
+
+class MarkList : public NumberSink {
+  public:
+    void Dot(CellPos at) override { Marks.push_back({0, at}); }
+    void Stamp(int paint, CellPos at) override { Marks.push_back({paint, at}); }
+    std::vector<Mark> Marks;
+};
+
+Color PaintOf(int k) {
+    return Rgb(k, 10, 20);
+}
+
+// A painted picture given as paints of its pixels, (0, 0) first, and the grid below it.
+class Painted {
+  public:
+    Painted(int width, int height, int stippleSize, int paints) {
+        WorkState& state = bench.State;
+        state.StippleSize = stippleSize;
+        state.HalfStipple = stippleSize / 2;
+        state.CellsAcross = std::max(1, width / stippleSize);
+        state.CellsDown = std::max(1, height / stippleSize);
+        state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);
+        for (int y = 1; y <= state.CellsDown; ++y) {
+            for (int x = 1; x <= state.CellsAcross; ++x) {
+                state.Stipples(x, y) = {1, 1 + (x - 1) * stippleSize + state.HalfStipple,
+                                        1 + (y - 1) * stippleSize + state.HalfStipple, 0};
+            }
+        }
+        state.PixelMap = Grid<MapPixel>(width, height);
+        state.PaintCount = paints;
+        for (int k = 1; k <= paints; ++k) {
+            state.PaintColors.push_back({k, 10, 20, "Acme", "", "Paint " + std::to_string(k), 0});
+        }
+        Picture() = Surface(width, height);
+    }
+    void Paint(const std::vector<std::string>& rows) {
+        for (int y = 0; y < static_cast<int>(rows.size()); ++y) {
+            for (int x = 0; x < static_cast<int>(rows[0].size()); ++x) {
+                bench.State.PixelMap(x, y).ColorIndex =
+                    rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] - '0';
+            }
+        }
+    }
+    Surface& Picture() { return bench.Frames.WorkFrame.Picture; }
+
+    test::Bench bench;
+};
+
+// The numbering as it would be done by hand: a plain list for the queue, searched from its front,
+// and a scan of the whole picture for every paint.
+class ByHand {
+  public:
+    explicit ByHand(Painted& painted)
+        : state_(painted.bench.State),
+          width_(painted.Picture().Width()),
+          height_(painted.Picture().Height()),
+          Picture(painted.Picture()),
+          Areas(width_, height_),
+          Borders(width_, height_) {
+        for (int k = 1; k <= state_.PaintCount; ++k) {
+            for (int y = 1; y <= height_; ++y) {
+                for (int x = 1; x <= width_; ++x) {
+                    if (state_.PixelMap(x, y).ColorIndex == k && Areas(x, y) == 0) {
+                        Claim({x, y}, k);
+                        Walk({x, y}, k);
+                        ++Next;
+                    }
+                }
+            }
+        }
+    }
+
+  private:
+    void Claim(CellPos at, int k) {
+        Areas(at.X, at.Y) = Next;
+        Picture.Set(at.X, at.Y, PaintOf(k));
+    }
+    void Walk(CellPos seed, int k) {
+        const int period = state_.StippleSize == 4 ? 1000 : state_.StippleSize == 6 ? 800 : 600;
+        int counter = 0;
+        queue_ = {
+            {seed.X, seed.Y - 1}, {seed.X + 1, seed.Y}, {seed.X, seed.Y + 1}, {seed.X - 1, seed.Y}};
+        while (!queue_.empty()) {
+            const auto [x, y] = queue_.front();
+            if (x > width_ || y > height_) {
+                // nothing lies there
+            } else if (state_.PixelMap(x, y).ColorIndex != k || x == 0 || y == 0) {
+                Marks.push_back({0, {x, y}});
+                Picture.Set(x, y, state_.EdgeColor);
+                Borders(x, y) = Next;
+            } else if (Areas(x, y) == 0) {
+                Claim({x, y}, k);
+                if (counter == 0 && x < width_ && y < height_) {
+                    Marks.push_back({k, FindNearestStipple(state_, {}, {x, y})});
+                }
+                counter = (counter + 1) % period;
+                Add(y - 1 > 0, {x, y - 1});
+                Add(x + 1 < width_, {x + 1, y});
+                Add(y + 1 < height_, {x, y + 1});
+                Add(x - 1 >= 1, {x - 1, y});
+            }
+            queue_.erase(queue_.begin());
+        }
+    }
+    void Add(bool inside, CellPos at) {
+        if (inside && std::find(queue_.begin(), queue_.end(), at) == queue_.end() &&
+            Areas(at.X, at.Y) == 0) {
+            queue_.push_back(at);
+        }
+    }
+
+    WorkState& state_;
+    int width_;
+    int height_;
+    std::vector<CellPos> queue_;
+
+  public:
+    Surface Picture;
+    Grid<int> Areas;
+    Grid<int> Borders;
+    std::vector<Mark> Marks;
+    int Next = 1;
+};
+
+void ExpectSameAsByHand(Painted& painted) {
+    const ByHand expected(painted);
+    WorkState& state = painted.bench.State;
+    MarkList sink;
+    const NumberingCounts counts = SetupCellNumbers(painted.bench.Place, painted.Picture(), sink);
+    ASSERT_EQ(sink.Marks, expected.Marks);
+    EXPECT_EQ(painted.Picture(), expected.Picture);
+    EXPECT_EQ(state.NextAreaNumber, expected.Next);
+    EXPECT_EQ(counts.Areas, expected.Next - 1);
+    EXPECT_LE(counts.Symbols + counts.BorderDots, static_cast<int>(sink.Marks.size()));
+    for (int y = 0; y <= state.NumberHeight; ++y) {
+        for (int x = 0; x <= state.NumberWidth; ++x) {
+            EXPECT_EQ(state.NumberMarks(x, y).AreaNumber, expected.Areas(x, y));
+            EXPECT_EQ(state.NumberGrid(x, y).AreaNumber, expected.Borders(x, y));
+            EXPECT_EQ(state.NumberGrid(x, y).IsBorder, expected.Borders(x, y) != 0);
+        }
+    }
+}
+
+TEST(CellNumbering, AgreesWithTheNumberingByHand) {
+    std::mt19937 random(5);
+    for (int round = 0; round < 60; ++round) {
+        SCOPED_TRACE(round);
+        const int size = round % 3 == 0 ? 8 : round % 3 == 1 ? 6 : 4;
+        const int paints = 1 + round % 4;
+        Painted painted(size * (1 + round % 5), size * (1 + round % 4), size, paints);
+        // Coarse blobs and fine specks alike; paint 0 is what the brush never reached.
+        Grid<MapPixel>& map = painted.bench.State.PixelMap;
+        const int grain = 1 + round % 7;
+        for (int y = 1; y <= map.Down(); ++y) {
+            for (int x = 1; x <= map.Across(); ++x) {
+                const bool again = x % grain != 0 && x > 1 && random() % 8 != 0;
+                map(x, y).ColorIndex = again ? map(x - 1, y - y % grain).ColorIndex
+                                             : static_cast<int>(random() % (paints + 1U));
+            }
+        }
+        ExpectSameAsByHand(painted);
+    }
+}
+
+TEST(CellNumbering, StampsAgainEveryPeriodOfTheWalk) {
+    // The walk enters 71 x 47 pixels less the first one: 3336.
+    const struct {
+        int Size;
+        int Symbols;
+    } cases[] = {{8, 6}, {6, 5}, {4, 4}};  // periods 600, 800 and 1000
+    for (const auto& one : cases) {
+        Painted painted(72, 48, one.Size, 2);
+        for (MapPixel& pixel : painted.bench.State.PixelMap.All()) {
+            pixel.ColorIndex = 2;
+        }
+        ExpectSameAsByHand(painted);
+        MarkList sink;
+        const NumberingCounts counts =
+            SetupCellNumbers(painted.bench.Place, painted.Picture(), sink);
+        EXPECT_EQ(counts.Symbols, one.Symbols);
+        EXPECT_EQ(counts.SymbolsAstray, one.Symbols);  // all stipples have paint 1
+    }
+}
+
+TEST(CellNumbering, LeavesALonePixelWithoutASymbol) {
+    Painted painted(8, 8, 8, 2);
+    painted.Paint({"000000000",  //
+                   "011111111",  //
+                   "011111111",  //
+                   "011211111",  //
+                   "011111111",  //
+                   "011221111",  //
+                   "011111111"});
+    MarkList sink;
+    const NumberingCounts counts = SetupCellNumbers(painted.bench.Place, painted.Picture(), sink);
+    const WorkState& state = painted.bench.State;
+    // The last area has two pixels, the one before it a single one, hence no symbol.
+    EXPECT_EQ(state.NumberMarks(3, 3).AreaNumber, counts.Areas - 1);
+    EXPECT_EQ(std::count_if(sink.Marks.begin(), sink.Marks.end(),
+                            [](const Mark& mark) { return mark.Paint == 2; }),
+              1);
+    // A first pixel dots all its neighbours; a walk only what has no number yet.
+    EXPECT_TRUE(state.NumberGrid(2, 3).IsBorder);
+    EXPECT_TRUE(state.NumberGrid(4, 3).IsBorder);
+    EXPECT_FALSE(state.NumberGrid(5, 5).IsBorder);
+    EXPECT_EQ(state.NumberGrid(3, 2).XTwips, 45);
+    EXPECT_EQ(state.NumberGrid(3, 2).YTwips, 30);
+    EXPECT_EQ(painted.Picture().Get(3, 3), PaintOf(2));
+    EXPECT_TRUE(painted.bench.Screen.HasCaption("Setting Up Cell Numbers"));
+    EXPECT_TRUE(
+        painted.bench.Screen.HasCaption("Finding Borders and Numbers For Acme Paint 2 [2]"));
+}
+
+TEST(CellNumbering, DrawsNothingForAnotherPicture) {
+    Painted painted(8, 8, 8, 1);
+    painted.Paint({"000000000", "011100000", "011100000"});
+    Surface other(8, 8, kWhite);
+    MarkList sink;
+    const NumberingCounts counts = SetupCellNumbers(painted.bench.Place, other, sink);
+    EXPECT_TRUE(sink.Marks.empty());
+    EXPECT_EQ(counts.Symbols + counts.BorderDots, 0);
+    EXPECT_EQ(other.Get(1, 1), PaintOf(1));
+    EXPECT_EQ(other.Get(1, 3), painted.bench.State.EdgeColor);
+}
+
+TEST(CellNumbering, RefusesWhatASheetCannotHold) {
+    Painted many(8, 8, 8, 51);
+    EXPECT_THROW(SetupCellNumbers(many.bench.Place, many.Picture()), Error);
+    Painted bare(8, 8, 8, 1);
+    bare.bench.State.PixelMap = {};
+    EXPECT_THROW(SetupCellNumbers(bare.bench.Place, bare.Picture()), Error);
+    Painted specks(400, 400, 4, 2);
+    for (int y = 1; y <= 400; ++y) {
+        for (int x = 1; x <= 400; ++x) {
+            specks.bench.State.PixelMap(x, y).ColorIndex = 1 + (x + y) % 2;
+        }
+    }
+    MarkList sink;
+    EXPECT_THROW(SetupCellNumbers(specks.bench.Place, specks.Picture(), sink), OverflowError);
+}
+
+TEST(NearestStipple, IsTheLastOfTheNearestInRowOrder) {
+    for (const int size : {8, 6, 4}) {
+        Painted painted(5 * size, 3 * size, size, 1);
+        WorkState& state = painted.bench.State;
+        for (const bool regular : {true, false}) {
+            state.Stipples(2, 2).X += regular ? 0 : 3;  // as an edited file may have it
+            const StippleFinder finder(state, {});
+            for (int y = 0; y <= 3 * size; ++y) {
+                for (int x = 0; x <= 5 * size; ++x) {
+                    CellPos found;
+                    int bestX = 5 * 15;
+                    int bestY = 3 * 15;
+                    for (int row = 1; row <= 3; ++row) {
+                        for (int column = 1; column <= 5; ++column) {
+                            const int dx = std::abs(state.Stipples(column, row).X - x);
+                            const int dy = std::abs(state.Stipples(column, row).Y - y);
+                            if (dx <= bestX && dy <= bestY) {
+                                bestX = dx;
+                                bestY = dy;
+                                found = {column, row};
+                            }
+                        }
+                    }
+                    ASSERT_EQ(finder.NearestCell({x, y}), found) << x << ' ' << y;
+                }
+            }
+        }
+    }
+    Painted painted(16, 16, 8, 1);  // centres 5 and 13, half of the half stipple is 2
+    EXPECT_EQ(FindNearestStipple(painted.bench.State, {}, {9, 8}), (CellPos{11, 3}));
+}
+
+}  // namespace
+}  // namespace vendrel

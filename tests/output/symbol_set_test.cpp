@@ -1,0 +1,144 @@
+#include "output/symbol_set.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "shell/recorder.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using testing::HasSubstr;
+
+// Every symbol one pixel, at (symbol, 2 * symbol) of the canvas; symbol 50 is empty.
+std::string OnePixelSymbols() {
+    std::string text;
+    for (int k = 1; k < kSymbolCount; ++k) {
+        text += " 1\r\n" + std::to_string(k) + "," + std::to_string(2 * k) + "\r\n";
+    }
+    return text + " 0\r\n";
+}
+
+// A canvas four pixels square that prints a character as one pixel of ink and one softened one.
+class TinyCanvas : public Canvas {
+  public:
+    int Width() const override { return 4; }
+    int Height() const override { return 4; }
+    void Clear(Color background) override { picture_ = Surface(4, 4, background); }
+    void SetFont(std::string_view name, int points) override {
+        Font = std::string(name) + " " + std::to_string(points);
+    }
+    void Print(char character, Color ink) override {
+        picture_.Set(character % 4, 1, ink);
+        picture_.Set(0, 3, ink + 1);
+        if (character == '1') {
+            picture_.Set(0, 0, ink);
+        }
+        Printed += character;
+    }
+    Color Get(int x, int y) const override { return picture_.Get(x, y); }
+
+    std::string Font;
+    std::string Printed;
+
+  private:
+    Surface picture_;
+};
+
+TEST(SymbolSet, TiesSymbolsToTheirCharacters) {
+    test::Bench bench;
+    bench.Files.Write("data/symbols.txt", OnePixelSymbols());
+    SetupBMPSymbols(bench.Place);
+    const auto& codes = bench.State.SymbolCodes;
+    EXPECT_EQ(codes[1], '1');
+    EXPECT_EQ(codes[10], 'A');
+    EXPECT_EQ(codes[23], 'N');
+    EXPECT_EQ(codes[24], '0');
+    EXPECT_EQ(codes[25], 'P');
+    EXPECT_EQ(codes[50], 'z');
+    for (const char never : {'O', 'Q', 'V', 'b', 'h', 'i', 'j', 'l', 'o', 'p', 'q', 'v'}) {
+        EXPECT_EQ(std::find(codes.begin(), codes.end(), never), codes.end()) << never;
+    }
+}
+
+TEST(SymbolSet, StampsWithTheShiftAndCutsAtTheSheet) {
+    test::Bench bench;
+    bench.Files.Write("Data/Symbols.txt", OnePixelSymbols());
+    SetupBMPSymbols(bench.Place);
+    std::array<std::uint8_t, 24 * 12> bits{};
+    WorkState& state = bench.State;
+    state.SheetDC = DibView(bits.data(), 8, 12, 24);
+    Number2CDIB(state, 2, 4, kWhite, {1, 2});  // canvas (2, 4): on the corner itself
+    EXPECT_EQ(state.SheetDC.Get(4, 8), kWhite);
+    Number2CDIB(state, 1, 4, kWhite, {1, 2});  // canvas (1, 2): left of and above the corner
+    EXPECT_EQ(state.SheetDC.Get(3, 6), kWhite);
+    bits = {};
+    Number2CDIB(state, 1, 4, kWhite, {0, 0});
+    Number2CDIB(state, 50, 4, kWhite, {0, 0});
+    Number2CDIB(state, 0, 4, kWhite, {0, 0});
+    EXPECT_THAT(bits, testing::Each(0));
+    EXPECT_THROW(Number2CDIB(state, 51, 4, kWhite, {0, 0}), Error);
+    EXPECT_THROW(Number2CDIB(state, -1, 4, kWhite, {0, 0}), Error);
+    EXPECT_THROW(Number2CDIB(state, 1, 4, kWhite, {0, 8193}), OverflowError);
+}
+
+TEST(SymbolSet, NamesFileAndLineOfBrokenGlyphs) {
+    const struct {
+        const char* Text;
+        const char* Expected;
+    } cases[] = {
+        {"1\r\n3,x\r\n", "line 2: a symbol pixel's row"},
+        {"1\r\n-32767,3\r\n", "line 2: a symbol pixel's column lies too far out"},
+        {"-1\r\n", "line 1: a symbol's pixel count"},
+        {"3\r\n1,1\r\n2,2\r\n", "line 4: the file ends"},
+        {"", "the file ends"},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.Text);
+        test::Bench bench;
+        bench.Files.Write("Data/Symbols.txt", one.Text);
+        try {
+            SetupBMPSymbols(bench.Place);
+            ADD_FAILURE() << "read without complaint";
+        } catch (const FormatError& error) {
+            EXPECT_THAT(error.what(), HasSubstr("Symbols.txt"));
+            EXPECT_THAT(error.what(), HasSubstr(one.Expected));
+        }
+    }
+    test::Bench empty;
+    EXPECT_THROW(SetupBMPSymbols(empty.Place), FileError);
+}
+
+TEST(SymbolSet, MakesAFileOfCanvasPositionsRowByRow) {
+    test::Bench bench;
+    TinyCanvas canvas;
+    MakeSymbolFile(bench.State, bench.Files / "Data/Symbols.txt", canvas);
+    EXPECT_EQ(canvas.Printed, kSymbolCharacters);
+    EXPECT_EQ(canvas.Font, "Courier New 12");
+    const std::string text = bench.Files.Read("Data/Symbols.txt");
+    EXPECT_THAT(text, testing::StartsWith(" 2\r\n0,0\r\n1,1\r\n 1\r\n2,1\r\n 1\r\n3,1\r\n"));
+    SetupBMPSymbols(bench.Place);
+    EXPECT_EQ(bench.State.SymbolGlyphs[1].Points[2], (GlyphPoint{-1, -3}));
+}
+
+TEST(SymbolSet, ShipsFiftyDifferentLegibleSymbols) {
+    test::Bench bench(VENDREL_SOURCE_DIR);
+    SetupBMPSymbols(bench.Place);
+    const auto& glyphs = bench.State.SymbolGlyphs;
+    for (std::size_t k = 1; k <= kSymbolCount; ++k) {
+        EXPECT_GE(glyphs[k].PointCount, 14) << k;
+        for (std::size_t other = 1; other < k; ++other) {
+            EXPECT_NE(glyphs[k].Points, glyphs[other].Points) << k << " and " << other;
+        }
+        for (std::size_t i = 1; i < glyphs[k].Points.size(); ++i) {
+            const GlyphPoint p = glyphs[k].Points[i];
+            EXPECT_TRUE(p.X >= -2 && p.X <= 7 && p.Y >= -3 && p.Y <= 11) << k;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vendrel
