@@ -1,0 +1,67 @@
+#include "forms/photo_intake.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <fstream>
+#include <iterator>
+#include <span>
+#include <system_error>
+
+#include "support/error.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::ifstream Open(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) {
+        throw FileError(file, "cannot be read. Choose another photo.");
+    }
+    return in;
+}
+
+bool SameBytes(const fs::path& a, const fs::path& b) {
+    if (fs::file_size(a) != fs::file_size(b)) {
+        return false;
+    }
+    std::ifstream first = Open(a);
+    std::ifstream second = Open(b);
+    return std::equal(std::istreambuf_iterator<char>(first), {},
+                      std::istreambuf_iterator<char>(second));
+}
+
+void Copy(const fs::path& from, const fs::path& to) {
+    std::ifstream in = Open(from);
+    WholeFile out(to);
+    std::array<char, 1 << 16> chunk{};
+    while (in.read(chunk.data(), chunk.size()) || in.gcount() > 0) {
+        const auto count = static_cast<std::size_t>(in.gcount());
+        out.Write(std::as_bytes(std::span(chunk).first(count)));
+    }
+    out.Commit();
+}
+
+}  // namespace
+
+std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo) {
+    const fs::path target = folder.Path("Pictures") / photo.filename();
+    std::error_code ignored;
+    if (fs::equivalent(photo, target, ignored)) {
+        return target.filename().string();
+    }
+    if (!fs::is_regular_file(photo)) {
+        throw FileError(photo, "is not there. Choose another photo.");
+    }
+    if (!fs::exists(target)) {
+        Copy(photo, target);
+    } else if (!SameBytes(photo, target)) {
+        throw FileError(target, "is a different photo of the same name. Rename one of them.");
+    }
+    return target.filename().string();
+}
+
+}  // namespace vendrel

@@ -1,0 +1,76 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "forms/folder_lists.h"
+#include "forms/photo_intake.h"
+#include "forms/swatches.h"
+#include "support/error.h"
+#include "support/program_folder.h"
+#include "support/temp_folder.h"
+
+namespace vendrel::test {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::Not;
+
+TEST(PhotoIntake, CopiesAPhotoFromElsewhereOnceAndNeverOverAnother) {
+    const TempFolder files;
+    const ProgramFolder program(files / "program");
+    files.Write("program/Pictures/other.bmp", "another picture");
+    const auto lady = files.Write("downloads/lady.bmp", "lady");
+    EXPECT_EQ(TakeIntoPictures(program, lady), "lady.bmp");
+    EXPECT_EQ(files.Read("program/Pictures/lady.bmp"), "lady");
+    EXPECT_EQ(TakeIntoPictures(program, lady), "lady.bmp") << "the same bytes again are welcome";
+    EXPECT_EQ(TakeIntoPictures(program, files / "program/Pictures/lady.bmp"), "lady.bmp");
+
+    EXPECT_THROW(std::ignore = TakeIntoPictures(program, files.Write("downloads/other.bmp", "x")),
+                 FileError);
+    EXPECT_EQ(files.Read("program/Pictures/other.bmp"), "another picture");
+    EXPECT_THROW(std::ignore = TakeIntoPictures(program, files / "gone.bmp"), FileError);
+    EXPECT_FALSE(std::filesystem::exists(files / "program/Pictures/gone.bmp"));
+}
+
+TEST(FolderLists, ShowPhotosAndFoldersAsAPainterReadsThem) {
+    const TempFolder files;
+    for (const char* name : {"b.bmp", "A.BMP", "c.Bmp", ".hidden.bmp", "notes.txt", "Zoo/x.bmp",
+                             "art/x", ".git/x", "folder.bmp/x"}) {
+        files.Write(name, "");
+    }
+    EXPECT_THAT(ListPhotos(files.Path()), ElementsAre("A.BMP", "b.bmp", "c.Bmp"));
+    EXPECT_THAT(ListFolders(files.Path()), ElementsAre("..", "art", "folder.bmp", "Zoo"));
+    EXPECT_THAT(ListFolders(files / "missing"), ElementsAre(".."));
+    EXPECT_THAT(ListFolders("/"), Not(Contains("..")));
+}
+
+TEST(FolderLists, AFolderBelongsToTheDeepestDriveAboveIt) {
+    const std::vector<Drive> drives = {{"Computer", "/"}, {"Home", "/home/ann"}};
+    EXPECT_EQ(DriveOf(drives, "/home/ann/Pictures"), 1);
+    EXPECT_EQ(DriveOf(drives, "/home/anne/Pictures"), 0);
+    EXPECT_EQ(DriveOf({}, "/home"), -1);
+}
+
+TEST(Swatches, ShrinkUntilAllPaintsFit) {
+    struct Case {
+        int Width, Height, Count, Twips, Size, Columns;
+    };
+    for (const Case& c :
+         {Case{340, 255, 20, 15, 17, 20}, Case{340, 255, 301, 15, 16, 21},
+          Case{60, 40, 200, 15, 3, 20}, Case{340, 255, 20, 12, 21, 16}, Case{1, 1, 50, 15, 1, 1}}) {
+        const SwatchLayout layout = LayOutSwatches(c.Width, c.Height, c.Count, c.Twips);
+        EXPECT_EQ(layout.Size, c.Size) << c.Count;
+        EXPECT_EQ(layout.Columns, c.Columns) << c.Count;
+    }
+    const SwatchLayout layout{10, 4};
+    EXPECT_EQ(layout.IndexAt(layout.Left(6) + 9, layout.Top(6)), 6);
+    EXPECT_EQ(layout.IndexAt(40, 0), -1);
+    EXPECT_EQ(SwatchLayout{}.IndexAt(0, 0), -1);
+}
+
+}  // namespace
+}  // namespace vendrel::test
