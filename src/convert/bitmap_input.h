@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <span>
+
+namespace vendrel {
+
+/// A bitmap file open for reading. All operations throw FileError naming the file.
+class BitmapInput {
+  public:
+    explicit BitmapInput(std::filesystem::path file);
+
+    [[nodiscard]] const std::filesystem::path& File() const { return file_; }
+    [[nodiscard]] std::uint64_t Size() const { return size_; }
+
+    void Seek(std::uint64_t offset);
+    /// Fills the span; a file that ends before it is full is an error.
+    void Read(std::span<std::uint8_t> bytes);
+    [[nodiscard]] int ReadByte() {
+        const int byte = std::getc(stream_.get());
+        if (byte == EOF) {
+            FailShort();
+        }
+        return byte;
+    }
+
+  private:
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    [[noreturn]] void FailShort() const;
+
+    std::filesystem::path file_;
+    std::uint64_t size_ = 0;
+    std::unique_ptr<std::FILE, Closer> stream_;
+};
+
+}  // namespace vendrel

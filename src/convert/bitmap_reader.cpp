@@ -1,0 +1,63 @@
+#include "convert/bitmap_reader.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "convert/bitmap_rows.h"
+
+namespace vendrel {
+namespace {
+
+// Enough that reading costs one call per many rows, little enough to stay in the cache.
+constexpr std::size_t kBlockBytes = 256 * 1024;
+
+void ReadPlainRows(BitmapInput& input, const BitmapHeader& header, const RowSink& sink) {
+    const auto rows = static_cast<std::size_t>(header.Size.Height);
+    const std::size_t rowsPerBlock =
+        std::min(rows, std::max<std::size_t>(1, kBlockBytes / header.BytesPerRow));
+    std::vector<std::uint8_t> block(rowsPerBlock * header.BytesPerRow + kRowSlack);
+    std::vector<Color> row(static_cast<std::size_t>(header.Size.Width));
+    std::uint64_t left = input.Size() - header.PixelOffset;
+    input.Seek(header.PixelOffset);
+    for (std::size_t done = 0; done < rows;) {
+        const std::size_t count = std::min(rowsPerBlock, rows - done);
+        // The last row's padding may be missing.
+        const auto bytes =
+            static_cast<std::size_t>(std::min<std::uint64_t>(left, count * header.BytesPerRow));
+        input.Read(std::span(block).first(bytes));
+        left -= bytes;
+        for (std::size_t i = 0; i < count; ++i, ++done) {
+            UnpackRow(header, block.data() + i * header.BytesPerRow, row, input.File());
+            sink(static_cast<int>(rows - 1 - done), row);
+        }
+    }
+}
+
+}  // namespace
+
+BitmapFile::BitmapFile(const std::filesystem::path& file)
+    : input_(file), header_(ReadBitmapHeader(input_)) {}
+
+void BitmapFile::ReadRows(const RowSink& sink) {
+    if (header_.Packing == BitmapPacking::Rle8 || header_.Packing == BitmapPacking::Rle4) {
+        ReadRunRows(input_, header_, sink);
+    } else {
+        ReadPlainRows(input_, header_, sink);
+    }
+}
+
+Surface ReadBitmap(const std::filesystem::path& file) {
+    BitmapFile bitmap(file);
+    Surface picture(bitmap.Size().Width, bitmap.Size().Height);
+    bitmap.ReadRows([&picture](int y, std::span<const Color> row) {
+        std::copy(row.begin(), row.end(), picture.Row(y).begin());
+    });
+    return picture;
+}
+
+BitmapSize ReadBitmapSize(const std::filesystem::path& file) {
+    BitmapInput input(file);
+    return ReadHeaderSize(input);
+}
+
+}  // namespace vendrel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <span>
+
+#include "convert/bitmap_header.h"
+#include "convert/bitmap_input.h"
+#include "support/surface.h"
+
+namespace vendrel {
+
+/// Takes row `y`, counted from the top, of a picture being read.
+using RowSink = std::function<void(int y, std::span<const Color> row)>;
+
+/// A BMP photo read row by row, so that a large one never stands decoded in memory: 1, 4, 8, 16,
+/// 24 or 32 bits, plain, run lengths or bit fields, rows stored bottom-up. Transparency is
+/// ignored. Everything throws FileError or FormatError naming the file and what to do.
+class BitmapFile {
+  public:
+    /// Opens the file and checks that it holds what its header promises.
+    explicit BitmapFile(const std::filesystem::path& file);
+
+    /// Both sides at least 1.
+    [[nodiscard]] BitmapSize Size() const { return header_.Size; }
+    /// Hands every row to `sink` once, the lowest first.
+    void ReadRows(const RowSink& sink);
+
+  private:
+    BitmapInput input_;
+    BitmapHeader header_;
+};
+
+/// The whole picture.
+[[nodiscard]] Surface ReadBitmap(const std::filesystem::path& file);
+
+/// The size in the file's header, signed and not judged: 0 and negative numbers come through.
+[[nodiscard]] BitmapSize ReadBitmapSize(const std::filesystem::path& file);
+
+}  // namespace vendrel

@@ -1,0 +1,183 @@
+#include "convert/bitmap_rows.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+// kNoColor is the only colour with its sign bit set, so one look at the end judges the whole row.
+void CheckPalette(Color seen, const std::filesystem::path& file) {
+    if (seen < 0) {
+        throw FormatError(file, 0,
+                          "has pixels whose colour is missing from its palette. Open it in a "
+                          "picture program and save it again as a BMP of 24 bits.");
+    }
+}
+
+void UnpackIndexed(const BitmapHeader& header, const std::uint8_t* bytes, std::span<Color> row,
+                   const std::filesystem::path& file) {
+    const auto bits = static_cast<std::size_t>(header.BitsPerPixel);
+    const std::size_t perByte = 8 / bits;
+    const std::size_t mask = (std::size_t{1} << bits) - 1;
+    Color seen = 0;
+    for (std::size_t x = 0; x < row.size(); ++x) {
+        const std::size_t shift = (perByte - 1 - x % perByte) * bits;
+        row[x] = header.Palette[bytes[x / perByte] >> shift & mask];
+        seen |= row[x];
+    }
+    CheckPalette(seen, file);
+}
+
+// Four bytes with the red one third, turned round, are the packed colour and one byte too many:
+// one load per pixel instead of three.
+void Unpack24(const std::uint8_t* bytes, std::span<Color> row) {
+    for (Color& pixel : row) {
+        const std::uint32_t turned = std::uint32_t{bytes[0]} << 24 | std::uint32_t{bytes[1]} << 16 |
+                                     std::uint32_t{bytes[2]} << 8 | std::uint32_t{bytes[3]};
+        pixel = static_cast<Color>(turned >> 8);
+        bytes += 3;
+    }
+}
+
+int Level(const BitmapChannel& channel, std::uint32_t pixel) {
+    return channel.Level[pixel >> channel.Shift & channel.Max];
+}
+
+void UnpackMasked(const BitmapHeader& header, const std::uint8_t* bytes, std::span<Color> row) {
+    const bool wide = header.BitsPerPixel == 32;
+    for (Color& color : row) {
+        std::uint32_t pixel = std::uint32_t{bytes[0]} | std::uint32_t{bytes[1]} << 8;
+        if (wide) {
+            pixel |= std::uint32_t{bytes[2]} << 16 | std::uint32_t{bytes[3]} << 24;
+        }
+        color =
+            Rgb(Level(header.Red, pixel), Level(header.Green, pixel), Level(header.Blue, pixel));
+        bytes += wide ? 4 : 2;
+    }
+}
+
+/// The pen that walks over the picture while run lengths are read.
+class RunReader {
+  public:
+    RunReader(BitmapInput& input, const BitmapHeader& header,
+              const std::function<void(int, std::span<const Color>)>& sink)
+        : input_(input),
+          header_(header),
+          sink_(sink),
+          nibbles_(header.Packing == BitmapPacking::Rle4),
+          row_(static_cast<std::size_t>(header.Size.Width), header.Palette[0]) {}
+
+    void ReadAll() {
+        while (y_ < header_.Size.Height) {
+            const int count = input_.ReadByte();
+            const int value = input_.ReadByte();
+            if (count > 0) {
+                Run(count, value);
+            } else {
+                Escape(value);
+            }
+        }
+    }
+
+  private:
+    void Escape(int code) {
+        switch (code) {
+            case 0:
+                EndRow();
+                break;
+            case 1:
+                SkipRows(header_.Size.Height);
+                break;
+            case 2: {
+                const int right = input_.ReadByte();
+                const int up = input_.ReadByte();
+                const int x = std::min(x_ + right, header_.Size.Width);
+                SkipRows(up);
+                x_ = x;
+                break;
+            }
+            default:
+                Literal(code);
+        }
+    }
+
+    void Run(int count, int value) {
+        for (int i = 0; i < count; ++i) {
+            Put(nibbles_ ? NibbleOf(value, i) : value);
+        }
+    }
+
+    // Literal pixels fill whole 16-bit words.
+    void Literal(int count) {
+        const int bytes = nibbles_ ? (count + 1) / 2 : count;
+        int value = 0;
+        for (int i = 0; i < count; ++i) {
+            if (!nibbles_ || i % 2 == 0) {
+                value = input_.ReadByte();
+            }
+            Put(nibbles_ ? NibbleOf(value, i) : value);
+        }
+        if (bytes % 2 != 0) {
+            static_cast<void>(input_.ReadByte());
+        }
+    }
+
+    static int NibbleOf(int value, int place) { return place % 2 == 0 ? value >> 4 : value & 15; }
+
+    // Some programs round the last run of a row up to an even count: the excess is dropped.
+    void Put(int index) {
+        if (x_ < header_.Size.Width) {
+            const Color color = header_.Palette[static_cast<std::size_t>(index)];
+            seen_ |= color;
+            row_[static_cast<std::size_t>(x_)] = color;
+            ++x_;
+        }
+    }
+
+    void EndRow() {
+        CheckPalette(seen_, input_.File());
+        sink_(header_.Size.Height - 1 - y_, row_);
+        std::fill(row_.begin(), row_.end(), header_.Palette[0]);
+        x_ = 0;
+        ++y_;
+    }
+
+    void SkipRows(int count) {
+        for (int i = 0; i < count && y_ < header_.Size.Height; ++i) {
+            EndRow();
+        }
+    }
+
+    BitmapInput& input_;
+    const BitmapHeader& header_;
+    const std::function<void(int, std::span<const Color>)>& sink_;
+    bool nibbles_;
+    std::vector<Color> row_;
+    Color seen_ = 0;
+    int x_ = 0;
+    int y_ = 0;  // from the bottom
+};
+
+}  // namespace
+
+void UnpackRow(const BitmapHeader& header, const std::uint8_t* bytes, std::span<Color> row,
+               const std::filesystem::path& file) {
+    if (header.BitsPerPixel == 24) {
+        Unpack24(bytes, row);
+    } else if (header.BitsPerPixel <= 8) {
+        UnpackIndexed(header, bytes, row, file);
+    } else {
+        UnpackMasked(header, bytes, row);
+    }
+}
+
+void ReadRunRows(BitmapInput& input, const BitmapHeader& header,
+                 const std::function<void(int y, std::span<const Color> row)>& sink) {
+    input.Seek(header.PixelOffset);
+    RunReader(input, header, sink).ReadAll();
+}
+
+}  // namespace vendrel
