@@ -1,0 +1,95 @@
+#include "convert/bitmap_writer.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "support/error.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+constexpr std::size_t kHeaderBytes = 54;
+constexpr std::size_t kBlockBytes = 256 * 1024;
+
+using Header = std::array<std::uint8_t, kHeaderBytes>;
+
+void Put32(Header& header, std::size_t at, std::uint32_t value) {
+    for (std::size_t i = 0; i < 4; ++i) {
+        header[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
+    }
+}
+
+Header MakeHeader(const BitmapInfoHeader& info, int pixelsPerMetre) {
+    Header header{};
+    header[0] = 'B';
+    header[1] = 'M';
+    Put32(header, 2, static_cast<std::uint32_t>(kHeaderBytes) + info.SizeImage);
+    Put32(header, 10, kHeaderBytes);
+    Put32(header, 14, info.Size);
+    Put32(header, 18, static_cast<std::uint32_t>(info.Width));
+    Put32(header, 22, static_cast<std::uint32_t>(info.Height));
+    Put32(header, 26, info.Planes | std::uint32_t{info.BitCount} << 16);
+    Put32(header, 30, info.Compression);
+    Put32(header, 34, info.SizeImage);
+    Put32(header, 38, static_cast<std::uint32_t>(pixelsPerMetre));
+    Put32(header, 42, static_cast<std::uint32_t>(pixelsPerMetre));
+    return header;
+}
+
+void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
+    for (const Color color : row) {
+        bytes[0] = static_cast<std::uint8_t>(BlueOf(color));
+        bytes[1] = static_cast<std::uint8_t>(GreenOf(color));
+        bytes[2] = static_cast<std::uint8_t>(RedOf(color));
+        bytes += 3;
+    }
+}
+
+[[noreturn]] void RefuseEmpty(const std::filesystem::path& file) {
+    throw FileError(file, "there is no picture to save yet. Load a photo first.");
+}
+
+}  // namespace
+
+void WriteBitmap(const std::filesystem::path& file, const Surface& picture, int pixelsPerMetre) {
+    if (picture.Empty()) {
+        RefuseEmpty(file);
+    }
+    const BitmapInfoHeader info = MakeInfoHeader(picture.Width(), picture.Height());
+    const std::size_t rowBytes = info.SizeImage / static_cast<std::size_t>(picture.Height());
+    const std::size_t rowsPerBlock = std::max<std::size_t>(1, kBlockBytes / rowBytes);
+    std::vector<std::uint8_t> block(rowsPerBlock * rowBytes);
+    WholeFile whole(file);
+    const Header header = MakeHeader(info, pixelsPerMetre);
+    whole.Write(std::as_bytes(std::span(header)));
+    std::size_t used = 0;
+    for (int y = picture.Height() - 1; y >= 0; --y) {
+        PackRow(picture.Row(y), block.data() + used);
+        used += rowBytes;
+        if (used == block.size() || y == 0) {
+            whole.Write(std::as_bytes(std::span(block).first(used)));
+            used = 0;
+        }
+    }
+    whole.Commit();
+}
+
+void WriteBitmap(const std::filesystem::path& file, const cDIBSection& picture,
+                 int pixelsPerMetre) {
+    if (picture.hDib() == nullptr) {
+        RefuseEmpty(file);
+    }
+    const BitmapInfoHeader& info = *picture.hDib();
+    WholeFile whole(file);
+    const Header header = MakeHeader(info, pixelsPerMetre);
+    whole.Write(std::as_bytes(std::span(header)));
+    whole.Write(std::as_bytes(std::span(picture.DIBSectionBitsPtr(), info.SizeImage)));
+    whole.Commit();
+}
+
+}  // namespace vendrel
