@@ -1,0 +1,95 @@
+#include "convert/photo_import.h"
+
+#include <string>
+#include <utility>
+
+#include "convert/bitmap_reader.h"
+#include "convert/scaling.h"
+#include "convert/settings.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+Surface ReadScaled(BitmapFile& file, int width, int height) {
+    const BitmapSize from = file.Size();
+    RowScaler scaler({from.Width, from.Height, width, height}, RowOrder::BottomUp);
+    file.ReadRows([&scaler](int /*y*/, std::span<const Color> row) { scaler.Push(row); });
+    return scaler.Take();
+}
+
+}  // namespace
+
+std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSize& screen,
+                               int stippleSize) {
+    if (ReadBitmapSize(file) == BitmapSize{}) {
+        return std::nullopt;
+    }
+    BitmapFile bitmap(file);
+    Photo photo{bitmap.Size(), ComputeWorkingSize(bitmap.Size(), screen, stippleSize), {}};
+    if (!photo.Working.HoldsStipples()) {
+        throw FileError(file, "its shape of " + std::to_string(photo.Bmp.Width) + " x " +
+                                  std::to_string(photo.Bmp.Height) +
+                                  " pixels leaves no whole stipple on this screen. Choose a "
+                                  "larger photo or crop it to a less extreme shape.");
+    }
+    photo.Picture = ReadScaled(bitmap, photo.Working.Width / screen.Twips.X,
+                               photo.Working.Height / screen.Twips.Y);
+    return photo;
+}
+
+void ShowPhoto(Workplace& place, Photo photo) {
+    WorkState& state = place.State;
+    state.BmpWidth = photo.Bmp.Width;
+    state.BmpHeight = photo.Bmp.Height;
+    state.AspectWidth = photo.Working.AspectWidth;
+    state.AspectHeight = photo.Working.AspectHeight;
+    state.Landscape = photo.Working.Landscape;
+    state.PictureWidth = photo.Working.Width;
+    state.PictureHeight = photo.Working.Height;
+    place.Frames.MainWindow = photo.Working.Window;
+    place.Frames.CaptureFrame.Picture = std::move(photo.Picture);
+    RefreshPhotoImage(place);
+    place.Frames.CaptureFrame.Visible = false;
+    place.Frames.WorkFrame.Visible = true;
+    state.PictureLoaded = true;
+    ResizePixelMap(place);
+    place.Screen.SetCaption("Vendrel - " + state.PictureName);
+}
+
+void ReadBmpSize(Workplace& place) {
+    const BitmapSize size = ReadBitmapSize(place.State.PicturePath);
+    place.State.BmpWidth = size.Width;
+    place.State.BmpHeight = size.Height;
+}
+
+PhotoLoad LoadNewPicture(Workplace& place) {
+    std::optional<Photo> photo =
+        ReadPhoto(place.State.PicturePath, place.Screen.Screen(), place.State.StippleSize);
+    if (!photo) {
+        ReadBmpSize(place);
+        return PhotoLoad::Nothing;
+    }
+    ShowPhoto(place, std::move(*photo));
+    return PhotoLoad::Loaded;
+}
+
+bool ChoosePhoto(Workplace& place, std::string_view fileName) {
+    WorkState& state = place.State;
+    state.PictureFile = fileName;
+    state.PicturesFolder = place.Folder.Path("Pictures").string() + "/";
+    const std::size_t dot = fileName.find('.');
+    if (dot == std::string_view::npos) {
+        return false;
+    }
+    state.PicturePath = place.Folder.Path("Pictures/" + state.PictureFile).string();
+    state.PictureName = fileName.substr(0, dot);
+    return true;
+}
+
+void RefreshPhotoImage(Workplace& place) {
+    place.Frames.WorkFrame.Picture = place.Frames.CaptureFrame.Picture;
+    place.Screen.RefreshWorkFrame();
+}
+
+}  // namespace vendrel
