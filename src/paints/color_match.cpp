@@ -1,0 +1,26 @@
+#include "paints/color_match.h"
+
+#include "paints/nearest_paint.h"
+
+namespace vendrel {
+
+void GetRgb(Color color, int& r, int& g, int& b) {
+    r = RedOf(color);
+    g = GreenOf(color);
+    b = BlueOf(color);
+}
+
+void ColorMatch(const WorkState& state, int& R, int& G, int& B, int& Index, int SkipIndex) {
+    const std::span<const PaintColor> paints = Palette(state);
+    const int nearest = FindNearest(paints, {R, G, B}, SkipIndex);
+    if (nearest == 0) {
+        return;
+    }
+    const PaintColor& paint = paints[static_cast<std::size_t>(nearest)];
+    R = paint.Red;
+    G = paint.Green;
+    B = paint.Blue;
+    Index = nearest;
+}
+
+}  // namespace vendrel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+#include "shell/work_state.h"
+#include "support/color.h"
+
+namespace vendrel {
+
+/// The working palette: PaintCount paints behind an empty entry 0.
+[[nodiscard]] inline std::span<const PaintColor> Palette(const WorkState& state) {
+    return std::span(state.PaintColors).first(static_cast<std::size_t>(state.PaintCount) + 1);
+}
+
+/// Splits a packed colour into channels of 0..255.
+void GetRgb(Color color, int& r, int& g, int& b);
+
+/// Replaces a colour by the nearest paint of the palette, the later of equally near ones, and puts
+/// that paint's index into `Index`. `SkipIndex` is left out of the search (0 leaves out none).
+/// Without a paint to choose, nothing changes.
+void ColorMatch(const WorkState& state, int& R, int& G, int& B, int& Index, int SkipIndex);
+
+}  // namespace vendrel

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "paints/nearest_paint.h"
+#include "shell/work_state.h"
+
+namespace vendrel {
+
+/// Index of the paint with the fewest stipples, the lowest of equals; entry 0 does not count. 0
+/// when there is no paint or each has 32767 stipples.
+[[nodiscard]] int LeastUsed(std::span<const int> counts);
+
+/// Drops paints from the palette one by one. Merges and counts are kept per paint; the grid and
+/// the palette are rewritten once, by Commit, however many paints go.
+class PaletteReduction {
+  public:
+    /// `counts` is what CountColors found, or empty when nobody asks for the counts.
+    PaletteReduction(const WorkState& state, std::vector<int> counts);
+
+    [[nodiscard]] int PaintCount() const { return static_cast<int>(colors_.size()) - 1; }
+    /// Stipples per remaining paint.
+    [[nodiscard]] const std::vector<int>& Counts() const { return counts_; }
+
+    /// Drops remaining paint `index`; its stipples go to the nearest other paint.
+    void Remove(int index);
+    /// Rewrites the state that the reduction was made from.
+    void Commit(WorkState& state) const;
+
+  private:
+    struct Merge {
+        int From = 0;  // indices of the palette before the reduction
+        int Into = 0;  // 0 when no other paint was left
+    };
+    [[nodiscard]] std::vector<int> NewIndices() const;
+
+    std::vector<Channels> colors_;  // of the remaining paints
+    std::vector<int> origins_;      // their indices before the reduction
+    std::vector<int> counts_;
+    std::vector<Merge> merges_;
+};
+
+}  // namespace vendrel

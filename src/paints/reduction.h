@@ -1,0 +1,22 @@
+#pragma once
+
+#include "shell/workplace.h"
+
+namespace vendrel {
+
+/// Counts the stipples of each paint into ColorCounts, row by row. Stops at the first stipple that
+/// has no paint: what follows it is not counted. Throws OverflowError past 32767 of one paint.
+void CountColors(WorkState& state);
+
+/// Index of the paint with the smallest of ColorCounts, the lowest of equals; 0 when there is none
+/// below 32767.
+[[nodiscard]] int GetLowCount(const WorkState& state);
+
+/// Drops one paint: its stipples go to the nearest other paint, and later paints move up.
+void RemoveColor(WorkState& state, int index);
+
+/// Drops the least used paint again and again until `target` (0 or more) are left. An
+/// OverflowError leaves grid and palette as after the last paint dropped.
+void ReduceColors(Workplace& place, int target);
+
+}  // namespace vendrel

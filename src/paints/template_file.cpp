@@ -1,0 +1,104 @@
+#include "paints/template_file.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+#include "paints/paint_fields.h"
+#include "paints/paint_sets.h"
+#include "paints/restore.h"
+#include "support/error.h"
+#include "support/text_file.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Quoted(const fs::path& file, const std::string& text) {
+    if (text.find('"') != std::string::npos) {
+        throw Error(file.string() + ": the paint text " + text +
+                    " holds a double quote, which a template cannot keep. Rename the paint.");
+    }
+    return '"' + text + '"';
+}
+
+std::string LineOf(const fs::path& file, const PaintColor& paint) {
+    return std::to_string(paint.Red) + ',' + std::to_string(paint.Green) + ',' +
+           std::to_string(paint.Blue) + ',' + Quoted(file, paint.Mfg) + ',' +
+           Quoted(file, paint.PaintCode) + ',' + Quoted(file, paint.PaintName) + "\r\n";
+}
+
+bool ContinuesCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+// Whatever the ending is: files that are no templates are listed too.
+std::string WithoutEnding(std::string name) {
+    for (int i = 0; i < 4 && !name.empty(); ++i) {
+        while (ContinuesCharacter(name.back()) && name.size() > 1) {
+            name.pop_back();
+        }
+        name.pop_back();
+    }
+    return name;
+}
+
+void MakeFolder(const fs::path& folder) {
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    if (failure) {
+        throw FileError(folder, "cannot be created: " + failure.message() +
+                                    ". Check the folder's permissions.");
+    }
+}
+
+}  // namespace
+
+fs::path TemplatePath(const Workplace& place, std::string_view name) {
+    return place.Folder.Path("templates/" + std::string(name) + ".csv");
+}
+
+std::vector<PaintColor> ReadTemplate(const fs::path& file) {
+    const std::string text = ReadTextFile(file);
+    FieldReader in(text, file);
+    return ReadPaints(in);
+}
+
+void WriteTemplate(const fs::path& file, std::span<const PaintColor> paints) {
+    const std::span<const PaintColor> listed = paints.empty() ? paints : paints.subspan(1);
+    std::string text = ' ' + std::to_string(listed.size()) + "\r\n";
+    for (const PaintColor& paint : listed) {
+        text += LineOf(file, paint);
+    }
+    WriteWholeFile(file, text);
+}
+
+bool LoadTemplateColors(Workplace& place, std::string_view name) {
+    WorkState& state = place.State;
+    SetPalette(state, ReadTemplate(TemplatePath(place, name)));
+    if (state.PaintCount == 0) {
+        place.Screen.ShowMessage("Unable To Continue",
+                                 "The Selected Template Has NO Paints Assigned!");
+        return false;
+    }
+    state.FinalColors = SetMaxFinalColors(place.MainMenu, state.PaintCount);
+    return true;
+}
+
+std::vector<std::string> ListTemplates(Workplace& place) {
+    const fs::path folder = place.Folder.Path("templates");
+    MakeFolder(folder);
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        std::string name = WithoutEnding(entry.path().filename().string());
+        if (entry.is_regular_file() && !name.empty()) {
+            names.push_back(std::move(name));
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+}  // namespace vendrel

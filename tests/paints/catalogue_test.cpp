@@ -1,0 +1,63 @@
+#include "paints/catalogue.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "paints/paints.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+TEST(Catalogue, ReadsAsManyPaintsAsItCounts) {
+    test::Bench bench;
+    bench.Files.Write(
+        "data/StudioPaint.csv",
+        "2\r\n255, 0,7,\"Greens, light\",\"PG7\",\"Leaf\"\r\n1,2,3,Barrel,,Grey\n4,5");
+    LoadMasterColors(bench.Place);
+    ASSERT_EQ(bench.State.MasterCount, 2);
+    EXPECT_EQ(bench.State.MasterColors[0], PaintColor{});
+    EXPECT_EQ(bench.State.MasterColors[1],
+              (PaintColor{255, 0, 7, "Greens, light", "PG7", "Leaf", 0}));
+    EXPECT_EQ(bench.State.MasterColors[2], (PaintColor{1, 2, 3, "Barrel", "", "Grey", 0}));
+
+    bench.Files.Write("data/StudioPaint.csv", "0\r\n");
+    LoadMasterColors(bench.Place);
+    EXPECT_EQ(bench.State.MasterCount, 0);
+}
+
+TEST(Catalogue, KeepsWhatItHasWhenTheFileIsBroken) {
+    for (const auto& [text, problem] : {std::pair{"2\n1,2,3,a,b,c\n", "line 3"},
+                                        {"1\n1,256,3,a,b,c\n", "line 2: a paint's green"},
+                                        {"40000\n", "the number of paints"}}) {
+        test::Bench bench;
+        bench.State.MasterColors.resize(2);
+        bench.Files.Write("Data/studiopaint.csv", text);
+        try {
+            LoadMasterColors(bench.Place);
+            ADD_FAILURE() << text;
+        } catch (const FormatError& error) {
+            EXPECT_THAT(error.what(), testing::HasSubstr(problem));
+        }
+        EXPECT_EQ(bench.State.MasterColors.size(), 2U);
+    }
+    test::Bench empty;
+    EXPECT_THROW(LoadMasterColors(empty.Place), FileError);
+}
+
+TEST(Catalogue, MakesASetOfEveryNameAndOneOfEveryNamelessPaint) {
+    test::Bench bench;
+    for (const char* mfg : {"Oils", "", "Greys", "Oils", "", "oils"}) {
+        bench.State.MasterColors.push_back({0, 0, 0, mfg, "", "", 0});
+    }
+    BuildPaintSets(bench.Place);
+    std::string names;
+    for (const PaintSet& set : bench.State.PaintSets) {
+        names += set.Name + ";";
+    }
+    EXPECT_EQ(names, ";Oils;;Greys;;oils;");
+    EXPECT_EQ(bench.State.PaintSetCount, 5);
+}
+
+}  // namespace
+}  // namespace vendrel

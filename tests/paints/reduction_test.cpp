@@ -1,0 +1,156 @@
+#include "paints/reduction.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "paints/color_match.h"
+#include "paints/paints.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using Rows = std::vector<std::vector<int>>;
+using test::Paint;
+
+// The reduction in so many words: for every paint dropped, the grid is counted, repainted and
+// renumbered.
+void PlainReduce(WorkState& state, int target, std::vector<std::string>& captions) {
+    while (state.PaintCount > target) {
+        CountColors(state);
+        const int k = GetLowCount(state);
+        PaintColor gone = state.PaintColors[static_cast<std::size_t>(k)];
+        int r = 0;
+        ColorMatch(state, gone.Red, gone.Green, gone.Blue, r, k);
+        for (StippleCell& cell : state.Stipples.All()) {
+            cell.ColorIndex = cell.ColorIndex == k ? r : cell.ColorIndex;
+        }
+        state.PaintColors.erase(state.PaintColors.begin() + k);
+        for (StippleCell& cell : state.Stipples.All()) {
+            cell.ColorIndex -= cell.ColorIndex > k ? 1 : 0;
+        }
+        --state.PaintCount;
+        captions.push_back("Number of Paints Reduced to " + std::to_string(state.PaintCount) +
+                           " Colors");
+    }
+}
+
+TEST(ReduceColors, DropsTheLeastUsedPaintAndRepaintsItsStipples) {
+    // a and b are close, so are c and d; e is far from all.
+    const std::vector<PaintColor> paints = {Paint(10, 0, 0, "a"), Paint(20, 0, 0, "b"),
+                                            Paint(0, 100, 0, "c"), Paint(0, 110, 0, "d"),
+                                            Paint(0, 0, 255, "e")};
+    struct Case {
+        const char* What;
+        Rows Before;
+        int Target;
+        Rows After;
+        const char* Names;
+    };
+    const Case cases[] = {
+        {"enough already", {{1, 2, 3, 4, 5}}, 5, {{1, 2, 3, 4, 5}}, "a b c d e"},
+        {"unused first", {{1, 1, 3, 4, 4}}, 3, {{1, 1, 2, 3, 3}}, "a c d"},
+        {"into a later paint",
+         {{1, 2, 2, 3, 3, 4, 4, 5, 5}},
+         4,
+         {{1, 1, 1, 2, 2, 3, 3, 4, 4}},
+         "b c d e"},
+        {"the lower of equals",
+         {{1, 1, 2, 2, 3, 4, 5, 5}},
+         4,
+         {{1, 1, 2, 2, 3, 3, 4, 4}},
+         "a b d e"},
+        {"the last paint",
+         {{1, 1, 2, 2, 3, 3, 4, 4, 5}},
+         4,
+         {{1, 1, 2, 2, 3, 3, 4, 4, 1}},
+         "a b c d"},
+        {"takes in, then stays",
+         {{1, 2, 2, 3, 3, 4, 4, 4, 5, 5}},
+         3,
+         {{1, 1, 1, 2, 2, 2, 2, 2, 3, 3}},
+         "b d e"},
+        {"counts up to a bare stipple",
+         {{1, 2, 0, 3, 3}, {3, 4, 4, 5, 5}},
+         2,
+         {{1, 2, 0, 1, 1}, {1, 1, 1, 1, 1}},
+         "a b"},
+        {"down to nothing", {{1, 2, 3, 4, 5}}, 0, {{0, 0, 0, 0, 0}}, ""},
+    };
+    for (const Case& c : cases) {
+        test::Bench bench;
+        test::UsePaints(bench.State, paints);
+        test::UseGrid(bench.State, c.Before);
+        ReduceColors(bench.Place, c.Target);
+        EXPECT_EQ(test::GridOf(bench.State), c.After) << c.What;
+        EXPECT_EQ(test::NamesOf(bench.State), c.Names) << c.What;
+        EXPECT_EQ(bench.State.PaintColors.size(), static_cast<std::size_t>(c.Target) + 1) << c.What;
+        EXPECT_EQ(bench.Screen.Captions.size(), static_cast<std::size_t>(5 - c.Target)) << c.What;
+    }
+}
+
+TEST(ReduceColors, AgreesWithCountingAfreshForEveryPaint) {
+    std::mt19937 random(11);
+    for (int round = 0; round < 120; ++round) {
+        const int count = 2 + round % 20;
+        test::Bench bench;
+        test::UsePaints(bench.State, test::RandomPaints(random, count, round % 2 == 0 ? 85 : 5));
+        std::uniform_int_distribution<int> index(round % 3 == 0 ? 0 : 1, count);
+        Rows rows(static_cast<std::size_t>(1 + round % 5), std::vector<int>(17));
+        for (auto& row : rows) {
+            for (int& cell : row) {
+                cell = std::min(index(random), index(random));
+            }
+        }
+        test::UseGrid(bench.State, rows);
+        bench.State.Stipples(1, 1) = {bench.State.Stipples(1, 1).ColorIndex, 5, 6, 7, {}};
+        WorkState plain = bench.State;
+        std::vector<std::string> captions;
+        const int target = round % count;
+        PlainReduce(plain, target, captions);
+        ReduceColors(bench.Place, target);
+        ASSERT_EQ(bench.State.Stipples, plain.Stipples);
+        ASSERT_EQ(bench.State.PaintColors, plain.PaintColors);
+        ASSERT_EQ(bench.State.PaintCount, plain.PaintCount);
+        ASSERT_EQ(bench.State.ColorCounts, plain.ColorCounts);
+        ASSERT_EQ(bench.Screen.Captions, captions);
+    }
+}
+
+TEST(ReduceColors, StopsWithWhatWasDoneWhenACounterIsFull) {
+    // Paint a takes in paint b and then covers one stipple more than can be counted, which matters
+    // only if another paint has to go.
+    for (const int target : {2, 1}) {
+        test::Bench bench;
+        test::UsePaints(bench.State,
+                        {Paint(10, 0, 0, "a"), Paint(11, 0, 0, "b"), Paint(250, 0, 0, "c")});
+        std::vector<int> row(32767, 1);
+        row.insert(row.end(), {2, 3, 3});
+        test::UseGrid(bench.State, {row});
+        if (target == 2) {
+            ReduceColors(bench.Place, target);
+        } else {
+            EXPECT_THROW(ReduceColors(bench.Place, target), OverflowError);
+        }
+        EXPECT_EQ(test::NamesOf(bench.State), "a c");
+        EXPECT_EQ(bench.State.Stipples(32768, 1).ColorIndex, 1);
+        EXPECT_EQ(bench.State.Stipples(32769, 1).ColorIndex, 2);
+        EXPECT_EQ(bench.Screen.Captions.size(), 1U);
+
+        bench.State.Stipples(32768, 1).ColorIndex = 1;  // full from the beginning
+        EXPECT_THROW(ReduceColors(bench.Place, 1), OverflowError);
+        EXPECT_EQ(test::NamesOf(bench.State), "a c");
+    }
+}
+
+TEST(RemoveColor, MovesLaterPaintsUp) {
+    WorkState state;
+    test::UsePaints(state, {Paint(0, 0, 0, "a"), Paint(90, 0, 0, "b"), Paint(100, 0, 0, "c")});
+    test::UseGrid(state, {{1, 2, 3}, {0, 2, 1}});
+    RemoveColor(state, 2);
+    EXPECT_EQ(test::GridOf(state), (Rows{{1, 2, 2}, {0, 2, 1}}));
+    EXPECT_EQ(test::NamesOf(state), "a c");
+}
+
+}  // namespace
+}  // namespace vendrel

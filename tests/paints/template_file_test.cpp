@@ -1,0 +1,93 @@
+#include "paints/template_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "paints/paints.h"
+#include "paints/restore.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+const std::vector<PaintColor> kSea = {
+    {}, {200, 30, 45, "Oils, fine", "PR1", "Bär red", 0}, {0, 0, 255, "", "", "", 0}};
+constexpr const char* kSeaText =
+    " 2\r\n200,30,45,\"Oils, fine\",\"PR1\",\"Bär red\"\r\n0,0,255,\"\",\"\",\"\"\r\n";
+
+TEST(TemplateFile, WritesWhatItReads) {
+    test::TempFolder files;
+    WriteTemplate(files / "templates/Sea.csv", kSea);
+    EXPECT_EQ(files.Read("templates/Sea.csv"), kSeaText);
+    EXPECT_EQ(ReadTemplate(files / "templates/Sea.csv"), kSea);
+    WriteTemplate(files / "none.csv", {});
+    EXPECT_EQ(files.Read("none.csv"), " 0\r\n");
+}
+
+TEST(TemplateFile, RefusesADoubleQuoteAndKeepsTheOldFile) {
+    test::TempFolder files;
+    files.Write("a.csv", "old");
+    const std::vector<PaintColor> paints = {{}, test::Paint(1, 2, 3, "6\" brush")};
+    EXPECT_THROW(WriteTemplate(files / "a.csv", paints), Error);
+    EXPECT_EQ(files.Read("a.csv"), "old");
+}
+
+TEST(TemplateFile, BecomesThePaletteAndLowersTheFinalPaints) {
+    using enum MenuId;
+    struct Case {
+        int Paints;
+        MenuId Wanted;
+        int FinalColors;
+    };
+    for (const Case& c : {Case{12, Set32Colors, 12}, {33, Set32Colors, 32}, {60, EasySet, 0}}) {
+        test::Bench bench;
+        bench.MainMenu[c.Wanted].Checked = true;
+        WriteTemplate(TemplatePath(bench.Place, "T"),
+                      std::vector<PaintColor>(static_cast<std::size_t>(c.Paints) + 1));
+        EXPECT_TRUE(LoadTemplateColors(bench.Place, "T"));
+        EXPECT_EQ(bench.State.PaintCount, c.Paints);
+        EXPECT_EQ(bench.State.FinalColors, c.FinalColors) << c.Paints;
+        EXPECT_TRUE(bench.Screen.Messages.empty());
+    }
+}
+
+TEST(TemplateFile, WithoutPaintsSaysSoAndEmptiesThePalette) {
+    test::Bench bench;
+    test::UsePaints(bench.State, {test::Paint(1, 1, 1)});
+    bench.Files.Write("templates/T.csv", " 0\r\n");
+    EXPECT_FALSE(LoadTemplateColors(bench.Place, "T"));
+    EXPECT_EQ(bench.State.PaintCount, 0);
+    EXPECT_EQ(bench.State.FinalColors, 50);
+    EXPECT_EQ(bench.Screen.Messages[0],
+              std::pair(std::string("Unable To Continue"),
+                        std::string("The Selected Template Has NO Paints Assigned!")));
+}
+
+TEST(TemplateFile, LeavesThePaletteAloneWhenItCannotBeRead) {
+    test::Bench bench;
+    test::UsePaints(bench.State, {test::Paint(1, 1, 1, "old")});
+    bench.Files.Write("templates/T.csv", " 2\r\n1,2,3,\"a\",\"b\",\"c\"\r\n1,2,999,\"a\"");
+    try {
+        (void)LoadTemplateColors(bench.Place, "T");
+        ADD_FAILURE();
+    } catch (const FormatError& error) {
+        EXPECT_THAT(error.what(), testing::HasSubstr("T.csv, line 3: a paint's blue"));
+    }
+    EXPECT_THROW((void)LoadTemplateColors(bench.Place, "Missing"), FileError);
+    EXPECT_EQ(test::NamesOf(bench.State), "old");
+}
+
+TEST(TemplateFile, ListsTheFolderWithoutEndings) {
+    test::Bench bench;
+    EXPECT_TRUE(ListTemplates(bench.Place).empty());
+    EXPECT_TRUE(bench.Program.Exists("templates"));
+    for (const char* file : {"Sea.csv", "Autumn day.csv", "notes.text", "aéé.é", "csv"}) {
+        bench.Files.Write(std::string("templates/") + file, "");
+    }
+    bench.Files.Write("templates/Folder.csv/x.csv", "");
+    EXPECT_THAT(ListTemplates(bench.Place),
+                testing::ElementsAre("Autumn day", "Sea", "a", "notes."));
+}
+
+}  // namespace
+}  // namespace vendrel
