@@ -1,23 +1,15 @@
 #include "support/program_folder.h"
 
-#include <algorithm>
 #include <string>
 #include <system_error>
 #include <utility>
+
+#include "support/letter_case.h"
 
 namespace vendrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool SameIgnoringCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Lower(x) == Lower(y); });
-}
 
 // Of several spellings the alphabetically first, so that every run takes the same one.
 fs::path FindPart(const fs::path& folder, const std::string& part) {
