@@ -1,0 +1,89 @@
+#include "paints/palette_files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "paints/next_best.h"
+#include "support/error.h"
+#include "support/temp_folder.h"
+
+namespace vendrel {
+namespace {
+
+PaintColor Paint(int red, int green, int blue, const char* set, const char* name) {
+    return {red, green, blue, set, "", name, 0};
+}
+
+using Paints = std::vector<PaintColor>;
+
+TEST(PaletteFiles, ReadsPalettesOfOtherPrograms) {
+    const test::TempFolder folder;
+    struct Case {
+        const char* file;
+        const char* text;
+        Paints expected;
+    };
+    const std::vector<Case> cases = {
+        {"a.gpl",
+         "GIMP Palette\r\nName: Sea \"deep\"\nColumns: 4\n# 1 2 3 no colour\n  0  20\t "
+         "40\tInk\n\n255 "
+         "255 255\n",
+         {{},
+          Paint(0, 20, 40, "Sea 'deep'", "Ink"),
+          Paint(255, 255, 255, "Sea 'deep'", "Unnamed")}},
+        {"plain.csv",
+         "1,2,3,\"Red, \"\"hot\"\"\"\n4,5,6",
+         {{}, Paint(1, 2, 3, "plain", "Red, 'hot'"), Paint(4, 5, 6, "plain", "Unnamed")}},
+        {"heading.CSV", "Name;B;G;R\nSky;9;8;7\n", {{}, Paint(7, 8, 9, "heading", "Sky")}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(ReadPaletteFile(folder.Write(c.file, c.text)), c.expected) << c.file;
+    }
+}
+
+TEST(PaletteFiles, NamesTheLineThatIsBroken) {
+    const test::TempFolder folder;
+    struct Case {
+        const char* file;
+        const char* text;
+        const char* says;
+    };
+    for (const Case& c : {Case{"a.gpl", "no palette", "line 1"},
+                          {"a.gpl", "GIMP Palette\n1 2 300 x\n", "line 2"},
+                          {"a.csv", "1,2,3,x\n1,2\n", "line 2"},
+                          {"a.csv", "name,red,green\nx,1,2\n", "line 1"},
+                          {"a.csv", "red,green,blue,name\n", "no colours"},
+                          {"a.txt", "", ".gpl or a .csv"}}) {
+        try {
+            (void)ReadPaletteFile(folder.Write(c.file, c.text));
+            ADD_FAILURE() << c.text;
+        } catch (const Error& error) {
+            EXPECT_THAT(error.what(), testing::HasSubstr(c.says));
+            EXPECT_THAT(error.what(), testing::HasSubstr(c.file));
+        }
+    }
+}
+
+TEST(PaletteFiles, WritesWhatItReads) {
+    const Paints paints = {
+        {}, Paint(7, 80, 255, "Set", "Sky"), {1, 2, 3, "Set", "PB29", "Ultra", 0}};
+    const std::string text = GplText("Mine", paints);
+    EXPECT_EQ(text,
+              "GIMP Palette\nName: Mine\nColumns: 8\n#\n  7  80 255\tSet: Sky\n"
+              "  1   2   3\tSet: Ultra [PB29]\n");
+    EXPECT_EQ(ParseGplPalette(text, "x.gpl")[2], Paint(1, 2, 3, "Mine", "Set: Ultra [PB29]"));
+}
+
+TEST(NextBest, NearestFirstWithoutTheColoursInUse) {
+    const Paints catalogue = {Paint(10, 0, 0, "a", "far"), Paint(4, 0, 0, "a", "near"),
+                              Paint(0, 4, 0, "a", "as near"), Paint(1, 0, 0, "b", "in use")};
+    const Paints palette = {{}, Paint(0, 0, 0, "a", "wanted"), Paint(1, 0, 0, "a", "same colour")};
+    const auto best = FindNextBest(palette[1], catalogue, palette, 2);
+    ASSERT_EQ(best.size(), 2U);
+    EXPECT_EQ(best[0].Paint.PaintName, "near");
+    EXPECT_EQ(best[1].Paint.PaintName, "as near");
+    EXPECT_DOUBLE_EQ(best[0].Difference, 4);
+}
+
+}  // namespace
+}  // namespace vendrel
