@@ -1,0 +1,86 @@
+#include "output/chart_contents.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <numeric>
+#include <tuple>
+
+namespace vendrel {
+namespace {
+
+constexpr std::int64_t kWhole = 1000;
+
+void CountStipples(WorkState& state) {
+    for (PaintColor& paint : state.PaintColors) {
+        paint.CellCount = 0;
+    }
+    for (int y = 1; y <= state.CellsDown; ++y) {
+        for (int x = 1; x <= state.CellsAcross; ++x) {
+            const auto paint = static_cast<std::size_t>(state.Stipples(x, y).ColorIndex);
+            if (paint > 0 && paint < state.PaintColors.size()) {
+                ++state.PaintColors[paint].CellCount;
+            }
+        }
+    }
+}
+
+}  // namespace
+
+std::string PaintLabel(const PaintColor& paint) {
+    return paint.Mfg + ": " + paint.PaintName + " [" + paint.PaintCode + "]";
+}
+
+std::vector<int> SharesInTenths(std::span<const int> counts) {
+    const std::int64_t total = std::accumulate(counts.begin(), counts.end(), std::int64_t{0});
+    std::vector<int> shares(counts.size());
+    if (total == 0) {
+        return shares;
+    }
+    std::int64_t left = kWhole;
+    for (std::size_t i = 0; i < counts.size(); ++i) {
+        shares[i] = static_cast<int>(counts[i] * kWhole / total);
+        left -= shares[i];
+    }
+    std::vector<std::size_t> byRemainder(counts.size());
+    std::iota(byRemainder.begin(), byRemainder.end(), std::size_t{0});
+    std::ranges::stable_sort(byRemainder, [&](std::size_t a, std::size_t b) {
+        return counts[a] * kWhole % total > counts[b] * kWhole % total;
+    });
+    for (std::size_t i = 0; i < static_cast<std::size_t>(left); ++i) {
+        ++shares[byRemainder[i]];
+    }
+    return shares;
+}
+
+std::vector<ChartRow> FillChart(WorkState& state) {
+    CountStipples(state);
+    std::vector<ChartRow> rows;
+    std::vector<int> counts;
+    for (int p = 1; p <= state.PaintCount; ++p) {
+        const PaintColor& paint = state.PaintColors[static_cast<std::size_t>(p)];
+        rows.push_back({p, paint.Mfg, PaintLabel(paint), ColorOf(paint), paint.CellCount, 0});
+        counts.push_back(paint.CellCount);
+    }
+    const std::vector<int> shares = SharesInTenths(counts);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        rows[i].ShareTenths = shares[i];
+    }
+    return rows;
+}
+
+void SortChart(std::vector<ChartRow>& rows, ChartOrder order) {
+    std::ranges::sort(rows, {}, &ChartRow::Paint);
+    if (order == ChartOrder::Share) {
+        std::ranges::stable_sort(rows, std::ranges::greater{}, &ChartRow::Stipples);
+    } else if (order == ChartOrder::Set) {
+        std::ranges::stable_sort(rows, {},
+                                 [](const ChartRow& row) { return std::tie(row.Set, row.Label); });
+    }
+}
+
+std::string ShareText(int tenths) {
+    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " %";
+}
+
+}  // namespace vendrel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "shell/work_state.h"
+#include "support/color.h"
+
+namespace vendrel {
+
+/// One paint of the chart.
+struct ChartRow {
+    int Paint = 0;      // palette index, which is its symbol too
+    std::string Set;    // the paint set alone
+    std::string Label;  // set, name and code
+    Color Swatch = kBlack;
+    int Stipples = 0;
+    int ShareTenths = 0;  // of the picture, in tenths of a percent
+
+    bool operator==(const ChartRow&) const = default;
+};
+
+enum class ChartOrder { Symbol, Share, Set };
+
+/// Counts the stipples of the grid into CellCount and lists every paint in palette order.
+[[nodiscard]] std::vector<ChartRow> FillChart(WorkState& state);
+
+/// By symbol, by share with the largest first, or by set and name; equals stay in symbol order.
+void SortChart(std::vector<ChartRow>& rows, ChartOrder order);
+
+/// Tenths of a percent that add up to exactly 1000: everybody gets the whole tenths due, and the
+/// largest remainders one more. All 0 when nothing is counted.
+[[nodiscard]] std::vector<int> SharesInTenths(std::span<const int> counts);
+
+/// "12.3 %".
+[[nodiscard]] std::string ShareText(int tenths);
+
+/// "Set: Name [Code]".
+[[nodiscard]] std::string PaintLabel(const PaintColor& paint);
+
+}  // namespace vendrel
