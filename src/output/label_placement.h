@@ -1,0 +1,40 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "output/outlines.h"
+#include "output/painted_regions.h"
+#include "output/symbol_set.h"
+
+namespace vendrel {
+
+/// A symbol on the plan, in picture pixels.
+struct PlanLabel {
+    int Region = 0;
+    PlanPoint Centre;
+    double Height = 0;  // of its box; the box is Height * the symbol's aspect wide
+    bool operator==(const PlanLabel&) const = default;
+};
+
+/// How wide each symbol's ink is for its height, by symbol 1..50; entry 0 is not used.
+using SymbolAspects = std::array<double, kSymbolCount + 1>;
+
+struct LabelRules {
+    SymbolAspects Aspects{};
+    double LargestHeight = 0;  // in pixels: no symbol is taller
+    double LatticeStep = 0;    // in pixels: large regions repeat their symbol about this often
+    std::vector<int> PageColumns{};  // where pages are cut, first pixel of each; without the 0
+    std::vector<int> PageRows{};
+};
+
+/// Gives every region one symbol at its roomiest place, as tall as fits inside; then one more on
+/// every page that shows room for it and, in large regions, about every LatticeStep.
+/// In order of regions, each region's roomiest place first.
+[[nodiscard]] std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions,
+                                                 const LabelRules& rules);
+
+/// How tall a symbol of such an aspect fits into a lone stipple of that size, in pixels.
+[[nodiscard]] double SymbolHeightInStipple(int stippleSize, double aspect);
+
+}  // namespace vendrel

@@ -1,0 +1,225 @@
+// What the printed plan is drawn from: regions, their outlines and the places of their symbols.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <initializer_list>
+#include <map>
+#include <random>
+#include <set>
+#include <string_view>
+#include <tuple>
+
+#include "output/inscribed_boxes.h"
+#include "output/label_placement.h"
+#include "output/outlines.h"
+#include "output/painted_regions.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using testing::ElementsAre;
+
+PixelGrid Pixels(std::initializer_list<std::string_view> rows) {
+    PixelGrid grid(static_cast<int>(rows.begin()->size()) - 1, static_cast<int>(rows.size()) - 1);
+    auto to = grid.All().begin();
+    for (const std::string_view row : rows) {
+        for (const char paint : row) {
+            *to++ = paint - '0';
+        }
+    }
+    return grid;
+}
+
+PixelGrid RandomPixels(int width, int height, unsigned seed, int paints) {
+    std::mt19937 random(seed);
+    PixelGrid grid(width - 1, height - 1);
+    for (int& pixel : grid.All()) {
+        pixel = 1 + static_cast<int>(random() % static_cast<unsigned>(paints));
+    }
+    return grid;
+}
+
+LabelRules Rules(double largest, double step) {
+    LabelRules rules;
+    rules.Aspects.fill(0.75);
+    rules.LargestHeight = largest;
+    rules.LatticeStep = step;
+    return rules;
+}
+
+// One unit of border: the corner it starts from and whether it runs down.
+using Unit = std::tuple<int, int, bool>;
+
+std::multiset<Unit> UnitsOf(const std::vector<PlanLine>& lines) {
+    std::multiset<Unit> units;
+    for (const PlanLine& line : lines) {
+        for (std::size_t i = 1; i < line.size(); ++i) {
+            const bool down = line[i].X == line[i - 1].X;
+            const auto [from, to] =
+                std::minmax(down ? line[i].Y : line[i].X, down ? line[i - 1].Y : line[i - 1].X);
+            for (int at = static_cast<int>(from); at < static_cast<int>(to); ++at) {
+                units.insert(down ? Unit{static_cast<int>(line[i].X), at, true}
+                                  : Unit{at, static_cast<int>(line[i].Y), false});
+            }
+        }
+    }
+    return units;
+}
+
+std::multiset<Unit> PlainUnits(const PixelGrid& ids) {
+    const auto at = [&ids](int x, int y) { return ids.Holds(x, y) ? ids(x, y) : -1; };
+    std::multiset<Unit> units;
+    for (int y = 0; y <= ids.Down() + 1; ++y) {
+        for (int x = 0; x <= ids.Across() + 1; ++x) {
+            if (at(x, y) != at(x - 1, y)) {
+                units.insert({x, y, true});
+            }
+            if (at(x, y) != at(x, y - 1)) {
+                units.insert({x, y, false});
+            }
+        }
+    }
+    return units;
+}
+
+TEST(PaintedRegions, BarePixelsTakeThePaintOfTheirStipple) {
+    WorkState state;
+    state.StippleSize = 4;
+    state.CellsAcross = 2;
+    state.CellsDown = 1;
+    state.Stipples = Grid<StippleCell>(2, 1);
+    state.Stipples(1, 1).ColorIndex = 1;
+    state.Stipples(2, 1).ColorIndex = 2;
+    state.PixelMap = Grid<MapPixel>(8, 4);
+    state.PixelMap(5, 1).ColorIndex = 1;
+    EXPECT_EQ(PaintPerPixel(state, 8, 4), Pixels({"11111222", "11111122", "11111222", "11111222"}));
+    state.PixelMap = Grid<MapPixel>();
+    EXPECT_THROW((void)PaintPerPixel(state, 8, 4), Error);
+}
+
+TEST(PaintedRegions, CrumbsJoinTheNeighbourWithTheLongestEdge) {
+    const PaintedRegions regions = FindRegions(Pixels({"11122",  //
+                                                       "13422",  //
+                                                       "11122"}),
+                                               3);
+    ASSERT_EQ(regions.List.size(), 2U);
+    EXPECT_EQ(regions.Ids, Pixels({"00011", "00011", "00011"}));
+    EXPECT_EQ(regions.List[0].Pixels, 9);
+}
+
+TEST(PaintedRegions, APictureOfNothingButCrumbsStaysAsItIs) {
+    EXPECT_EQ(FindRegions(Pixels({"12", "21"}), 5).List.size(), 4U);
+}
+
+TEST(Outlines, DrawEveryBorderOnceWithoutNeedlessPoints) {
+    EXPECT_THAT(TraceOutlines(Pixels({"11", "11"})),
+                ElementsAre(PlanLine{{0, 0}, {2, 0}, {2, 2}, {0, 2}, {0, 0}}));
+    for (unsigned seed = 0; seed < 20; ++seed) {
+        const PixelGrid ids = RandomPixels(9, 7, seed, 2 + static_cast<int>(seed % 3));
+        const auto lines = TraceOutlines(ids);
+        EXPECT_EQ(UnitsOf(lines), PlainUnits(ids));
+        for (const PlanLine& line : lines) {
+            for (std::size_t i = 2; i < line.size(); ++i) {
+                EXPECT_NE(line[i].X == line[i - 1].X, line[i - 1].X == line[i - 2].X);
+            }
+        }
+    }
+}
+
+TEST(Outlines, PagesTogetherShowEveryBorder) {
+    const PixelGrid ids = RandomPixels(12, 10, 5, 3);
+    const auto lines = TraceOutlines(ids);
+    double length = 0;
+    for (const PlanRect& part : {PlanRect{0, 0, 4.5, 10}, PlanRect{4.5, 0, 12, 10}}) {
+        for (const PlanLine& line : ClipLines(lines, part)) {
+            for (std::size_t i = 1; i < line.size(); ++i) {
+                length += std::abs(line[i].X - line[i - 1].X) + std::abs(line[i].Y - line[i - 1].Y);
+                EXPECT_GE(std::min(line[i].X, line[i - 1].X), part.Left);
+                EXPECT_LE(std::max(line[i].X, line[i - 1].X), part.Right);
+            }
+        }
+    }
+    EXPECT_DOUBLE_EQ(length, static_cast<double>(PlainUnits(ids).size()));
+}
+
+TEST(InscribedBoxes, AreTheRoomiestThereAre) {
+    constexpr double kAspect = 0.75;
+    for (unsigned seed = 0; seed < 20; ++seed) {
+        const PaintedRegions regions = FindRegions(RandomPixels(11, 9, seed, 2), 1);
+        const PixelGrid& ids = regions.Ids;
+        std::map<int, double> plain;
+        for (int top = 0; top <= ids.Down(); ++top) {
+            for (int left = 0; left <= ids.Across(); ++left) {
+                int right = ids.Across() + 1;  // of a box that reaches down to row y
+                for (int y = top; y <= ids.Down() && ids(left, y) == ids(left, top); ++y) {
+                    int end = left;
+                    while (end < right && ids(end, y) == ids(left, top)) {
+                        ++end;
+                    }
+                    right = end;
+                    double& best = plain[ids(left, top)];
+                    best = std::max(best, std::min<double>((right - left) / kAspect, y + 1 - top));
+                }
+            }
+        }
+        const auto boxes = FindRoomiestBoxes(ids, {}, [](int) { return kAspect; });
+        ASSERT_EQ(boxes.size(), regions.List.size());
+        for (const InscribedBox& box : boxes) {
+            EXPECT_DOUBLE_EQ(box.Height, plain[box.Region]);
+        }
+    }
+}
+
+void ExpectInside(const PaintedRegions& regions, const PlanLabel& label, double aspect) {
+    const double halfWidth = label.Height * aspect / 2;
+    const double halfHeight = label.Height / 2;
+    for (int y = static_cast<int>(label.Centre.Y - halfHeight); y < label.Centre.Y + halfHeight;
+         ++y) {
+        for (int x = static_cast<int>(label.Centre.X - halfWidth); x < label.Centre.X + halfWidth;
+             ++x) {
+            ASSERT_EQ(regions.Ids(x, y), label.Region);
+        }
+    }
+}
+
+TEST(Labels, EveryRegionHasOneAndEveryOneLiesInsideItsRegion) {
+    for (unsigned seed = 0; seed < 10; ++seed) {
+        const PaintedRegions regions = FindRegions(RandomPixels(40, 30, seed, 3), 4);
+        LabelRules rules = Rules(6, 10);
+        rules.PageColumns = {13, 27};
+        rules.PageRows = {16};
+        std::set<int> labelled;
+        for (const PlanLabel& label : PlaceLabels(regions, rules)) {
+            labelled.insert(label.Region);
+            EXPECT_GT(label.Height, 0);
+            EXPECT_LE(label.Height, 6);
+            ExpectInside(regions, label, 0.75);
+        }
+        EXPECT_EQ(labelled.size(), regions.List.size());
+    }
+}
+
+TEST(Labels, LargeRegionsRepeatTheirsAndEveryPageShowsOne) {
+    PixelGrid plain(99, 59);
+    std::ranges::fill(plain.All(), 1);
+    const PaintedRegions regions = FindRegions(plain, 1);
+    EXPECT_EQ(PlaceLabels(regions, Rules(5, 0)).size(), 1U);
+    EXPECT_GE(PlaceLabels(regions, Rules(5, 20)).size(), 12U);
+    LabelRules pages = Rules(5, 0);
+    pages.PageColumns = {45};
+    const auto labels = PlaceLabels(regions, pages);
+    ASSERT_EQ(labels.size(), 2U);
+    EXPECT_EQ(labels[0].Centre, (PlanPoint{50, 30}));
+    EXPECT_LT(labels[1].Centre.X, 45);
+}
+
+TEST(Labels, KnowHowLargeASymbolFitsIntoALoneStipple) {
+    EXPECT_NEAR(SymbolHeightInStipple(4, 0.75), 0.86 * 2 / 0.75, 1e-9);
+    EXPECT_NEAR(SymbolHeightInStipple(6, 0.75), 0.86 * 4 / 0.75, 1e-9);
+    EXPECT_NEAR(SymbolHeightInStipple(8, 0.75), 0.86 * 6, 1e-9);
+}
+
+}  // namespace
+}  // namespace vendrel
