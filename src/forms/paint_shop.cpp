@@ -1,0 +1,241 @@
+#include "forms/paint_shop.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+#include "convert/photo_import.h"
+#include "paints/paint_list.h"
+#include "paints/paint_sets.h"
+#include "paints/template_file.h"
+#include "shell/busy_pointer.h"
+#include "shell/menu.h"
+
+namespace vendrel {
+namespace {
+
+constexpr std::string_view kNoneSelected = "None Selected";
+constexpr std::string_view kNoTemplates = "No Templates";
+
+bool Holds(const std::vector<std::string>& list, int index) {
+    return index >= 0 && static_cast<std::size_t>(index) < list.size();
+}
+
+int IndexOf(const std::vector<std::string>& list, const std::string& entry) {
+    const auto found = std::find(list.begin(), list.end(), entry);
+    return found == list.end() ? -1 : static_cast<int>(found - list.begin());
+}
+
+void Select(WorkState& state, const std::string& name, bool selected) {
+    for (PaintSet& set : state.PaintSets) {
+        if (&set != &state.PaintSets.front() && set.Name == name) {
+            set.Selected = selected;
+        }
+    }
+}
+
+}  // namespace
+
+void PaintShop::Form_Load() {
+    WorkState& state = place_.State;
+    busy_ = true;
+    controls_ = {};
+    controls_.DecoFrameShown = true;
+    state.PaintShopLoaded = true;
+    state.MfgSelected = !state.TemplateMode;
+    FillSelectedPaintsList(state);
+    for (const PaintSet& set : state.PaintSets) {
+        if (!set.Name.empty()) {
+            controls_.MfgList.push_back(set.Name);
+        }
+    }
+    LoadTemplates();
+    ShowSelected();
+    controls_.DecoFrameShown = false;
+    busy_ = false;
+    ShowPalette();
+}
+
+// A template that cannot be read leaves an empty palette on show and the button off.
+void PaintShop::ShowPalette() {
+    place_.State.PaintCount = 0;
+    ShowMode();
+    UpdatePaintColors();
+    TransferPaint();
+    ShowMode();
+    UpdatePaintColors();
+}
+
+void PaintShop::ShowSelected() {
+    controls_.SelectedPaintsList = place_.State.SelectedPaintsList;
+    controls_.SelectedIndex = -1;
+    if (controls_.SelectedPaintsList.empty()) {
+        controls_.SelectedPaintsList.emplace_back(kNoneSelected);
+    }
+}
+
+void PaintShop::ShowMode() {
+    const bool sets = place_.State.MfgSelected;
+    controls_.ListsEnabled = sets;
+    controls_.TemplateListEnabled = !sets;
+    controls_.TransferEnabled = sets && (controls_.MfgIndex >= 0 || controls_.SelectedIndex >= 0);
+    controls_.AllDoneEnabled = sets || place_.State.PaintCount > 0;
+}
+
+void PaintShop::MfgList_Click(int set) {
+    if (Holds(controls_.MfgList, set)) {
+        controls_.MfgIndex = set;
+        controls_.SelectedIndex = -1;
+        controls_.TransferCaption = ">>";
+        ShowMode();
+    }
+}
+
+void PaintShop::SelectedPaintsList_Click(int set) {
+    if (Holds(controls_.SelectedPaintsList, set) && !place_.State.SelectedPaintsList.empty()) {
+        controls_.SelectedIndex = set;
+        controls_.MfgIndex = -1;
+        controls_.TransferCaption = "<<";
+        ShowMode();
+    }
+}
+
+// False when nothing may change.
+bool PaintShop::ChangeSelection() {
+    WorkState& state = place_.State;
+    if (controls_.TransferCaption == ">>") {
+        const std::string& name = controls_.MfgList[static_cast<std::size_t>(controls_.MfgIndex)];
+        if (IndexOf(state.SelectedPaintsList, name) < 0) {
+            Select(state, name, true);
+        }
+        return true;
+    }
+    if (state.SelectedPaintsList.size() == 1) {
+        place_.Screen.ShowMessage("Unable to Remove", "Cannot Remove Last Paint Set");
+        return false;
+    }
+    Select(state, state.SelectedPaintsList[static_cast<std::size_t>(controls_.SelectedIndex)],
+           false);
+    return true;
+}
+
+void PaintShop::Transfer_Click() {
+    if (!controls_.TransferEnabled) {
+        return;
+    }
+    controls_.DecoFrameShown = false;
+    const BusyPointer busy(place_.Screen);
+    if (ChangeSelection()) {
+        FillSelectedPaintsList(place_.State);
+        SavePaintList(place_);
+        ShowSelected();
+        ShowPalette();
+    }
+}
+
+void PaintShop::MfgSelected_Click() {
+    WorkState& state = place_.State;
+    if (busy_ || state.MfgSelected) {
+        return;
+    }
+    state.MfgSelected = true;
+    state.TemplateMode = false;
+    state.TemplateLoaded = false;
+    // The template may have asked for fewer paints than the menu says.
+    state.FinalColors = WantedFinalColors(place_.MainMenu);
+    ShowPalette();
+}
+
+void PaintShop::UseTemplate_Click() {
+    WorkState& state = place_.State;
+    if (busy_ || !state.MfgSelected) {
+        return;
+    }
+    state.MfgSelected = false;
+    state.TemplateMode = true;
+    ShowPalette();
+}
+
+void PaintShop::TemplateList_Click(int entry) {
+    if (!UsesTemplate() || !Holds(controls_.TemplateList, entry) ||
+        controls_.TemplateList[static_cast<std::size_t>(entry)] == kNoTemplates) {
+        return;
+    }
+    controls_.TemplateIndex = entry;
+    place_.State.SelectedTemplate = controls_.TemplateList[static_cast<std::size_t>(entry)];
+    ShowPalette();
+}
+
+void PaintShop::TransferPaint() {
+    if (place_.State.MfgSelected) {
+        LoadColors(place_);
+        return;
+    }
+    place_.State.PaintCount = 0;
+    if (controls_.TemplateIndex >= 0) {
+        place_.State.SelectedTemplate =
+            controls_.TemplateList[static_cast<std::size_t>(controls_.TemplateIndex)];
+        static_cast<void>(LoadTemplateColors(place_, place_.State.SelectedTemplate));
+    }
+}
+
+void PaintShop::LoadTemplates() {
+    const WorkState& state = place_.State;
+    controls_.TemplateList = ListTemplates(place_);
+    const std::string& wanted = state.TemplateMode ? state.SelectedTemplate : state.LastTemplate;
+    controls_.TemplateIndex = wanted.empty() ? -1 : IndexOf(controls_.TemplateList, wanted);
+    if (controls_.TemplateList.empty()) {
+        controls_.TemplateList.emplace_back(kNoTemplates);
+    }
+}
+
+void PaintShop::PaintPalette_Resize(int width, int height) {
+    boxWidth_ = width;
+    boxHeight_ = height;
+    UpdatePaintColors();
+}
+
+void PaintShop::UpdatePaintColors() {
+    WorkState& state = place_.State;
+    controls_.PaletteCaption =
+        (UsesTemplate() ? "Vendrel Template Paints [" : "Vendrel Selected Paints [") +
+        std::to_string(state.PaintCount) + "]";
+    if (UsesTemplate() && state.PaintCount == 0) {
+        return;
+    }
+    controls_.Swatches =
+        LayOutSwatches(boxWidth_, boxHeight_, state.PaintCount, place_.Screen.Screen().Twips.X);
+    state.SwatchSize = controls_.Swatches.Size;
+}
+
+void PaintShop::AllDone_Click() {
+    WorkState& state = place_.State;
+    if (UsesTemplate()) {
+        if (!LoadTemplateColors(place_, state.SelectedTemplate)) {
+            controls_.AllDoneEnabled = false;
+            return;
+        }
+        state.TemplateLoaded = true;
+    }
+    if (state.PictureLoaded) {
+        RefreshPhotoImage(place_);
+    }
+    SetupMenuItems(place_.MainMenu, 2);
+    place_.Screen.CloseForm(FormId::PaintShop);
+}
+
+void PaintShop::QueryUnload() {
+    if (!controls_.AllDoneEnabled) {
+        MfgSelected_Click();
+    }
+    AllDone_Click();
+}
+
+const PaintColor* PaintShop::PaintAt(int swatch) const {
+    const WorkState& state = place_.State;
+    return swatch >= 0 && swatch < state.PaintCount
+               ? &state.PaintColors[static_cast<std::size_t>(swatch) + 1]
+               : nullptr;
+}
+
+}  // namespace vendrel

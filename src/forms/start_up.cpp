@@ -1,0 +1,83 @@
+#include "forms/start_up.h"
+
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+#include "convert/settings.h"
+#include "output/symbol_set.h"
+#include "paints/catalogue.h"
+#include "paints/paint_list.h"
+#include "support/error.h"
+#include "support/text_file.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// True when the folder had to be created.
+bool CreateFolder(const Workplace& place, std::string_view name) {
+    const fs::path folder = place.Folder.Path(name);
+    if (fs::exists(folder)) {
+        return false;
+    }
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    if (failure) {
+        throw FileError(folder, "cannot be created (" + failure.message() +
+                                    "). Start the program in a folder you may write to.");
+    }
+    return true;
+}
+
+// Without it the first set of the catalogue alone would be chosen, which suits few portraits.
+void CopyShippedPaintList(const Workplace& place) {
+    const fs::path shipped = place.Folder.DataFile("Data/paintlist.txt");
+    if (fs::exists(shipped)) {
+        WriteWholeFile(place.Folder.Path("Data/paintlist.txt"), ReadTextFile(shipped));
+    }
+}
+
+}  // namespace
+
+void PrepareSettings(Workplace& place) {
+    WorkState& state = place.State;
+    Menu& menu = place.MainMenu;
+    state.SymbolCodes.fill(0);
+    state.TemplateMode = false;
+    state.PaintingDone = false;
+    menu[MenuId::AveragePixel].Checked = true;
+    menu[MenuId::SamplePixel].Checked = false;
+    SetupBMPSymbols(place);
+    state.EdgeColor = Rgb(0, 255, 0);
+    state.BorderColor = Rgb(0, 0, 0);
+    state.SymbolColor = Rgb(125, 125, 125);
+    state.CleanLevel = 8;
+    SetupMenuItems(menu, 1);
+    menu[MenuId::NextBestColors].Enabled = false;
+    menu[MenuId::EasySet].Checked = true;
+    menu[MenuId::PaintItNow].Enabled = false;
+    menu[MenuId::ColorPickerSelect].Enabled = false;
+    menu[MenuId::PrintAll].Enabled = false;
+    SetStippleSize(place, 8);
+    state.FinalColors = 50;
+    SetColorChecks(menu, state.FinalColors);
+}
+
+bool PrepareFolders(Workplace& place) {
+    if (CreateFolder(place, "Data")) {
+        CopyShippedPaintList(place);
+    }
+    CreateFolder(place, "Results");
+    return CreateFolder(place, "Pictures");
+}
+
+void PreparePaints(Workplace& place) {
+    LoadMasterColors(place);
+    BuildPaintSets(place);
+    LoadPaintList(place);
+}
+
+}  // namespace vendrel
