@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "touchup/edit_pen.h"
+
+namespace vendrel {
+
+/// One step that can be taken back: the stipples it repainted, or, for a load, the copies as they
+/// were on the step's other side.
+struct EditStep {
+    std::string Name;
+    std::variant<std::vector<CellChange>, SheetContents> What;
+    int Id = 0;  // given by the history; no two steps of a session share one
+};
+
+/// The steps done and undone, without a limit.
+class EditHistory {
+  public:
+    /// Appends a step that is done already. What could be redone until now is gone.
+    void Push(EditStep step);
+
+    [[nodiscard]] bool CanUndo() const { return done_ > 0; }
+    [[nodiscard]] bool CanRedo() const { return done_ < steps_.size(); }
+    /// Names of the steps that Undo and Redo would take; empty when there is none.
+    [[nodiscard]] std::string UndoName() const;
+    [[nodiscard]] std::string RedoName() const;
+    /// Both do nothing when there is no such step; they answer what changed on the sheet.
+    CellRect Undo(EditSheet& sheet);
+    CellRect Redo(EditSheet& sheet);
+
+    /// Tells states of the sheet apart: the last step done, 0 before the first.
+    [[nodiscard]] int StateId() const { return done_ == 0 ? 0 : steps_[done_ - 1].Id; }
+
+  private:
+    std::vector<EditStep> steps_;
+    std::size_t done_ = 0;
+    int lastId_ = 0;
+};
+
+}  // namespace vendrel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "touchup/edit_sheet.h"
+
+namespace vendrel {
+
+/// Repaints stipples of the sheet at once and remembers which, so that the edit can be taken back.
+/// Touching a stipple that has the paint already, or lies outside, does nothing.
+class EditPen {
+  public:
+    explicit EditPen(EditSheet& sheet) : sheet_(&sheet) {}
+
+    void Paint(CellPos pos, int paint);
+
+    [[nodiscard]] EditSheet& Sheet() const { return *sheet_; }
+    [[nodiscard]] bool Drew() const { return !changes_.empty(); }
+    [[nodiscard]] std::vector<CellChange> TakeChanges() { return std::exchange(changes_, {}); }
+    /// What changed since the last call.
+    [[nodiscard]] CellRect TakeDirty() { return std::exchange(dirty_, {}); }
+
+  private:
+    EditSheet* sheet_;
+    std::vector<CellChange> changes_;
+    CellRect dirty_;
+};
+
+/// Repaints the cells as the changes say, or in reverse order back to what they were; answers the
+/// rectangle touched.
+CellRect DoChanges(EditSheet& sheet, const std::vector<CellChange>& changes);
+CellRect UndoChanges(EditSheet& sheet, const std::vector<CellChange>& changes);
+
+}  // namespace vendrel

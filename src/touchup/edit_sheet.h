@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "shell/work_state.h"
+#include "touchup/cell_rect.h"
+
+namespace vendrel {
+
+/// One stipple that an edit repainted. Small, since an evening's undo keeps many thousands.
+struct CellChange {
+    std::int16_t X = 0;
+    std::int16_t Y = 0;
+    std::int16_t From = 0;
+    std::int16_t To = 0;
+
+    bool operator==(const CellChange&) const = default;
+};
+
+/// Everything of the working copies that a load replaces.
+struct SheetContents {
+    std::vector<PaintColor> FoundColors;
+    int FoundCount = 0;
+    Grid<StippleCell> EditStipples;
+    int CellsAcross = 0;
+    int CellsDown = 0;
+    int FinalColors = 0;
+};
+
+/// The editor's working copies in the work state: EditStipples and its palette FoundColors, whose
+/// CellCounts are kept true while stipples are repainted. A file that does not fit can leave sizes
+/// beyond what the copies hold; the sheet then answers with what is really there.
+class EditSheet {
+  public:
+    explicit EditSheet(WorkState& state) : state_(state) {}
+
+    [[nodiscard]] int Across() const;
+    [[nodiscard]] int Down() const;
+    [[nodiscard]] int PaintCount() const;
+    [[nodiscard]] bool Holds(CellPos pos) const {
+        return pos.X >= 1 && pos.Y >= 1 && pos.X <= Across() && pos.Y <= Down();
+    }
+    [[nodiscard]] bool HoldsPaint(int paint) const { return paint >= 1 && paint <= PaintCount(); }
+    /// The whole sheet, for edits that may touch anything.
+    [[nodiscard]] CellRect Bounds() const { return {1, 1, Across(), Down()}; }
+
+    /// The paint of a stipple; 0 outside the sheet.
+    [[nodiscard]] int PaintAt(CellPos pos) const {
+        return Holds(pos) ? state_.EditStipples(pos.X, pos.Y).ColorIndex : 0;
+    }
+    /// Repaints a stipple of the sheet and moves its count from the old paint to the new one.
+    void SetPaint(CellPos pos, int paint);
+
+    [[nodiscard]] const Grid<StippleCell>& Cells() const { return state_.EditStipples; }
+    [[nodiscard]] const std::vector<PaintColor>& Paints() const { return state_.FoundColors; }
+
+    /// Counts every paint afresh, for when the copies were replaced.
+    void Recount();
+    [[nodiscard]] SheetContents Copy() const;
+    /// Swaps the copies with `other`.
+    void Exchange(SheetContents& other);
+
+    /// An empty text when the copies make a grid and palette that can be kept: nothing outside the
+    /// copies, every stipple with a paint of the palette. Else what is wrong, as a clause.
+    [[nodiscard]] std::string Flaw() const;
+
+  private:
+    void AddCount(int paint, int step);
+
+    WorkState& state_;
+};
+
+}  // namespace vendrel
