@@ -1,0 +1,283 @@
+#include "touchup/touch_up.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "storage/stipple_file.h"
+#include "support/error.h"
+#include "support/text_file.h"
+#include "touchup/clean_up.h"
+#include "touchup/sheet_file.h"
+
+namespace vendrel {
+namespace {
+
+// However a load ends, the counts on screen are those of the stipples.
+class RecountAtEnd {
+  public:
+    explicit RecountAtEnd(EditSheet& sheet) : sheet_(sheet) {}
+    ~RecountAtEnd() { sheet_.Recount(); }
+    RecountAtEnd(const RecountAtEnd&) = delete;
+    RecountAtEnd& operator=(const RecountAtEnd&) = delete;
+
+  private:
+    EditSheet& sheet_;
+};
+
+void RefuseFlaw(const EditSheet& sheet, const char* refusal) {
+    const std::string flaw = sheet.Flaw();
+    if (!flaw.empty()) {
+        throw Error(refusal + (" because a load broke off: " + flaw) +
+                    ". Take the load back with Undo first.");
+    }
+}
+
+std::string SizeText(int across, int down) {
+    return std::to_string(across) + " x " + std::to_string(down) + " stipples";
+}
+
+}  // namespace
+
+TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
+    WorkState& state = place_.State;
+    if (state.CellsAcross < 1 || state.CellsDown < 1 || state.Stipples.Across() < 1) {
+        throw Error("There are no stipples to touch up. Change the photo to stipples first.");
+    }
+    opening_ = {state.FoundColors, state.FoundCount, {},
+                state.CellsAcross, state.CellsDown,  state.FinalColors};
+    unsavedAtOpening_ = state.HasUnsavedWork;
+    // The file of work that was only accepted is still in use, not left over.
+    recoveryOffered_ = !state.HasUnsavedWork && RecoveryExists(place_);
+    state.FoundColors = state.PaintColors;
+    state.FoundColors.resize(static_cast<std::size_t>(state.PaintCount) + 1);
+    state.FoundCount = state.PaintCount;
+    state.EditStipples = state.Stipples;
+    sheet_.Recount();
+}
+
+CellRect TouchUp::BeginStroke(CellPos at, EditBrush brush) {
+    EndStroke();
+    brush_ = brush;
+    strokeAt_ = at;
+    drawing_ = true;
+    return StrokeTo(at);
+}
+
+CellRect TouchUp::StrokeTo(CellPos at) {
+    if (!drawing_) {
+        return {};
+    }
+    DrawStroke(pen_, strokeAt_, at, brush_);
+    strokeAt_ = at;
+    const CellRect dirty = pen_.TakeDirty();
+    if (!dirty.Empty()) {
+        timer_.NoteChange();
+    }
+    return dirty;
+}
+
+void TouchUp::EndStroke() {
+    drawing_ = false;
+    PushStroke(kBrushName);
+}
+
+void TouchUp::PushStroke(std::string name) {
+    if (pen_.Drew()) {
+        history_.Push({std::move(name), pen_.TakeChanges()});
+        timer_.NoteChange();
+    }
+}
+
+CellRect TouchUp::Fill(CellPos at, int paint) {
+    EndStroke();
+    FillArea(pen_, at, paint);
+    PushStroke("Fill");
+    return pen_.TakeDirty();
+}
+
+CellRect TouchUp::Replace(int from, int to) {
+    EndStroke();
+    ReplacePaint(pen_, from, to);
+    PushStroke("Replace Paint");
+    return pen_.TakeDirty();
+}
+
+void TouchUp::RaiseCleanLevel() {
+    int& level = place_.State.CleanLevel;
+    level = std::clamp(level + 1, kLowestCleanLevel, kHighestCleanLevel);
+}
+
+void TouchUp::LowerCleanLevel() {
+    int& level = place_.State.CleanLevel;
+    level = std::clamp(level - 1, kLowestCleanLevel, kHighestCleanLevel);
+}
+
+CleanUpPreview TouchUp::PreviewCleanUp() const {
+    const std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State.CleanLevel);
+    return {static_cast<int>(changes.size()), CountAreasAfter(sheet_, changes)};
+}
+
+CellRect TouchUp::CleanUp() {
+    EndStroke();
+    for (const CellChange& change : PlanCleanUp(sheet_, place_.State.CleanLevel)) {
+        pen_.Paint({change.X, change.Y}, change.To);
+    }
+    PushStroke("Clean Up");
+    return pen_.TakeDirty();
+}
+
+CellRect TouchUp::Undo() {
+    EndStroke();
+    return AfterStep(history_.Undo(sheet_));
+}
+
+CellRect TouchUp::Redo() {
+    EndStroke();
+    return AfterStep(history_.Redo(sheet_));
+}
+
+CellRect TouchUp::AfterStep(CellRect dirty) {
+    if (!dirty.Empty()) {
+        timer_.NoteChange();
+        SetColorChecks(place_.MainMenu, place_.State.FinalColors);
+    }
+    return dirty;
+}
+
+void TouchUp::SaveIt_Click() {
+    EndStroke();
+    RefuseFlaw(sheet_, "The stipples cannot be saved");
+    WriteSheet(StippleFilePath(place_), place_.State);
+    place_.MainMenu[MenuId::LoadStipples].Enabled = true;
+    savedId_ = history_.StateId();
+    place_.State.HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
+    timer_.NoteKept();
+    recoveryOffered_ = false;
+    RemoveRecovery(place_);
+}
+
+bool TouchUp::CanLoad() const {
+    return StippleFileExists(place_);
+}
+
+CellRect TouchUp::LoadIt_Click() {
+    EndStroke();
+    const std::filesystem::path path = StippleFilePath(place_);
+    const std::string text = ReadTextFile(path);
+    StippleFileReader reader(text, path);
+    const CellRect before = sheet_.Bounds();
+    PushLoad("Load");
+    {
+        const RecountAtEnd recount(sheet_);
+        ReadIntoSheet(reader, path, place_.State);
+    }
+    savedId_ = history_.StateId();
+    SetColorChecks(place_.MainMenu, place_.State.FinalColors);
+    return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
+}
+
+void TouchUp::PushLoad(std::string name) {
+    // What a broken file leaves cannot be kept, so the work until here is kept first.
+    if (timer_.Pending()) {
+        WriteRecovery();
+    }
+    history_.Push({std::move(name), sheet_.Copy()});
+    timer_.NoteChange();
+}
+
+bool TouchUp::HasChanges() const {
+    return pen_.Drew() || (history_.StateId() != 0 && !IsSaved());
+}
+
+AcceptReport TouchUp::Accept() {
+    EndStroke();
+    WorkState& state = place_.State;
+    RefuseFlaw(sheet_, "The stipples cannot be accepted");
+    const Grid<StippleCell>& photo = state.Stipples;
+    if (sheet_.Across() != photo.Across() || sheet_.Down() != photo.Down()) {
+        throw Error("The loaded grid has " + SizeText(sheet_.Across(), sheet_.Down()) +
+                    ", but the photo has " + SizeText(photo.Across(), photo.Down()) +
+                    ". Take the load back with Undo first.");
+    }
+    state.HasUnsavedWork = !IsSaved() && (unsavedAtOpening_ || history_.StateId() != 0);
+    return TakeOverCopies(state);
+}
+
+void TouchUp::Cancel() {
+    WorkState& state = place_.State;
+    state.CellsAcross = opening_.CellsAcross;
+    state.CellsDown = opening_.CellsDown;
+    state.FinalColors = opening_.FinalColors;
+    state.FoundColors = opening_.FoundColors;
+    state.FoundCount = opening_.FoundCount;
+    state.EditStipples = {};
+    state.HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
+    SetColorChecks(place_.MainMenu, state.FinalColors);
+}
+
+CellRect TouchUp::TakeRecovery() {
+    EndStroke();
+    WorkState& state = place_.State;
+    const std::filesystem::path path = RecoveryPath(place_);
+    const std::string text = ReadTextFile(path);
+    StippleFileReader reader(text, path);
+    const StippleHeader header = reader.Header();
+    if (header.Across != state.CellsAcross || header.Down != state.CellsDown) {
+        throw FormatError(path, 1,
+                          "the work was done on " + SizeText(header.Across, header.Down) +
+                              ", but the photo has " +
+                              SizeText(state.CellsAcross, state.CellsDown) +
+                              ". Choose the photo again on the screen it was made on, or give the "
+                              "work up.");
+    }
+    SheetContents found{
+        reader.ReadPalette(), header.PaintCount, Grid<StippleCell>(header.Across, header.Down),
+        header.Across,        header.Down,       header.FinalColors};
+    for (int y = 1; y <= header.Down; ++y) {
+        reader.ReadRow(found.EditStipples, y, header.Across);
+    }
+    PushLoad("Recover");
+    sheet_.Exchange(found);
+    sheet_.Recount();
+    recoveryOffered_ = false;
+    SetColorChecks(place_.MainMenu, state.FinalColors);
+    return sheet_.Bounds();
+}
+
+void TouchUp::DiscardRecovery() {
+    recoveryOffered_ = false;
+    RemoveRecovery(place_);
+}
+
+void TouchUp::KeepRecovery(EditTime now) {
+    if (timer_.Tick(now)) {
+        WriteRecovery();
+    }
+}
+
+void TouchUp::WriteRecovery() {
+    if (!sheet_.Flaw().empty()) {
+        return;
+    }
+    MakeRoomForRecovery();
+    WriteSheet(RecoveryPath(place_), place_.State);
+    timer_.NoteKept();
+}
+
+void TouchUp::MakeRoomForRecovery() {
+    if (recoveryOffered_) {
+        SetRecoveryAside(place_);
+        recoveryOffered_ = false;
+    }
+}
+
+void TouchUp::SettleRecovery() {
+    if (place_.State.HasUnsavedWork) {
+        MakeRoomForRecovery();
+        WriteRecoveryOfGrid(place_);
+    } else if (!recoveryOffered_) {
+        RemoveRecovery(place_);
+    }
+}
+
+}  // namespace vendrel

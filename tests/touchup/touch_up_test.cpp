@@ -1,0 +1,322 @@
+#include "touchup/touch_up.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <random>
+
+#include "sheets.h"
+#include "support/error.h"
+
+namespace vendrel::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+constexpr const char* kSaved = "Saved Stipples/Lady-Easy.stp";
+constexpr const char* kRecovery = "Saved Stipples/Lady-Easy.recovery.stp";
+const std::string kRed = "1,2,3,\"Red\",1,\"Set\",\"R\"\r\n";
+
+EditTime At(int second) {
+    return EditTime{} + std::chrono::seconds(second);
+}
+
+// An edit of any kind, as a hand on the mouse would make it.
+void EditAtRandom(TouchUp& editor, WorkState& state, std::mt19937& random) {
+    const auto upTo = [&](unsigned n) { return static_cast<int>(random() % n); };
+    const CellPos from{upTo(16), upTo(13)};
+    const int paint = 1 + upTo(6);
+    state.CleanLevel = 2 + upTo(7);
+    switch (upTo(7)) {
+        case 0:
+            editor.Fill(from, paint);
+            break;
+        case 1:
+            editor.Replace(paint, 1 + upTo(6));
+            break;
+        case 2:
+            editor.CleanUp();
+            break;
+        case 3:
+            editor.Undo();
+            break;
+        case 4:
+            editor.Redo();
+            break;
+        default:
+            editor.BeginStroke(from, {static_cast<BrushSize>(1 + upTo(3)), paint});
+            editor.StrokeTo({upTo(16), upTo(13)});
+            break;
+    }
+}
+
+TEST(History, UndoneToTheBottomGivesTheFirstGridBackAndRedoneTheLast) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        KitBench bench(Rows(12, "123456123456123"), 6);
+        TouchUp editor(bench.Place);
+        for (int i = 0; i < 60; ++i) {
+            EditAtRandom(editor, bench.State, random);
+            ASSERT_TRUE(bench.CountsAreTrue());
+        }
+        while (editor.CanRedo()) {
+            editor.Redo();
+        }
+        const Grid<StippleCell> last = bench.State.EditStipples;
+        while (editor.CanUndo()) {
+            editor.Undo();
+        }
+        EXPECT_EQ(bench.State.EditStipples, bench.State.Stipples);
+        EXPECT_FALSE(editor.HasChanges());
+        while (editor.CanRedo()) {
+            editor.Redo();
+        }
+        EXPECT_EQ(bench.State.EditStipples, last);
+    }
+}
+
+TEST(History, NamesItsStepsAndForgetsTheUndoneOnesWithANewEdit) {
+    KitBench bench({"11", "22"});
+    TouchUp editor(bench.Place);
+    editor.BeginStroke({1, 1}, {BrushSize::One, 3});
+    EXPECT_EQ(editor.UndoName(), "Brush") << "already while the button is down";
+    editor.Fill({1, 2}, 4);
+    editor.Undo();
+    EXPECT_EQ(editor.UndoName(), "Brush");
+    EXPECT_EQ(editor.RedoName(), "Fill");
+    editor.Replace(3, 5);
+    EXPECT_FALSE(editor.CanRedo());
+    EXPECT_EQ(bench.Edited(), (Rows{"51", "22"}));
+}
+
+TEST(Accepting, DropsUnusedPaintsAndTellsWhichSymbolsMoved) {
+    KitBench bench({"123", "123"}, 4);
+    bench.State.CellMarks(1, 1).Visited = true;
+    TouchUp editor(bench.Place);
+    editor.Replace(2, 4);
+    const AcceptReport report = editor.Accept();
+    EXPECT_THAT(report.Dropped, ElementsAre("Paint 2"));
+    EXPECT_THAT(report.Moves,
+                ElementsAre(SymbolMove{"Paint 3", 3, 2}, SymbolMove{"Paint 4", 4, 3}));
+    const WorkState& state = bench.State;
+    EXPECT_EQ(KitBench::Shown(state.Stipples), (Rows{"132", "132"}));
+    EXPECT_EQ(state.PaintCount, 3);
+    EXPECT_EQ(state.PaintColors[3].PaintName, "Paint 4");
+    EXPECT_EQ(state.PaintColors[3].CellCount, 2);
+    EXPECT_EQ(state.Stipples(1, 1).AreaNumber, 0);
+    EXPECT_EQ(state.CellMarks, Grid<CellMark>(3, 2));
+    EXPECT_TRUE(state.HasUnsavedWork);
+}
+
+TEST(Cancelling, PutsTheKitBackAsItWas) {
+    KitBench bench({"123", "123"});
+    bench.Files.Write(kSaved, "1,2,1,16\r\n" + kRed + "0,1,5,5\r\n0,1,13,5\r\n");
+    TouchUp editor(bench.Place);
+    EXPECT_EQ(editor.LoadIt_Click(), (CellRect{1, 1, 3, 2}));
+    EXPECT_EQ(bench.State.CellsAcross, 2) << "the file's own size";
+    EXPECT_TRUE(bench.MainMenu[MenuId::Set16Colors].Checked);
+    EXPECT_THAT([&] { editor.Accept(); }, ThrowsMessage<Error>(HasSubstr("3 x 2 stipples")));
+    editor.Cancel();
+    EXPECT_TRUE(bench.MainMenu[MenuId::Set50Colors].Checked);
+    EXPECT_EQ(bench.State.FinalColors, 50);
+    EXPECT_EQ(bench.State.CellsAcross, 3);
+    EXPECT_EQ(bench.State.CellsDown, 2);
+    EXPECT_EQ(KitBench::Shown(bench.State.Stipples), (Rows{"123", "123"}));
+    EXPECT_FALSE(bench.State.HasUnsavedWork);
+}
+
+TEST(SavingAndLoading, BringsGridAndPaintsBackAsOneStep) {
+    KitBench bench({"123", "123"}, 3);
+    TouchUp editor(bench.Place);
+    EXPECT_FALSE(editor.CanLoad());
+    editor.Fill({1, 1}, 2);
+    EXPECT_TRUE(editor.HasChanges());
+    editor.SaveIt_Click();
+    EXPECT_FALSE(editor.HasChanges());
+    EXPECT_TRUE(editor.CanLoad());
+    EXPECT_TRUE(bench.MainMenu[MenuId::LoadStipples].Enabled);
+    const std::vector<PaintColor> saved = bench.State.FoundColors;
+    editor.Replace(2, 3);
+    editor.LoadIt_Click();
+    EXPECT_EQ(bench.Edited(), (Rows{"223", "223"}));
+    EXPECT_EQ(bench.State.FoundColors, saved);
+    EXPECT_FALSE(editor.HasChanges());
+    editor.Undo();
+    EXPECT_EQ(bench.Edited(), (Rows{"333", "333"}));
+    EXPECT_TRUE(editor.HasChanges());
+    EXPECT_TRUE(bench.CountsAreTrue());
+}
+
+TEST(BrokenLoad, LeavesWhatWasReadUntilItIsTakenBack) {
+    struct Case {
+        std::string File;
+        const char* Message;
+        Rows Left;            // the grid after the break
+        bool Usable = false;  // every stipple has a paint all the same
+    };
+    const std::string paints = kRed + kRed;
+    const Case cases[] = {
+        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n", "line", {"11", "22"}, true},
+        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,x,5,5\r\n", "line 5", {"12", "22"}, true},
+        {"3,2,2,16\r\n" + paints + kRed, "3 paints", {"22", "22"}},
+        {"2,3,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n0,1,5,5\r\n", "3 columns", {"11", "22"}},
+        {"2,1,3,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n0,1,5,5\r\n", "3 rows", {"12", "12"}},
+        {"1,2,2,16\r\n" + kRed + "0,1,5,5\r\n0,2,5,5\r\n", "line 4", {"12", "22"}},
+    };
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.Message);
+        KitBench bench({"12", "12"}, 2);
+        TouchUp editor(bench.Place);
+        editor.Fill({1, 1}, 2);
+        const SheetContents before = editor.Sheet().Copy();
+        bench.Files.Write(kSaved, test.File);
+        EXPECT_THAT([&] { editor.LoadIt_Click(); },
+                    ThrowsMessage<FormatError>(HasSubstr(test.Message)));
+        EXPECT_EQ(bench.Edited(), test.Left);
+        EXPECT_EQ(bench.State.FoundColors[1].PaintName, "Red");
+        if (!test.Usable) {
+            EXPECT_THAT([&] { editor.Accept(); }, ThrowsMessage<Error>(HasSubstr("Undo")));
+            EXPECT_THROW(editor.SaveIt_Click(), Error);
+        }
+        // Edits and ticks on what is left go nowhere they should not.
+        editor.Fill({2, 2}, 1);
+        editor.CleanUp();
+        editor.KeepRecovery(At(100));
+        while (editor.CanUndo()) {
+            editor.Undo();
+        }
+        editor.Redo();
+        EXPECT_EQ(bench.State.FoundColors, before.FoundColors);
+        EXPECT_EQ(bench.State.EditStipples, before.EditStipples);
+        EXPECT_EQ(bench.State.FoundCount, 2);
+        EXPECT_EQ(bench.State.FinalColors, 50);
+        EXPECT_EQ(editor.Accept().Dropped.size(), 1U);
+    }
+}
+
+// The system kills a program that writes beyond the limit, in mid-write.
+void SaveWithLimit(TouchUp& editor, rlim_t bytes) {
+    const rlimit limit{bytes, bytes};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    editor.SaveIt_Click();
+}
+
+TEST(SavingDeathTest, KilledInTheMiddleLeavesTheOldFile) {
+    KitBench bench(Rows(40, "123456123456123"), 6);
+    TouchUp editor(bench.Place);
+    editor.SaveIt_Click();
+    const std::string old = bench.Files.Read(kSaved);
+    editor.Replace(1, 2);
+    for (const rlim_t size : {rlim_t{0}, rlim_t{4096}, rlim_t{old.size() - 1000}}) {
+        EXPECT_EXIT(SaveWithLimit(editor, size), testing::KilledBySignal(SIGXFSZ), "");
+        EXPECT_EQ(bench.Files.Read(kSaved), old);
+    }
+    editor.SaveIt_Click();
+    EXPECT_NE(bench.Files.Read(kSaved), old);
+}
+
+TEST(Recovery, FollowsTheChangesWithinTenSecondsAndGoesWithTheSave) {
+    KitBench bench({"12", "12"}, 2);
+    TouchUp editor(bench.Place);
+    int kept = 0;
+    std::string before;
+    for (int second = 1; second <= 40; ++second) {
+        editor.Fill({1, 1}, 1 + second % 2);
+        editor.KeepRecovery(At(second));
+        if (const std::string now = bench.Files.Read(kRecovery); now != before) {
+            EXPECT_LE(second - kept, 9);
+            kept = second;
+            before = now;
+        }
+    }
+    EXPECT_GE(kept, 31);
+    EXPECT_FALSE(editor.CanLoad()) << "it never shows as the saved grid";
+    editor.SaveIt_Click();
+    editor.KeepRecovery(At(90));
+    EXPECT_FALSE(RecoveryExists(bench.Place)) << "nothing has changed since the save";
+}
+
+TEST(Recovery, IsOfferedAfterACrashAndTakenAsOneStep) {
+    KitBench bench({"123", "123"}, 3);
+    {
+        TouchUp crashed(bench.Place);
+        crashed.Replace(2, 3);
+        crashed.KeepRecovery(At(1));
+    }
+    bench.MakeKit({"112", "112"}, 2);
+    TouchUp editor(bench.Place);
+    ASSERT_TRUE(editor.RecoveryOffered());
+    editor.TakeRecovery();
+    EXPECT_EQ(bench.Edited(), (Rows{"133", "133"}));
+    EXPECT_EQ(bench.State.FoundCount, 3) << "however many paints the kit has now";
+    EXPECT_TRUE(bench.CountsAreTrue());
+    EXPECT_TRUE(editor.HasChanges());
+    editor.Undo();
+    EXPECT_EQ(bench.Edited(), (Rows{"112", "112"}));
+    editor.Cancel();
+    editor.SettleRecovery();
+    EXPECT_FALSE(TouchUp(bench.Place).RecoveryOffered()) << "discarded on purpose";
+}
+
+TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
+    KitBench bench({"12", "12"}, 2);
+    {
+        TouchUp editor(bench.Place);
+        editor.Fill({1, 1}, 2);
+        editor.Accept();
+        editor.SettleRecovery();
+    }
+    const std::string accepted = bench.Files.Read(kRecovery);
+    EXPECT_THAT(accepted, HasSubstr("\r\n0,1,5,5\r\n")) << "the one paint left has symbol 1";
+    {
+        TouchUp again(bench.Place);
+        EXPECT_FALSE(again.RecoveryOffered()) << "the work is not lost, it is here";
+        again.BeginStroke({1, 1}, {BrushSize::One, 1});
+        again.KeepRecovery(At(1));
+        again.Cancel();
+        again.SettleRecovery();
+    }
+    EXPECT_TRUE(bench.State.HasUnsavedWork);
+    EXPECT_EQ(bench.Files.Read(kRecovery), accepted);
+    TouchUp saving(bench.Place);
+    saving.SaveIt_Click();
+    saving.Cancel();
+    EXPECT_FALSE(bench.State.HasUnsavedWork);
+    EXPECT_FALSE(RecoveryExists(bench.Place));
+}
+
+TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
+    KitBench bench({"12", "12"}, 2);
+    bench.Files.Write(kRecovery, "1,5,5,16\r\n" + kRed);
+    TouchUp editor(bench.Place);
+    EXPECT_THAT([&] { editor.TakeRecovery(); }, ThrowsMessage<FormatError>(HasSubstr("5 x 5")));
+    editor.SettleRecovery();
+    EXPECT_TRUE(RecoveryExists(bench.Place));
+    editor.Fill({1, 1}, 2);
+    editor.KeepRecovery(At(1));
+    EXPECT_THAT(bench.Files.Read("Saved Stipples/Lady-Easy.recovery-old.stp"), HasSubstr("5,5"));
+    EXPECT_THAT(bench.Files.Read(kRecovery), HasSubstr("2,2,2,50"));
+}
+
+TEST(UnsavedWork, IsThrownAwayOnlyWithLeave) {
+    KitBench bench({"12", "12"}, 2);
+    EXPECT_TRUE(MayReplaceGrid(bench.Place));
+    EXPECT_TRUE(bench.Screen.Questions.empty());
+    TouchUp editor(bench.Place);
+    editor.Fill({1, 1}, 2);
+    editor.Accept();
+    editor.SettleRecovery();
+    bench.Screen.Answers = {false, true};
+    EXPECT_FALSE(MayReplaceGrid(bench.Place));
+    EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
+    EXPECT_TRUE(MayReplaceGrid(bench.Place));
+    EXPECT_FALSE(bench.State.HasUnsavedWork || RecoveryExists(bench.Place));
+}
+
+}  // namespace
+}  // namespace vendrel::test
