@@ -1,0 +1,182 @@
+#include "convert/stipple_conversion.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "convert/cell_color.h"
+#include "convert/photo_import.h"
+#include "drawing/stipple_brush.h"
+#include "paints/color_match.h"
+#include "paints/nearest_paint.h"
+#include "paints/paint_sets.h"
+#include "paints/reduction.h"
+#include "paints/restore.h"
+#include "shell/busy_pointer.h"
+#include "shell/menu.h"
+#include "support/counter.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+/// Turns photo colours into found colours.
+class FoundPaints {
+  public:
+    explicit FoundPaints(Workplace& place)
+        : place_(place),
+          table_(Palette(place.State)),
+          foundAs_(static_cast<std::size_t>(place.State.PaintCount) + 1) {}
+
+    /// Index into FoundColors of the paint nearest to `color`, added there when it is new.
+    int Match(const Channels& color) {
+        const int paint = table_.Find(color);
+        int& found = foundAs_[static_cast<std::size_t>(paint)];
+        if (found == 0) {
+            found = Find(place_.State.PaintColors[static_cast<std::size_t>(paint)]);
+        }
+        return found;
+    }
+
+  private:
+    // Paints of different sets that look the same are one found colour.
+    int Find(const PaintColor& paint) {
+        WorkState& state = place_.State;
+        for (int k = 1; k <= state.FoundCount; ++k) {
+            if (ColorOf(state.FoundColors[static_cast<std::size_t>(k)]) == ColorOf(paint)) {
+                return k;
+            }
+        }
+        CountUp(state.FoundCount, "paints found in the photo");
+        state.FoundColors.push_back(paint);
+        state.FoundColors.back().CellCount = 0;
+        const std::string count = std::to_string(state.FoundCount);
+        place_.Screen.SetCaption(state.FoundCount == 1
+                                     ? "Found " + count + " so far."
+                                     : "Matching Paint Sets to " + count + " Colors");
+        return state.FoundCount;
+    }
+
+    Workplace& place_;
+    NearestPaintTable table_;
+    std::vector<int> foundAs_;  // per paint of the palette, 0 while it is not found
+};
+
+void SizeGrid(Workplace& place) {
+    WorkState& state = place.State;
+    const TwipsPerPixel twips = place.Screen.Screen().Twips;
+    state.CellsAcross = state.PictureWidth / twips.X / state.StippleSize;
+    state.CellsDown = state.PictureHeight / twips.Y / state.StippleSize;
+    state.FoundColors.assign(1, {});
+    state.FoundCount = 0;
+    state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);
+    state.CellMarks = Grid<CellMark>(state.CellsAcross, state.CellsDown);
+}
+
+void FillBlock(Workplace& place, const StippleCell& cell) {
+    const int half = place.State.HalfStipple;
+    place.Frames.WorkFrame.Picture.FillRect(cell.X - half, cell.Y - half, cell.X + half,
+                                            cell.Y + half, kBlack);
+}
+
+void ConvertRow(Workplace& place, FoundPaints& found, int j) {
+    WorkState& state = place.State;
+    const Surface& photo = place.Frames.WorkFrame.Picture;
+    const bool sampling = place.MainMenu[MenuId::SamplePixel].Checked;
+    const bool watched = place.Screen.Watched();
+    const int size = state.StippleSize;
+    const int half = state.HalfStipple;
+    const int top = 1 + (j - 1) * size;
+    for (int i = 1; i <= state.CellsAcross; ++i) {
+        const int left = 1 + (i - 1) * size;
+        const Channels color = sampling ? PixelColor(photo, left + half, top + half)
+                                        : AverageColor(photo, left, top, size);
+        StippleCell& cell = state.Stipples(i, j);
+        cell.ColorIndex = found.Match(color);
+        cell.X = left + half;
+        cell.Y = top + half;
+        FillBlock(place, cell);
+        if (watched) {
+            DrawTempStipple(place, cell.X, cell.Y, cell.ColorIndex);
+        }
+    }
+}
+
+void EndRow(Workplace& place, int row) {
+    place.Screen.Yield();
+    place.Screen.RefreshWorkFrame();
+    place.Screen.ReportProgress(row, place.State.CellsDown);
+}
+
+void CheckPaints(Workplace& place) {
+    if (place.State.FinalColors < 1 && !place.State.KeepAllColors) {
+        throw Error("No number of final paints is chosen: choose Final Paints.");
+    }
+    if (place.State.PaintCount == 0) {
+        RestorePaintColors(place);
+    }
+    if (place.State.PaintCount == 0) {
+        throw Error(
+            "There are no paints to paint with. Choose paint sets or a template in the Paint "
+            "Shop.");
+    }
+}
+
+void Convert(Workplace& place) {
+    CheckPaints(place);
+    RefreshPhotoImage(place);
+    const BusyPointer busy(place.Screen);
+    place.State.WorkStage = 1;
+    place.State.StipplesMade = false;
+    ApplyStipples(place);
+    DrawStipplePicture(place);
+    SetupMenuItems(place.MainMenu, 3);
+    place.MainMenu[MenuId::NextBestColors].Enabled = true;
+}
+
+}  // namespace
+
+void ApplyStipples(Workplace& place) {
+    WorkState& state = place.State;
+    CheckPaints(place);
+    place.Screen.SetCaption("Getting Colors");
+    SizeGrid(place);
+    FoundPaints found(place);
+    for (int j = 1; j <= state.CellsDown; ++j) {
+        ConvertRow(place, found, j);
+        EndRow(place, j);
+    }
+    state.StipplesMade = true;
+    SetPalette(state, std::exchange(state.FoundColors, std::vector<PaintColor>(1)));
+    state.FoundCount = 0;
+    if (!state.KeepAllColors) {
+        ReduceColors(place, state.FinalColors);
+    }
+}
+
+void DrawStipplePicture(Workplace& place) {
+    const WorkState& state = place.State;
+    const BusyPointer busy(place.Screen);
+    place.Screen.SetCaption("Redrawing Stipples");
+    place.Screen.RefreshWorkFrame();
+    for (int j = 1; j <= state.CellsDown; ++j) {
+        for (int i = 1; i <= state.CellsAcross; ++i) {
+            const StippleCell& cell = state.Stipples(i, j);
+            DrawOneStipple(place, cell.X, cell.Y, cell.ColorIndex);
+        }
+        EndRow(place, j);
+    }
+    place.Screen.ReportProgress(0, 0);
+    place.Screen.SetCaption("Vendrel -" + state.PictureName);
+    place.Frames.StippleFrame.Picture = place.Frames.WorkFrame.Picture;
+}
+
+void ChangeToStipples_Click(Workplace& place) {
+    Convert(place);
+}
+
+void AutoChangeToStipples(Workplace& place) {
+    Convert(place);
+}
+
+}  // namespace vendrel

@@ -1,0 +1,185 @@
+#include "convert/stipple_conversion.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "convert/cell_color.h"
+#include "drawing/stipple_brush.h"
+#include "paints/color_match.h"
+#include "paints/paints.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using test::Paint;
+
+/// A workplace with a photo of whole stipples on its work picture.
+class Conversion : public test::Bench {
+  public:
+    Conversion(int stippleSize, int across, int down, Color color = kWhite) {
+        State.StippleSize = stippleSize;
+        State.HalfStipple = stippleSize / 2;
+        State.PictureWidth = across * stippleSize * 15;
+        State.PictureHeight = down * stippleSize * 15;
+        State.PictureName = "Lady";
+        Frames.CaptureFrame.Picture = Surface(across * stippleSize, down * stippleSize, color);
+    }
+    Surface& Photo() { return Frames.CaptureFrame.Picture; }
+    [[nodiscard]] const Surface& Drawn() const { return Frames.WorkFrame.Picture; }
+};
+
+TEST(AverageColor, RoundsHalvesToTheEvenNeighbourAndStopsAtTheEdge) {
+    Surface photo(5, 5, Rgb(10, 0, 255));
+    const auto average = [&photo](int left, int size) {
+        const Channels c = AverageColor(photo, left, 1, size);
+        return std::vector{c.Red, c.Green, c.Blue};
+    };
+    photo.FillRect(1, 1, 3, 2, Rgb(11, 1, 254));  // half of four pixels: 10.5, 0.5, 254.5
+    EXPECT_EQ(average(1, 2), (std::vector{10, 0, 254}));
+    photo.FillRect(1, 2, 3, 3, Rgb(12, 2, 253));  // 11.5, 1.5, 253.5
+    EXPECT_EQ(average(1, 2), (std::vector{12, 2, 254}));
+    EXPECT_EQ(average(3, 16), (std::vector{10, 0, 255}));
+    photo.Set(4, 4, Rgb(10, 16, 255));  // 16 of 2 x 4 pixels
+    EXPECT_EQ(average(3, 16), (std::vector{10, 2, 255}));
+}
+
+TEST(Stipples, TakeTheirColourFromTheirOwnPixels) {
+    // One stipple: pixel row and column 0 belong to none, (5, 5) is the centre.
+    for (const bool sampling : {false, true}) {
+        Conversion bench(8, 1, 1, Rgb(200, 200, 200));
+        bench.MainMenu[MenuId::SamplePixel].Checked = sampling;
+        bench.Photo().FillRect(1, 1, 8, 8, Rgb(100, 100, 100));
+        bench.Photo().Set(5, 5, Rgb(2, 2, 2));
+        test::UsePaints(bench.State, {Paint(2, 2, 2, "centre"), Paint(98, 98, 98, "average"),
+                                      Paint(120, 120, 120, "with the edge")});
+        ChangeToStipples_Click(bench.Place);
+        EXPECT_EQ(test::NamesOf(bench.State), sampling ? "centre" : "average");
+        EXPECT_EQ(bench.State.Stipples(1, 1), (StippleCell{1, 5, 5, 0, {}}));
+        EXPECT_TRUE(bench.Screen.HasCaption("Found 1 so far."));
+        EXPECT_EQ(bench.Drawn().Get(0, 3), Rgb(200, 200, 200));
+        EXPECT_EQ(bench.Drawn().Get(1, 1), kBlack);
+        EXPECT_EQ(bench.Drawn(), bench.Frames.StippleFrame.Picture);
+    }
+}
+
+// The conversion in so many words, one pixel and one paint at a time.
+std::vector<std::vector<int>> PlainConversion(const Conversion& bench, const Surface& photo,
+                                              std::vector<PaintColor>& found) {
+    const int size = bench.State.StippleSize;
+    const int half = size / 2;
+    found.assign(1, {});
+    std::vector<std::vector<int>> rows;
+    for (int y = 1; y <= photo.Height(); y += size) {
+        rows.emplace_back();
+        for (int x = 1; x <= photo.Width(); x += size) {
+            float sums[3] = {};
+            float count = 0;
+            const bool sampling = bench.MainMenu[MenuId::SamplePixel].Checked;
+            for (int n = 0; n < (sampling ? 1 : size * size); ++n) {
+                const Color color = sampling ? photo.Get(x + half, y + half)
+                                             : photo.Get(x + n % size, y + n / size);
+                if (color != kNoColor) {
+                    sums[0] += static_cast<float>(RedOf(color));
+                    sums[1] += static_cast<float>(GreenOf(color));
+                    sums[2] += static_cast<float>(BlueOf(color));
+                    ++count;
+                }
+            }
+            int rgb[3];
+            for (int c = 0; c < 3; ++c) {
+                rgb[c] = static_cast<int>(std::lrint(sums[c] / count));
+            }
+            int index = 0;
+            ColorMatch(bench.State, rgb[0], rgb[1], rgb[2], index, 0);
+            const PaintColor& paint = bench.State.PaintColors[static_cast<std::size_t>(index)];
+            const auto known = std::find_if(found.begin() + 1, found.end(), [&](const auto& f) {
+                return ColorOf(f) == ColorOf(paint);
+            });
+            rows.back().push_back(static_cast<int>(known - found.begin()));
+            if (known == found.end()) {
+                found.push_back(paint);
+            }
+        }
+    }
+    return rows;
+}
+
+TEST(Stipples, AreMatchedAsOneByOneAndLookTheSameUnwatched) {
+    std::mt19937 random(5);
+    for (int round = 0; round < 24; ++round) {
+        Conversion bench(4 + 2 * (round % 3), 7, 5);
+        bench.MainMenu[MenuId::SamplePixel].Checked = round % 2 == 0;
+        bench.State.KeepAllColors = round % 4 < 2;
+        bench.State.FinalColors = 3;
+        for (int y = 0; y < bench.Photo().Height(); ++y) {
+            for (Color& pixel : bench.Photo().Row(y)) {
+                pixel = ColorOf(test::RandomPaints(random, 1, 1)[0]);
+            }
+        }
+        test::UsePaints(bench.State, test::RandomPaints(random, 30, round % 5 == 0 ? 127 : 5));
+        std::vector<PaintColor> found;
+        const auto rows = PlainConversion(bench, bench.Photo(), found);
+        const auto palette = bench.State.PaintColors;
+        ChangeToStipples_Click(bench.Place);
+        if (bench.State.KeepAllColors) {
+            ASSERT_EQ(test::GridOf(bench.State), rows);
+            ASSERT_EQ(bench.State.PaintColors, found);
+        }
+        ASSERT_LE(bench.State.PaintCount, bench.State.KeepAllColors ? 30 : 3);
+
+        const Surface unwatched = bench.Drawn();
+        const auto grid = bench.State.Stipples;
+        bench.State.PaintColors = palette;
+        bench.State.PaintCount = 30;
+        bench.Screen.IsWatched = true;
+        AutoChangeToStipples(bench.Place);
+        ASSERT_EQ(bench.Drawn(), unwatched);
+        ASSERT_EQ(bench.State.Stipples, grid);
+    }
+}
+
+TEST(Stipples, TellTheirProgressAndOpenTheNextSteps) {
+    Conversion bench(4, 3, 1, Rgb(9, 9, 9));
+    bench.Photo().FillRect(5, 0, 9, 4, Rgb(90, 90, 90));
+    bench.State.FinalColors = 1;
+    test::UsePaints(bench.State, {Paint(0, 0, 1), Paint(80, 80, 80)});
+    ChangeToStipples_Click(bench.Place);
+    EXPECT_THAT(bench.Screen.Captions, testing::ElementsAre("Getting Colors", "Found 1 so far.",
+                                                            "Matching Paint Sets to 2 Colors",
+                                                            "Number of Paints Reduced to 1 Colors",
+                                                            "Redrawing Stipples", "Vendrel -Lady"));
+    EXPECT_EQ(bench.State.WorkStage, 1);
+    EXPECT_TRUE(bench.State.StipplesMade);
+    EXPECT_EQ(bench.State.FoundCount, 0);
+    EXPECT_EQ(bench.State.CellMarks, Grid<CellMark>(3, 1));
+    EXPECT_TRUE(bench.MainMenu[MenuId::PaintItNow].Enabled);
+    EXPECT_TRUE(bench.MainMenu[MenuId::NextBestColors].Enabled);
+    EXPECT_EQ(bench.Screen.LastPointer, Pointer::Normal);
+}
+
+TEST(Stipples, AreRefusedWithoutFinalPaintsOrPaints) {
+    for (const auto& [finalColors, advice] :
+         {std::pair{0, "choose Final Paints"}, {16, "Paint Shop"}}) {
+        Conversion bench(8, 1, 1);
+        bench.State.FinalColors = finalColors;
+        try {
+            ChangeToStipples_Click(bench.Place);
+            ADD_FAILURE() << advice;
+        } catch (const Error& error) {
+            EXPECT_THAT(error.what(), testing::HasSubstr(advice));
+        }
+        EXPECT_EQ(bench.State.WorkStage, 0);
+        EXPECT_TRUE(bench.Drawn().Empty());
+    }
+    Conversion bench(8, 1, 1);
+    bench.State.MasterColors = {{}, Paint(1, 2, 3, "restored")};
+    bench.State.PaintSets.push_back({"Set", true});
+    ChangeToStipples_Click(bench.Place);
+    EXPECT_EQ(test::NamesOf(bench.State), "restored");
+}
+
+}  // namespace
+}  // namespace vendrel
