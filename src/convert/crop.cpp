@@ -1,0 +1,128 @@
+#include "convert/crop.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+#include "convert/working_size.h"
+
+namespace vendrel {
+namespace {
+
+// The shape of the working picture follows a photo's in steps (whole stipples; a photo's sides
+// count in units of some fifteen pixels), so no formula leads back: the part is made smaller until
+// it comes out with its own shape.
+class CropSearch {
+  public:
+    CropSearch(BitmapSize photo, const CropTarget& target) : photo_(photo), target_(target) {}
+
+    BitmapSize Find() {
+        // Near a full side there may be one a few pixels shorter that the steps suit better.
+        constexpr int kShorter = 16;
+        for (int less = 0; less < kShorter; ++less) {
+            TryHeights(photo_.Width - less);
+            TryWidths(photo_.Height - less);
+        }
+        return best_;
+    }
+
+  private:
+    void TryHeights(int width) {
+        for (int height = photo_.Height; height > 0 && CanImprove({width, height}); --height) {
+            Try({width, height});
+        }
+    }
+    void TryWidths(int height) {
+        for (int width = photo_.Width; width > 0 && CanImprove({width, height}); --width) {
+            Try({width, height});
+        }
+    }
+
+    [[nodiscard]] static std::int64_t Area(BitmapSize size) {
+        return std::int64_t{size.Width} * size.Height;
+    }
+    [[nodiscard]] bool CanImprove(BitmapSize size) const {
+        const bool inside = size.Width > 0 && size.Height > 0;
+        return inside && (stretch_ >= kMaxCropStretch || Area(size) > Area(best_));
+    }
+    void Try(BitmapSize size) {
+        const double stretch = SheetStretch(size, target_);
+        if (stretch < std::max(stretch_, kMaxCropStretch)) {
+            best_ = size;
+            stretch_ = stretch;
+        }
+    }
+
+    BitmapSize photo_;
+    CropTarget target_;
+    BitmapSize best_ = photo_;
+    double stretch_ = SheetStretch(photo_, target_);
+};
+
+}  // namespace
+
+double SheetStretch(BitmapSize photo, const CropTarget& target) {
+    const WorkingSize working = ComputeWorkingSize(photo, target.Screen, target.StippleSize);
+    if (!working.HoldsStipples()) {
+        return std::numeric_limits<double>::max();
+    }
+    return StretchPercent(
+        photo, {working.Width / target.Screen.Twips.X, working.Height / target.Screen.Twips.Y});
+}
+
+BitmapSize LargestCrop(BitmapSize photo, const CropTarget& target) {
+    if (SheetStretch(photo, target) < kMaxCropStretch) {
+        return photo;
+    }
+    return CropSearch(photo, target).Find();
+}
+
+CropRect CropCentre(BitmapSize photo, const CropTarget& target) {
+    const BitmapSize size = LargestCrop(photo, target);
+    return {(photo.Width - size.Width) / 2, (photo.Height - size.Height) / 2, size.Width,
+            size.Height};
+}
+
+CropRect CropTop(BitmapSize photo, const CropTarget& target) {
+    CropRect part = CropCentre(photo, target);
+    part.Top = 0;
+    return part;
+}
+
+Surface CutOut(const Surface& photo, const CropRect& part) {
+    Surface cut(part.Width, part.Height);
+    for (int y = 0; y < part.Height; ++y) {
+        std::ranges::copy(
+            photo.Row(part.Top + y)
+                .subspan(static_cast<std::size_t>(part.Left), static_cast<std::size_t>(part.Width)),
+            cut.Row(y).begin());
+    }
+    return cut;
+}
+
+Surface TurnedRight(const Surface& photo, int quarters) {
+    const int width = photo.Width();
+    const int height = photo.Height();
+    Surface turned = quarters % 2 == 0 ? Surface(width, height) : Surface(height, width);
+    for (int y = 0; y < turned.Height(); ++y) {
+        for (int x = 0; x < turned.Width(); ++x) {
+            switch (quarters) {
+                case 1:
+                    turned.Set(x, y, photo.Get(y, height - 1 - x));
+                    break;
+                case 2:
+                    turned.Set(x, y, photo.Get(width - 1 - x, height - 1 - y));
+                    break;
+                case 3:
+                    turned.Set(x, y, photo.Get(width - 1 - y, x));
+                    break;
+                default:
+                    turned.Set(x, y, photo.Get(x, y));
+                    break;
+            }
+        }
+    }
+    return turned;
+}
+
+}  // namespace vendrel

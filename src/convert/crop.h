@@ -1,0 +1,50 @@
+#pragma once
+
+#include "convert/bitmap_header.h"
+#include "support/surface.h"
+#include "support/twips.h"
+
+namespace vendrel {
+
+/// A part of a photo, in pixels.
+struct CropRect {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool operator==(const CropRect&) const = default;
+};
+
+/// What settles the shape of a working picture beside the photo's own.
+struct CropTarget {
+    ScreenSize Screen;
+    int StippleSize = 8;  // pixels
+};
+
+/// A crop is stretched by less than this many percent: a quarter of what a face begins to show.
+inline constexpr double kMaxCropStretch = 0.5;
+/// A photo stretched by more than this many percent should be cropped.
+inline constexpr double kStretchThatShows = 2.0;
+
+/// By how many percent a photo is stretched to become a working picture; huge when no whole
+/// stipple fits its shape. Sides at least 1.
+[[nodiscard]] double SheetStretch(BitmapSize photo, const CropTarget& target);
+
+/// The largest part of a photo that becomes a working picture without being stretched: the whole
+/// photo when its shape is right. Of a photo too small for that the least stretched part.
+[[nodiscard]] BitmapSize LargestCrop(BitmapSize photo, const CropTarget& target);
+
+/// That part, cut from the middle.
+[[nodiscard]] CropRect CropCentre(BitmapSize photo, const CropTarget& target);
+/// That part, cut from the top of the photo, where faces are.
+[[nodiscard]] CropRect CropTop(BitmapSize photo, const CropTarget& target);
+
+/// The part as a picture of its own; it must lie inside the photo.
+[[nodiscard]] Surface CutOut(const Surface& photo, const CropRect& part);
+
+enum class Turn { Left, Right };
+
+/// The photo turned by `quarters` quarters of a circle to the right, 0 to 3.
+[[nodiscard]] Surface TurnedRight(const Surface& photo, int quarters);
+
+}  // namespace vendrel

@@ -1,0 +1,175 @@
+#include "convert/crop.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+#include "convert/crop_frame.h"
+
+namespace vendrel {
+namespace {
+
+const ScreenSize kDesk = ScreenSize::FromPixels(1920, 1080);
+const ScreenSize kLaptop = ScreenSize::FromPixels(1366, 768);
+const ScreenSize kFine = ScreenSize::FromPixels(2880, 1800, {10, 10});
+
+std::vector<CropTarget> EveryTarget() {
+    std::vector<CropTarget> targets;
+    for (const ScreenSize& screen : {kDesk, kLaptop, kFine}) {
+        for (const int stippleSize : {8, 6, 4}) {
+            targets.push_back({screen, stippleSize});
+        }
+    }
+    return targets;
+}
+
+double StretchOf(const CropRect& part, const CropTarget& target) {
+    return SheetStretch({part.Width, part.Height}, target);
+}
+
+bool LiesInside(const CropRect& part, BitmapSize photo) {
+    return part.Left >= 0 && part.Top >= 0 && part.Width > 0 && part.Height > 0 &&
+           part.Left + part.Width <= photo.Width && part.Top + part.Height <= photo.Height;
+}
+
+double Share(const CropRect& part, BitmapSize photo) {
+    return static_cast<double>(part.Width) * part.Height /
+           (static_cast<double>(photo.Width) * photo.Height);
+}
+
+Surface Numbered(int width, int height) {
+    Surface picture(width, height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            picture.Set(x, y, 10 * y + x);
+        }
+    }
+    return picture;
+}
+
+TEST(Crop, EveryShapeEndsUnstretchedAtEveryDifficulty) {
+    std::vector<BitmapSize> photos = {{3000, 3000}, {4032, 3024}, {3024, 4032}, {4096, 1000},
+                                      {512, 600},   {640, 427},   {1000, 1001}, {200, 200}};
+    std::mt19937 random(7);
+    std::uniform_int_distribution<int> side(250, 4096);
+    for (int i = 0; i < 60; ++i) {
+        photos.push_back({side(random), side(random)});
+    }
+    for (const CropTarget& target : EveryTarget()) {
+        for (const BitmapSize photo : photos) {
+            SCOPED_TRACE(testing::Message() << photo.Width << " x " << photo.Height << ", "
+                                            << target.StippleSize << " on " << target.Screen.Width);
+            for (const CropRect& part : {CropCentre(photo, target), CropTop(photo, target)}) {
+                EXPECT_LT(StretchOf(part, target), kMaxCropStretch);
+                EXPECT_TRUE(LiesInside(part, photo));
+            }
+        }
+    }
+}
+
+TEST(Crop, CutsOffNoMoreThanTheShapeAsksFor) {
+    const CropTarget easy{kDesk, 8};
+    EXPECT_EQ(LargestCrop({3000, 2400}, easy), (BitmapSize{3000, 2400}));
+    EXPECT_EQ(CropCentre({3000, 3000}, easy).Width, 3000);
+    EXPECT_NEAR(CropCentre({3000, 3000}, easy).Height, 2400, 12);
+    EXPECT_NEAR(CropCentre({3000, 3000}, easy).Top, 300, 6);
+    EXPECT_EQ(CropTop({3000, 3000}, easy).Top, 0);
+    // A tall photo keeps lying on its short side.
+    EXPECT_NEAR(CropTop({3000, 3600}, easy).Width, 2880, 15);
+    EXPECT_EQ(CropTop({3000, 3600}, easy).Left, CropCentre({3000, 3600}, easy).Left);
+    // Where a standing sheet may be nearly square, a square photo loses next to nothing.
+    EXPECT_GT(Share(CropCentre({3000, 3000}, {kLaptop, 8}), {3000, 3000}), 0.97);
+    EXPECT_GT(Share(CropCentre({4032, 3024}, easy), {4032, 3024}), 0.99);
+}
+
+TEST(Crop, PhotosTooSmallForAnyShapeKeepTheLeastStretchedPart) {
+    for (const BitmapSize photo : {BitmapSize{1, 1}, {5, 40}, {20, 20}, {33, 7}}) {
+        EXPECT_TRUE(LiesInside(CropCentre(photo, {kDesk, 8}), photo)) << photo.Width;
+    }
+}
+
+TEST(Crop, CutsOutAndTurnsPixels) {
+    const Surface photo = Numbered(3, 2);
+    const Surface cut = CutOut(photo, {1, 0, 2, 2});
+    EXPECT_EQ(cut.Width(), 2);
+    EXPECT_EQ(cut.Get(0, 0), 1);
+    EXPECT_EQ(cut.Get(1, 1), 12);
+    const Surface right = TurnedRight(photo, 1);
+    EXPECT_EQ(right.Width(), 2);
+    EXPECT_EQ(right.Get(0, 0), 10);
+    EXPECT_EQ(right.Get(1, 2), 2);
+    EXPECT_EQ(TurnedRight(right, 1), TurnedRight(photo, 2));
+    EXPECT_EQ(TurnedRight(right, 2), TurnedRight(photo, 3));
+    EXPECT_EQ(TurnedRight(right, 3), photo);
+}
+
+TEST(CropFrame, StaysInsideThePhotoAndInShapeWhateverIsDoneToIt) {
+    for (const CropTarget& target : EveryTarget()) {
+        CropFrame frame({1200, 1100}, target);
+        std::mt19937 random(3);
+        std::uniform_int_distribution<int> any(-300, 1500);
+        for (int i = 0; i < 60; ++i) {
+            frame.MoveBy(any(random) - 600, any(random) - 600);
+            frame.DragCorner(static_cast<CropCorner>(i % 4), any(random), any(random));
+            frame.GrowBy(any(random) / 10 - 60);
+            if (i % 20 == 19) {
+                frame.TurnPhoto(i % 40 == 39 ? Turn::Left : Turn::Right);
+            }
+            ASSERT_TRUE(LiesInside(frame.Rect(), frame.Photo())) << i;
+            ASSERT_LT(StretchOf(frame.Rect(), target), kMaxCropStretch) << i;
+        }
+    }
+}
+
+TEST(CropFrame, ADraggedCornerLeavesTheOppositeOneInPlace) {
+    const CropTarget easy{kDesk, 8};
+    CropFrame frame({3000, 3000}, easy);
+    const CropRect before = frame.Rect();
+    frame.DragCorner(CropCorner::TopLeft, 1000, before.Top + 800);
+    const CropRect after = frame.Rect();
+    EXPECT_NEAR(after.Width, 2000, 30);
+    EXPECT_LE(after.Width, 2010);
+    EXPECT_EQ(after.Left + after.Width, before.Left + before.Width);
+    EXPECT_EQ(after.Top + after.Height, before.Top + before.Height);
+    frame.DragCorner(CropCorner::TopLeft, 5000, 5000);
+    EXPECT_GE(frame.Rect().Height, 60);
+    EXPECT_LE(frame.Rect().Height, 140);
+}
+
+TEST(CropFrame, GrowsAndShrinksRoundItsMiddleByKeys) {
+    CropFrame frame({3000, 3000}, {kDesk, 8});
+    const int full = frame.Rect().Width;
+    for (int i = 0; i < 10; ++i) {
+        const int width = frame.Rect().Width;
+        frame.GrowBy(-10);
+        EXPECT_LE(frame.Rect().Width, width - 10);
+    }
+    EXPECT_GT(frame.Rect().Width, full - 250);
+    EXPECT_NEAR(2 * frame.Rect().Left + frame.Rect().Width, 3000, 24);
+    frame.GrowBy(1);
+    EXPECT_GT(frame.Rect().Left, 0);
+    frame.MoveBy(-5000, 5000);
+    EXPECT_EQ(frame.Rect().Left, 0);
+    EXPECT_EQ(frame.Rect().Top + frame.Rect().Height, 3000);
+}
+
+TEST(CropFrame, ShowsTheTurnedPhoto) {
+    const CropTarget easy{kDesk, 8};
+    CropFrame frame({600, 800}, easy);
+    EXPECT_FALSE(frame.KeepsPhoto() && frame.Rect().Width < 600);
+    frame.TurnPhoto(Turn::Left);
+    EXPECT_EQ(frame.Photo(), (BitmapSize{800, 600}));
+    EXPECT_EQ(frame.QuartersRight(), 3);
+    EXPECT_FALSE(frame.KeepsPhoto());
+    Surface photo(600, 800, kWhite);
+    photo.Set(300, 400, kBlack);
+    const Surface part = frame.Apply(photo);
+    EXPECT_EQ(part.Width(), frame.Rect().Width);
+    // What was right of the middle by 0 and below by 0 lies at the turned place.
+    EXPECT_EQ(part.Get(400 - frame.Rect().Left, 299 - frame.Rect().Top), kBlack);
+}
+
+}  // namespace
+}  // namespace vendrel
