@@ -1,0 +1,118 @@
+#include "convert/foreign_photo.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "convert/bitmap_reader.h"
+#include "support/error.h"
+#include "support/temp_folder.h"
+
+namespace vendrel {
+namespace {
+
+using ::testing::HasSubstr;
+
+const Surface kRed(5, 3, Rgb(200, 10, 10));
+const Surface kBlue(5, 3, Rgb(10, 10, 200));
+
+std::vector<std::string> FilesIn(const std::filesystem::path& folder) {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        names.push_back(entry.path().filename().string());
+    }
+    return names;
+}
+
+class ForeignPhotoTest : public ::testing::Test {
+  protected:
+    test::TempFolder files_;
+    ProgramFolder folder_{files_.Path()};
+};
+
+TEST_F(ForeignPhotoTest, KeepsAPictureAsABitmapOfTwentyFourBits) {
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kRed), "aunt.bmp");
+    EXPECT_EQ(ReadBitmap(files_ / "Pictures/aunt.bmp"), kRed);
+    EXPECT_THAT(FilesIn(files_ / "Pictures"), ::testing::ElementsAre("aunt.bmp"));
+}
+
+TEST_F(ForeignPhotoTest, NeverWritesOverAnotherPhoto) {
+    files_.Write("Pictures/aunt.bmp", "not ours");
+    files_.Write("Pictures/AUNT 2.BMP", "nor this");
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kRed), "aunt 3.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kBlue), "aunt 4.bmp");
+    EXPECT_EQ(files_.Read("Pictures/aunt.bmp"), "not ours");
+    EXPECT_EQ(files_.Read("Pictures/AUNT 2.BMP"), "nor this");
+}
+
+TEST_F(ForeignPhotoTest, UsesTheSamePictureAgain) {
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kRed), "aunt.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kBlue), "aunt 2.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kRed), "aunt.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kBlue), "aunt 2.bmp");
+    EXPECT_EQ(FilesIn(files_ / "Pictures").size(), 2U);
+}
+
+TEST_F(ForeignPhotoTest, LeavesNamesAloneWhoseResultsWouldMix) {
+    files_.Write("Pictures/aunt.old.bmp", "its grid is kept as aunt-Easy.stp");
+    files_.Write("Pictures/uncle.jpg", "no bitmap, in nobody's way");
+    EXPECT_EQ(KeepPicture(folder_, "Aunt", kRed), "Aunt 2.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "uncle", kRed), "uncle.bmp");
+}
+
+TEST_F(ForeignPhotoTest, CropsStandBesideTheirPhoto) {
+    EXPECT_EQ(KeepCrop(folder_, "aunt.bmp", kRed), "aunt crop.bmp");
+    EXPECT_EQ(KeepCrop(folder_, "aunt.bmp", kBlue), "aunt crop 2.bmp");
+}
+
+TEST_F(ForeignPhotoTest, NamesHaveNoDots) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"/a.b/aunt.jpg", "aunt"},
+        {"my.photo.jpg", "my-photo"},
+        {"IMG 1.2.HEIC.jpg", "IMG 1-2-HEIC"},
+        {".hidden.png", "hidden"},
+        {"aunt..jpg", "aunt"},
+        {"aunt", "aunt"},
+        {"...", "Photo"},
+        {"Tante Käthe.webp", "Tante Käthe"},
+    };
+    for (const auto& [file, stem] : cases) {
+        EXPECT_EQ(PictureStem(file), stem) << file;
+    }
+}
+
+TEST_F(ForeignPhotoTest, KnowsWhatTheBitmapReaderCannotRead) {
+    using namespace std::string_literals;
+    const std::string before(12, '\0');
+    const std::string upwards = "BM" + before + "\x28\0\0\0\x05\0\0\0\x03\0\0\0"s;
+    const std::string downwards = "BM" + before + "\x28\0\0\0\x05\0\0\0\xFD\xFF\xFF\xFF"s;
+    const std::string old = "BM" + before + "\x0C\0\0\0\x05\0\x03\0\x01\0\x18\0"s;
+    struct Case {
+        std::string Name;
+        std::string Bytes;
+        bool Needs;
+    };
+    for (const Case& one : {Case{"a.bmp", upwards, false}, Case{"a.jpg", upwards, false},
+                            Case{"b.bmp", downwards, true}, Case{"c.bmp", old, true},
+                            Case{"d.bmp", "\xFF\xD8\xFF\xE0", true}, Case{"e.bmp", "letter", false},
+                            Case{"f.BMP", "", false}, Case{"g.heic", "letter", true}}) {
+        EXPECT_EQ(NeedsDecoder(files_.Write(one.Name, one.Bytes)), one.Needs) << one.Name;
+    }
+    EXPECT_THROW(static_cast<void>(NeedsDecoder(files_ / "missing.jpg")), FileError);
+}
+
+TEST_F(ForeignPhotoTest, WithoutDecodersSaysWhatToDo) {
+    try {
+        TakeInPhoto(folder_, "aunt.jpg", NoPhotoDecoder());
+        FAIL() << "taken in";
+    } catch (const FormatError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("aunt.jpg: "));
+        EXPECT_THAT(error.what(), HasSubstr("this build reads .bmp only. Save the photo as .bmp."));
+    }
+}
+
+}  // namespace
+}  // namespace vendrel
