@@ -5,5 +5,9 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Turns a photograph into a paint-by-symbol
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+if(VENDREL_QT)
+    # Loaded at run time, so that no library dependency shows them: WebP and TIFF decoders.
+    set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-image-formats-plugins")
+endif()
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 include(CPack)
