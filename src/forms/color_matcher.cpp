@@ -1,0 +1,163 @@
+#include "forms/color_matcher.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+
+#include "convert/stipple_conversion.h"
+#include "paints/paint_sets.h"
+#include "paints/template_file.h"
+#include "paints/template_library.h"
+#include "shell/scratch_place.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+void RequireGrid(const WorkState& state) {
+    if (!state.PictureLoaded || !state.StipplesMade || state.PaintCount == 0) {
+        throw Error(
+            "The photo has no stipples yet. Choose \"Change To Stipples\" in the Picture menu "
+            "first.");
+    }
+}
+
+std::vector<int> CountStipples(const WorkState& state) {
+    std::vector<int> counts(state.PaintColors.size());
+    for (int y = 1; y <= state.Stipples.Down(); ++y) {
+        for (int x = 1; x <= state.Stipples.Across(); ++x) {
+            ++counts[static_cast<std::size_t>(state.Stipples(x, y).ColorIndex)];
+        }
+    }
+    return counts;
+}
+
+Surface DrawSmall(const WorkState& state) {
+    Surface small(state.Stipples.Across(), state.Stipples.Down());
+    for (int y = 1; y <= state.Stipples.Down(); ++y) {
+        for (int x = 1; x <= state.Stipples.Across(); ++x) {
+            const auto paint = static_cast<std::size_t>(state.Stipples(x, y).ColorIndex);
+            small.Set(x - 1, y - 1, ColorOf(state.PaintColors[paint]));
+        }
+    }
+    return small;
+}
+
+}  // namespace
+
+void NextBestColors_Click(Workplace& place) {
+    RequireGrid(place.State);
+    place.Screen.OpenForm(FormId::ColorMatcher);
+}
+
+void ColorMatcher::Form_Load() {
+    const WorkState& state = place_.State;
+    RequireGrid(state);
+    if (!state.PaintShopLoaded) {
+        FillSelectedPaintsList(place_.State);
+    }
+    const std::vector<int> counts = CountStipples(state);
+    rows_.assign(1, {});
+    for (std::size_t k = 1; k < state.PaintColors.size(); ++k) {
+        rows_.push_back({state.PaintColors[k], state.PaintColors[k], counts[k]});
+    }
+    chosen_ = 1;
+    preview_ = DrawSmall(state);
+    FindOffers();
+}
+
+void ColorMatcher::Source_Click(MatchSource source) {
+    source_ = source;
+    FindOffers();
+}
+
+void ColorMatcher::PaintList_Click(int paint) {
+    if (paint >= 1 && paint < static_cast<int>(rows_.size())) {
+        chosen_ = paint;
+        FindOffers();
+    }
+}
+
+std::vector<PaintColor> ColorMatcher::Palette() const {
+    std::vector<PaintColor> palette;
+    for (const MatcherRow& row : rows_) {
+        palette.push_back(row.Current);
+        palette.back().CellCount = 0;
+    }
+    return palette;
+}
+
+void ColorMatcher::FindOffers() {
+    const WorkState& state = place_.State;
+    std::vector<PaintColor> candidates;
+    for (const PaintColor& paint : std::span(state.MasterColors).subspan(1)) {
+        if (source_ == MatchSource::WholeCatalogue ||
+            std::ranges::find(state.SelectedPaintsList, paint.Mfg) !=
+                state.SelectedPaintsList.end()) {
+            candidates.push_back(paint);
+        }
+    }
+    offers_ = FindNextBest(rows_[static_cast<std::size_t>(chosen_)].Original, candidates, Palette(),
+                           kOffers);
+}
+
+void ColorMatcher::Exchange_Click(int offer) {
+    if (offer >= 0 && offer < static_cast<int>(offers_.size())) {
+        rows_[static_cast<std::size_t>(chosen_)].Current =
+            offers_[static_cast<std::size_t>(offer)].Paint;
+        Changed();
+    }
+}
+
+void ColorMatcher::PutBack_Click() {
+    MatcherRow& row = rows_[static_cast<std::size_t>(chosen_)];
+    row.Current = row.Original;
+    Changed();
+}
+
+void ColorMatcher::PutAllBack_Click() {
+    for (MatcherRow& row : rows_) {
+        row.Current = row.Original;
+    }
+    Changed();
+}
+
+void ColorMatcher::Changed() {
+    FindOffers();
+    ShowPreview();
+}
+
+bool ColorMatcher::AnyExchanged() const {
+    return std::ranges::any_of(rows_, &MatcherRow::Exchanged);
+}
+
+void ColorMatcher::ShowPreview() {
+    ScratchPlace scratch(place_);
+    SetPalette(scratch.State, Palette());
+    AutoChangeToStipples(scratch.Place);
+    preview_ = DrawSmall(scratch.State);
+}
+
+bool ColorMatcher::AcceptButton_Click() {
+    if (place_.State.HasUnsavedWork &&
+        !place_.Screen.Ask("Color Matcher",
+                           "Accepting converts the photo again. Your touch-ups have not been saved "
+                           "and would be lost. Go on?")) {
+        return false;
+    }
+    SetPalette(place_.State, Palette());
+    AutoChangeToStipples(place_);
+    place_.State.HasUnsavedWork = false;
+    return true;
+}
+
+std::string ColorMatcher::SaveTemplate_Click() {
+    const std::string name = FreeTemplateName(
+        place_, CleanTemplateName(place_.State.PictureName + " " +
+                                  std::string(DifficultyWord(place_.MainMenu)) + " " +
+                                  std::to_string(rows_.size() - 1) + " Paints"));
+    WriteTemplate(TemplatePath(place_, name), Palette());
+    return name;
+}
+
+}  // namespace vendrel

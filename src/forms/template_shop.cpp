@@ -1,0 +1,238 @@
+#include "forms/template_shop.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "convert/stipple_conversion.h"
+#include "paints/next_best.h"
+#include "paints/paint_sets.h"
+#include "paints/palette_files.h"
+#include "paints/template_file.h"
+#include "paints/template_library.h"
+#include "shell/scratch_place.h"
+#include "support/error.h"
+#include "support/letter_case.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+bool Matches(const PaintColor& paint, const PaintSearch& search, const std::string& lowerText) {
+    if (!search.Set.empty() && paint.Mfg != search.Set) {
+        return false;
+    }
+    return lowerText.empty() ||
+           ToLower(paint.Mfg + '\n' + paint.PaintName + '\n' + paint.PaintCode).find(lowerText) !=
+               std::string::npos;
+}
+
+void SortByNearness(std::vector<int>& rows, const std::vector<PaintColor>& catalogue, Color near) {
+    const PaintColor wanted{RedOf(near), GreenOf(near), BlueOf(near), "", "", "", 0};
+    std::ranges::stable_sort(rows, {}, [&](int row) {
+        return PaintDifference(wanted, catalogue[static_cast<std::size_t>(row)]);
+    });
+}
+
+// Every paint that the photo is matched to with the selected sets, in order of first use. Done on
+// a copy of the workplace: palette, grid and picture of the work in hand stay as they are.
+std::vector<PaintColor> PaintsOfPhoto(const Workplace& place) {
+    ScratchPlace scratch(place);
+    scratch.State.KeepAllColors = true;
+    scratch.State.WorkStage = 1;
+    LoadColors(scratch.Place);
+    AutoChangeToStipples(scratch.Place);
+    return scratch.State.PaintColors;
+}
+
+}  // namespace
+
+void RunTemplateShop_Click(Workplace& place) {
+    SetupMenuItems(place.MainMenu, 2);
+    place.Screen.OpenForm(FormId::TemplateShop);
+}
+
+void TemplateShop::Form_Load() {
+    ListAndChoose("");
+    Search_Change({});
+}
+
+int TemplateShop::Preselected() const {
+    const WorkState& state = place_.State;
+    const std::string& name =
+        state.SelectedTemplate.empty() ? state.LastTemplate : state.SelectedTemplate;
+    const auto found = std::ranges::find(controls_.TemplateList, name);
+    return found == controls_.TemplateList.end()
+               ? -1
+               : static_cast<int>(found - controls_.TemplateList.begin());
+}
+
+std::string TemplateShop::Chosen() const {
+    return controls_.TemplateIndex < 0
+               ? std::string()
+               : controls_.TemplateList[static_cast<std::size_t>(controls_.TemplateIndex)];
+}
+
+std::string TemplateShop::RequireChosen() const {
+    if (controls_.TemplateIndex < 0) {
+        throw Error("No template is chosen. Choose one in the list or add a new one.");
+    }
+    return Chosen();
+}
+
+void TemplateShop::ListAndChoose(std::string_view name) {
+    controls_.TemplateList = ListTemplates(place_);
+    const auto found = std::ranges::find(controls_.TemplateList, name);
+    controls_.TemplateIndex = found == controls_.TemplateList.end()
+                                  ? -1
+                                  : static_cast<int>(found - controls_.TemplateList.begin());
+    ReadChosen();
+}
+
+void TemplateShop::ReadChosen() {
+    controls_.Paints.assign(1, {});
+    controls_.ChosenIsTemplate = false;
+    if (controls_.TemplateIndex < 0) {
+        return;
+    }
+    // Every file of the folder is listed, whatever its ending.
+    const std::filesystem::path file = TemplatePath(place_, Chosen());
+    if (!std::filesystem::exists(file)) {
+        throw FileError(file,
+                        "is not there: the file listed is no template, since it does not end in "
+                        ".csv. Move it out of the templates folder.");
+    }
+    controls_.Paints = ReadTemplate(file);
+    controls_.ChosenIsTemplate = true;
+}
+
+void TemplateShop::TemplateList_Click(int entry) {
+    if (entry >= 0 && entry < static_cast<int>(controls_.TemplateList.size())) {
+        controls_.TemplateIndex = entry;
+        place_.State.LastTemplate = Chosen();
+        ReadChosen();
+    }
+}
+
+void TemplateShop::AddTemplate_Click(std::string_view name) {
+    CheckNewTemplateName(place_, name);
+    WriteTemplate(TemplatePath(place_, name), std::vector<PaintColor>(1));
+    ListAndChoose(name);
+}
+
+void TemplateShop::RenameTemplate_Click(std::string_view name) {
+    RenameTemplate(place_, RequireChosen(), name);
+    ListAndChoose(name);
+}
+
+void TemplateShop::DuplicateTemplate_Click(std::string_view name) {
+    const std::vector<PaintColor> paints = ReadTemplate(TemplatePath(place_, RequireChosen()));
+    CheckNewTemplateName(place_, name);
+    WriteTemplate(TemplatePath(place_, name), paints);
+    ListAndChoose(name);
+}
+
+void TemplateShop::DeleteTemplate_Click() {
+    const std::string name = RequireChosen();
+    if (place_.Screen.Ask("Delete Template",
+                          "Delete the template \"" + name + "\"? This cannot be taken back.")) {
+        DeleteTemplate(place_, name);
+        ListAndChoose("");
+    }
+}
+
+void TemplateShop::Search_Change(const PaintSearch& search) {
+    const std::string text = ToLower(search.Text);
+    controls_.Found.clear();
+    for (int row = 1; row <= place_.State.MasterCount; ++row) {
+        if (Matches(place_.State.MasterColors[static_cast<std::size_t>(row)], search, text)) {
+            controls_.Found.push_back(row);
+        }
+    }
+    if (search.Near) {
+        SortByNearness(controls_.Found, place_.State.MasterColors, *search.Near);
+    }
+}
+
+bool TemplateShop::MayOverwrite() {
+    return controls_.ChosenIsTemplate ||
+           place_.Screen.Ask("Not a Template",
+                             "The file \"" + Chosen() + "\" is no template. Write over it?");
+}
+
+void TemplateShop::Store(std::vector<PaintColor> paints) {
+    if (!MayOverwrite()) {
+        return;
+    }
+    for (PaintColor& paint : paints) {
+        paint.CellCount = 0;
+    }
+    WriteTemplate(TemplatePath(place_, RequireChosen()), paints);
+    controls_.Paints = std::move(paints);
+    controls_.ChosenIsTemplate = true;
+}
+
+bool TemplateShop::AddPaint_Click(int catalogueRow) {
+    (void)RequireChosen();
+    const PaintColor& paint = place_.State.MasterColors.at(static_cast<std::size_t>(catalogueRow));
+    std::vector<PaintColor> paints = controls_.Paints;
+    if (std::any_of(paints.begin() + 1, paints.end(),
+                    [&](const PaintColor& other) { return SamePaint(other, paint); })) {
+        return false;
+    }
+    paints.push_back(paint);
+    Store(std::move(paints));
+    return true;
+}
+
+void TemplateShop::RemovePaint_Click(int paint) {
+    if (paint < 1 || paint >= static_cast<int>(controls_.Paints.size())) {
+        return;
+    }
+    std::vector<PaintColor> paints = controls_.Paints;
+    paints.erase(paints.begin() + paint);
+    Store(std::move(paints));
+}
+
+void TemplateShop::MovePaint_Click(int paint, int to) {
+    const int last = static_cast<int>(controls_.Paints.size()) - 1;
+    to = std::clamp(to, 1, std::max(last, 1));
+    if (paint < 1 || paint > last || paint == to) {
+        return;
+    }
+    std::vector<PaintColor> paints = controls_.Paints;
+    const auto at = paints.begin();
+    if (paint < to) {
+        std::rotate(at + paint, at + paint + 1, at + to + 1);
+    } else {
+        std::rotate(at + to, at + paint, at + paint + 1);
+    }
+    Store(std::move(paints));
+}
+
+void TemplateShop::FillFromPhoto_Click() {
+    const std::string name = RequireChosen();
+    if (!place_.State.PictureLoaded) {
+        throw Error("No photo is loaded. Load one with \"Load Photo\" in the Picture menu first.");
+    }
+    if (controls_.Paints.size() > 1 &&
+        !place_.Screen.Ask("Fill From Photo",
+                           "Replace the " + std::to_string(controls_.Paints.size() - 1) +
+                               " paints of \"" + name + "\" by those of the photo?")) {
+        return;
+    }
+    Store(PaintsOfPhoto(place_));
+}
+
+void TemplateShop::Import_Click(const std::filesystem::path& file) {
+    const std::vector<PaintColor> paints = ReadPaletteFile(file);
+    const std::string name = FreeTemplateName(place_, CleanTemplateName(file.stem().string()));
+    WriteTemplate(TemplatePath(place_, name), paints);
+    ListAndChoose(name);
+}
+
+void TemplateShop::Export_Click(const std::filesystem::path& file) const {
+    WriteWholeFile(file, GplText(RequireChosen(), controls_.Paints));
+}
+
+}  // namespace vendrel

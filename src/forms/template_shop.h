@@ -1,0 +1,84 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/workplace.h"
+
+namespace vendrel {
+
+/// What to look for in the catalogue.
+struct PaintSearch {
+    std::string Text;           // part of set, name or code, without regard to case; empty: all
+    std::string Set;            // one set only; empty: all
+    std::optional<Color> Near;  // nearest first; else catalogue order
+};
+
+/// What the template shop shows. Indexes count from 0; -1 is nothing.
+struct TemplateShopControls {
+    std::vector<std::string> TemplateList;
+    int TemplateIndex = -1;
+    std::vector<PaintColor> Paints{1};  // of the chosen template, element 0 unused
+    bool ChosenIsTemplate = false;      // else its file could not be read as one
+    std::vector<int> Found;             // catalogue rows, from 1
+};
+
+/// The library of templates: named lists of paints kept in files. Every change is written at once.
+class TemplateShop {
+  public:
+    explicit TemplateShop(Workplace& place) : place_(place) {}
+
+    /// Lists the templates; none is chosen yet.
+    void Form_Load();
+    /// The entry to choose first: the template in use, else the last one chosen; -1 none.
+    [[nodiscard]] int Preselected() const;
+    /// Throws when the file is no template; it is then chosen without paints.
+    void TemplateList_Click(int entry);
+
+    /// Throw Error for a name that cannot be used.
+    void AddTemplate_Click(std::string_view name);
+    void RenameTemplate_Click(std::string_view name);
+    void DuplicateTemplate_Click(std::string_view name);
+    /// Asks first.
+    void DeleteTemplate_Click();
+
+    void Search_Change(const PaintSearch& search);
+    /// Adds a paint of the catalogue (row from 1) at the end; one that is there is not added
+    /// twice. Throws Error for a name with a double quote. True when it was added.
+    bool AddPaint_Click(int catalogueRow);
+    /// Paints of the template count from 1.
+    void RemovePaint_Click(int paint);
+    void MovePaint_Click(int paint, int to);
+
+    /// Replaces the paints by all that the photo is matched to with the selected sets. The work on
+    /// the photo itself stays as it is.
+    void FillFromPhoto_Click();
+    /// A palette file becomes a new template, which is chosen.
+    void Import_Click(const std::filesystem::path& file);
+    void Export_Click(const std::filesystem::path& file) const;
+
+    [[nodiscard]] const TemplateShopControls& Controls() const { return controls_; }
+    /// The chosen template's name; empty when none is chosen.
+    [[nodiscard]] std::string Chosen() const;
+    /// Names of the catalogue's sets.
+    [[nodiscard]] std::vector<std::string> Sets() const;
+
+  private:
+    void ListAndChoose(std::string_view name);
+    void ReadChosen();
+    [[nodiscard]] std::string RequireChosen() const;
+    /// False when the chosen file is no template and shall not be written over.
+    [[nodiscard]] bool MayOverwrite();
+    void Store(std::vector<PaintColor> paints);
+
+    Workplace& place_;
+    TemplateShopControls controls_;
+};
+
+/// The menu command: sets stage 2 and opens the shop.
+void RunTemplateShop_Click(Workplace& place);
+
+}  // namespace vendrel

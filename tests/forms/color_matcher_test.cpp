@@ -1,0 +1,96 @@
+#include "forms/color_matcher.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "forms/small_photo.h"
+#include "paints/template_file.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using testing::ElementsAre;
+
+struct Matcher : test::SmallPhoto {
+    Matcher() {
+        Convert();
+        Form.Form_Load();
+    }
+    [[nodiscard]] std::vector<std::string> Offered() const {
+        std::vector<std::string> names;
+        for (const NextBestPaint& offer : Form.Offers()) {
+            names.push_back(offer.Paint.PaintName);
+        }
+        return names;
+    }
+    ColorMatcher Form{Place};
+};
+
+TEST(ColorMatcher, RefusesWhileThereIsNoGrid) {
+    test::SmallPhoto photo;
+    EXPECT_THROW(NextBestColors_Click(photo.Place), Error);
+    photo.Convert();
+    NextBestColors_Click(photo.Place);
+    EXPECT_THAT(photo.Screen.OpenForms, ElementsAre(FormId::ColorMatcher));
+}
+
+TEST(ColorMatcher, OffersPaintsThatThePaletteDoesNotHold) {
+    Matcher matcher;  // the palette is Red and Green
+    EXPECT_EQ(matcher.Form.Rows()[1].Stipples, 8);
+    EXPECT_THAT(matcher.Offered(), ElementsAre("Ochre, dark"));
+    matcher.Form.Source_Click(MatchSource::WholeCatalogue);
+    EXPECT_THAT(matcher.Offered(), ElementsAre("Ochre, dark", "Night"));
+    matcher.Form.Exchange_Click(0);
+    EXPECT_EQ(matcher.Form.Rows()[1].Current.PaintName, "Ochre, dark");
+    EXPECT_THAT(matcher.Offered(), ElementsAre("Red", "Night"));
+}
+
+TEST(ColorMatcher, PreviewShowsWhatAcceptingGives) {
+    Matcher matcher;
+    EXPECT_EQ(matcher.Form.Preview().Get(0, 0), Rgb(200, 0, 0));
+    matcher.Form.Exchange_Click(0);
+    const Surface preview = matcher.Form.Preview();
+    EXPECT_EQ(preview.Get(0, 0), Rgb(120, 80, 30));
+    EXPECT_EQ(matcher.State.PaintColors[1].PaintName, "Red");  // nothing happened yet
+    EXPECT_TRUE(matcher.Form.AcceptButton_Click());
+    for (int y = 0; y < preview.Height(); ++y) {
+        for (int x = 0; x < preview.Width(); ++x) {
+            const int paint = matcher.State.Stipples(x + 1, y + 1).ColorIndex;
+            EXPECT_EQ(preview.Get(x, y),
+                      ColorOf(matcher.State.PaintColors[static_cast<std::size_t>(paint)]));
+        }
+    }
+    EXPECT_TRUE(matcher.MainMenu[MenuId::PaintItNow].Enabled);
+}
+
+TEST(ColorMatcher, PutsBackOneOrAll) {
+    Matcher matcher;
+    matcher.Form.Source_Click(MatchSource::WholeCatalogue);
+    matcher.Form.Exchange_Click(0);
+    matcher.Form.PaintList_Click(2);
+    matcher.Form.Exchange_Click(0);
+    EXPECT_TRUE(matcher.Form.Rows()[2].Exchanged());
+    matcher.Form.PutBack_Click();
+    EXPECT_FALSE(matcher.Form.Rows()[2].Exchanged());
+    EXPECT_TRUE(matcher.Form.AnyExchanged());
+    matcher.Form.PutAllBack_Click();
+    EXPECT_FALSE(matcher.Form.AnyExchanged());
+    EXPECT_EQ(matcher.Form.Preview().Get(0, 0), Rgb(200, 0, 0));
+}
+
+TEST(ColorMatcher, AsksBeforeTouchUpsAreWipedAndSavesNumberedTemplates) {
+    Matcher matcher;
+    matcher.Form.Exchange_Click(0);
+    matcher.State.HasUnsavedWork = true;
+    matcher.Screen.Answers = {false};
+    EXPECT_FALSE(matcher.Form.AcceptButton_Click());
+    EXPECT_EQ(matcher.State.PaintColors[1].PaintName, "Red");
+    EXPECT_EQ(matcher.Form.SaveTemplate_Click(), "small Easy 2 Paints");
+    EXPECT_EQ(matcher.Form.SaveTemplate_Click(), "small Easy 2 Paints 2");
+    EXPECT_EQ(ReadTemplate(matcher.Files / "templates/small Easy 2 Paints.csv")[1].PaintName,
+              "Ochre, dark");
+}
+
+}  // namespace
+}  // namespace vendrel
