@@ -8,6 +8,8 @@
 #include <span>
 #include <system_error>
 
+#include "convert/bitmap_reader.h"
+#include "convert/foreign_photo.h"
 #include "support/error.h"
 #include "support/whole_file.h"
 
@@ -62,6 +64,26 @@ std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo)
         throw FileError(target, "is a different photo of the same name. Rename one of them.");
     }
     return target.filename().string();
+}
+
+std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo,
+                             const PhotoDecoder& decoder, const ReadProgress& progress) {
+    return NeedsDecoder(photo) ? TakeInPhoto(folder, photo, decoder, progress)
+                               : TakeIntoPictures(folder, photo);
+}
+
+std::string CropInPictures(const ProgramFolder& folder, const std::string& pictureFile,
+                           const CropTarget& target, CropPart part) {
+    if (part == CropPart::Whole) {
+        return pictureFile;
+    }
+    const fs::path file = folder.Path("Pictures/" + pictureFile);
+    const BitmapSize size = BitmapFile(file).Size();
+    const CropRect cut = part == CropPart::Top ? CropTop(size, target) : CropCentre(size, target);
+    if (cut == CropRect{0, 0, size.Width, size.Height}) {
+        return pictureFile;
+    }
+    return KeepCrop(folder, pictureFile, CutOut(ReadBitmap(file), cut));
 }
 
 }  // namespace vendrel

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <string>
 
+#include "convert/crop.h"
+#include "convert/photo_decoder.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
@@ -12,5 +14,22 @@ namespace vendrel {
 /// of that name is there, or when copying fails.
 [[nodiscard]] std::string TakeIntoPictures(const ProgramFolder& folder,
                                            const std::filesystem::path& photo);
+
+/// The same for a photo of any format: one that the bitmap reader cannot read is decoded and kept
+/// as a bitmap, under another name rather than over another photo. Also throws FormatError.
+[[nodiscard]] std::string TakeIntoPictures(const ProgramFolder& folder,
+                                           const std::filesystem::path& photo,
+                                           const PhotoDecoder& decoder,
+                                           const ReadProgress& progress = {});
+
+/// Which part of a photo is kept when its shape asks for less than the whole.
+enum class CropPart { Whole, Centre, Top };
+
+/// Cuts that part from a photo of Pictures and keeps it as a photo of its own; the photo stays.
+/// Gives the crop's file name, or the photo's where there is nothing to cut off. Throws FileError,
+/// FormatError.
+[[nodiscard]] std::string CropInPictures(const ProgramFolder& folder,
+                                         const std::string& pictureFile, const CropTarget& target,
+                                         CropPart part);
 
 }  // namespace vendrel
