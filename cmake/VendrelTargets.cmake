@@ -22,6 +22,17 @@ function(vendrel_library name)
     target_link_libraries(vendrel_${name} PUBLIC vendrel_settings ${ARG_DEPENDS})
 endfunction()
 
+# Compiled as the tests are, so that they can share its precompiled headers.
+function(vendrel_test_headers_target)
+    file(WRITE ${PROJECT_BINARY_DIR}/test_headers.cpp "")
+    add_library(vendrel_test_headers OBJECT ${PROJECT_BINARY_DIR}/test_headers.cpp)
+    target_link_libraries(vendrel_test_headers PRIVATE vendrel_settings GTest::gmock GTest::gtest)
+    target_compile_definitions(vendrel_test_headers PRIVATE VENDREL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    target_compile_options(vendrel_test_headers PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+    target_precompile_headers(vendrel_test_headers PRIVATE
+        <gmock/gmock.h> <gtest/gtest.h> <filesystem> <fstream> <random> <string> <vector>)
+endfunction()
+
 # vendrel_test(NAME SOURCES file... [DEPENDS target...])
 # The tests of one folder as one GoogleTest program.
 function(vendrel_test name)
@@ -32,6 +43,11 @@ function(vendrel_test name)
     target_compile_definitions(test_${name} PRIVATE VENDREL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     # GCC 12 sees overruns behind range checks when tests pass constants that lie outside.
     target_compile_options(test_${name} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+    # The test framework's headers cost more to compile than most tests: one copy for all programs.
+    if(NOT TARGET vendrel_test_headers)
+        vendrel_test_headers_target()
+    endif()
+    target_precompile_headers(test_${name} REUSE_FROM vendrel_test_headers)
     add_test(NAME ${name} COMMAND test_${name})
 endfunction()
 
