@@ -72,7 +72,7 @@ void CheckSavedStipples(const Workplace& place) {
     place.MainMenu[MenuId::LoadStipples].Enabled = StippleFileExists(place);
 }
 
-void LoadStipples_Click(const Workplace& place) {
+void LoadStipples_Click(Workplace& place) {
     const std::filesystem::path path = StippleFilePath(place);
     LoadedGrid loaded = ReadGrid(path, PhotoCells(place));
     const StippleHeader header = loaded.Header;

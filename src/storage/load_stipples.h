@@ -11,6 +11,6 @@ void CheckSavedStipples(const Workplace& place);
 /// Takes up the kept grid and its palette and draws it. The grid has the loaded photo's size
 /// whatever size the file names (a message tells when they differ). Throws FileError and
 /// FormatError; photo, palette and grid are then as before.
-void LoadStipples_Click(const Workplace& place);
+void LoadStipples_Click(Workplace& place);
 
 }  // namespace vendrel
