@@ -122,21 +122,22 @@ void CheckPaints(Workplace& place) {
     }
 }
 
-void Convert(Workplace& place) {
+int Convert(Workplace& place) {
     CheckPaints(place);
     RefreshPhotoImage(place);
     const BusyPointer busy(place.Screen);
     place.State.WorkStage = 1;
     place.State.StipplesMade = false;
-    ApplyStipples(place);
+    const int matched = ApplyStipples(place);
     DrawStipplePicture(place);
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;
+    return matched;
 }
 
 }  // namespace
 
-void ApplyStipples(Workplace& place) {
+int ApplyStipples(Workplace& place) {
     WorkState& state = place.State;
     CheckPaints(place);
     place.Screen.SetCaption("Getting Colors");
@@ -148,10 +149,11 @@ void ApplyStipples(Workplace& place) {
     }
     state.StipplesMade = true;
     SetPalette(state, std::exchange(state.FoundColors, std::vector<PaintColor>(1)));
-    state.FoundCount = 0;
+    const int matched = std::exchange(state.FoundCount, 0);
     if (!state.KeepAllColors) {
         ReduceColors(place, state.FinalColors);
     }
+    return matched;
 }
 
 void DrawStipplePicture(Workplace& place) {
@@ -171,12 +173,12 @@ void DrawStipplePicture(Workplace& place) {
     place.Frames.StippleFrame.Picture = place.Frames.WorkFrame.Picture;
 }
 
-void ChangeToStipples_Click(Workplace& place) {
-    Convert(place);
+int ChangeToStipples_Click(Workplace& place) {
+    return Convert(place);
 }
 
-void AutoChangeToStipples(Workplace& place) {
-    Convert(place);
+int AutoChangeToStipples(Workplace& place) {
+    return Convert(place);
 }
 
 }  // namespace vendrel

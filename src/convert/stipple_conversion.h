@@ -8,17 +8,18 @@ namespace vendrel {
 /// found the palette (in the order they were met) and reduces it to FinalColors, unless
 /// KeepAllColors is set. Leaves each stipple's block black, with its dot drawn only for somebody
 /// watching. Throws OverflowError and, before anything changes, Error when fewer than one final
-/// paint is wanted or no paint is selected.
-void ApplyStipples(Workplace& place);
+/// paint is wanted or no paint is selected. Answers how many paints the photo matched before the
+/// reduction.
+int ApplyStipples(Workplace& place);
 
 /// Draws the dot of every stipple from the grid and the palette, and keeps the drawing in
 /// StippleFrame. What lies between the dots stays as it is.
 void DrawStipplePicture(Workplace& place);
 
-/// The whole way from the photo to the stipple picture. Throws as ApplyStipples.
-void ChangeToStipples_Click(Workplace& place);
+/// The whole way from the photo to the stipple picture. Throws and answers as ApplyStipples.
+int ChangeToStipples_Click(Workplace& place);
 
 /// The same, asked for by another window.
-void AutoChangeToStipples(Workplace& place);
+int AutoChangeToStipples(Workplace& place);
 
 }  // namespace vendrel
