@@ -12,7 +12,8 @@ constexpr std::string_view kHelp =
     R"(Vendrel turns a photograph into a paint-by-symbol kit.
 
   vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
-  vendrel symbols        draws the symbols anew into Data/Symbols.txt
+  vendrel symbols [--folder DIR]
+                         draws the symbols anew into Data/Symbols.txt
   vendrel --help         shows this text
   vendrel --version      shows the version
 
@@ -232,9 +233,10 @@ Arguments ParseKit(Words& words) {
     return arguments;
 }
 
-Arguments ParseSymbols(Words& words) {
-    Arguments arguments{Command::Symbols, {}, "."};
-    while (words.Next()) {
+// The commands whose one option is the folder; the words begin at the option.
+Arguments ParseFolder(Command command, Words& words) {
+    Arguments arguments{command, {}, "."};
+    do {
         if (words.Word() == "--help" || words.Word() == "-h") {
             return {Command::Help, {}, {}};
         }
@@ -242,7 +244,7 @@ Arguments ParseSymbols(Words& words) {
             RefuseOption(words.Word(), "vendrel --help");
         }
         arguments.Folder = words.Value();
-    }
+    } while (words.Next());
     return arguments;
 }
 
@@ -258,7 +260,11 @@ Arguments ParseArguments(std::span<const std::string_view> given) {
         return ParseKit(words);
     }
     if (command == "symbols") {
-        return ParseSymbols(words);
+        return words.Next() ? ParseFolder(Command::Symbols, words)
+                            : Arguments{Command::Symbols, {}, "."};
+    }
+    if (command == "--folder") {
+        return ParseFolder(Command::Window, words);
     }
     if (command == "--help" || command == "-h" || command == "help") {
         return {Command::Help, {}, {}};

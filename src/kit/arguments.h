@@ -41,7 +41,7 @@ enum class Command { Window, Kit, Symbols, Help, KitHelp, Version };
 struct Arguments {
     Command What = Command::Window;
     KitOptions Kit;                      // for Command::Kit
-    std::filesystem::path Folder = ".";  // for Command::Symbols
+    std::filesystem::path Folder = ".";  // for Command::Window and Command::Symbols
 };
 
 /// Reads the words behind the program's name. Throws UsageError with a sentence.

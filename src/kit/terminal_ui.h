@@ -1,7 +1,7 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
-#include <functional>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -25,8 +25,10 @@ enum class Chatter {
 /// are answered with no, as nobody is there to say yes.
 class TerminalUi : public Ui {
   public:
-    TerminalUi(std::ostream& out, Chatter chatter, ScreenSize screen)
-        : out_(out), chatter_(chatter), screen_(screen) {}
+    /// `stopAsked` may be null; the work stops once it is set.
+    TerminalUi(std::ostream& out, Chatter chatter, ScreenSize screen,
+               const std::atomic<bool>* stopAsked = nullptr)
+        : out_(out), chatter_(chatter), screen_(screen), stopAsked_(stopAsked) {}
 
     void SetCaption(std::string_view caption) override;
     void ReportProgress(int done, int total) override;
@@ -35,7 +37,11 @@ class TerminalUi : public Ui {
     [[nodiscard]] bool Ask(std::string_view /*title*/, std::string_view /*question*/) override {
         return false;
     }
-    void Yield() override {}
+    void Yield() override {
+        if (stopAsked_ != nullptr && stopAsked_->load(std::memory_order_relaxed)) {
+            throw Stop{};
+        }
+    }
     void RefreshWorkFrame() override {}
     void ShowStep(int /*done*/, int /*total*/) override {}
     [[nodiscard]] bool PutOnClipboard(const Surface& /*picture*/) override { return false; }
@@ -54,6 +60,7 @@ class TerminalUi : public Ui {
     std::ostream& out_;
     Chatter chatter_;
     ScreenSize screen_;
+    const std::atomic<bool>* stopAsked_;
     std::string caption_;
     int percent_ = -1;
     bool lineShown_ = false;

@@ -61,6 +61,8 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
 
 TEST(Arguments, OtherCommandsAreTold) {
     EXPECT_EQ(Parse({}).What, Command::Window);
+    EXPECT_EQ(Parse({"--folder", "x"}).What, Command::Window);
+    EXPECT_EQ(Parse({"--folder", "x"}).Folder, "x");
     EXPECT_EQ(Parse({"--help"}).What, Command::Help);
     EXPECT_EQ(Parse({"--version"}).What, Command::Version);
     EXPECT_EQ(Parse({"kit", "a.bmp", "--help"}).What, Command::KitHelp);

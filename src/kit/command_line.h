@@ -1,0 +1,34 @@
+#pragma once
+
+#include <atomic>
+#include <filesystem>
+#include <functional>
+#include <ostream>
+#include <span>
+#include <string_view>
+
+#include "support/program_folder.h"
+
+namespace vendrel {
+
+/// What the command line gets from the program around it.
+struct Surroundings {
+    std::ostream& Out;
+    std::ostream& Err;
+    bool ErrIsTerminal = false;
+    std::filesystem::path Shipped = {};  // holds the Data and Pictures that ship
+    std::string_view Version = {};
+    /// Draws the symbols anew into a folder and names the file; empty where there are no fonts.
+    std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols = {};
+    /// Opens the main window in a folder and gives the exit status; empty where there is none.
+    std::function<int(const std::filesystem::path&)> OpenWindow = {};
+    /// Set when the program should end: the work stops at the next stipple.
+    const std::atomic<bool>* StopAsked = nullptr;
+};
+
+/// Does what the words behind the program's name say. Every failure ends here, as a sentence on
+/// Err. Answers the exit status: 0 done, 1 a photo or data file failed, 2 wrong usage, 130 stopped.
+[[nodiscard]] int RunCommandLine(std::span<const std::string_view> words,
+                                 const Surroundings& around);
+
+}  // namespace vendrel

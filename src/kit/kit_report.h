@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "convert/bitmap_header.h"
+#include "kit/json.h"
+#include "output/cell_numbering.h"
+
+namespace vendrel {
+
+/// What was made of one photo.
+struct KitReport {
+    std::string Photo;
+    std::string Name;
+    std::string Difficulty;  // the word in file names
+    BitmapSize PhotoSize;
+    BitmapSize WorkingSize;
+    int CellsAcross = 0;
+    int CellsDown = 0;
+    bool FromGrid = false;
+    int PaintsMatched = 0;  // not known of a saved grid
+    int PaintsKept = 0;
+    int Areas = 0;
+    int Loners = 0;
+    std::optional<NumberingCounts> Numbering;                  // when a sheet was made
+    std::vector<std::pair<std::string, double>> Milliseconds;  // per step, in order
+    std::vector<std::pair<std::string, std::string>> Files;    // output name and path
+    std::vector<std::string> Notes;
+};
+
+/// Several lines for people.
+[[nodiscard]] std::string SummaryOf(const KitReport& report);
+/// The same figures for programs.
+[[nodiscard]] JsonObject JsonOf(const KitReport& report);
+
+}  // namespace vendrel

@@ -1,0 +1,76 @@
+#include "kit/kit_settings.h"
+
+#include <algorithm>
+#include <string>
+
+#include "convert/settings.h"
+#include "paints/paint_sets.h"
+#include "paints/template_file.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+void SetDifficulty(Workplace& place, MenuId chosen) {
+    for (const MenuId level : {MenuId::EasySet, MenuId::MediumSet, MenuId::HardSet}) {
+        place.MainMenu[level].Checked = level == chosen;
+    }
+    SetStippleSize(place, chosen == MenuId::EasySet ? 8 : chosen == MenuId::MediumSet ? 6 : 4);
+}
+
+[[noreturn]] void RefuseSet(const WorkState& state, const std::string& name) {
+    std::string sets;
+    for (const PaintSet& set : state.PaintSets) {
+        if (!set.Name.empty()) {
+            sets += (sets.empty() ? "\"" : ", \"") + set.Name + "\"";
+        }
+    }
+    throw UsageError("There is no paint set \"" + name + "\". The catalogue has " + sets + ".");
+}
+
+// In the order of the catalogue's sets, as the paint shop would list them.
+void SelectSets(Workplace& place, const std::vector<std::string>& names) {
+    WorkState& state = place.State;
+    for (PaintSet& set : state.PaintSets) {
+        set.Selected = false;
+    }
+    for (const std::string& name : names) {
+        const auto set =
+            std::find_if(state.PaintSets.begin() + 1, state.PaintSets.end(),
+                         [&name](const PaintSet& candidate) { return candidate.Name == name; });
+        if (set == state.PaintSets.end()) {
+            RefuseSet(state, name);
+        }
+        set->Selected = true;
+    }
+    FillSelectedPaintsList(state);
+    LoadColors(place);
+}
+
+void SelectTemplate(Workplace& place, const std::string& name) {
+    WorkState& state = place.State;
+    state.MfgSelected = false;
+    state.TemplateMode = true;
+    state.SelectedTemplate = name;
+    if (!LoadTemplateColors(place, name)) {
+        throw FileError(TemplatePath(place, name), "has no paints. Choose another template.");
+    }
+    state.TemplateLoaded = true;
+}
+
+}  // namespace
+
+void ApplySettings(Workplace& place, const KitOptions& options) {
+    SetDifficulty(place, options.Difficulty);
+    place.MainMenu[MenuId::AveragePixel].Checked = !options.SamplePixel;
+    place.MainMenu[MenuId::SamplePixel].Checked = options.SamplePixel;
+    place.State.FinalColors = options.FinalPaints;
+    SetColorChecks(place.MainMenu, options.FinalPaints);
+    if (options.Template) {
+        SelectTemplate(place, *options.Template);
+    } else if (!options.Sets.empty()) {
+        SelectSets(place, options.Sets);
+    }
+}
+
+}  // namespace vendrel

@@ -1,0 +1,37 @@
+#include "kit/photo_lookup.h"
+
+#include <system_error>
+
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsFile(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored);
+}
+
+}  // namespace
+
+fs::path FindPhoto(const ProgramFolder& folder, const std::string& word) {
+    if (IsFile(word)) {
+        return word;
+    }
+    if (!fs::path(word).has_parent_path()) {
+        const fs::path kept = folder.DataFile("Pictures/" + word);
+        if (IsFile(kept)) {
+            return kept;
+        }
+    }
+    throw FileError(word, "there is no such photo, neither here nor in Pictures. Check its name.");
+}
+
+std::string PictureNameOf(const fs::path& photo) {
+    const std::string file = photo.filename().string();
+    return file.substr(0, file.find('.'));
+}
+
+}  // namespace vendrel

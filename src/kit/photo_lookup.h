@@ -1,0 +1,17 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "support/program_folder.h"
+
+namespace vendrel {
+
+/// The file a painter means by a word of the command line: a path, or the name of a photo in
+/// Pictures, the folder's own or the shipped one. Throws FileError when there is none.
+[[nodiscard]] std::filesystem::path FindPhoto(const ProgramFolder& folder, const std::string& word);
+
+/// The name that a photo's kit goes by: its file name up to the first dot.
+[[nodiscard]] std::string PictureNameOf(const std::filesystem::path& photo);
+
+}  // namespace vendrel
