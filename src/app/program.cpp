@@ -1,0 +1,74 @@
+#include "app/program.h"
+
+#include <unistd.h>
+
+#include <atomic>
+#include <csignal>
+#include <iostream>
+#include <system_error>
+
+#include "kit/command_line.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::atomic<bool> stopAsked = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+// Half-written files are taken away while the work unwinds; a second signal ends at once.
+void AskToStop(int signal) {
+    stopAsked = true;
+    std::signal(signal, SIG_DFL);
+}
+
+// Where Data and Pictures lie: beside an installed program, else in the tree it was built from.
+fs::path ShippedFolder() {
+    std::error_code ignored;
+    for (const char* way : {"../share/vendrel", "../../share/vendrel"}) {
+        const fs::path installed = (OwnFolder() / way).lexically_normal();
+        if (fs::exists(installed / "Data", ignored)) {
+            return installed;
+        }
+    }
+    return VENDREL_SOURCE_DIR;
+}
+
+}  // namespace
+
+fs::path OwnFolder() {
+    std::error_code ignored;
+    return fs::read_symlink("/proc/self/exe", ignored).parent_path();
+}
+
+std::vector<std::string_view> WordsOf(int argc, char** argv) {
+    return argc > 0 ? std::vector<std::string_view>(argv + 1, argv + argc)
+                    : std::vector<std::string_view>();
+}
+
+int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
+    if (!words.empty() && words.front() == "kit") {
+        std::signal(SIGINT, AskToStop);
+        std::signal(SIGTERM, AskToStop);
+    }
+    const fs::path shipped = ShippedFolder();
+    Surroundings around{
+        .Out = std::cout,
+        .Err = std::cerr,
+        .ErrIsTerminal = isatty(STDERR_FILENO) != 0,
+        .Shipped = shipped,
+        .Version = VENDREL_VERSION,
+        .MakeSymbols = parts.MakeSymbols,
+        .OpenWindow = {},
+        .StopAsked = &stopAsked,
+    };
+    if (parts.OpenWindow) {
+        around.OpenWindow = [&](const fs::path& folder) {
+            return parts.OpenWindow(folder, shipped);
+        };
+    }
+    return RunCommandLine(words, around);
+}
+
+}  // namespace vendrel

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "support/program_folder.h"
+
+namespace vendrel {
+
+/// What only the half with fonts and windows can do; empty in the other.
+struct QtParts {
+    std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols;
+    std::function<int(const std::filesystem::path& folder, const std::filesystem::path& shipped)>
+        OpenWindow;
+};
+
+/// The folder that holds the running program's file.
+[[nodiscard]] std::filesystem::path OwnFolder();
+
+/// The words behind the program's name.
+[[nodiscard]] std::vector<std::string_view> WordsOf(int argc, char** argv);
+
+/// Runs a command line on this process's streams and answers the exit status.
+[[nodiscard]] int RunProgram(std::span<const std::string_view> words, const QtParts& parts);
+
+}  // namespace vendrel
