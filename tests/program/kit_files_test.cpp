@@ -1,0 +1,166 @@
+#include <gmock/gmock.h>
+
+#include <map>
+#include <set>
+
+#include "convert/bitmap_reader.h"
+#include "program/studio.h"
+#include "support/text_file.h"
+
+namespace vendrel {
+namespace {
+
+using test::Figure;
+using test::HeaderNumber;
+using test::Studio;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+using testing::UnorderedElementsAre;
+
+TEST(KitFiles, AKitIsASheetAPaintingAndAGridNamedAfterPhotoAndDifficulty) {
+    for (const auto& [level, word] : std::map<std::string, std::string>{
+             {"easy", "Easy"}, {"medium", "Medium"}, {"difficult", "Difficult"}}) {
+        Studio studio;
+        studio.AddPhoto("ball.one.bmp");
+        ASSERT_EQ(studio.Kit({studio.Path("ball.one.bmp"), "--difficulty", level}), 0)
+            << studio.Err;
+        EXPECT_THAT(
+            studio.Names("Results"),
+            UnorderedElementsAre("ball " + word + " PBS.BMP", "ball " + word + " Painting.BMP"));
+        EXPECT_THAT(studio.Names("Saved Stipples"), UnorderedElementsAre("ball-" + word + ".stp"));
+        EXPECT_THAT(studio.Names("Pictures"), UnorderedElementsAre("ball.one.bmp"));
+    }
+}
+
+TEST(KitFiles, FiguresOfTheJsonAgreeWithTheFiles) {
+    Studio studio;
+    studio.AddPhoto("ball.bmp");
+    ASSERT_EQ(studio.Kit({studio.Path("ball.bmp"), "--json", "--final-paints", "16"}), 0);
+    const std::string& json = studio.Out;
+    EXPECT_THAT(json, StartsWith("{\"photo\": "));
+    EXPECT_EQ(std::count(json.begin(), json.end(), '\n'), 1);
+
+    const std::string painting = studio.Files.Read("Results/ball Easy Painting.BMP");
+    const int width = HeaderNumber(painting, 18);
+    const int height = HeaderNumber(painting, 22);
+    EXPECT_EQ(width, Figure(json, "workingSize", "width"));
+    EXPECT_EQ(height, Figure(json, "workingSize", "height"));
+    EXPECT_EQ(HeaderNumber(painting, 14), 40);
+    EXPECT_EQ(HeaderNumber(painting, 28), 24);
+    EXPECT_EQ(HeaderNumber(painting, 38), 5500);
+    const std::string sheet = studio.Files.Read("Results/ball Easy PBS.BMP");
+    EXPECT_EQ(HeaderNumber(sheet, 18), 2 * width);
+
+    const int across = Figure(json, "stipples", "across");
+    const int down = Figure(json, "stipples", "down");
+    EXPECT_EQ(across * 8, width);
+    EXPECT_EQ(down * 8, height);
+    const int kept = Figure(json, "paints", "kept");
+    EXPECT_LE(kept, 16);
+    EXPECT_GE(Figure(json, "paints", "matched"), kept);
+    const auto lines = SplitLines(studio.Files.Read("Saved Stipples/ball-Easy.stp"));
+    EXPECT_EQ(lines.at(0), std::to_string(kept) + "," + std::to_string(across) + "," +
+                               std::to_string(down) + ",16");
+    EXPECT_EQ(lines.size(), static_cast<std::size_t>(1 + kept + across * down));
+    std::set<std::string> areas;
+    for (std::size_t i = static_cast<std::size_t>(1 + kept); i < lines.size(); ++i) {
+        areas.insert(lines[i].substr(0, lines[i].find(',')));
+    }
+    EXPECT_EQ(static_cast<int>(areas.size()), Figure(json, "paints", "areas"));
+    EXPECT_GT(Figure(json, "numbering", "symbols"), 0);
+}
+
+TEST(KitFiles, TheSamePhotoGivesTheSameBytesWhateverRanBefore) {
+    Studio alone;
+    alone.AddPhoto("ball.bmp");
+    ASSERT_EQ(alone.Kit({alone.Path("ball.bmp")}), 0);
+    Studio together;
+    together.AddPhoto("ball.bmp");
+    together.AddPhoto("other.bmp", 40);
+    ASSERT_EQ(together.Kit({together.Path("other.bmp"), together.Path("ball.bmp")}), 0);
+    for (const char* file : {"Results/ball Easy PBS.BMP", "Results/ball Easy Painting.BMP",
+                             "Saved Stipples/ball-Easy.stp"}) {
+        EXPECT_TRUE(alone.Files.Read(file) == together.Files.Read(file)) << file;
+    }
+    EXPECT_FALSE(together.Files.Read("Results/ball Easy Painting.BMP") ==
+                 together.Files.Read("Results/other Easy Painting.BMP"));
+}
+
+TEST(KitFiles, SettingsChangeThePaintingForThisRunOnly) {
+    Studio studio;
+    studio.AddPhoto("ball.bmp");
+    ASSERT_EQ(studio.Kit({studio.Path("ball.bmp"), "--outputs", "painting"}), 0);
+    EXPECT_THAT(studio.Names("Saved Stipples"), IsEmpty());
+    const std::string painting = studio.Files.Read("Results/ball Easy Painting.BMP");
+    const std::string list = studio.Files.Read("Data/paintlist.txt");
+    studio.Files.Write("templates/Two.csv",
+                       " 2\r\n250,250,250,\"Own\",\"W\",\"White\"\r\n90,20,10,\"Own\",\"R\","
+                       "\"Brick\"\r\n");
+    const std::string set = SplitLines(list).at(0);
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"--sample", "pixel"}, {"--sets", set}, {"--template", "Two"}}) {
+        std::vector<std::string> all = {"ball.bmp", "--outputs", "painting", "--json"};
+        all.insert(all.end(), words.begin(), words.end());
+        ASSERT_EQ(studio.Kit(all), 0) << studio.Err;
+        EXPECT_FALSE(studio.Files.Read("Results/ball Easy Painting.BMP") == painting) << words[0];
+    }
+    EXPECT_EQ(Figure(studio.Out, "paints", "kept"), 2);
+    EXPECT_EQ(studio.Files.Read("Data/paintlist.txt"), list);
+}
+
+TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
+    Studio studio;
+    studio.AddPhoto("ball.bmp");
+    const std::string grid = "Saved Stipples/ball-Easy.stp";
+    ASSERT_EQ(studio.Kit({studio.Path("ball.bmp")}), 0);
+    const std::string made = studio.Files.Read(grid);
+    const std::string painting = studio.Files.Read("Results/ball Easy Painting.BMP");
+
+    // The first stipple by hand in another paint, as a text editor would do it.
+    auto lines = SplitLines(made);
+    const auto first = static_cast<std::size_t>(1 + std::stoi(lines[0]));
+    const std::string paint = lines[first].starts_with("1,1,") ? "2" : "1";
+    lines[first] = "1," + paint + ",5,5";
+    std::string edited;
+    for (const std::string& line : lines) {
+        edited += line + "\n";
+    }
+    studio.Files.Write(grid, edited);
+
+    EXPECT_EQ(studio.Kit({"ball.bmp"}), 0);
+    EXPECT_EQ(studio.Files.Read(grid), edited);
+    EXPECT_THAT(studio.Out, HasSubstr("ball-Easy.stp is a different grid and was kept"));
+    EXPECT_TRUE(studio.Files.Read("Results/ball Easy Painting.BMP") == painting);
+
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--from-grid", "--outputs", "painting"}), 0);
+    EXPECT_FALSE(studio.Files.Read("Results/ball Easy Painting.BMP") == painting);
+
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--replace-grid"}), 0);
+    EXPECT_EQ(studio.Files.Read(grid), made);
+    EXPECT_THAT(studio.Out, Not(HasSubstr("different grid")));
+}
+
+TEST(KitFiles, FoldersAndPhotosAreFoundWhateverTheirLetters) {
+    Studio studio;
+    std::filesystem::create_directories(studio.Files / "data");
+    std::filesystem::create_directories(studio.Files / "RESULTS");
+    studio.Files.Write("data/paintlist.txt", "No such set\r\n");
+    studio.AddPhoto("pictures/Ball.BMP");
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "painting"}), 1);
+    EXPECT_THAT(studio.Err, HasSubstr("Paint Shop"));
+    std::filesystem::remove(studio.Files / "data/paintlist.txt");
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "painting"}), 0) << studio.Err;
+    EXPECT_THAT(studio.Names("RESULTS"), UnorderedElementsAre("Ball Easy Painting.BMP"));
+    EXPECT_THAT(studio.Names("Pictures"), IsEmpty());
+}
+
+TEST(KitFiles, TheShippedPhotoIsTakenWhenTheFolderHasNone) {
+    Studio studio;
+    EXPECT_EQ(studio.Kit({"PBNLady.bmp", "--outputs", "painting"}), 0) << studio.Err;
+    EXPECT_THAT(studio.Names("Pictures"), UnorderedElementsAre("PBNLady.bmp"));
+}
+
+}  // namespace
+}  // namespace vendrel
