@@ -61,8 +61,8 @@ std::vector<int> PaletteReduction::NewIndices() const {
     for (std::size_t i = 1; i < origins_.size(); ++i) {
         indices[At(origins_[i])] = static_cast<int>(i);
     }
-    for (auto merge = merges_.rbegin(); merge != merges_.rend(); ++merge) {
-        indices[At(merge->From)] = indices[At(merge->Into)];
+    for (std::size_t i = merges_.size(); i-- > 0;) {
+        indices[At(merges_[i].From)] = indices[At(merges_[i].Into)];
     }
     return indices;
 }
