@@ -11,8 +11,10 @@ std::int64_t FloorDivide(std::int64_t value, std::int64_t by) {
     return value >= 0 ? value / by : -((by - 1 - value) / by);
 }
 
-int Nearest(double value) {
-    return static_cast<int>(value + 0.5);
+// The nearest level, halves upwards; both numbers are whole, so that nothing is lost before the
+// cut.
+int Level(double sum, double total) {
+    return static_cast<int>((2 * sum + total) / (2 * total));
 }
 
 }  // namespace
@@ -122,8 +124,7 @@ void RowScaler::Finish(int targetRow) {
             b += weight * blue[source];
             ++source;
         }
-        out[static_cast<std::size_t>(x)] =
-            Rgb(Nearest(r / total), Nearest(g / total), Nearest(b / total));
+        out[static_cast<std::size_t>(x)] = Rgb(Level(r, total), Level(g, total), Level(b, total));
     }
     std::fill(sums_.begin(), sums_.end(), 0.0F);
 }
