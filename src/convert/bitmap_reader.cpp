@@ -15,7 +15,7 @@ void ReadPlainRows(BitmapInput& input, const BitmapHeader& header, const RowSink
     const auto rows = static_cast<std::size_t>(header.Size.Height);
     const std::size_t rowsPerBlock =
         std::min(rows, std::max<std::size_t>(1, kBlockBytes / header.BytesPerRow));
-    std::vector<std::uint8_t> block(rowsPerBlock * header.BytesPerRow + kRowSlack);
+    std::vector<std::uint8_t> block(rowsPerBlock * header.BytesPerRow);
     std::vector<Color> row(static_cast<std::size_t>(header.Size.Width));
     std::uint64_t left = input.Size() - header.PixelOffset;
     input.Seek(header.PixelOffset);

@@ -31,13 +31,9 @@ void UnpackIndexed(const BitmapHeader& header, const std::uint8_t* bytes, std::s
     CheckPalette(seen, file);
 }
 
-// Four bytes with the red one third, turned round, are the packed colour and one byte too many:
-// one load per pixel instead of three.
 void Unpack24(const std::uint8_t* bytes, std::span<Color> row) {
     for (Color& pixel : row) {
-        const std::uint32_t turned = std::uint32_t{bytes[0]} << 24 | std::uint32_t{bytes[1]} << 16 |
-                                     std::uint32_t{bytes[2]} << 8 | std::uint32_t{bytes[3]};
-        pixel = static_cast<Color>(turned >> 8);
+        pixel = Rgb(bytes[2], bytes[1], bytes[0]);
         bytes += 3;
     }
 }

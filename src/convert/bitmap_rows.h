@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -11,9 +10,6 @@
 #include "support/color.h"
 
 namespace vendrel {
-
-/// Bytes that must be readable (whatever they hold) behind a row given to UnpackRow.
-inline constexpr std::size_t kRowSlack = 4;
 
 /// Turns one stored row, not of run lengths, into colours. Throws FormatError naming `file` when a
 /// pixel names a colour past the palette's end.

@@ -79,18 +79,17 @@ TEST(DibSection, ResamplesDownwardsFirstWithHalvesToEven) {
     }
     EXPECT_EQ(reds, (std::vector{0, 25, 50, 75}));
 
-    // 0.5 and 1.5 downwards become 0 and 2, half-way between them 1. Across first it would be
-    // 0.5 above 1.5, both to even: 0 and 2, the same; 1 and 2 against 0 and 3 tell them apart.
+    // Half-way down, 0.5 and 2.5 become 0 and 2; half-way across those lies 1. Across first, or
+    // unrounded, it would be 2.
     Surface square(2, 2);
-    square.Set(0, 0, 0);
-    square.Set(0, 1, 1);  // 0.5 -> 0
+    square.Set(0, 1, 1);
     square.Set(1, 0, 2);
-    square.Set(1, 1, 3);  // 2.5 -> 2
+    square.Set(1, 1, 3);
     cDIBSection image;
     ASSERT_TRUE(image.CreateFromPicture(square));
-    // Rows are counted from the lowest: the target's second row lies half-way.
-    EXPECT_EQ(RedOf(image.Resample(2, 4)->hdc().Get(2, 0)), 1);
-    EXPECT_EQ(RedOf(image.Resample(2, 4)->hdc().Get(1, 0)), 0);  // a quarter of 2 is 0.5
+    const auto blended = image.Resample(2, 4);
+    EXPECT_EQ(RedOf(blended->hdc().Get(2, 0)), 1);
+    EXPECT_EQ(RedOf(blended->hdc().Get(1, 0)), 0);  // a quarter of 2 is 0.5
 }
 
 TEST(DibSection, ResamplesToTheSameSizeAndFromOnePixel) {
