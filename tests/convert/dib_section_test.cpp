@@ -73,11 +73,10 @@ TEST(DibSection, ResamplesDownwardsFirstWithHalvesToEven) {
     // Four from two: each step is a quarter of the way.
     const auto wide = Row({0, 100}).Resample(1, 4);
     ASSERT_NE(wide, nullptr);
-    std::vector<int> reds;
+    const std::vector<int> expected = {0, 25, 50, 75};
     for (int x = 0; x < 4; ++x) {
-        reds.push_back(RedOf(wide->hdc().Get(x, 0)));
+        EXPECT_EQ(RedOf(wide->hdc().Get(x, 0)), expected[static_cast<std::size_t>(x)]);
     }
-    EXPECT_EQ(reds, (std::vector{0, 25, 50, 75}));
 
     // Half-way down, 0.5 and 2.5 become 0 and 2; half-way across those lies 1. Across first, or
     // unrounded, it would be 2.
