@@ -22,10 +22,11 @@ inline Surface FourQuarters(int width, int height) {
 }
 
 /// A program folder with three small paint sets ("Reds" is selected), the shipped symbols, a sample
-/// and one photo, Pictures/four.bmp.
+/// and one photo, Pictures/four.bmp. The screen is small, so that little is painted.
 class Studio : public Bench {
   public:
     Studio() : Bench(VENDREL_SOURCE_DIR) {
+        Screen.Size = ScreenSize::FromPixels(200, 300);
         Files.Write("Data/studiopaint.csv",
                     "5\r\n230,20,20,Reds,R1,Red\r\n120,10,10,Reds,R2,Dark Red\r\n"
                     "20,220,30,Greens,G1,Green\r\n"

@@ -1,0 +1,280 @@
+#include "forms/main_form.h"
+
+#include <initializer_list>
+
+#include "cleanup/paint_pass.h"
+#include "convert/bitmap_reader.h"
+#include "convert/photo_import.h"
+#include "convert/settings.h"
+#include "convert/stipple_conversion.h"
+#include "forms/start_up.h"
+#include "output/painting_writer.h"
+#include "output/sheet_writer.h"
+#include "paints/restore.h"
+#include "shell/busy_pointer.h"
+#include "storage/load_stipples.h"
+
+namespace vendrel {
+namespace {
+
+using enum MenuId;
+
+struct ClickHandler {
+    MenuId Entry;
+    void (MainForm::*Handler)();
+};
+
+constexpr ClickHandler kHandlers[] = {
+    {LoadBMP, &MainForm::LoadBMP_Click},
+    {LoadStipples, &MainForm::LoadStipples_Click},
+    {StartupPaintShop, &MainForm::StartupPaintShop_Click},
+    {ChangeToStipples, &MainForm::ChangeToStipples_Click},
+    {PaintItNow, &MainForm::PaintItNow_Click},
+    {PrintWorkform, &MainForm::PrintWorkform_Click},
+    {PrintAll, &MainForm::PrintAll_Click},
+    {EasySet, &MainForm::EasySet_Click},
+    {MediumSet, &MainForm::MediumSet_Click},
+    {HardSet, &MainForm::HardSet_Click},
+    {Set16Colors, &MainForm::Set16Colors_Click},
+    {Set32Colors, &MainForm::Set32Colors_Click},
+    {Set40Colors, &MainForm::Set40Colors_Click},
+    {Set50Colors, &MainForm::Set50Colors_Click},
+    {NextBestColors, &MainForm::NextBestColors_Click},
+    {AveragePixel, &MainForm::AveragePixel_Click},
+    {SamplePixel, &MainForm::SamplePixel_Click},
+    {WatchItPaint, &MainForm::WatchItPaint_Click},
+    {ShowAbout, &MainForm::ShowAbout_Click},
+    {EndItAll, &MainForm::EndItAll_Click},
+};
+
+}  // namespace
+
+void MainForm::Form_Load() {
+    PrepareSettings(place_);
+    ShowSample();
+    place_.MainMenu[LoadBMP].Enabled = true;
+    place_.MainMenu[PaintItNow].Enabled = false;
+    if (PrepareFolders(place_)) {
+        place_.Screen.ShowMessage("Vendrel",
+                                  "First Time Ran.. Pictures Folder Created.\n"
+                                  "Program Will Exit To Allow You To Place Your .BMP Pictures "
+                                  "In This Folder.\n" +
+                                      place_.Folder.Path("Pictures").string());
+        throw Stop{};
+    }
+    PreparePaints(place_);
+}
+
+void MainForm::ShowSample() {
+    place_.State.PictureLoaded = false;
+    place_.Frames.WorkFrame.Visible = false;
+    place_.Frames.BackFrame.Visible = false;
+    place_.Frames.CaptureFrame.Visible = true;
+    if (place_.Frames.CaptureFrame.Picture.Empty()) {
+        place_.Frames.CaptureFrame.Picture = ReadBitmap(place_.Folder.DataFile("Data/PBNLady.bmp"));
+    }
+}
+
+void MainForm::Click(MenuId entry) {
+    for (const ClickHandler& candidate : kHandlers) {
+        if (candidate.Entry == entry) {
+            lastSaved_.clear();
+            (this->*candidate.Handler)();
+            return;
+        }
+    }
+}
+
+void MainForm::Recover() {
+    for (const MenuId entry :
+         {FileHeader, Difficulty, SetPaintMax, TemplateMenu, ShowAbout, EndItAll}) {
+        place_.MainMenu[entry].Enabled = true;
+    }
+    place_.Screen.ReportProgress(0, 0);
+    place_.Screen.SetPointer(Pointer::Normal);
+}
+
+std::string MainForm::StatusHint() const {
+    const Menu& menu = place_.MainMenu;
+    if (!lastSaved_.empty()) {
+        return "Saved " + lastSaved_;
+    }
+    if (!place_.State.PictureLoaded) {
+        return "Choose a photo: Picture, Load Photo.";
+    }
+    if (menu[PrintMenu].Enabled) {
+        return "Save your kit: Picture, Save, Prepair and Save Paint by Symbol.";
+    }
+    if (menu[PaintItNow].Enabled) {
+        return "Paint the stipples: Picture, Paint It.";
+    }
+    if (menu[LoadStipples].Enabled) {
+        return "Change it to stipples, or take up the saved ones: Picture, Load Stipple Picture.";
+    }
+    return "Choose difficulty and final paints, then change it to stipples: Picture, "
+           "Change To Stipples.";
+}
+
+void MainForm::LoadBMP_Click() {
+    chooser_.Remember();
+    place_.State.PictureLoaded = false;
+    place_.Frames.CaptureFrame.Visible = false;
+    place_.Frames.WorkFrame.Visible = false;
+    chooser_.Form_Load();
+    chooser_.ShowFolder(place_.Folder.Path("Pictures"));
+    place_.MainMenu[PrintMenu].Enabled = false;
+    place_.Screen.OpenForm(FormId::FileImport);
+}
+
+void MainForm::LoadStipples_Click() {
+    vendrel::LoadStipples_Click(place_);
+}
+
+void MainForm::StartupPaintShop_Click() {
+    place_.Screen.OpenForm(FormId::PaintShop);
+}
+
+void MainForm::ChangeToStipples_Click() {
+    if (!place_.State.PictureLoaded) {
+        place_.Screen.ShowMessage("No Photo Loaded", "Choose a photo first: Picture, Load Photo.");
+        return;
+    }
+    vendrel::ChangeToStipples_Click(place_);
+}
+
+void MainForm::PaintItNow_Click() {
+    vendrel::PaintItNow_Click(place_);
+}
+
+void MainForm::PrintWorkform_Click() {
+    Saved(vendrel::PrintWorkform_Click(place_).string());
+}
+
+void MainForm::PrintAll_Click() {
+    Saved(vendrel::PrintAll_Click(place_).File.string());
+}
+
+void MainForm::Saved(const std::string& file) {
+    lastSaved_ = file;
+    place_.Screen.SetCaption("Vendrel -" + place_.State.PictureName);
+}
+
+void MainForm::EasySet_Click() {
+    SetDifficulty(EasySet, 8);
+}
+
+void MainForm::MediumSet_Click() {
+    SetDifficulty(MediumSet, 6);
+}
+
+void MainForm::HardSet_Click() {
+    SetDifficulty(HardSet, 4);
+}
+
+void MainForm::SetDifficulty(MenuId level, int stippleSize) {
+    WorkState& state = place_.State;
+    Menu& menu = place_.MainMenu;
+    menu[LoadBMP].Enabled = true;
+    if (menu[level].Checked) {
+        return;
+    }
+    // First, as a photo that is gone by now must leave the old difficulty as it is.
+    SetStippleSize(place_, stippleSize);
+    for (const MenuId entry : {EasySet, MediumSet, HardSet}) {
+        menu[entry].Checked = entry == level;
+    }
+    state.StipplesShown = false;
+    ResizePixelMap(place_);
+    if (!state.PictureLoaded) {
+        return;
+    }
+    SetupMenuItems(menu, 2);
+    RefreshPhotoImage(place_);
+    RestorePaintColors(place_);
+    CheckSavedStipples(place_);
+}
+
+void MainForm::Set16Colors_Click() {
+    SetFinalPaints(16);
+}
+
+void MainForm::Set32Colors_Click() {
+    SetFinalPaints(32);
+}
+
+void MainForm::Set40Colors_Click() {
+    SetFinalPaints(40);
+}
+
+void MainForm::Set50Colors_Click() {
+    SetFinalPaints(50);
+}
+
+void MainForm::SetFinalPaints(int finalColors) {
+    const BusyPointer busy(place_.Screen);
+    place_.State.FinalColors = finalColors;
+    SetColorChecks(place_.MainMenu, finalColors);
+    RefreshPhotoImage(place_);
+    SetupMenuItems(place_.MainMenu, 2);
+    RestorePaintColors(place_);
+}
+
+void MainForm::NextBestColors_Click() {
+    // The entry stays on once a grid was made; touching up is on only while the shown photo has
+    // one.
+    if (!place_.MainMenu[ColorPickerSelect].Enabled) {
+        place_.Screen.ShowMessage("No Stipples Made",
+                                  "Change the photo to stipples first: Picture, "
+                                  "Change To Stipples.");
+        return;
+    }
+    place_.Screen.OpenForm(FormId::ColorMatcher);
+}
+
+void MainForm::AveragePixel_Click() {
+    Menu& menu = place_.MainMenu;
+    menu[AveragePixel].Checked = !menu[AveragePixel].Checked;
+    menu[SamplePixel].Checked = !menu[AveragePixel].Checked;
+    SampleMethodChanged();
+}
+
+// No mirror image of averaging: sampling is switched on by unchecking averaging alone.
+void MainForm::SamplePixel_Click() {
+    Menu& menu = place_.MainMenu;
+    menu[AveragePixel].Checked = !menu[SamplePixel].Checked;
+    SampleMethodChanged();
+}
+
+void MainForm::SampleMethodChanged() {
+    if (place_.State.PictureLoaded) {
+        RefreshPhotoImage(place_);
+    }
+    SetupMenuItems(place_.MainMenu, 2);
+}
+
+void MainForm::WatchItPaint_Click() {
+    MenuEntry& entry = place_.MainMenu[WatchItPaint];
+    entry.Checked = !entry.Checked;
+}
+
+void MainForm::ShowAbout_Click() {
+    place_.Screen.OpenForm(FormId::About);
+}
+
+void MainForm::EndItAll_Click() {
+    place_.Screen.SetCaption("Unloading...");
+    throw Stop{};
+}
+
+void MainForm::RepaintPicture() {
+    DrawStipplePicture(place_);
+    PaintAllCells(place_);
+}
+
+void MainForm::WorkFrame_Paint() {
+    if (place_.State.PictureLoaded && place_.State.StipplesShown) {
+        place_.Screen.RefreshWorkFrame();
+    }
+}
+
+}  // namespace vendrel

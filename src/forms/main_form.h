@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+
+#include "forms/file_import.h"
+#include "shell/menu.h"
+#include "shell/workplace.h"
+
+namespace vendrel {
+
+/// The main window without its window: start-up, settings and the way from photo to kit. Handlers
+/// throw Error and leave its telling to the window; Stop ends the program.
+class MainForm {
+  public:
+    explicit MainForm(Workplace& place) : place_(place), chooser_(place) {}
+
+    /// Starts the program. Throws Stop when it ran here for the first time and has said so.
+    void Form_Load();
+
+    /// What choosing a menu entry does.
+    void Click(MenuId entry);
+    /// Puts pointer and menus back after an operation that failed half-way.
+    void Recover();
+    /// The sentence for the status bar: what to do next.
+    [[nodiscard]] std::string StatusHint() const;
+
+    void LoadBMP_Click();
+    void LoadStipples_Click();
+    void StartupPaintShop_Click();
+    void ChangeToStipples_Click();
+    void PaintItNow_Click();
+    void PrintWorkform_Click();
+    void PrintAll_Click();
+    void EasySet_Click();
+    void MediumSet_Click();
+    void HardSet_Click();
+    void Set16Colors_Click();
+    void Set32Colors_Click();
+    void Set40Colors_Click();
+    void Set50Colors_Click();
+    void NextBestColors_Click();
+    void AveragePixel_Click();
+    void SamplePixel_Click();
+    void WatchItPaint_Click();
+    void ShowAbout_Click();
+    void EndItAll_Click();
+
+    /// Draws the stipples again and paints them.
+    void RepaintPicture();
+    /// Never acts: the window keeps what is drawn.
+    void WorkFrame_Paint();
+
+    /// The photo chooser, which lives as long as the main window.
+    [[nodiscard]] FileImport& Chooser() { return chooser_; }
+
+  private:
+    void ShowSample();
+    void SetDifficulty(MenuId level, int stippleSize);
+    void SetFinalPaints(int finalColors);
+    void SampleMethodChanged();
+    void Saved(const std::string& file);
+
+    Workplace& place_;
+    FileImport chooser_;
+    std::string lastSaved_;  // for the hint, until the next step of the work
+};
+
+}  // namespace vendrel

@@ -1,0 +1,285 @@
+#include "forms/main_form.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <utility>
+
+#include "forms/studio.h"
+#include "storage/stipple_file.h"
+#include "support/error.h"
+
+namespace vendrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+using enum MenuId;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+
+class MainFormTest : public ::testing::Test {
+  protected:
+    [[nodiscard]] bool On(MenuId entry) const { return studio_.MainMenu[entry].Enabled; }
+    [[nodiscard]] bool Checked(MenuId entry) const { return studio_.MainMenu[entry].Checked; }
+    void LoadPhoto(const char* name = "four.bmp") {
+        form_.Click(LoadBMP);
+        ClickPhoto(form_.Chooser(), name);
+        form_.Chooser().OKButton_Click();
+    }
+    /// The entries that walk through the stages, "+" for on.
+    [[nodiscard]] std::string Stage() const {
+        std::string marks;
+        for (const MenuId entry : {StartupPaintShop, TemplateMenu, ChangeToStipples, PaintItNow,
+                                   ColorPickerSelect, PrintMenu}) {
+            marks += On(entry) ? '+' : '-';
+        }
+        return marks;
+    }
+
+    Studio studio_;
+    MainForm form_{studio_.Place};
+};
+
+TEST_F(MainFormTest, StartsOnTheSampleWithEasyFiftyAndAveraging) {
+    form_.Form_Load();
+    EXPECT_EQ(studio_.Frames.CaptureFrame.Picture, FourQuarters(8, 8));
+    EXPECT_TRUE(studio_.Frames.CaptureFrame.Visible);
+    EXPECT_FALSE(studio_.Frames.WorkFrame.Visible);
+    EXPECT_EQ(Stage(), "------");
+    for (const MenuId off : {LoadStipples, NextBestColors, PrintAll}) {
+        EXPECT_FALSE(On(off)) << studio_.MainMenu[off].Name;
+    }
+    for (const MenuId checked : {EasySet, Set50Colors, AveragePixel, WatchItPaint}) {
+        EXPECT_TRUE(Checked(checked)) << studio_.MainMenu[checked].Name;
+    }
+    EXPECT_EQ(studio_.State.MasterCount, 5);
+    EXPECT_EQ(studio_.State.PaintCount, 2);
+    EXPECT_TRUE(fs::is_directory(studio_.Files / "Results"));
+    EXPECT_THAT(form_.StatusHint(), HasSubstr("Choose a photo"));
+}
+
+TEST(FirstRun, MakesTheFoldersSaysSoAndEndsBeforeTheCatalogue) {
+    Bench bench(VENDREL_SOURCE_DIR);
+    MainForm form(bench.Place);
+    EXPECT_THROW(form.Form_Load(), Stop);
+    EXPECT_THAT(bench.Screen.Messages,
+                ElementsAre(Pair("Vendrel",
+                                 "First Time Ran.. Pictures Folder Created.\nProgram Will Exit To "
+                                 "Allow You To Place Your .BMP Pictures In This Folder.\n" +
+                                     (bench.Files / "Pictures").string())));
+    for (const char* made : {"Data/paintlist.txt", "Results", "Pictures"}) {
+        EXPECT_TRUE(fs::exists(bench.Files / made)) << made;
+    }
+    EXPECT_EQ(bench.State.MasterCount, 0);
+    MainForm again(bench.Place);
+    EXPECT_NO_THROW(again.Form_Load());
+}
+
+TEST(FirstRun, KeepsFoldersWhateverTheirSpelling) {
+    Bench bench(VENDREL_SOURCE_DIR);
+    bench.Files.Write("data/paintlist.txt", "Gouache\r\n");
+    bench.Files.Write("PICTURES/x.bmp", "");
+    MainForm form(bench.Place);
+    form.Form_Load();
+    EXPECT_FALSE(fs::exists(bench.Files / "Data"));
+    EXPECT_FALSE(fs::exists(bench.Files / "Pictures"));
+    EXPECT_EQ(bench.Files.Read("data/paintlist.txt"), "Gouache\r\n");
+}
+
+TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
+    struct Step {
+        MenuId Entry;
+        const char* Stage;
+        const char* Hint;
+    };
+    form_.Form_Load();
+    LoadPhoto();
+    EXPECT_EQ(Stage(), "+++---");
+    for (const Step& step :
+         {Step{ChangeToStipples, "++-++-", "Paint It"}, Step{PaintItNow, "++--++", "Save your kit"},
+          Step{PrintAll, "++--++", "PBS.BMP"}, Step{PrintWorkform, "++--++", "Painting.BMP"},
+          Step{MediumSet, "+++---", "Change To Stipples"},
+          Step{ChangeToStipples, "++-++-", "Paint It"},
+          Step{Set16Colors, "+++---", "Change To Stipples"},
+          Step{ChangeToStipples, "++-++-", "Paint It"},
+          Step{SamplePixel, "+++---", "Change To Stipples"}}) {
+        form_.Click(step.Entry);
+        const auto name = studio_.MainMenu[step.Entry].Name;
+        EXPECT_EQ(Stage(), step.Stage) << name;
+        EXPECT_THAT(form_.StatusHint(), HasSubstr(step.Hint)) << name;
+        EXPECT_EQ(studio_.Screen.LastPointer, Pointer::Normal) << name;
+    }
+    EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy PBS.BMP"));
+    EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy Painting.BMP"));
+    EXPECT_THAT(studio_.Screen.Messages, IsEmpty());
+}
+
+TEST_F(MainFormTest, ConvertingWithoutAPhotoAsksForOne) {
+    form_.Form_Load();
+    form_.Click(Set32Colors);
+    ASSERT_TRUE(On(ChangeToStipples));
+    form_.Click(ChangeToStipples);
+    ASSERT_EQ(studio_.Screen.Messages.size(), 1U);
+    EXPECT_THAT(studio_.Screen.Messages[0].second, HasSubstr("Choose a photo"));
+    EXPECT_FALSE(studio_.State.StipplesMade);
+}
+
+TEST_F(MainFormTest, SampleMethodsAreNoMirrorImages) {
+    struct Case {
+        bool Averaging, Sampling;
+        MenuId Click;
+        bool ThenAveraging, ThenSampling;
+    };
+    form_.Form_Load();
+    for (const Case& c :
+         {Case{true, false, AveragePixel, false, true},
+          Case{false, true, AveragePixel, true, false}, Case{true, false, SamplePixel, true, false},
+          Case{false, true, SamplePixel, false, true},
+          Case{false, false, SamplePixel, true, false}}) {
+        studio_.MainMenu[AveragePixel].Checked = c.Averaging;
+        studio_.MainMenu[SamplePixel].Checked = c.Sampling;
+        form_.Click(c.Click);
+        EXPECT_EQ(Checked(AveragePixel), c.ThenAveraging);
+        EXPECT_EQ(Checked(SamplePixel), c.ThenSampling);
+    }
+}
+
+TEST_F(MainFormTest, DifficultyFitsPhotoPaletteAndPixelMapToItsStipples) {
+    form_.Form_Load();
+    LoadPhoto();
+    for (const auto& [entry, size] :
+         {std::pair(MediumSet, 6), std::pair(HardSet, 4), std::pair(EasySet, 8)}) {
+        form_.Click(ChangeToStipples);
+        form_.Click(entry);
+        EXPECT_EQ(studio_.State.StippleSize, size);
+        EXPECT_EQ(studio_.State.PictureWidth / 15 % size, 0);
+        EXPECT_EQ(studio_.State.PixelMap.Across(), studio_.Frames.WorkFrame.Picture.Width());
+        EXPECT_EQ(studio_.State.PaintCount, 2) << "the palette is the selection again";
+        EXPECT_EQ(Checked(EasySet) + Checked(MediumSet) + Checked(HardSet), 1);
+        EXPECT_TRUE(Checked(entry));
+    }
+    form_.Click(ChangeToStipples);
+    form_.Click(EasySet);
+    EXPECT_EQ(Stage(), "++-++-") << "choosing the checked difficulty keeps the grid";
+}
+
+TEST_F(MainFormTest, ADifficultyThatCannotReadThePhotoLeavesTheOldOne) {
+    form_.Form_Load();
+    LoadPhoto();
+    fs::remove(studio_.Files / "Pictures/four.bmp");
+    EXPECT_THROW(form_.Click(HardSet), FileError);
+    EXPECT_TRUE(Checked(EasySet));
+    EXPECT_EQ(studio_.State.StippleSize, 8);
+    form_.Click(ChangeToStipples);
+    EXPECT_TRUE(studio_.State.StipplesMade);
+}
+
+TEST_F(MainFormTest, SavedGridsAreOfferedPerPhotoAndDifficultyButNeverLoadedUnasked) {
+    form_.Form_Load();
+    LoadPhoto();
+    EXPECT_FALSE(On(LoadStipples));
+    form_.Click(ChangeToStipples);
+    const WorkState& state = studio_.State;
+    WriteStippleFile(StippleFilePath(studio_.Place),
+                     {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, 50});
+    const Grid<StippleCell> saved = state.Stipples;
+    form_.Click(MediumSet);
+    EXPECT_FALSE(On(LoadStipples));
+    form_.Click(EasySet);
+    EXPECT_TRUE(On(LoadStipples));
+    EXPECT_EQ(Stage(), "+++---");
+    form_.Click(LoadStipples);
+    EXPECT_EQ(Stage(), "++-++-");
+    EXPECT_EQ(state.Stipples, saved);
+    studio_.State.StipplesMade = false;
+    LoadPhoto();
+    EXPECT_TRUE(On(LoadStipples));
+    EXPECT_EQ(state.PaintCount, 2)
+        << "the palette of a grid from a file gives way to the selection";
+}
+
+TEST_F(MainFormTest, CancelLeavesThingsAsBeforeLoadPhoto) {
+    form_.Form_Load();
+    const auto cancel = [this] {
+        form_.Click(LoadBMP);
+        EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::FileImport));
+        EXPECT_FALSE(studio_.State.PictureLoaded);
+        ClickPhoto(form_.Chooser(), "other.bmp");
+        form_.Chooser().CancelButton_Click();
+        EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
+    };
+    WriteBitmap(studio_.Files / "Pictures/other.bmp", FourQuarters(16, 16));
+    cancel();
+    EXPECT_TRUE(studio_.Frames.CaptureFrame.Visible);
+    EXPECT_EQ(studio_.State.PictureFile, "");
+    LoadPhoto();
+    form_.Click(ChangeToStipples);
+    form_.Click(PaintItNow);
+    cancel();
+    EXPECT_TRUE(studio_.State.PictureLoaded);
+    EXPECT_EQ(studio_.State.PictureFile, "four.bmp");
+    EXPECT_TRUE(studio_.Frames.WorkFrame.Visible);
+    EXPECT_FALSE(studio_.Frames.CaptureFrame.Visible);
+    EXPECT_EQ(Stage(), "++--++");
+    form_.Click(PrintAll);
+    EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy PBS.BMP"));
+}
+
+TEST_F(MainFormTest, APhotoThatCannotBeReadLeavesTheOldOne) {
+    form_.Form_Load();
+    LoadPhoto();
+    studio_.Files.Write("Pictures/broken.bmp", "BM, but no more");
+    studio_.Files.Write("Pictures/empty.bmp", std::string("BM") + std::string(100, '\0'));
+    for (const char* name : {"broken.bmp", "empty.bmp"}) {
+        EXPECT_THROW(LoadPhoto(name), Error) << name;
+        EXPECT_EQ(studio_.State.PictureName, "four");
+        EXPECT_TRUE(studio_.State.PictureLoaded);
+        EXPECT_TRUE(studio_.Frames.WorkFrame.Visible);
+    }
+}
+
+TEST_F(MainFormTest, TheChooserShowsFoldersPreviewsAndTakesPhotosFromElsewhere) {
+    form_.Form_Load();
+    WriteBitmap(studio_.Files.Path() / "Album" / "my.holiday.bmp", FourQuarters(600, 300));
+    form_.Click(LoadBMP);
+    FileImport& chooser = form_.Chooser();
+    chooser.OKButton_Click();
+    EXPECT_THAT(studio_.Screen.Messages, ElementsAre(Pair("No File Selected", "Select A File!")));
+    EXPECT_THAT(chooser.Controls().ImportFile, ElementsAre("four.bmp"));
+    chooser.ImportDir_Change(0);
+    ASSERT_THAT(chooser.Controls().ImportDir,
+                ElementsAre("..", "Album", "Data", "Pictures", "Results"));
+    chooser.ImportDir_Change(1);
+    chooser.ImportFile_Click(0);
+    EXPECT_EQ(chooser.Controls().Preview.Width(), 260);
+    EXPECT_EQ(chooser.Controls().Preview.Height(), 130);
+    EXPECT_THAT(chooser.Controls().Description, HasSubstr("600 x 300"));
+    chooser.OKButton_Click();
+    EXPECT_EQ(studio_.State.PictureName, "my");
+    EXPECT_EQ(studio_.State.PicturePath, (studio_.Files / "Pictures/my.holiday.bmp").string());
+    EXPECT_TRUE(fs::exists(studio_.Files / "Pictures/my.holiday.bmp"));
+    form_.Click(LoadBMP);
+    EXPECT_EQ(chooser.Controls().FileIndex, 1) << "the photo at work is proposed";
+}
+
+TEST_F(MainFormTest, MatcherExitAndRecoveryAfterAFailure) {
+    form_.Form_Load();
+    studio_.MainMenu[NextBestColors].Enabled = true;
+    form_.Click(NextBestColors);
+    EXPECT_EQ(studio_.Screen.Messages.size(), 1U);
+    EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
+    for (const MenuId entry : {FileHeader, Difficulty, EndItAll}) {
+        studio_.MainMenu[entry].Enabled = false;
+    }
+    studio_.Screen.SetPointer(Pointer::Busy);
+    form_.Recover();
+    EXPECT_TRUE(On(FileHeader) && On(Difficulty) && On(EndItAll));
+    EXPECT_EQ(studio_.Screen.LastPointer, Pointer::Normal);
+    EXPECT_THROW(form_.Click(EndItAll), Stop);
+    EXPECT_EQ(studio_.Screen.Captions.back(), "Unloading...");
+}
+
+}  // namespace
+}  // namespace vendrel::test
