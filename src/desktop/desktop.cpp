@@ -1,0 +1,33 @@
+#include "desktop/desktop.h"
+
+#include <QApplication>
+#include <utility>
+
+namespace vendrel {
+
+Desktop::Desktop(ProgramFolder folder) : folder_(std::move(folder)) {}
+
+std::optional<int> Desktop::Start() {
+    switch (window_.Works().Run([this] { form_.Form_Load(); })) {
+        case Outcome::Done:
+            window_.show();
+            return std::nullopt;
+        case Outcome::Failed:
+            return 1;
+        default:
+            return 0;
+    }
+}
+
+int RunDesktop(int& argc, char** argv, const ProgramFolder& folder) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Vendrel"));
+    QApplication::setDesktopFileName(QStringLiteral("vendrel"));
+    Desktop desktop(folder);
+    if (const std::optional<int> status = desktop.Start()) {
+        return *status;
+    }
+    return QApplication::exec();
+}
+
+}  // namespace vendrel

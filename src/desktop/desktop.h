@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+
+#include "desktop/main_window.h"
+#include "support/program_folder.h"
+
+namespace vendrel {
+
+/// The program with its window: the work state, its surroundings and the views.
+class Desktop {
+  public:
+    explicit Desktop(ProgramFolder folder);
+
+    /// Starts up and shows the window; the status to end with when the program is over already.
+    [[nodiscard]] std::optional<int> Start();
+    [[nodiscard]] MainWindow& Window() { return window_; }
+    [[nodiscard]] Workplace& Place() { return place_; }
+
+  private:
+    ProgramFolder folder_;
+    WorkState state_;
+    Surfaces frames_;
+    Menu menu_;
+    QtUi ui_{menu_};
+    Workplace place_{state_, frames_, menu_, ui_, folder_};
+    MainForm form_{place_};
+    MainWindow window_{place_, form_, ui_};
+};
+
+/// Runs the window until it is closed; gives the exit status. argc and argv as main has them.
+[[nodiscard]] int RunDesktop(int& argc, char** argv, const ProgramFolder& folder);
+
+}  // namespace vendrel

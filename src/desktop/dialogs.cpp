@@ -1,0 +1,22 @@
+#include "desktop/dialogs.h"
+
+#include "desktop/about_dialog.h"
+#include "desktop/file_import_dialog.h"
+#include "desktop/paint_shop_dialog.h"
+
+namespace vendrel {
+
+std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, QWidget* parent) {
+    switch (form) {
+        case FormId::FileImport:
+            return std::make_unique<FileImportDialog>(context, parent);
+        case FormId::PaintShop:
+            return std::make_unique<PaintShopDialog>(context, parent);
+        case FormId::About:
+            return std::make_unique<AboutDialog>(context, parent);
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace vendrel

@@ -1,0 +1,134 @@
+#include "desktop/file_import_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <initializer_list>
+
+#include "desktop/list_box.h"
+#include "desktop/named.h"
+#include "desktop/surface_image.h"
+#include "desktop/text.h"
+
+namespace vendrel {
+namespace {
+
+constexpr int kPreviewSide = 270;
+
+QVBoxLayout* Column(std::initializer_list<QWidget*> widgets) {
+    auto* column = new QVBoxLayout;
+    for (QWidget* widget : widgets) {
+        column->addWidget(widget);
+    }
+    return column;
+}
+
+}  // namespace
+
+FileImportDialog::FileImportDialog(const ViewContext& context, QWidget* parent)
+    : FormDialog(context, parent),
+      form_(context.Form.Chooser()),
+      importDrive_(Named<QComboBox>("ImportDrive", tr("Drive"))),
+      folder_(new QLabel),
+      importDir_(Named<QListWidget>("ImportDir", tr("Folders"))),
+      importFile_(Named<QListWidget>("ImportFile", tr("Photos"))),
+      preview_(Named<QLabel>("Preview", tr("Preview of the photo"))),
+      description_(Named<QLabel>("Description", tr("About the photo"))),
+      okButton_(Named<QPushButton>("OKButton", tr("OK"))),
+      cancelButton_(Named<QPushButton>("CancelButton", tr("Cancel"))) {
+    setWindowTitle(tr("Load Photo"));
+    Arrange();
+    Connect();
+    SetTabOrder({importDrive_, importDir_, importFile_, okButton_, cancelButton_});
+    importFile_->setFocus();
+    resize(820, 440);
+}
+
+void FileImportDialog::Arrange() {
+    okButton_->setText(tr("OK"));
+    okButton_->setDefault(true);
+    cancelButton_->setText(tr("Cancel"));
+    cancelButton_->setAutoDefault(false);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(okButton_, QDialogButtonBox::AcceptRole);
+    buttons->addButton(cancelButton_, QDialogButtonBox::RejectRole);
+    preview_->setFixedSize(kPreviewSide, kPreviewSide);
+    preview_->setAlignment(Qt::AlignCenter);
+    preview_->setFrameShape(QFrame::StyledPanel);
+    description_->setWordWrap(true);
+    description_->setAlignment(Qt::AlignTop);
+    description_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    description_->setFixedWidth(kPreviewSide);
+    folder_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(Column({LabelFor(*importDrive_, tr("&Drive")), importDrive_,
+                               LabelFor(*importDir_, tr("F&olders")), importDir_}),
+                       2);
+    columns->addLayout(Column({LabelFor(*importFile_, tr("&Photos")), importFile_}), 3);
+    columns->addLayout(Column({new QLabel(tr("Preview")), preview_, description_}));
+    auto* rows = new QVBoxLayout(this);
+    rows->addLayout(columns, 1);
+    rows->addWidget(folder_);
+    rows->addWidget(buttons);
+}
+
+void FileImportDialog::Connect() {
+    connect(importDrive_, &QComboBox::activated, this,
+            [this](int drive) { Run([this, drive] { form_.ImportDrive_Change(drive); }); });
+    connect(importDir_, &QListWidget::itemDoubleClicked, this, &FileImportDialog::OpenFolder);
+    importDir_->installEventFilter(this);
+    OnChosen(*importFile_,
+             [this](int file) { Run([this, file] { form_.ImportFile_Click(file); }); });
+    connect(importFile_, &QListWidget::itemDoubleClicked, okButton_, &QPushButton::click);
+    connect(okButton_, &QPushButton::clicked, this,
+            [this] { Run([this] { form_.OKButton_Click(); }); });
+    connect(cancelButton_, &QPushButton::clicked, this, &FileImportDialog::reject);
+}
+
+// Enter opens a folder of the list; elsewhere it means OK.
+bool FileImportDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == importDir_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            OpenFolder();
+            return true;
+        }
+    }
+    return FormDialog::eventFilter(watched, event);
+}
+
+void FileImportDialog::OpenFolder() {
+    Run([this] { form_.ImportDir_Change(importDir_->currentRow()); });
+}
+
+void FileImportDialog::Mirror() {
+    const FileImportControls& shown = form_.Controls();
+    const QSignalBlocker quiet(importDrive_);
+    importDrive_->clear();
+    for (const Drive& drive : shown.ImportDrive) {
+        importDrive_->addItem(Text(drive.Caption));
+    }
+    importDrive_->setCurrentIndex(shown.DriveIndex);
+    const QString folder = Text(shown.Folder.string());
+    const bool moved = folder != folder_->text();
+    folder_->setText(folder);
+    MirrorList(*importDir_, shown.ImportDir, moved ? -1 : importDir_->currentRow());
+    MirrorList(*importFile_, shown.ImportFile, shown.FileIndex);
+    ShowPreview();
+}
+
+void FileImportDialog::ShowPreview() {
+    const FileImportControls& shown = form_.Controls();
+    description_->setText(Text(shown.Description));
+    if (shown.Preview.Empty()) {
+        preview_->setText(tr("No photo chosen"));
+    } else {
+        preview_->setPixmap(QPixmap::fromImage(ToImage(shown.Preview)));
+    }
+}
+
+}  // namespace vendrel

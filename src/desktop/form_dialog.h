@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+
+#include "desktop/view_context.h"
+
+namespace vendrel {
+
+/// A tool window over the main one. Escape and the title bar's button ask the form first.
+class FormDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    FormDialog(const ViewContext& context, QWidget* parent);
+
+    /// Fills the form; called once the dialog is on screen.
+    virtual void Load() = 0;
+    /// Takes over what the form shows.
+    virtual void Mirror() = 0;
+    void reject() override;
+
+  protected:
+    /// What closing without a button means.
+    virtual void Dismiss() = 0;
+    /// Starts work through the edge.
+    void Run(const std::function<void()>& work) { context_.Works.Run(work); }
+    [[nodiscard]] const ViewContext& Context() const { return context_; }
+
+  private:
+    ViewContext context_;
+};
+
+}  // namespace vendrel

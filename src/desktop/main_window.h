@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <map>
+#include <memory>
+
+#include "desktop/form_dialog.h"
+#include "desktop/menu_actions.h"
+#include "desktop/picture_view.h"
+#include "desktop/qt_ui.h"
+
+namespace vendrel {
+
+/// The main window: mirrors menu, pictures and captions, and forwards what is chosen.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    MainWindow(Workplace& place, MainForm& form, QtUi& ui);
+
+    [[nodiscard]] Edge& Works() { return edge_; }
+    /// Takes over the state of menu, pictures, captions and open dialogs.
+    void Mirror();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void Arrange();
+    void Choose(MenuId entry);
+    void OpenForm(FormId form);
+    void CloseForm(FormId form);
+    void MirrorPictures();
+    void MirrorStatus();
+    void FitToPicture();
+    void End();
+
+    Workplace& place_;
+    MainForm& form_;
+    QtUi& ui_;
+    Edge edge_;
+    MenuActions* actions_;
+    QStackedWidget* pages_;
+    QScrollArea* workPage_;
+    PictureView* workFrame_;
+    PictureView* captureFrame_;
+    QWidget* emptyPage_;
+    QLabel* hint_;
+    QProgressBar* progress_;
+    QSize fitted_;
+    std::map<FormId, std::unique_ptr<FormDialog>> dialogs_;
+    bool ended_ = false;
+};
+
+}  // namespace vendrel

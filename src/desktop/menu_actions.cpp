@@ -1,0 +1,127 @@
+#include "desktop/menu_actions.h"
+
+#include <QKeySequence>
+#include <QMenu>
+#include <algorithm>
+#include <cstddef>
+
+#include "desktop/text.h"
+
+namespace vendrel {
+namespace {
+
+using enum MenuId;
+
+/// What the keyboard adds to an entry: the letter to underline, a shortcut.
+struct Keys {
+    MenuId Entry;
+    char Mnemonic;
+    const char* Shortcut = "";
+};
+
+constexpr Keys kKeys[] = {
+    {FileHeader, 'P'},
+    {LoadBMP, 'L', "Ctrl+O"},
+    {LoadStipples, 'S'},
+    {StartupPaintShop, 'h'},
+    {ChangeToStipples, 'C'},
+    {ColorPickerSelect, 'T'},
+    {PaintItNow, 'I'},
+    {PrintMenu, 'v'},
+    {PrintWorkform, 'P'},
+    {SaveReference, 'R'},
+    {PrintAll, 'S'},
+    {PrintColorChart, 'C'},
+    {SaveItAll, 'E', "Ctrl+S"},
+    {SaveKitPdf, 'K'},
+    {Difficulty, 'D'},
+    {EasySet, 'E'},
+    {MediumSet, 'M'},
+    {HardSet, 'H'},
+    {SetPaintMax, 'F'},
+    {Set16Colors, '1'},
+    {Set32Colors, '3'},
+    {Set40Colors, '4'},
+    {Set50Colors, '5'},
+    {TemplateMenu, 'T'},
+    {RunTemplateShop, 'T'},
+    {NextBestColors, 'C'},
+    {SampleMethod, 'S'},
+    {AveragePixel, 'A'},
+    {SamplePixel, 'S'},
+    {WatchItPaint, 'W'},
+    {ShowAbout, 'A'},
+    {EndItAll, 'x', "Ctrl+Q"},
+};
+
+/// Entries whose windows and writers are still to come.
+constexpr MenuId kLater[] = {SaveReference,     PrintColorChart, SaveItAll,     SaveKitPdf,
+                             ColorPickerSelect, RunTemplateShop, NextBestColors};
+
+constexpr MenuId kCheckable[] = {EasySet,     MediumSet,   HardSet,      Set16Colors, Set32Colors,
+                                 Set40Colors, Set50Colors, AveragePixel, SamplePixel, WatchItPaint};
+
+template <std::size_t N>
+bool Contains(const MenuId (&list)[N], MenuId entry) {
+    return std::find(std::begin(list), std::end(list), entry) != std::end(list);
+}
+
+const Keys& KeysOf(MenuId entry) {
+    return *std::find_if(std::begin(kKeys), std::end(kKeys),
+                         [entry](const Keys& keys) { return keys.Entry == entry; });
+}
+
+std::size_t At(MenuId entry) {
+    return static_cast<std::size_t>(entry);
+}
+
+QString Caption(const MenuEntry& entry) {
+    QString caption = Text(entry.Caption);
+    const qsizetype letter = caption.indexOf(QLatin1Char(KeysOf(entry.Id).Mnemonic));
+    return letter < 0 ? caption : caption.insert(letter, QLatin1Char('&'));
+}
+
+bool IsMenu(const Menu& menu, MenuId id) {
+    const auto& entries = menu.Entries();
+    return std::any_of(entries.begin(), entries.end(),
+                       [id](const MenuEntry& entry) { return entry.Parent == id; });
+}
+
+}  // namespace
+
+MenuActions::MenuActions(const Menu& menu, QMenuBar& bar) : QObject(&bar), menu_(menu), bar_(bar) {
+    for (const MenuEntry& entry : menu_.Entries()) {
+        actions_[At(entry.Id)] = MakeAction(entry);
+    }
+    Mirror();
+}
+
+QAction* MenuActions::MakeAction(const MenuEntry& entry) {
+    QMenu* parent = entry.Parent == kMenuBar ? nullptr : menus_[At(entry.Parent)];
+    if (IsMenu(menu_, entry.Id)) {
+        QMenu* menu =
+            parent != nullptr ? parent->addMenu(Caption(entry)) : bar_.addMenu(Caption(entry));
+        menus_[At(entry.Id)] = menu;
+        menu->menuAction()->setObjectName(Text(entry.Name));
+        return menu->menuAction();
+    }
+    QAction* action =
+        parent != nullptr ? parent->addAction(Caption(entry)) : bar_.addAction(Caption(entry));
+    action->setObjectName(Text(entry.Name));
+    action->setMenuRole(QAction::NoRole);
+    action->setShortcut(QKeySequence(QString::fromLatin1(KeysOf(entry.Id).Shortcut)));
+    action->setCheckable(Contains(kCheckable, entry.Id));
+    action->setVisible(!Contains(kLater, entry.Id));
+    connect(action, &QAction::triggered, this, [this, id = entry.Id] { emit Chosen(id); });
+    return action;
+}
+
+void MenuActions::Mirror() {
+    for (const MenuEntry& entry : menu_.Entries()) {
+        QAction* action = actions_[At(entry.Id)];
+        action->setEnabled(entry.Enabled);
+        action->setChecked(action->isCheckable() && entry.Checked);
+    }
+}
+
+}  // namespace vendrel

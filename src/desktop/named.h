@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+#include <QWidget>
+#include <initializer_list>
+
+namespace vendrel {
+
+/// A control under the name the form knows it by, and the name that is read out for it.
+template <class Control>
+[[nodiscard]] Control* Named(const char* name, const QString& spoken) {
+    auto* control = new Control;
+    control->setObjectName(QString::fromLatin1(name));
+    control->setAccessibleName(spoken);
+    return control;
+}
+
+/// A label whose underlined letter moves the keyboard to `control`.
+[[nodiscard]] inline QLabel* LabelFor(QWidget& control, const QString& text) {
+    auto* label = new QLabel(text);
+    label->setBuddy(&control);
+    return label;
+}
+
+/// The order in which the Tab key goes through the controls.
+inline void SetTabOrder(std::initializer_list<QWidget*> controls) {
+    QWidget* previous = nullptr;
+    for (QWidget* control : controls) {
+        if (previous != nullptr) {
+            QWidget::setTabOrder(previous, control);
+        }
+        previous = control;
+    }
+}
+
+}  // namespace vendrel

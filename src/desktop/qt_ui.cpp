@@ -1,0 +1,119 @@
+#include "desktop/qt_ui.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMessageBox>
+#include <QScreen>
+#include <QThread>
+#include <algorithm>
+
+#include "desktop/picture_view.h"
+#include "desktop/surface_image.h"
+#include "desktop/text.h"
+
+namespace vendrel {
+namespace {
+
+constexpr qint64 kFrame = 16;  // milliseconds: about 60 repaints a second
+
+}  // namespace
+
+QWidget* QtUi::MessageParent() const {
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog != nullptr ? dialog : host_.Window;
+}
+
+void QtUi::SetCaption(std::string_view caption) {
+    display_.Caption = Text(caption);
+}
+
+void QtUi::ReportProgress(int done, int total) {
+    display_.Done = done;
+    display_.Total = total;
+}
+
+void QtUi::SetPointer(Pointer pointer) {
+    const bool busy = pointer == Pointer::Busy;
+    if (busy == busyPointer_) {
+        return;
+    }
+    busyPointer_ = busy;
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void QtUi::ShowMessage(std::string_view title, std::string_view sentence) {
+    QMessageBox::information(MessageParent(), Text(title), Text(sentence));
+}
+
+bool QtUi::Ask(std::string_view title, std::string_view question) {
+    return QMessageBox::question(MessageParent(), Text(title), Text(question)) == QMessageBox::Yes;
+}
+
+void QtUi::Yield() {
+    if (!sincePump_.isValid() || sincePump_.elapsed() >= kFrame) {
+        Pump();
+    }
+}
+
+void QtUi::Pump() {
+    if (pumping_) {
+        return;
+    }
+    pumping_ = true;
+    host_.Mirror();
+    QCoreApplication::processEvents();
+    pumping_ = false;
+    sincePump_.start();
+    if (stopRequested_) {
+        throw Stop{};
+    }
+}
+
+bool QtUi::Watched() const {
+    return menu_[MenuId::WatchItPaint].Checked && !pace_.Ended();
+}
+
+void QtUi::ShowStep(int done, int total) {
+    display_.ShowRuns = true;
+    ReportProgress(done, total);
+    Yield();
+    // Waits shorter than a frame are left to the next steps.
+    for (qint64 wait = pace_.WaitAfter(done, total); wait >= kFrame;
+         wait = pace_.WaitAfter(done, total)) {
+        QThread::msleep(static_cast<unsigned long>(std::min(wait, kFrame)));
+        Pump();
+    }
+}
+
+bool QtUi::PutOnClipboard(const Surface& picture) {
+    QApplication::clipboard()->setImage(ToImage(picture));
+    return true;
+}
+
+ScreenSize QtUi::Screen() const {
+    const QScreen* screen = host_.Window != nullptr ? host_.Window->screen() : nullptr;
+    if (screen == nullptr) {
+        screen = QApplication::primaryScreen();
+    }
+    // A photo pixel is several screen pixels on a high-resolution screen.
+    const qreal ratio = screen->devicePixelRatio();
+    const QSize size = (QSizeF(screen->size()) * ratio / PictureView::Scale(ratio)).toSize();
+    return ScreenSize::FromPixels(size.width(), size.height());
+}
+
+void QtUi::StartWork() {
+    pace_.Reset();
+    sincePump_.start();
+}
+
+void QtUi::FinishWork() {
+    display_.ShowRuns = false;
+    ReportProgress(0, 0);
+    SetPointer(Pointer::Normal);
+}
+
+}  // namespace vendrel
