@@ -1,9 +1,14 @@
 // The half of the program that needs fonts and windows; vendrel starts it when it does.
 
 #include "app/program.h"
+#include "desktop/desktop.h"
 #include "export/symbol_maker.h"
 
 int main(int argc, char** argv) {
+    const auto openWindow = [&](const std::filesystem::path& folder,
+                                const std::filesystem::path& shipped) {
+        return vendrel::RunDesktop(argc, argv, vendrel::ProgramFolder(folder, shipped));
+    };
     return vendrel::RunProgram(vendrel::WordsOf(argc, argv),
-                               {.MakeSymbols = vendrel::MakeSymbols, .OpenWindow = {}});
+                               {.MakeSymbols = vendrel::MakeSymbols, .OpenWindow = openWindow});
 }
