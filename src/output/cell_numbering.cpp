@@ -6,6 +6,7 @@
 
 #include "output/nearest_stipple.h"
 #include "output/symbol_set.h"
+#include "output/walk_queue.h"
 #include "support/counter.h"
 #include "support/error.h"
 
@@ -34,6 +35,13 @@ class SheetSink : public NumberSink {
     const WorkState& state_;
 };
 
+// What the walk must know of a pixel, in one place: its paint and whether it is numbered or waits
+// in the queue. The walk looks at every pixel five times.
+using WalkPixel = std::uint16_t;
+constexpr WalkPixel kQueued = 0x8000;
+constexpr WalkPixel kMarked = 0x4000;
+constexpr WalkPixel kPaintMask = 0x3FFF;
+
 class Numbering {
   public:
     Numbering(const Workplace& place, Surface& picture, NumberSink& sink)
@@ -53,7 +61,7 @@ class Numbering {
     void MarkOneNumber(CellPos seed);
     void AddSeedNeighbours(CellPos seed);
     void AddNeighbours(CellPos at);
-    void AddToNumberCells(CellPos at);
+    void AddToNumberCells(bool inside, CellPos at);
     void Claim(CellPos at);
     void Stamp(CellPos at);
     void DrawBorder(CellPos at);
@@ -65,6 +73,8 @@ class Numbering {
     NumberSink* sink_;  // null when only the picture is recoloured
     StippleFinder finder_;
     int period_;
+    Grid<WalkPixel> pixels_;
+    WalkQueue queue_;
     std::vector<std::vector<CellPos>> seeds_;  // per paint, in row-major order
     NumberingCounts counts_;
     unsigned walked_ = 0;
@@ -84,7 +94,7 @@ void Numbering::SizeGrids() {
     }
     state_.NumberGrid = Grid<NumberPixel>(state_.NumberWidth, state_.NumberHeight);
     state_.NumberMarks = Grid<NumberMark>(state_.NumberWidth, state_.NumberHeight);
-    state_.TestCells = CellQueue(state_.NumberWidth, state_.NumberHeight);
+    pixels_ = Grid<WalkPixel>(state_.NumberWidth + 1, state_.NumberHeight + 1);
     seeds_.assign(static_cast<std::size_t>(state_.PaintCount) + 1, {});
     const TwipsPerPixel twips = place_.Screen.Screen().Twips;
     for (int y = 1; y <= state_.NumberHeight; ++y) {
@@ -98,11 +108,13 @@ void Numbering::SizeGrids() {
 void Numbering::FillRow(int y, TwipsPerPixel twips) {
     const std::span<const MapPixel> from = state_.PixelMap.Row(y);
     const std::span<NumberPixel> to = state_.NumberGrid.Row(y);
+    const std::span<WalkPixel> walk = pixels_.Row(y);
     int before = 0;
     for (int x = 1; x <= state_.NumberWidth; ++x) {
         const int paint = from[static_cast<std::size_t>(x)].ColorIndex;
         NumberPixel& pixel = to[static_cast<std::size_t>(x)];
         pixel.ColorIndex = static_cast<std::int16_t>(paint);
+        walk[static_cast<std::size_t>(x)] = static_cast<WalkPixel>(paint & kPaintMask);
         pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
         pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
         if ((paint != before || x == state_.NumberWidth) && paint > 0 &&
@@ -133,7 +145,7 @@ void Numbering::ReMarkCells(int paint) {
     paint_ = paint;
     color_ = ColorOf(state_.PaintColors[static_cast<std::size_t>(paint)]);
     for (const CellPos seed : seeds_[static_cast<std::size_t>(paint)]) {
-        if (!state_.NumberMarks(seed.X, seed.Y).Marked) {
+        if ((pixels_(seed.X, seed.Y) & kMarked) == 0) {
             area_ = static_cast<std::int16_t>(state_.NextAreaNumber);
             Claim(seed);
             MarkOneNumber(seed);
@@ -144,14 +156,16 @@ void Numbering::ReMarkCells(int paint) {
 }
 
 void Numbering::MarkOneNumber(CellPos seed) {
-    CellQueue& queue = state_.TestCells;
     const int symbolsBefore = counts_.Symbols;
     int sinceSymbol = 0;
-    for (AddSeedNeighbours(seed); !queue.Empty(); queue.Pop()) {
-        const CellPos at = queue.Front();
-        if (state_.NumberGrid(at.X, at.Y).ColorIndex != paint_) {
+    AddSeedNeighbours(seed);
+    while (!queue_.Empty()) {
+        const CellPos at = queue_.Pop();
+        WalkPixel& pixel = pixels_(at.X, at.Y);
+        pixel &= static_cast<WalkPixel>(~kQueued);
+        if ((pixel & kPaintMask) != paint_) {
             DrawBorder(at);
-        } else if (!state_.NumberMarks(at.X, at.Y).Marked) {
+        } else if ((pixel & kMarked) == 0) {
             Claim(at);
             if (sinceSymbol == 0) {
                 Stamp(at);
@@ -165,6 +179,7 @@ void Numbering::MarkOneNumber(CellPos seed) {
 }
 
 void Numbering::Claim(CellPos at) {
+    pixels_(at.X, at.Y) |= kMarked;
     state_.NumberMarks(at.X, at.Y) = {area_, true};
     picture_.Set(at.X, at.Y, color_);
 }
@@ -174,33 +189,29 @@ void Numbering::Claim(CellPos at) {
 void Numbering::AddSeedNeighbours(CellPos seed) {
     const std::array<CellPos, 4> around = {
         {{seed.X, seed.Y - 1}, {seed.X + 1, seed.Y}, {seed.X, seed.Y + 1}, {seed.X - 1, seed.Y}}};
+    queue_.Reserve(around.size());
     for (const CellPos at : around) {
-        if (state_.NumberGrid.Holds(at.X, at.Y)) {
-            state_.TestCells.Push(at);
+        if (at.X <= state_.NumberWidth && at.Y <= state_.NumberHeight) {
+            pixels_(at.X, at.Y) |= kQueued;
+            queue_.PushIf(true, at);
         }
     }
 }
 
 // The last column and row are left out on purpose: no step to the right or down enters them.
 void Numbering::AddNeighbours(CellPos at) {
-    if (at.Y - 1 > 0) {
-        AddToNumberCells({at.X, at.Y - 1});
-    }
-    if (at.X + 1 < state_.NumberWidth) {
-        AddToNumberCells({at.X + 1, at.Y});
-    }
-    if (at.Y + 1 < state_.NumberHeight) {
-        AddToNumberCells({at.X, at.Y + 1});
-    }
-    if (at.X - 1 >= 1) {
-        AddToNumberCells({at.X - 1, at.Y});
-    }
+    queue_.Reserve(4);
+    AddToNumberCells(at.Y - 1 > 0, {at.X, at.Y - 1});
+    AddToNumberCells(at.X + 1 < state_.NumberWidth, {at.X + 1, at.Y});
+    AddToNumberCells(at.Y + 1 < state_.NumberHeight, {at.X, at.Y + 1});
+    AddToNumberCells(at.X - 1 >= 1, {at.X - 1, at.Y});
 }
 
-void Numbering::AddToNumberCells(CellPos at) {
-    if (!state_.NumberMarks(at.X, at.Y).Marked) {
-        state_.TestCells.Push(at);
-    }
+void Numbering::AddToNumberCells(bool inside, CellPos at) {
+    WalkPixel& pixel = pixels_(at.X, at.Y);
+    const bool wanted = inside & ((pixel & (kMarked | kQueued)) == 0);
+    pixel = static_cast<WalkPixel>(pixel | (wanted ? kQueued : 0));
+    queue_.PushIf(wanted, at);
 }
 
 void Numbering::Stamp(CellPos at) {
