@@ -23,10 +23,13 @@ int RunDesktop(int& argc, char** argv, const ProgramFolder& folder) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vendrel"));
     QApplication::setDesktopFileName(QStringLiteral("vendrel"));
+    // A message that is answered before the window opens is not the end.
+    QApplication::setQuitOnLastWindowClosed(false);
     Desktop desktop(folder);
     if (const std::optional<int> status = desktop.Start()) {
         return *status;
     }
+    QApplication::setQuitOnLastWindowClosed(true);
     return QApplication::exec();
 }
 

@@ -1,6 +1,5 @@
 #include "desktop/main_window.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -183,17 +182,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::End() {
-    if (ended_) {
-        return;
-    }
-    ended_ = true;
     for (const auto& [form, dialog] : dialogs_) {
         if (dialog) {
             dialog->hide();
         }
     }
-    hide();
-    QCoreApplication::exit(0);
+    close();  // the last window: the program ends
 }
 
 }  // namespace vendrel

@@ -54,7 +54,6 @@ class MainWindow : public QMainWindow {
     QProgressBar* progress_;
     QSize fitted_;
     std::map<FormId, std::unique_ptr<FormDialog>> dialogs_;
-    bool ended_ = false;
 };
 
 }  // namespace vendrel

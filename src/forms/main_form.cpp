@@ -17,6 +17,7 @@
 namespace vendrel {
 namespace {
 
+namespace fs = std::filesystem;
 using enum MenuId;
 
 struct ClickHandler {
@@ -55,11 +56,12 @@ void MainForm::Form_Load() {
     place_.MainMenu[LoadBMP].Enabled = true;
     place_.MainMenu[PaintItNow].Enabled = false;
     if (PrepareFolders(place_)) {
-        place_.Screen.ShowMessage("Vendrel",
-                                  "First Time Ran.. Pictures Folder Created.\n"
-                                  "Program Will Exit To Allow You To Place Your .BMP Pictures "
-                                  "In This Folder.\n" +
-                                      place_.Folder.Path("Pictures").string());
+        place_.Screen.ShowMessage(
+            "Vendrel",
+            "First Time Ran.. Pictures Folder Created.\n"
+            "Program Will Exit To Allow You To Place Your .BMP Pictures "
+            "In This Folder.\n" +
+                fs::absolute(place_.Folder.Path("Pictures")).lexically_normal().string());
         throw Stop{};
     }
     PreparePaints(place_);
@@ -147,15 +149,15 @@ void MainForm::PaintItNow_Click() {
 }
 
 void MainForm::PrintWorkform_Click() {
-    Saved(vendrel::PrintWorkform_Click(place_).string());
+    Saved(vendrel::PrintWorkform_Click(place_));
 }
 
 void MainForm::PrintAll_Click() {
-    Saved(vendrel::PrintAll_Click(place_).File.string());
+    Saved(vendrel::PrintAll_Click(place_).File);
 }
 
-void MainForm::Saved(const std::string& file) {
-    lastSaved_ = file;
+void MainForm::Saved(const fs::path& file) {
+    lastSaved_ = file.lexically_normal().string();
     place_.Screen.SetCaption("Vendrel -" + place_.State.PictureName);
 }
 

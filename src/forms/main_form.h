@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "forms/file_import.h"
@@ -58,7 +59,7 @@ class MainForm {
     void SetDifficulty(MenuId level, int stippleSize);
     void SetFinalPaints(int finalColors);
     void SampleMethodChanged();
-    void Saved(const std::string& file);
+    void Saved(const std::filesystem::path& file);
 
     Workplace& place_;
     FileImport chooser_;
