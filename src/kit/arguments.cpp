@@ -11,6 +11,7 @@ namespace {
 constexpr std::string_view kHelp =
     R"(Vendrel turns a photograph into a paint-by-symbol kit.
 
+  vendrel [--folder DIR] opens the window
   vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
   vendrel symbols [--folder DIR]
                          draws the symbols anew into Data/Symbols.txt

@@ -12,7 +12,9 @@ constexpr std::chrono::milliseconds kRedrawPause{50};
 }  // namespace
 
 std::string_view StageOf(std::string_view caption) {
-    std::size_t end = caption.find_first_of("0123456789");
+    const auto digit = std::find_if(caption.begin(), caption.end(),
+                                    [](char c) { return c >= '0' && c <= '9'; });
+    auto end = static_cast<std::size_t>(digit - caption.begin());
     for (const std::string_view lead : {" with ", " For "}) {
         if (const auto at = caption.find(lead); at != caption.npos) {
             end = std::min(end, at + lead.size());
@@ -22,6 +24,9 @@ std::string_view StageOf(std::string_view caption) {
 }
 
 void TerminalUi::SetCaption(std::string_view caption) {
+    if (chatter_ == Chatter::None) {
+        return;
+    }
     const bool newStage = StageOf(caption) != StageOf(caption_);
     caption_ = caption;
     if (chatter_ == Chatter::Stages && newStage) {
