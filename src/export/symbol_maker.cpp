@@ -28,7 +28,7 @@ std::unique_ptr<QGuiApplication> EnsureApplication() {
 
 std::filesystem::path MakeSymbols(const ProgramFolder& folder) {
     const auto application = EnsureApplication();
-    const std::filesystem::path file = folder.Path("Data/Symbols.txt");
+    std::filesystem::path file = folder.Path("Data/Symbols.txt");
     WorkState state;
     TextCanvas canvas(kCanvasSize, kCanvasSize);
     MakeSymbolFile(state, file, canvas);

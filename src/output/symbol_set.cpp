@@ -40,7 +40,7 @@ SymbolGlyph ReadGlyph(FieldReader& fields) {
 
 void FillSymbolCodes(WorkState& state) {
     for (std::size_t k = 1; k <= kSymbolCount; ++k) {
-        state.SymbolCodes[k] = kSymbolCharacters[k - 1];
+        state.SymbolCodes[k] = static_cast<unsigned char>(kSymbolCharacters[k - 1]);
     }
 }
 
