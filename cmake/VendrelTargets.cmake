@@ -28,7 +28,7 @@ function(vendrel_test_headers_target)
     add_library(vendrel_test_headers OBJECT ${PROJECT_BINARY_DIR}/test_headers.cpp)
     target_link_libraries(vendrel_test_headers PRIVATE vendrel_settings GTest::gmock GTest::gtest)
     target_compile_definitions(vendrel_test_headers PRIVATE VENDREL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-    target_compile_options(vendrel_test_headers PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+    target_compile_options(vendrel_test_headers PRIVATE -fPIC -Wno-array-bounds -Wno-stringop-overflow)
     target_precompile_headers(vendrel_test_headers PRIVATE
         <gmock/gmock.h> <gtest/gtest.h> <filesystem> <fstream> <random> <string> <vector>)
 endfunction()
@@ -42,7 +42,8 @@ function(vendrel_test name)
     target_link_libraries(test_${name} PRIVATE vendrel_settings ${ARG_DEPENDS} GTest::gmock GTest::gtest_main)
     target_compile_definitions(test_${name} PRIVATE VENDREL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     # GCC 12 sees overruns behind range checks when tests pass constants that lie outside.
-    target_compile_options(test_${name} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+    # Qt wants -fPIC of those who link it; the shared headers want one answer from all.
+    target_compile_options(test_${name} PRIVATE -fPIC -Wno-array-bounds -Wno-stringop-overflow)
     # The test framework's headers cost more to compile than most tests: one copy for all programs.
     if(NOT TARGET vendrel_test_headers)
         vendrel_test_headers_target()
