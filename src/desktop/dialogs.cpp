@@ -1,8 +1,10 @@
 #include "desktop/dialogs.h"
 
 #include "desktop/about_dialog.h"
+#include "desktop/color_matcher_dialog.h"
 #include "desktop/file_import_dialog.h"
 #include "desktop/paint_shop_dialog.h"
+#include "desktop/template_shop_dialog.h"
 
 namespace vendrel {
 
@@ -12,6 +14,10 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<FileImportDialog>(context, parent);
         case FormId::PaintShop:
             return std::make_unique<PaintShopDialog>(context, parent);
+        case FormId::TemplateShop:
+            return std::make_unique<TemplateShopDialog>(context, parent);
+        case FormId::ColorMatcher:
+            return std::make_unique<ColorMatcherDialog>(context, parent);
         case FormId::About:
             return std::make_unique<AboutDialog>(context, parent);
         default:

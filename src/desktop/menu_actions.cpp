@@ -55,8 +55,8 @@ constexpr Keys kKeys[] = {
 };
 
 /// Entries whose windows and writers are still to come.
-constexpr MenuId kLater[] = {SaveReference,     PrintColorChart, SaveItAll,     SaveKitPdf,
-                             ColorPickerSelect, RunTemplateShop, NextBestColors};
+constexpr MenuId kLater[] = {SaveReference, PrintColorChart, SaveItAll, SaveKitPdf,
+                             ColorPickerSelect};
 
 constexpr MenuId kCheckable[] = {EasySet,     MediumSet,   HardSet,      Set16Colors, Set32Colors,
                                  Set40Colors, Set50Colors, AveragePixel, SamplePixel, WatchItPaint};

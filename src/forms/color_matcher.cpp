@@ -5,11 +5,13 @@
 #include <span>
 
 #include "convert/stipple_conversion.h"
+#include "output/chart_contents.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
 #include "paints/template_library.h"
 #include "shell/scratch_place.h"
 #include "support/error.h"
+#include "touchup/recovery.h"
 
 namespace vendrel {
 namespace {
@@ -45,11 +47,6 @@ Surface DrawSmall(const WorkState& state) {
 
 }  // namespace
 
-void NextBestColors_Click(Workplace& place) {
-    RequireGrid(place.State);
-    place.Screen.OpenForm(FormId::ColorMatcher);
-}
-
 void ColorMatcher::Form_Load() {
     const WorkState& state = place_.State;
     RequireGrid(state);
@@ -57,9 +54,10 @@ void ColorMatcher::Form_Load() {
         FillSelectedPaintsList(place_.State);
     }
     const std::vector<int> counts = CountStipples(state);
+    const std::vector<int> shares = SharesInTenths(std::span(counts).subspan(1));
     rows_.assign(1, {});
     for (std::size_t k = 1; k < state.PaintColors.size(); ++k) {
-        rows_.push_back({state.PaintColors[k], state.PaintColors[k], counts[k]});
+        rows_.push_back({state.PaintColors[k], state.PaintColors[k], counts[k], shares[k - 1]});
     }
     chosen_ = 1;
     preview_ = DrawSmall(state);
@@ -138,17 +136,17 @@ void ColorMatcher::ShowPreview() {
     preview_ = DrawSmall(scratch.State);
 }
 
-bool ColorMatcher::AcceptButton_Click() {
-    if (place_.State.HasUnsavedWork &&
-        !place_.Screen.Ask("Color Matcher",
-                           "Accepting converts the photo again. Your touch-ups have not been saved "
-                           "and would be lost. Go on?")) {
-        return false;
+void ColorMatcher::AcceptButton_Click() {
+    if (!MayReplaceGrid(place_)) {
+        return;
     }
+    place_.Screen.CloseForm(FormId::ColorMatcher);
     SetPalette(place_.State, Palette());
     AutoChangeToStipples(place_);
-    place_.State.HasUnsavedWork = false;
-    return true;
+}
+
+void ColorMatcher::CancelButton_Click() {
+    place_.Screen.CloseForm(FormId::ColorMatcher);
 }
 
 std::string ColorMatcher::SaveTemplate_Click() {

@@ -15,7 +15,8 @@ enum class MatchSource { SelectedSets, WholeCatalogue };
 struct MatcherRow {
     PaintColor Original;
     PaintColor Current;
-    int Stipples = 0;  // of the work in hand
+    int Stipples = 0;     // of the work in hand
+    int ShareTenths = 0;  // of the picture, in tenths of a percent
     [[nodiscard]] bool Exchanged() const { return !SamePaint(Original, Current); }
 };
 
@@ -38,9 +39,10 @@ class ColorMatcher {
     void PutBack_Click();
     void PutAllBack_Click();
 
-    /// Converts the photo with the exchanged palette, after asking when touched-up work would go.
-    /// False when the user thought better of it.
-    [[nodiscard]] bool AcceptButton_Click();
+    /// Converts the photo with the exchanged palette and closes, after asking when touched-up work
+    /// would go.
+    void AcceptButton_Click();
+    void CancelButton_Click();
     /// Writes the palette as a template named after the kit; returns the name.
     std::string SaveTemplate_Click();
 
@@ -66,8 +68,5 @@ class ColorMatcher {
     int chosen_ = 0;
     Surface preview_;
 };
-
-/// The menu command: opens the matcher, or throws Error while there is nothing to match.
-void NextBestColors_Click(Workplace& place);
 
 }  // namespace vendrel

@@ -13,6 +13,7 @@
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
 #include "storage/load_stipples.h"
+#include "touchup/recovery.h"
 
 namespace vendrel {
 namespace {
@@ -40,6 +41,7 @@ constexpr ClickHandler kHandlers[] = {
     {Set32Colors, &MainForm::Set32Colors_Click},
     {Set40Colors, &MainForm::Set40Colors_Click},
     {Set50Colors, &MainForm::Set50Colors_Click},
+    {RunTemplateShop, &MainForm::RunTemplateShop_Click},
     {NextBestColors, &MainForm::NextBestColors_Click},
     {AveragePixel, &MainForm::AveragePixel_Click},
     {SamplePixel, &MainForm::SamplePixel_Click},
@@ -219,6 +221,13 @@ void MainForm::SetFinalPaints(int finalColors) {
     RefreshPhotoImage(place_);
     SetupMenuItems(place_.MainMenu, 2);
     RestorePaintColors(place_);
+}
+
+void MainForm::RunTemplateShop_Click() {
+    if (MayReplaceGrid(place_)) {
+        SetupMenuItems(place_.MainMenu, 2);
+        place_.Screen.OpenForm(FormId::TemplateShop);
+    }
 }
 
 void MainForm::NextBestColors_Click() {

@@ -39,6 +39,7 @@ class MainForm {
     void Set32Colors_Click();
     void Set40Colors_Click();
     void Set50Colors_Click();
+    void RunTemplateShop_Click();
     void NextBestColors_Click();
     void AveragePixel_Click();
     void SamplePixel_Click();

@@ -8,6 +8,7 @@
 #include "paints/next_best.h"
 #include "paints/paint_sets.h"
 #include "paints/palette_files.h"
+#include "paints/restore.h"
 #include "paints/template_file.h"
 #include "paints/template_library.h"
 #include "shell/scratch_place.h"
@@ -46,11 +47,6 @@ std::vector<PaintColor> PaintsOfPhoto(const Workplace& place) {
 }
 
 }  // namespace
-
-void RunTemplateShop_Click(Workplace& place) {
-    SetupMenuItems(place.MainMenu, 2);
-    place.Screen.OpenForm(FormId::TemplateShop);
-}
 
 void TemplateShop::Form_Load() {
     ListAndChoose("");
@@ -233,6 +229,22 @@ void TemplateShop::Import_Click(const std::filesystem::path& file) {
 
 void TemplateShop::Export_Click(const std::filesystem::path& file) const {
     WriteWholeFile(file, GplText(RequireChosen(), controls_.Paints));
+}
+
+// A template in use may have been changed here, and the photo is to be converted again in any case.
+void TemplateShop::Done_Click() {
+    RestorePaintColors(place_);
+    place_.Screen.CloseForm(FormId::TemplateShop);
+}
+
+std::vector<std::string> TemplateShop::Sets() const {
+    std::vector<std::string> names;
+    for (const PaintSet& set : place_.State.PaintSets) {
+        if (!set.Name.empty()) {
+            names.push_back(set.Name);
+        }
+    }
+    return names;
 }
 
 }  // namespace vendrel

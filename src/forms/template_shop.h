@@ -59,6 +59,7 @@ class TemplateShop {
     /// A palette file becomes a new template, which is chosen.
     void Import_Click(const std::filesystem::path& file);
     void Export_Click(const std::filesystem::path& file) const;
+    void Done_Click();
 
     [[nodiscard]] const TemplateShopControls& Controls() const { return controls_; }
     /// The chosen template's name; empty when none is chosen.
@@ -77,8 +78,5 @@ class TemplateShop {
     Workplace& place_;
     TemplateShopControls controls_;
 };
-
-/// The menu command: sets stage 2 and opens the shop.
-void RunTemplateShop_Click(Workplace& place);
 
 }  // namespace vendrel

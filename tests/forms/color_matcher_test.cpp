@@ -29,10 +29,7 @@ struct Matcher : test::SmallPhoto {
 
 TEST(ColorMatcher, RefusesWhileThereIsNoGrid) {
     test::SmallPhoto photo;
-    EXPECT_THROW(NextBestColors_Click(photo.Place), Error);
-    photo.Convert();
-    NextBestColors_Click(photo.Place);
-    EXPECT_THAT(photo.Screen.OpenForms, ElementsAre(FormId::ColorMatcher));
+    EXPECT_THROW(ColorMatcher(photo.Place).Form_Load(), Error);
 }
 
 TEST(ColorMatcher, OffersPaintsThatThePaletteDoesNotHold) {
@@ -53,7 +50,7 @@ TEST(ColorMatcher, PreviewShowsWhatAcceptingGives) {
     const Surface preview = matcher.Form.Preview();
     EXPECT_EQ(preview.Get(0, 0), Rgb(120, 80, 30));
     EXPECT_EQ(matcher.State.PaintColors[1].PaintName, "Red");  // nothing happened yet
-    EXPECT_TRUE(matcher.Form.AcceptButton_Click());
+    matcher.Form.AcceptButton_Click();
     for (int y = 0; y < preview.Height(); ++y) {
         for (int x = 0; x < preview.Width(); ++x) {
             const int paint = matcher.State.Stipples(x + 1, y + 1).ColorIndex;
@@ -84,7 +81,7 @@ TEST(ColorMatcher, AsksBeforeTouchUpsAreWipedAndSavesNumberedTemplates) {
     matcher.Form.Exchange_Click(0);
     matcher.State.HasUnsavedWork = true;
     matcher.Screen.Answers = {false};
-    EXPECT_FALSE(matcher.Form.AcceptButton_Click());
+    matcher.Form.AcceptButton_Click();
     EXPECT_EQ(matcher.State.PaintColors[1].PaintName, "Red");
     EXPECT_EQ(matcher.Form.SaveTemplate_Click(), "small Easy 2 Paints");
     EXPECT_EQ(matcher.Form.SaveTemplate_Click(), "small Easy 2 Paints 2");

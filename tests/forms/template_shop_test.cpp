@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "forms/main_form.h"
 #include "forms/small_photo.h"
 #include "paints/template_file.h"
 #include "support/error.h"
@@ -132,7 +133,7 @@ TEST(TemplateShop, ImportsUnderAFreeNameAndExports) {
 TEST(TemplateShop, CommandSetsStageTwo) {
     Shop shop;
     SetupMenuItems(shop.MainMenu, 4);
-    RunTemplateShop_Click(shop.Place);
+    MainForm(shop.Place).Click(MenuId::RunTemplateShop);
     EXPECT_TRUE(shop.MainMenu[MenuId::ChangeToStipples].Enabled);
     EXPECT_FALSE(shop.MainMenu[MenuId::PrintMenu].Enabled);
     EXPECT_THAT(shop.Screen.OpenForms, ElementsAre(FormId::TemplateShop));

@@ -1,0 +1,149 @@
+#include "desktop/color_matcher_dialog.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "desktop/list_box.h"
+#include "desktop/named.h"
+#include "desktop/paint_items.h"
+#include "desktop/surface_image.h"
+#include "desktop/text.h"
+#include "output/chart_contents.h"
+
+namespace vendrel {
+namespace {
+
+constexpr QSize kPreview(300, 300);
+
+}  // namespace
+
+ColorMatcherDialog::ColorMatcherDialog(const ViewContext& context, QWidget* parent)
+    : FormDialog(context, parent),
+      form_(context.Place),
+      paintList_(Named<QListWidget>("MatcherPaints", tr("Paints of the palette"))),
+      selectedSets_(Named<QRadioButton>("FromSelectedSets", tr("From the selected sets"))),
+      wholeCatalogue_(Named<QRadioButton>("FromCatalogue", tr("From the whole catalogue"))),
+      offersFrame_(new QGroupBox(tr("Next best paints"))),
+      offerList_(Named<QListWidget>("NextBestPaints", tr("Next best paints"))),
+      preview_(Named<QLabel>("MatcherPreview", tr("Preview"))) {
+    setWindowTitle(tr("Color Matcher"));
+    auto* columns = new QHBoxLayout;
+    columns->addWidget(MakePalette(), 4);
+    columns->addWidget(MakeOffers(), 4);
+    columns->addWidget(MakePreview(), 3);
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(columns, 1);
+    all->addLayout(MakeButtons());
+    resize(1100, 560);
+}
+
+QPushButton* ColorMatcherDialog::MakeButton(const char* name, const QString& text,
+                                            const std::function<void()>& clicked) {
+    auto* button = Named<QPushButton>(name, QString(text).remove(QLatin1Char('&')));
+    button->setText(text);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, clicked] { Run(clicked); });
+    return button;
+}
+
+QWidget* ColorMatcherDialog::MakePalette() {
+    auto* frame = new QGroupBox(tr("Paints of the palette"));
+    auto* column = new QVBoxLayout(frame);
+    column->addWidget(paintList_);
+    OnChosen(*paintList_,
+             [this](int row) { Run([this, row] { form_.PaintList_Click(row + 1); }); });
+    return frame;
+}
+
+QWidget* ColorMatcherDialog::MakeOffers() {
+    auto* column = new QVBoxLayout(offersFrame_);
+    selectedSets_->setText(tr("From the &selected sets"));
+    wholeCatalogue_->setText(tr("From the &whole catalogue"));
+    connect(selectedSets_, &QRadioButton::clicked, this,
+            [this] { Run([this] { form_.Source_Click(MatchSource::SelectedSets); }); });
+    connect(wholeCatalogue_, &QRadioButton::clicked, this,
+            [this] { Run([this] { form_.Source_Click(MatchSource::WholeCatalogue); }); });
+    column->addWidget(selectedSets_);
+    column->addWidget(wholeCatalogue_);
+    column->addWidget(offerList_, 1);
+    exchange_ = MakeButton("Exchange", tr("E&xchange"),
+                           [this] { form_.Exchange_Click(offerList_->currentRow()); });
+    connect(offerList_, &QListWidget::itemActivated, exchange_, &QPushButton::click);
+    connect(offerList_, &QListWidget::currentRowChanged, this,
+            [this](int row) { exchange_->setEnabled(row >= 0); });
+    column->addWidget(exchange_);
+    return offersFrame_;
+}
+
+QWidget* ColorMatcherDialog::MakePreview() {
+    auto* frame = new QGroupBox(tr("What accepting gives"));
+    auto* column = new QVBoxLayout(frame);
+    preview_->setAlignment(Qt::AlignCenter);
+    preview_->setMinimumSize(kPreview);
+    column->addWidget(preview_, 1);
+    return frame;
+}
+
+QLayout* ColorMatcherDialog::MakeButtons() {
+    auto* row = new QHBoxLayout;
+    putBack_ = MakeButton("PutBack", tr("Put &Back"), [this] { form_.PutBack_Click(); });
+    putAllBack_ =
+        MakeButton("PutAllBack", tr("Put &All Back"), [this] { form_.PutAllBack_Click(); });
+    row->addWidget(putBack_);
+    row->addWidget(putAllBack_);
+    row->addWidget(MakeButton("SaveAsTemplate", tr("Save as &Template"), [this] {
+        const std::string name = form_.SaveTemplate_Click();
+        Context().Place.Screen.ShowMessage("Template Saved",
+                                           "The palette is now the template \"" + name + "\".");
+    }));
+    row->addStretch(1);
+    QPushButton* accept =
+        MakeButton("AcceptButton", tr("Accept"), [this] { form_.AcceptButton_Click(); });
+    accept->setDefault(true);
+    row->addWidget(accept);
+    row->addWidget(
+        MakeButton("CancelButton", tr("Cancel"), [this] { form_.CancelButton_Click(); }));
+    return row;
+}
+
+void ColorMatcherDialog::Mirror() {
+    const auto& codes = Context().Place.State.SymbolCodes;
+    std::vector<PaintItem> items;
+    for (std::size_t k = 1; k < form_.Rows().size(); ++k) {
+        const MatcherRow& row = form_.Rows()[k];
+        const QChar symbol(k < codes.size() ? codes[k] : '?');
+        items.push_back(
+            {ColorOf(row.Original), ColorOf(row.Current),
+             tr("%1   %2   %3")
+                 .arg(symbol)
+                 .arg(Text(PaintLabel(row.Current)), Text(ShareText(row.ShareTenths)))});
+    }
+    MirrorPaints(*paintList_, items, form_.Chosen() - 1);
+    selectedSets_->setChecked(form_.Source() == MatchSource::SelectedSets);
+    wholeCatalogue_->setChecked(form_.Source() == MatchSource::WholeCatalogue);
+    const auto chosen = static_cast<std::size_t>(form_.Chosen());
+    putBack_->setEnabled(chosen < form_.Rows().size() && form_.Rows()[chosen].Exchanged());
+    putAllBack_->setEnabled(form_.AnyExchanged());
+    MirrorOffers();
+    MirrorPreview();
+}
+
+void ColorMatcherDialog::MirrorOffers() {
+    const auto chosen = static_cast<std::size_t>(form_.Chosen());
+    std::vector<PaintItem> items;
+    for (const NextBestPaint& offer : form_.Offers()) {
+        items.push_back(
+            {ColorOf(form_.Rows()[chosen].Original), ColorOf(offer.Paint),
+             tr("%1   %2").arg(offer.Difference, 0, 'f', 1).arg(Text(PaintLabel(offer.Paint)))});
+    }
+    MirrorPaints(*offerList_, items, items.empty() ? -1 : std::max(offerList_->currentRow(), 0));
+    exchange_->setEnabled(!items.empty());
+}
+
+void ColorMatcherDialog::MirrorPreview() {
+    const QImage image = ToImage(form_.Preview());
+    preview_->setPixmap(QPixmap::fromImage(
+        image.scaled(preview_->size().expandedTo(kPreview) * 0.95, Qt::KeepAspectRatio)));
+}
+
+}  // namespace vendrel

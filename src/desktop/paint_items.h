@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QIcon>
+#include <QListWidget>
+#include <vector>
+
+#include "shell/records.h"
+#include "support/color.h"
+
+namespace vendrel {
+
+/// A line of a list that shows paints: one or two swatches and a text.
+struct PaintItem {
+    Color Swatch = kBlack;
+    Color Second = kNoColor;  // beside the first, kNoColor for none
+    QString Label;
+
+    bool operator==(const PaintItem&) const = default;
+};
+
+/// Squares of paint, side by side when there are two.
+[[nodiscard]] QIcon SwatchIcon(Color first, Color second = kNoColor);
+
+/// Makes a list show `items` with `index` chosen (-1: none), without telling anybody. A list that
+/// shows them already is left alone, so that it keeps its place.
+void MirrorPaints(QListWidget& list, const std::vector<PaintItem>& items, int index);
+
+}  // namespace vendrel
