@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "convert/bitmap_writer.h"
 #include "convert/dib_section.h"
+#include "output/contrast.h"
 #include "output/result_files.h"
+#include "output/symbol_set.h"
 #include "shell/busy_pointer.h"
 #include "support/error.h"
 
@@ -31,51 +34,127 @@ class PaintingKept {
     Surface painting_;
 };
 
-// Makes a sheet the drawing surface of the work state for as long as the sheet exists.
-class SheetInUse {
+// Draws every dot and symbol on all pictures asked for, so that they agree to the pixel.
+class SheetPainter final : public NumberSink {
   public:
-    SheetInUse(WorkState& state, const DibView& sheet) : state_(state) { state_.SheetDC = sheet; }
-    ~SheetInUse() { state_.SheetDC = {}; }
-    SheetInUse(const SheetInUse&) = delete;
-    SheetInUse& operator=(const SheetInUse&) = delete;
+    SheetPainter(WorkState& state, const DibView& sheet, const DibView& reference)
+        : state_(state), sheet_(sheet), reference_(reference) {
+        for (const PaintColor& paint : state.PaintColors) {
+            inks_.push_back(InkOn(ColorOf(paint)));
+        }
+    }
+    ~SheetPainter() override { state_.SheetDC = {}; }
+
+    void Dot(CellPos at) override {
+        const int x = state_.SheetCellSize * at.X;
+        const int y = state_.SheetCellSize * at.Y;
+        sheet_.Set(x, y, state_.BorderColor);
+        reference_.Set(x, y, state_.BorderColor);
+    }
+    void Stamp(int paint, CellPos at) override {
+        StampOn(sheet_, paint, at, state_.SymbolColor);
+        StampOn(reference_, paint, at, inks_[static_cast<std::size_t>(paint)]);
+    }
 
   private:
+    void StampOn(const DibView& picture, int paint, CellPos at, Color ink) {
+        if (!picture.Empty()) {
+            state_.SheetDC = picture;
+            Number2CDIB(state_, paint, state_.SheetCellSize, ink, at);
+        }
+    }
+
     WorkState& state_;
+    DibView sheet_;
+    DibView reference_;
+    std::vector<Color> inks_;  // per paint, on the reference
 };
 
-void CreateWhite(cDIBSection& sheet, int width, int height) {
+void CreateSheet(cDIBSection& sheet, int width, int height) {
     if (!sheet.Create(width, height)) {
         throw Error("There is not enough memory for a sheet of " + std::to_string(width) + " x " +
                     std::to_string(height) + " pixels. Close other programs and try again.");
     }
+}
+
+void CreateWhite(cDIBSection& sheet, int width, int height) {
+    CreateSheet(sheet, width, height);
     std::fill_n(sheet.DIBSectionBitsPtr(),
                 static_cast<std::ptrdiff_t>(sheet.BytesPerScanLine()) * height, std::uint8_t{255});
 }
 
-NumberingCounts DrawSheet(const Workplace& place, cDIBSection& sheet) {
+// Every pixel of the painting becomes a square.
+void CreateEnlarged(cDIBSection& sheet, const Surface& painting, int scale) {
+    CreateSheet(sheet, painting.Width() * scale, painting.Height() * scale);
+    const auto rowBytes = static_cast<std::size_t>(sheet.BytesPerScanLine());
+    std::uint8_t* to = sheet.DIBSectionBitsPtr();
+    for (int y = painting.Height() - 1; y >= 0; --y) {
+        std::uint8_t* const first = to;
+        for (const Color color : painting.Row(y)) {
+            for (int i = 0; i < scale; ++i) {
+                *to++ = static_cast<std::uint8_t>(BlueOf(color));
+                *to++ = static_cast<std::uint8_t>(GreenOf(color));
+                *to++ = static_cast<std::uint8_t>(RedOf(color));
+            }
+        }
+        to = first + rowBytes;
+        for (int i = 1; i < scale; ++i, to += rowBytes) {
+            std::copy_n(first, rowBytes, to);
+        }
+    }
+}
+
+struct DrawnSheets {
+    cDIBSection Sheet;
+    cDIBSection Reference;
+};
+
+NumberingCounts DrawSheets(const Workplace& place, const SheetKinds& kinds, DrawnSheets& drawn) {
     WorkState& state = place.State;
     Surface& picture = place.Frames.WorkFrame.Picture;
     if (picture.Empty()) {
         throw Error("There is no painted picture to number. Load a photo and paint it first.");
     }
     state.SheetCellSize = SheetCellSizeFor(state.StippleSize);
-    CreateWhite(sheet, picture.Width() * state.SheetCellSize,
-                picture.Height() * state.SheetCellSize);
-    const SheetInUse inUse(state, sheet.hdc());
+    if (kinds.Sheet) {
+        CreateWhite(drawn.Sheet, picture.Width() * state.SheetCellSize,
+                    picture.Height() * state.SheetCellSize);
+    }
+    if (kinds.Reference) {
+        CreateEnlarged(drawn.Reference, picture, state.SheetCellSize);
+    }
+    SheetPainter painter(state, drawn.Sheet.hdc(), drawn.Reference.hdc());
     const PaintingKept kept(place);
-    return SetupCellNumbers(place, picture);
+    return SetupCellNumbers(place, picture, painter);
 }
 
 }  // namespace
 
-SavedSheet WriteSheet(const Workplace& place) {
+SavedSheets WriteSheets(const Workplace& place, const SheetKinds& kinds) {
     RequireSymbols(place.State);
-    cDIBSection sheet;
-    const NumberingCounts counts = DrawSheet(place, sheet);
-    std::filesystem::path file = ResultFile(place, "PBS");
+    DrawnSheets drawn;
+    SavedSheets saved;
+    saved.Counts = DrawSheets(place, kinds, drawn);
     place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteBitmap(file, sheet);
-    return {std::move(file), counts};
+    if (kinds.Sheet) {
+        saved.Sheet = ResultFile(place, "PBS");
+        WriteBitmap(saved.Sheet, drawn.Sheet);
+    }
+    if (kinds.Reference) {
+        saved.Reference = ResultFile(place, "Symbol Reference");
+        WriteBitmap(saved.Reference, drawn.Reference);
+    }
+    return saved;
+}
+
+SavedSheet WriteSheet(const Workplace& place) {
+    SavedSheets saved = WriteSheets(place, {.Sheet = true, .Reference = false});
+    return {std::move(saved.Sheet), saved.Counts};
+}
+
+std::filesystem::path SaveReference_Click(const Workplace& place) {
+    const BusyPointer busy(place.Screen);
+    return WriteSheets(place, {.Sheet = false, .Reference = true}).Reference;
 }
 
 SavedSheet PrintAll_Click(const Workplace& place) {

@@ -120,5 +120,56 @@ TEST_F(PaintedKit, RefusedSheetLeavesPictureAndFiles) {
     EXPECT_EQ(bench_.Screen.LastPointer, Pointer::Normal);
 }
 
+TEST_F(PaintedKit, ReferenceShowsTheSheetsDotsAndSymbolsOnTheEnlargedPainting) {
+    Paint(8, MenuId::EasySet);
+    const Surface painting = bench_.Frames.WorkFrame.Picture;
+    const SavedSheets saved = WriteSheets(bench_.Place, {.Sheet = true, .Reference = true});
+    EXPECT_EQ(saved.Reference, bench_.Files / "Results/lady Easy Symbol Reference.BMP");
+    const Surface sheet = ReadBitmap(saved.Sheet);
+    const Surface reference = ReadBitmap(saved.Reference);
+    ASSERT_EQ(reference.Width(), sheet.Width());
+    ASSERT_EQ(reference.Height(), sheet.Height());
+    for (int y = 0; y < sheet.Height(); ++y) {
+        for (int x = 0; x < sheet.Width(); ++x) {
+            const Color drawn = sheet.Get(x, y);
+            const Color expected = drawn == kBlack   ? kBlack
+                                   : drawn == kWhite ? painting.Get(x / 2, y / 2)
+                                                     : kWhite;  // both paints are dark
+            ASSERT_EQ(reference.Get(x, y), expected) << x << ' ' << y;
+        }
+    }
+    EXPECT_EQ(bench_.Frames.WorkFrame.Picture, painting);
+}
+
+TEST_F(PaintedKit, SavesTheSameBytesInAnyOrderAndCompany) {
+    Paint(8, MenuId::EasySet);
+    const auto read = [this](const std::string& kind) {
+        return bench_.Files.Read("Results/lady Easy " + kind + ".BMP");
+    };
+    WriteSheets(bench_.Place, {.Sheet = true, .Reference = true});
+    const std::string sheet = read("PBS");
+    const std::string reference = read("Symbol Reference");
+    std::filesystem::remove_all(bench_.Files / "Results");
+    SaveReference_Click(bench_.Place);
+    EXPECT_FALSE(bench_.Program.Exists("Results/lady Easy PBS.BMP"));
+    PrintWorkform_Click(bench_.Place);
+    PrintAll_Click(bench_.Place);
+    EXPECT_EQ(read("PBS"), sheet);
+    EXPECT_EQ(read("Symbol Reference"), reference);
+}
+
+TEST_F(PaintedKit, AResultsFolderThatCannotBeWrittenIsNamed) {
+    Paint(8, MenuId::EasySet);
+    bench_.Files.Write("Results", "in the way");
+    try {
+        SaveReference_Click(bench_.Place);
+        FAIL() << "written";
+    } catch (const FileError& error) {
+        EXPECT_THAT(error.what(), testing::HasSubstr("lady Easy Symbol Reference.BMP"));
+    }
+    EXPECT_EQ(bench_.Files.Read("Results"), "in the way");
+    EXPECT_EQ(bench_.Screen.LastPointer, Pointer::Normal);
+}
+
 }  // namespace
 }  // namespace vendrel
