@@ -11,7 +11,7 @@ namespace vendrel {
 namespace {
 
 // Leaves some white between a symbol and the border around it.
-constexpr double kFill = 0.86;
+constexpr double kFill = 0.9;
 // A second symbol in a region helps only when it can be read about as well as the first.
 constexpr double kSmallestRepeat = 0.7;
 
@@ -94,6 +94,15 @@ class Placement {
 
 std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const LabelRules& rules) {
     return Placement(regions, rules).Run();
+}
+
+double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects) {
+    const auto aspectOf = [&](int region) {
+        return aspects.at(
+            static_cast<std::size_t>(regions.List[static_cast<std::size_t>(region)].Paint));
+    };
+    const auto boxes = FindRoomiestBoxes(regions.Ids, {}, aspectOf);
+    return std::ranges::min_element(boxes, {}, &InscribedBox::Height)->Height * kFill;
 }
 
 double SymbolHeightInStipple(int stippleSize, double aspect) {

@@ -34,6 +34,9 @@ struct LabelRules {
 [[nodiscard]] std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions,
                                                  const LabelRules& rules);
 
+/// Height in pixels of the smallest symbol when every region has one as tall as fits.
+[[nodiscard]] double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects);
+
 /// How tall a symbol of such an aspect fits into a lone stipple of that size, in pixels.
 [[nodiscard]] double SymbolHeightInStipple(int stippleSize, double aspect);
 

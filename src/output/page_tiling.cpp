@@ -22,7 +22,7 @@ int SharesOf(double length, double room) {
     return static_cast<int>(std::ceil(length / (room - 2 * kOverlapMm)));
 }
 
-std::optional<PagePlan> TryChoice(const SizeMm& canvas, const SheetChoice& choice) {
+std::optional<PagePlan> TryChoice(const SizeMm& canvas, const PaperChoice& choice) {
     const SizeMm room{choice.Sheet.Width - 2 * choice.Frame.Side,
                       choice.Sheet.Height - choice.Frame.Top - choice.Frame.Bottom};
     if (std::min(room.Width, room.Height) < kSmallestShare + 2 * kOverlapMm) {
@@ -75,9 +75,9 @@ std::string PageTile::Name() const {
     return row + std::to_string(Column + 1);
 }
 
-PagePlan PlanPages(const SizeMm& canvas, const std::vector<SheetChoice>& choices) {
+PagePlan PlanPages(const SizeMm& canvas, const std::vector<PaperChoice>& choices) {
     std::optional<PagePlan> best;
-    for (const SheetChoice& choice : choices) {
+    for (const PaperChoice& choice : choices) {
         std::optional<PagePlan> plan = TryChoice(canvas, choice);
         if (plan && (!best || plan->Across * plan->Down < best->Across * best->Down)) {
             best = std::move(plan);

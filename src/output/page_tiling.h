@@ -48,14 +48,14 @@ struct PagePlan {
 inline constexpr double kOverlapMm = 5;
 
 /// What one way of turning the paper leaves for each page.
-struct SheetChoice {
+struct PaperChoice {
     SizeMm Sheet;
     PageFrame Frame;
 };
 
 /// Cuts the canvas into equal shares that fit the choice that needs fewer pages (the first when it
 /// makes no difference). Throws Error when a frame leaves no room on the paper.
-[[nodiscard]] PagePlan PlanPages(const SizeMm& canvas, const std::vector<SheetChoice>& choices);
+[[nodiscard]] PagePlan PlanPages(const SizeMm& canvas, const std::vector<PaperChoice>& choices);
 
 /// The paints that occur on a part of the picture (in pixels), ascending.
 [[nodiscard]] std::vector<int> PaintsWithin(const PaintedRegions& regions, const PlanRect& part);

@@ -12,7 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 
-const std::vector<SheetChoice> kA4 = {{{210, 297}, {15, 20, 60}}, {{297, 210}, {15, 20, 40}}};
+const std::vector<PaperChoice> kA4 = {{{210, 297}, {15, 20, 60}}, {{297, 210}, {15, 20, 40}}};
 
 // Every share begins where the one before it ends, first and last at the canvas's edges.
 void ExpectExactCover(const PagePlan& plan) {

@@ -216,9 +216,9 @@ TEST(Labels, LargeRegionsRepeatTheirsAndEveryPageShowsOne) {
 }
 
 TEST(Labels, KnowHowLargeASymbolFitsIntoALoneStipple) {
-    EXPECT_NEAR(SymbolHeightInStipple(4, 0.75), 0.86 * 2 / 0.75, 1e-9);
-    EXPECT_NEAR(SymbolHeightInStipple(6, 0.75), 0.86 * 4 / 0.75, 1e-9);
-    EXPECT_NEAR(SymbolHeightInStipple(8, 0.75), 0.86 * 6, 1e-9);
+    EXPECT_NEAR(SymbolHeightInStipple(4, 0.75), 0.9 * 2 / 0.75, 1e-9);
+    EXPECT_NEAR(SymbolHeightInStipple(6, 0.75), 0.9 * 4 / 0.75, 1e-9);
+    EXPECT_NEAR(SymbolHeightInStipple(8, 0.75), 0.9 * 6, 1e-9);
 }
 
 }  // namespace

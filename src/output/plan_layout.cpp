@@ -1,0 +1,102 @@
+#include "output/plan_layout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "output/cell_numbering.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+// A symbol larger than this wastes paint, and a hand's breadth without one has to be searched.
+constexpr double kLargestSymbolMm = 3;
+constexpr double kLatticeMm = 35;
+
+void RequireCanvas(double widthCm, const Surface& picture) {
+    const double heightCm = widthCm * picture.Height() / picture.Width();
+    if (widthCm < kSmallestCanvasCm || std::max(widthCm, heightCm) > kLargestCanvasCm) {
+        throw Error("A canvas of " + std::to_string(std::lround(widthCm)) + " x " +
+                    std::to_string(std::lround(heightCm)) +
+                    " cm cannot be printed. Choose a width of 10 cm or more, and no side longer "
+                    "than 300 cm.");
+    }
+}
+
+// So large that every symbol can be read. A stipple that its neighbours nibbled at may take a
+// somewhat smaller one: a single odd shape shall not blow up the whole canvas.
+double LegibleScale(const WorkState& state, const PaintedRegions& regions,
+                    const SymbolAspects& aspects) {
+    constexpr double kNibbled = 0.65;
+    double inStipple = state.StippleSize;
+    for (int p = 1; p <= state.PaintCount; ++p) {
+        inStipple = std::min(
+            inStipple,
+            SymbolHeightInStipple(state.StippleSize, aspects.at(static_cast<std::size_t>(p))));
+    }
+    return kLegibleSymbolMm / std::max(SmallestSymbol(regions, aspects), kNibbled * inStipple);
+}
+
+double ScaleOf(const PlanSettings& settings, const Surface& picture) {
+    RequireCanvas(settings.CanvasCm, picture);
+    return settings.CanvasCm * 10 / picture.Width();
+}
+
+std::vector<PaperChoice> ChoicesFor(Paper paper, int paints) {
+    using Design = PlanPageDesign;
+    const SizeMm upright = SizeOf(paper);
+    std::vector<PaperChoice> choices;
+    for (const SizeMm sheet : {upright, SizeMm{upright.Height, upright.Width}}) {
+        choices.push_back(
+            {sheet,
+             {Design::kMargin + Design::kMarks, Design::kMargin + Design::kHeading + Design::kMarks,
+              Design::kMargin + Design::kMarks + Design::LegendHeight(sheet.Width, paints)}});
+    }
+    return choices;
+}
+
+// The first whole pixel of every page behind the first one of a row.
+std::vector<int> CutsInPixels(double canvasMm, int shares, double mmPerPixel) {
+    std::vector<int> cuts;
+    for (int i = 1; i < shares; ++i) {
+        cuts.push_back(static_cast<int>(std::ceil(canvasMm * i / shares / mmPerPixel)));
+    }
+    return cuts;
+}
+
+}  // namespace
+
+int PlanPageDesign::LegendColumns(double paperWidth) {
+    return static_cast<int>((paperWidth - 2 * kMargin) / kLegendColumn);
+}
+
+double PlanPageDesign::LegendHeight(double paperWidth, int paints) {
+    const int columns = LegendColumns(paperWidth);
+    return (paints + columns - 1) / columns * kLegendRow;
+}
+
+PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
+                        const SymbolAspects& aspects) {
+    const WorkState& state = place.State;
+    const Surface& picture = place.Frames.WorkFrame.Picture;
+    RequireSymbols(state);
+    PrintPlan plan;
+    plan.Regions = FindRegions(PaintPerPixel(state, picture.Width(), picture.Height()),
+                               SmallestStipple(state.StippleSize));
+    plan.Lines = TraceOutlines(plan.Regions.Ids);
+    plan.MmPerPixel = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
+                                            : LegibleScale(state, plan.Regions, aspects);
+    const SizeMm canvas{picture.Width() * plan.MmPerPixel, picture.Height() * plan.MmPerPixel};
+    plan.Pages = PlanPages(canvas, ChoicesFor(settings.Sheet, state.PaintCount));
+    LabelRules rules;
+    rules.Aspects = aspects;
+    rules.LargestHeight = kLargestSymbolMm / plan.MmPerPixel;
+    rules.LatticeStep = kLatticeMm / plan.MmPerPixel;
+    rules.PageColumns = CutsInPixels(canvas.Width, plan.Pages.Across, plan.MmPerPixel);
+    rules.PageRows = CutsInPixels(canvas.Height, plan.Pages.Down, plan.MmPerPixel);
+    plan.Labels = PlaceLabels(plan.Regions, rules);
+    return plan;
+}
+
+}  // namespace vendrel

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <vector>
+
+#include "output/label_placement.h"
+#include "output/outlines.h"
+#include "output/page_tiling.h"
+#include "output/painted_regions.h"
+#include "shell/workplace.h"
+
+namespace vendrel {
+
+/// What a painter chooses for the printed plan.
+struct PlanSettings {
+    Paper Sheet = Paper::A4;
+    double CanvasCm = 0;  // width of the finished canvas; 0: as large as legible symbols need
+};
+
+/// Width of a canvas that anybody would paint, in centimetres.
+inline constexpr double kSmallestCanvasCm = 10;
+inline constexpr double kLargestCanvasCm = 300;
+
+/// Height of the smallest symbol when the canvas may be as large as it likes, in millimetres.
+inline constexpr double kLegibleSymbolMm = 2;
+
+/// Where things stand on a page of the plan, in millimetres.
+struct PlanPageDesign {
+    static constexpr double kMargin = 8;  // what printers cannot reach
+    static constexpr double kHeading = 14;
+    static constexpr double kMarks = 6;  // crop marks around the picture
+    static constexpr double kLegendColumn = 46;
+    static constexpr double kLegendRow = 4.3;
+
+    [[nodiscard]] static int LegendColumns(double paperWidth);
+    [[nodiscard]] static double LegendHeight(double paperWidth, int paints);
+};
+
+/// A whole plan, ready to be drawn.
+struct PrintPlan {
+    PaintedRegions Regions;
+    std::vector<PlanLine> Lines;
+    std::vector<PlanLabel> Labels;
+    PagePlan Pages;
+    double MmPerPixel = 0;
+};
+
+/// Lays out the painted picture for printing; `aspects` are those of the symbols as they will be
+/// drawn. Throws Error for an unpainted picture, more paints than symbols or a canvas outside
+/// kSmallestCanvasCm..kLargestCanvasCm.
+[[nodiscard]] PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
+                                      const SymbolAspects& aspects);
+
+}  // namespace vendrel

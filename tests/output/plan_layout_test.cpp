@@ -1,0 +1,68 @@
+#include "output/plan_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "cleanup/easel.h"
+#include "cleanup/paint_pass.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+// Six by five stipples of three paints, painted as the program paints.
+class PlannedPicture : public testing::Test {
+  protected:
+    PlannedPicture() : easel_(6, {"111222", "131222", "111233", "111333", "222333"}) {
+        PaintAllCells(easel_.Place);
+        aspects_.fill(0.7);
+    }
+    [[nodiscard]] PrintPlan Plan(const PlanSettings& settings) const {
+        return MakePrintPlan(easel_.Place, settings, aspects_);
+    }
+
+    test::Easel easel_;
+    SymbolAspects aspects_{};
+};
+
+TEST_F(PlannedPicture, IsAsLargeAsSymbolsOfTwoMillimetresNeed) {
+    const PrintPlan plan = Plan({});
+    const auto smallest = std::ranges::min_element(plan.Labels, {}, &PlanLabel::Height);
+    EXPECT_NEAR(smallest->Height * plan.MmPerPixel, kLegibleSymbolMm, 1e-9);
+    EXPECT_DOUBLE_EQ(plan.Pages.Canvas.Width, 36 * plan.MmPerPixel);
+    EXPECT_EQ(plan.Regions.List.size(), 5U);
+}
+
+TEST_F(PlannedPicture, TakesTheCanvasAskedForAndThePagesItNeeds) {
+    const PrintPlan small = Plan({.Sheet = Paper::A4, .CanvasCm = 15});
+    EXPECT_EQ(small.Pages.Tiles.size(), 1U);
+    const PrintPlan large = Plan({.Sheet = Paper::A4, .CanvasCm = 60});
+    EXPECT_DOUBLE_EQ(large.Pages.Canvas.Width, 600);
+    EXPECT_DOUBLE_EQ(large.Pages.Canvas.Height, 500);
+    EXPECT_LT(Plan({.Sheet = Paper::A3, .CanvasCm = 60}).Pages.Tiles.size(),
+              large.Pages.Tiles.size());
+    // Every page that shows a paint shows its symbol too.
+    for (const PageTile& tile : large.Pages.Tiles) {
+        const double scale = large.MmPerPixel;
+        const PlanRect own{tile.Own.Left / scale, tile.Own.Top / scale, tile.Own.Right / scale,
+                           tile.Own.Bottom / scale};
+        EXPECT_TRUE(std::ranges::any_of(large.Labels, [&own](const PlanLabel& label) {
+            return label.Centre.X >= own.Left && label.Centre.X <= own.Right &&
+                   label.Centre.Y >= own.Top && label.Centre.Y <= own.Bottom;
+        })) << tile.Name();
+    }
+}
+
+TEST_F(PlannedPicture, RefusesWhatCannotBePrinted) {
+    EXPECT_THROW((void)Plan({.Sheet = Paper::A4, .CanvasCm = 9.9}), Error);
+    EXPECT_THROW((void)Plan({.Sheet = Paper::A4, .CanvasCm = 301}), Error);
+    easel_.State.PaintCount = 51;
+    EXPECT_THROW((void)Plan({}), Error);
+    easel_.State.PaintCount = 9;
+    easel_.State.PixelMap = {};
+    EXPECT_THROW((void)Plan({}), Error);
+}
+
+}  // namespace
+}  // namespace vendrel
