@@ -1,0 +1,105 @@
+#include "export/chart_drawing.h"
+
+#include <QtGui/QFontMetricsF>
+#include <algorithm>
+
+#include "export/print_fonts.h"
+#include "output/cell_numbering.h"
+
+namespace vendrel {
+namespace {
+
+constexpr double kMargin = 150;
+constexpr double kTop = 380;  // of the first line
+constexpr double kHeadingHeight = 60;
+constexpr double kTallestRow = 96;  // a short palette is not stretched over the page
+const QColor kRule(200, 200, 200);
+const QColor kFaint(110, 110, 110);
+
+// Left edge and width of the columns.
+struct Column {
+    double Left;
+    double Width;
+};
+constexpr Column kSwatch{kMargin, 220};
+constexpr Column kSymbol{400, 110};
+constexpr Column kPaint{540, 1230};
+constexpr Column kStipples{1790, 270};
+constexpr Column kShare{2080, kChartWidth - kMargin - 2080};
+
+QRectF CellOf(const Column& column, double top, double height) {
+    return {column.Left, top, column.Width, height};
+}
+
+void DrawElided(QPainter& painter, const QRectF& cell, int flags, const QString& text) {
+    const QString shown = QFontMetricsF(painter.font(), painter.device())
+                              .elidedText(text, Qt::ElideRight, cell.width());
+    painter.drawText(cell, flags | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+}
+
+void DrawHeading(QPainter& painter, const ColorChart& chart) {
+    const double width = kChartWidth - 2 * kMargin;
+    painter.setFont(TextFont(84, Weight::Bold));
+    DrawElided(painter, {kMargin, 120, width, 110}, Qt::AlignLeft, chart.Title);
+    painter.setFont(TextFont(44));
+    painter.setPen(kFaint);
+    DrawElided(painter, {kMargin, 230, width, 60}, Qt::AlignLeft, chart.Subtitle);
+}
+
+void DrawColumnHeads(QPainter& painter) {
+    painter.setFont(TextFont(32));
+    painter.setPen(kFaint);
+    const double top = kTop - kHeadingHeight;
+    DrawElided(painter, CellOf(kSwatch, top, kHeadingHeight), Qt::AlignLeft, "Color");
+    DrawElided(painter, CellOf(kSymbol, top, kHeadingHeight), Qt::AlignHCenter, "Symbol");
+    DrawElided(painter, CellOf(kPaint, top, kHeadingHeight), Qt::AlignLeft, "Paint");
+    DrawElided(painter, CellOf(kStipples, top, kHeadingHeight), Qt::AlignRight, "Stipples");
+    DrawElided(painter, CellOf(kShare, top, kHeadingHeight), Qt::AlignRight, "Share");
+}
+
+void DrawRow(QPainter& painter, const ColorChart& chart, const ChartRow& row, double top,
+             double height) {
+    const double pad = height * 0.08;
+    painter.fillRect(QRectF(kMargin, top - 1, kChartWidth - 2 * kMargin, 2), kRule);
+    const QRectF swatch = CellOf(kSwatch, top, height).adjusted(0, pad, 0, -pad);
+    painter.fillRect(swatch, kFaint);  // a pale paint needs an edge on white paper
+    painter.fillRect(swatch.adjusted(2, 2, -2, -2), ToQt(row.Swatch));
+    painter.setPen(Qt::black);
+    chart.DrawSymbol(painter, row.Paint, CellOf(kSymbol, top, height).adjusted(0, pad, 0, -pad));
+    painter.setFont(TextFont(static_cast<int>(std::min(height * 0.62, 46.0))));
+    DrawElided(painter, CellOf(kPaint, top, height), Qt::AlignLeft, ToQt(row.Label));
+    DrawElided(painter, CellOf(kStipples, top, height), Qt::AlignRight,
+               QString::number(row.Stipples));
+    DrawElided(painter, CellOf(kShare, top, height), Qt::AlignRight,
+               ToQt(ShareText(row.ShareTenths)));
+}
+
+}  // namespace
+
+ColorChart MakeColorChart(const Workplace& place) {
+    RequireSymbols(place.State);
+    ColorChart chart;
+    chart.Rows = FillChart(place.State);
+    const std::string word(DifficultyWord(place.MainMenu));
+    chart.Title = ToQt(place.State.PictureName);
+    chart.Subtitle = QString("Color chart  \u2022  %1  \u2022  %2 %3")
+                         .arg(ToQt(word))
+                         .arg(chart.Rows.size())
+                         .arg(chart.Rows.size() == 1 ? "paint" : "paints");
+    return chart;
+}
+
+void DrawColorChart(QPainter& painter, const ColorChart& chart) {
+    painter.setPen(Qt::black);
+    DrawHeading(painter, chart);
+    DrawColumnHeads(painter);
+    const double count = std::max<double>(1, static_cast<double>(chart.Rows.size()));
+    const double height = std::min(kTallestRow, (kChartHeight - kMargin - kTop) / count);
+    double top = kTop;
+    for (const ChartRow& row : chart.Rows) {
+        DrawRow(painter, chart, row, top, height);
+        top += height;
+    }
+}
+
+}  // namespace vendrel

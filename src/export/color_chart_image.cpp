@@ -1,0 +1,50 @@
+#include "export/color_chart_image.h"
+
+#include <QtGui/QImage>
+#include <algorithm>
+
+#include "convert/bitmap_writer.h"
+#include "export/chart_drawing.h"
+#include "export/print_fonts.h"
+#include "export/qt_image.h"
+#include "output/result_files.h"
+
+namespace vendrel {
+namespace {
+
+// The glyphs' ink lies within these columns and rows, counted from where they are stamped.
+constexpr QRect kGlyphFrame(-2, -2, 10, 14);
+
+// Whole squares, so that the enlarged symbol has the very shape that the sheet shows.
+void DrawGlyph(QPainter& painter, const SymbolGlyph& glyph, const QRectF& box) {
+    const int scale = std::max(1, static_cast<int>(box.height()) / kGlyphFrame.height());
+    const int left = static_cast<int>(box.center().x()) - scale * kGlyphFrame.width() / 2;
+    const int top = static_cast<int>(box.center().y()) - scale * kGlyphFrame.height() / 2;
+    for (int i = 1; i <= glyph.PointCount; ++i) {
+        const GlyphPoint& point = glyph.Points[static_cast<std::size_t>(i)];
+        painter.fillRect(left + scale * (point.X - kGlyphFrame.left()),
+                         top + scale * (point.Y - kGlyphFrame.top()), scale, scale, Qt::black);
+    }
+}
+
+QImage DrawChartImage(const Workplace& place) {
+    ColorChart chart = MakeColorChart(place);
+    chart.DrawSymbol = [&place](QPainter& painter, int paint, const QRectF& box) {
+        DrawGlyph(painter, place.State.SymbolGlyphs.at(static_cast<std::size_t>(paint)), box);
+    };
+    QImage image(kChartWidth, kChartHeight, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    DrawColorChart(painter, chart);
+    return image;
+}
+
+}  // namespace
+
+std::filesystem::path WriteColorChart(const Workplace& place) {
+    std::filesystem::path file = ResultFile(place, "Color Chart");
+    WriteBitmap(file, ToSurface(DrawChartImage(place)), kChartPixelsPerMetre);
+    return file;
+}
+
+}  // namespace vendrel

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+
+#include "shell/workplace.h"
+
+namespace vendrel {
+
+/// 300 dots per inch, as bitmaps note it.
+inline constexpr int kChartPixelsPerMetre = 11811;
+
+/// Saves the color chart as a picture of one printed page, with the symbols as the sheet shows
+/// them. The same grid gives the same bytes. Needs a running QGuiApplication.
+std::filesystem::path WriteColorChart(const Workplace& place);
+
+}  // namespace vendrel

@@ -1,0 +1,93 @@
+#include "export/kit_pdf.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QMarginsF>
+#include <QtGui/QPageLayout>
+#include <QtGui/QPdfWriter>
+
+#include "export/pdf_pages.h"
+#include "export/pdf_units.h"
+#include "output/result_files.h"
+#include "support/error.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+QPageLayout LayoutOf(const SizeMm& sheet) {
+    const QPageSize upright(
+        QSizeF(std::min(sheet.Width, sheet.Height), std::max(sheet.Width, sheet.Height)),
+        QPageSize::Millimeter, {}, QPageSize::ExactMatch);
+    QPageLayout layout(upright,
+                       sheet.Width > sheet.Height ? QPageLayout::Landscape : QPageLayout::Portrait,
+                       QMarginsF(), QPageLayout::Millimeter);
+    layout.setMode(QPageLayout::FullPageMode);
+    return layout;
+}
+
+void DrawPages(QPdfWriter& writer, const KitPages& kit) {
+    writer.setPageLayout(LayoutOf(kit.FrontPaper));
+    QPainter painter;
+    if (!painter.begin(&writer)) {
+        throw Error("The pages cannot be drawn. Is there enough memory?");
+    }
+    DrawCoverPage(painter, kit);
+    writer.newPage();
+    DrawChartPage(painter, kit);
+    writer.newPage();
+    DrawMapPage(painter, kit);
+    writer.setPageLayout(LayoutOf(kit.Plan.Pages.Sheet));
+    for (const PageTile& tile : kit.Plan.Pages.Tiles) {
+        writer.newPage();
+        DrawPlanPage(painter, kit, tile);
+        kit.Place.Screen.ReportProgress(tile.Row * kit.Plan.Pages.Across + tile.Column + 1,
+                                        static_cast<int>(kit.Plan.Pages.Tiles.size()));
+        kit.Place.Screen.Yield();
+    }
+    kit.Place.Screen.ReportProgress(0, 0);
+}
+
+// The hour of printing says nothing about a kit, and with it no two files would be alike. Takes
+// the same room, for the file is full of byte positions.
+void FixDate(QByteArray& pdf) {
+    constexpr QByteArrayView kKey = "/CreationDate (D:";
+    constexpr QByteArrayView kFixed = "20000101000000";
+    const qsizetype at = pdf.lastIndexOf(kKey);
+    const qsizetype end = at < 0 ? -1 : pdf.indexOf(')', at);
+    if (end < at + kKey.size() + kFixed.size()) {
+        return;
+    }
+    pdf.replace(at + kKey.size(), kFixed.size(), kFixed.data(), kFixed.size());
+    // What follows is the zone: "+01'00'", "-01'00'" or "Z".
+    for (qsizetype i = at + kKey.size() + kFixed.size(); i < end; ++i) {
+        char& c = pdf.data()[i];
+        c = c == '-' ? '+' : c >= '0' && c <= '9' ? '0' : c;
+    }
+}
+
+}  // namespace
+
+std::filesystem::path WriteKitPdf(const Workplace& place, const PlanSettings& settings) {
+    place.Screen.SetCaption("Drawing the Plan");
+    const PrintSymbols symbols;
+    const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
+    const KitPages kit{place, plan, symbols, SizeOf(settings.Sheet)};
+    QByteArray pdf;
+    QBuffer buffer(&pdf);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kPdfResolution);
+        writer.setTitle(ToQt(kit.Title()));
+        writer.setCreator("Vendrel");
+        DrawPages(writer, kit);
+    }
+    FixDate(pdf);
+    std::filesystem::path file = ResultFile(place, "Kit");
+    file.replace_extension(".pdf");
+    place.Screen.SetCaption("Saving File, Please Wait....");
+    WriteWholeFile(file, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
+    return file;
+}
+
+}  // namespace vendrel

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtGui/QPainter>
+#include <string>
+
+#include "export/print_fonts.h"
+#include "output/plan_layout.h"
+#include "shell/workplace.h"
+
+namespace vendrel {
+
+/// Everything the pages are drawn from.
+struct KitPages {
+    const Workplace& Place;
+    const PrintPlan& Plan;
+    const PrintSymbols& Symbols;
+    SizeMm FrontPaper;  // of cover, chart and page map, upright
+
+    [[nodiscard]] std::string Title() const;  // photo and difficulty
+};
+
+/// The painting, the photo and what the kit consists of.
+void DrawCoverPage(QPainter& painter, const KitPages& kit);
+/// The color chart, with the symbols as the plan shows them.
+void DrawChartPage(QPainter& painter, const KitPages& kit);
+/// How the pages of the plan lie, and how to put them together.
+void DrawMapPage(QPainter& painter, const KitPages& kit);
+/// One page of the plan.
+void DrawPlanPage(QPainter& painter, const KitPages& kit, const PageTile& tile);
+
+}  // namespace vendrel

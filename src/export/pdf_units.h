@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QRectF>
+#include <QtCore/QString>
+#include <QtGui/QPainter>
+
+#include "output/outlines.h"
+
+namespace vendrel {
+
+/// The pages' unit is a hundredth of a millimetre: fine enough for whole-number font sizes.
+inline constexpr double kUnitsPerMm = 100;
+inline constexpr int kPdfResolution = 2540;  // units to the inch
+
+[[nodiscard]] constexpr double Mm(double millimetres) {
+    return millimetres * kUnitsPerMm;
+}
+[[nodiscard]] inline QRectF MmRect(double left, double top, double width, double height) {
+    return {Mm(left), Mm(top), Mm(width), Mm(height)};
+}
+[[nodiscard]] inline int FontMm(double millimetres) {
+    return static_cast<int>(Mm(millimetres));
+}
+
+/// One line of text in a box, cut short to fit, in the painter's font.
+void DrawLineOfText(QPainter& painter, const QRectF& box, int flags, const QString& text);
+
+}  // namespace vendrel

@@ -1,0 +1,136 @@
+// What needs fonts: the color chart as a picture and the kit as pages.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+#include "cleanup/easel.h"
+#include "cleanup/paint_pass.h"
+#include "convert/bitmap_reader.h"
+#include "export/color_chart_image.h"
+#include "export/print_fonts.h"
+#include "export/qt_exporter.h"
+#include "output/symbol_set.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using testing::HasSubstr;
+
+class Printing : public testing::Test {
+  protected:
+    Printing() : easel_(8, {"1112", "1312", "1122"}) {
+        std::ifstream symbols(VENDREL_SOURCE_DIR "/Data/Symbols.txt", std::ios::binary);
+        std::stringstream bytes;
+        bytes << symbols.rdbuf();
+        easel_.Files.Write("Data/Symbols.txt", bytes.str());
+        easel_.MainMenu[MenuId::EasySet].Checked = true;
+        SetupBMPSymbols(easel_.Place);
+        PaintAllCells(easel_.Place);
+    }
+
+    Surface Chart() const { return ReadBitmap(exporter_.WriteColorChart(easel_.Place)); }
+    std::string Pdf(const PlanSettings& settings) const {
+        return easel_.Files.Read("Results/" +
+                                 exporter_.WriteKitPdf(easel_.Place, settings).filename().string());
+    }
+
+    mutable test::Easel easel_;
+    QtExporter exporter_;
+};
+
+int Count(const std::string& text, const std::string& part) {
+    int count = 0;
+    for (auto at = text.find(part); at != text.npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+TEST_F(Printing, ChartIsAPageOfA4ThatSaysItsResolution) {
+    const Surface chart = Chart();
+    EXPECT_EQ(chart.Width(), 2480);
+    EXPECT_EQ(chart.Height(), 3508);
+    const std::string bytes = easel_.Files.Read("Results/Lady Easy Color Chart.BMP");
+    ASSERT_GT(bytes.size(), 54U);
+    for (const std::size_t field : {38U, 42U}) {
+        EXPECT_EQ(static_cast<unsigned char>(bytes[field]) +
+                      256 * static_cast<unsigned char>(bytes[field + 1]),
+                  11811);
+    }
+    EXPECT_EQ(easel_.State.PaintColors[1].CellCount, 7);
+    (void)Chart();
+    EXPECT_EQ(easel_.Files.Read("Results/Lady Easy Color Chart.BMP"), bytes);
+}
+
+TEST_F(Printing, ChartCutsLongNamesShortInsteadOfRunningIntoTheFigures) {
+    const Surface shortNames = Chart();
+    easel_.State.PaintColors[2].PaintName = std::string(300, 'W');
+    const Surface longName = Chart();
+    EXPECT_NE(shortNames, longName);
+    for (int y = 0; y < longName.Height(); ++y) {
+        const auto figures = longName.Row(y).subspan(1780);
+        ASSERT_TRUE(std::ranges::equal(figures, shortNames.Row(y).subspan(1780))) << y;
+    }
+}
+
+TEST_F(Printing, ChartShowsAFullPaletteOnOnePage) {
+    while (easel_.State.PaintCount < 50) {
+        easel_.State.PaintColors.push_back({250, 1, 2, "Set", "C", "Last", 0});
+        ++easel_.State.PaintCount;
+    }
+    const Surface chart = Chart();
+    EXPECT_EQ(chart.Get(200, 3508 - 150 - 30), Rgb(250, 1, 2));  // the last swatch
+    EXPECT_EQ(chart.Get(200, 3508 - 100), kWhite);
+    easel_.State.PaintColors.push_back({});
+    ++easel_.State.PaintCount;
+    EXPECT_THROW((void)Chart(), Error);
+}
+
+TEST_F(Printing, KitHasFrontPagesAndThePlanAndTheSameBytesEveryTime) {
+    const Surface painting = easel_.Work();
+    const std::string pdf = Pdf({.Sheet = Paper::A4, .CanvasCm = 40});
+    EXPECT_TRUE(pdf.starts_with("%PDF"));
+    EXPECT_THAT(pdf, HasSubstr("/CreationDate (D:20000101000000"));
+    EXPECT_THAT(pdf, HasSubstr("/MediaBox [0 0 595"));
+    EXPECT_GE(Count(pdf, "/Type /Page\n"), 3 + 4);
+    EXPECT_EQ(Pdf({.Sheet = Paper::A4, .CanvasCm = 40}), pdf);
+    EXPECT_EQ(Count(Pdf({.Sheet = Paper::A3, .CanvasCm = 20}), "/Type /Page\n"), 4);
+    EXPECT_EQ(easel_.Work(), painting);
+}
+
+TEST_F(Printing, AFolderThatCannotBeWrittenIsNamed) {
+    easel_.Files.Write("Results", "in the way");
+    EXPECT_THROW((void)Chart(), FileError);
+    EXPECT_THROW((void)Pdf({}), FileError);
+    EXPECT_EQ(easel_.Files.Read("Results"), "in the way");
+}
+
+TEST_F(Printing, SymbolsFitNarrowStipplesAndStandWhereTheyAreMeasured) {
+    const PrintSymbols symbols;
+    for (int symbol = 1; symbol <= kSymbolCount; ++symbol) {
+        const double aspect = symbols.Aspects()[static_cast<std::size_t>(symbol)];
+        EXPECT_GT(aspect, 0.2);
+        EXPECT_LE(aspect, 0.72 + 1e-9);
+        QImage image(300, 300, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setPen(Qt::black);
+        symbols.Draw(painter, symbol, {150, 150}, 200);
+        painter.end();
+        for (int y = 0; y < 300; ++y) {
+            for (int x = 0; x < 300; ++x) {
+                const bool inside =
+                    std::abs(y - 149.5) <= 102 && std::abs(x - 149.5) <= 100 * aspect + 2;
+                ASSERT_TRUE(inside || image.pixel(x, y) == qRgb(255, 255, 255))
+                    << symbol << ": " << x << ' ' << y;
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vendrel
