@@ -11,9 +11,10 @@
 #include <string_view>
 
 #include "app/program.h"
+#include "convert/foreign_photo.h"
 #include "kit/arguments.h"
+#include "kit/photo_lookup.h"
 #include "support/error.h"
-#include "support/letter_case.h"
 
 namespace {
 
@@ -21,15 +22,22 @@ namespace fs = std::filesystem;
 using vendrel::Arguments;
 using vendrel::Command;
 
-bool IsBitmapName(const std::string& photo) {
-    return vendrel::SameIgnoringCase(fs::path(photo).extension().string(), ".bmp");
+// Some files are no bitmaps in spite of their name. Missing ones are explained faster.
+bool NeedsDecoders(const vendrel::KitOptions& kit, const std::string& word) {
+    try {
+        return vendrel::NeedsDecoder(vendrel::FindPhoto(vendrel::ProgramFolder(kit.Folder), word));
+    } catch (const vendrel::FileError&) {
+        return false;
+    }
 }
 
 bool NeedsStudio(std::span<const std::string_view> words) {
     try {
         const Arguments arguments = vendrel::ParseArguments(words);
         return arguments.What == Command::Window || arguments.What == Command::Symbols ||
-               !std::all_of(arguments.Kit.Photos.begin(), arguments.Kit.Photos.end(), IsBitmapName);
+               std::ranges::any_of(arguments.Kit.Photos, [&arguments](const std::string& photo) {
+                   return NeedsDecoders(arguments.Kit, photo);
+               });
     } catch (const vendrel::UsageError&) {
         return false;  // wrong usage is explained faster
     }

@@ -59,6 +59,7 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
         .ErrIsTerminal = isatty(STDERR_FILENO) != 0,
         .Shipped = shipped,
         .Version = VENDREL_VERSION,
+        .Decoder = parts.Decoder,
         .MakeSymbols = parts.MakeSymbols,
         .OpenWindow = {},
         .StopAsked = &stopAsked,

@@ -6,12 +6,14 @@
 #include <string_view>
 #include <vector>
 
+#include "convert/photo_decoder.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
 
 /// What only the half with fonts and windows can do; empty in the other.
 struct QtParts {
+    const PhotoDecoder* Decoder = nullptr;
     std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols;
     std::function<int(const std::filesystem::path& folder, const std::filesystem::path& shipped)>
         OpenWindow;

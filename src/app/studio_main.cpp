@@ -2,13 +2,16 @@
 
 #include "app/program.h"
 #include "desktop/desktop.h"
+#include "export/photo_reader.h"
 #include "export/symbol_maker.h"
 
 int main(int argc, char** argv) {
+    const vendrel::PhotoReader reader;
     const auto openWindow = [&](const std::filesystem::path& folder,
                                 const std::filesystem::path& shipped) {
         return vendrel::RunDesktop(argc, argv, vendrel::ProgramFolder(folder, shipped));
     };
-    return vendrel::RunProgram(vendrel::WordsOf(argc, argv),
-                               {.MakeSymbols = vendrel::MakeSymbols, .OpenWindow = openWindow});
+    return vendrel::RunProgram(
+        vendrel::WordsOf(argc, argv),
+        {.Decoder = &reader, .MakeSymbols = vendrel::MakeSymbols, .OpenWindow = openWindow});
 }

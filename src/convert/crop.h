@@ -21,6 +21,9 @@ struct CropTarget {
     int StippleSize = 8;  // pixels
 };
 
+/// Which part of a photo is kept when its shape asks for less than the whole.
+enum class CropPart { Whole, Centre, Top };
+
 /// A crop is stretched by less than this many percent: a quarter of what a face begins to show.
 inline constexpr double kMaxCropStretch = 0.5;
 /// A photo stretched by more than this many percent should be cropped.

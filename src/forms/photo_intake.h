@@ -22,9 +22,6 @@ namespace vendrel {
                                            const PhotoDecoder& decoder,
                                            const ReadProgress& progress = {});
 
-/// Which part of a photo is kept when its shape asks for less than the whole.
-enum class CropPart { Whole, Centre, Top };
-
 /// Cuts that part from a photo of Pictures and keeps it as a photo of its own; the photo stays.
 /// Gives the crop's file name, or the photo's where there is nothing to cut off. Throws FileError,
 /// FormatError.

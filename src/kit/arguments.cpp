@@ -24,7 +24,8 @@ Try: vendrel kit PBNLady.bmp
 constexpr std::string_view kKitHelp =
     R"(vendrel kit PHOTO... makes a paint-by-symbol kit of each photo.
 
-PHOTO is a path to a .bmp file or the name of one in Pictures.
+PHOTO is a path to a photo or the name of one in Pictures. JPEG, PNG, WebP, TIFF
+and GIF photos are kept in Pictures as .bmp (not in builds without windows).
 
   --folder DIR               works in DIR instead of the folder it is started in
   --difficulty LEVEL         easy (default), medium or difficult
@@ -33,6 +34,8 @@ PHOTO is a path to a .bmp file or the name of one in Pictures.
   --sets NAME                allows this paint set; may be repeated
   --template NAME            allows the paints of templates/NAME.csv
   --screen WIDTHxHEIGHT      sizes the picture for this screen (default 1920x1080)
+  --crop [PART]              instead of stretching the photo, cuts off what does not
+                             fit the sheet; keeps the centre (default) or the top
   --outputs LIST             of sheet,painting,grid (default all)
   --from-grid                takes the saved grid instead of converting the photo
   --replace-grid             writes over a saved grid that differs
@@ -68,6 +71,12 @@ class Words {
     [[nodiscard]] std::string_view Word() const { return word_; }
     [[nodiscard]] bool IsOption() const {
         return !onlyPhotos_ && word_.size() > 1 && word_.front() == '-';
+    }
+    /// Takes the next word when it is this one: a value that may be left out.
+    bool TakeIfNext(std::string_view word) {
+        const bool isNext = at_ < words_.size() && words_[at_] == word;
+        at_ += isNext ? 1 : 0;
+        return isNext;
     }
     [[nodiscard]] bool HasOwnValue() const { return value_.has_value(); }
     /// The value of the option just taken.
@@ -165,6 +174,20 @@ KitOutputs ToOutputs(std::string_view value) {
     return outputs;
 }
 
+CropPart ToCropPart(Words& words) {
+    if (!words.HasOwnValue()) {
+        if (words.TakeIfNext("top")) {
+            return CropPart::Top;
+        }
+        words.TakeIfNext("centre");
+        return CropPart::Centre;
+    }
+    if (words.Value() != "centre" && words.Value() != "top") {
+        RefuseValue("--crop", words.Value(), "centre or top");
+    }
+    return words.Value() == "top" ? CropPart::Top : CropPart::Centre;
+}
+
 // Options that take no value; answers whether this was one.
 bool TakeSwitch(Words& words, KitOptions& kit) {
     bool* const target = words.Word() == "--json"           ? &kit.Json
@@ -204,6 +227,8 @@ void TakeKitOption(Words& words, KitOptions& kit) {
         kit.Sets.emplace_back(words.Value());
     } else if (option == "--template") {
         kit.Template = words.Value();
+    } else if (option == "--crop") {
+        kit.Crop = ToCropPart(words);
     } else if (option == "--screen") {
         kit.Screen = ToScreen(words.Value());
     } else if (option == "--outputs") {

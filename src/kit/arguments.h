@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "convert/crop.h"
 #include "shell/menu.h"
 #include "support/twips.h"
 
@@ -28,6 +29,7 @@ struct KitOptions {
     bool SamplePixel = false;
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
+    CropPart Crop = CropPart::Whole;
     ScreenSize Screen = ScreenSize::FromPixels(1920, 1080);
     KitOutputs Outputs;
     bool ReplaceGrid = false;

@@ -7,6 +7,7 @@
 #include <span>
 #include <string_view>
 
+#include "convert/photo_decoder.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
@@ -18,6 +19,8 @@ struct Surroundings {
     bool ErrIsTerminal = false;
     std::filesystem::path Shipped = {};  // holds the Data and Pictures that ship
     std::string_view Version = {};
+    /// Reads photos that are no plain bitmaps; null where the build cannot.
+    const PhotoDecoder* Decoder = nullptr;
     /// Draws the symbols anew into a folder and names the file; empty where there are no fonts.
     std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols = {};
     /// Opens the main window in a folder and gives the exit status; empty where there is none.

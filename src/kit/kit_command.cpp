@@ -1,11 +1,11 @@
 #include "kit/kit_command.h"
 
-#include <algorithm>
 #include <exception>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "forms/start_up.h"
+#include "kit/kit_photos.h"
 #include "kit/kit_report.h"
 #include "kit/kit_settings.h"
 #include "kit/make_kit.h"
@@ -13,7 +13,6 @@
 #include "kit/terminal_ui.h"
 #include "shell/workplace.h"
 #include "support/error.h"
-#include "support/letter_case.h"
 
 namespace vendrel {
 namespace {
@@ -31,6 +30,7 @@ class KitRun {
         : options_(options),
           around_(around),
           folder_(options.Folder, around.Shipped),
+          photos_(around.Decoder != nullptr ? *around.Decoder : noDecoder_),
           ui_(around.Err, ChatterOf(options, around), options.Screen, around.StopAsked) {
         RefuseMissingFolder();
         Workplace place{state_, frames_, menu_, ui_, folder_};
@@ -59,30 +59,15 @@ class KitRun {
 
     KitReport Make(const std::string& word) {
         const std::filesystem::path photo = FindPhoto(folder_, word);
-        RefuseSecond(photo);
         WorkState state = state_;
         Surfaces frames;
         Menu menu = menu_;
         Workplace place{state, frames, menu, ui_, folder_};
-        KitReport report = MakeKit(place, options_, photo);
+        KitReport report = MakeKit(place, options_, photos_, photo);
         for (std::string& message : ui_.TakeMessages()) {
             report.Notes.push_back(std::move(message));
         }
         return report;
-    }
-
-    // Its files would take the place of the first one's; letters of another case do not help, as
-    // some disks do not tell them apart.
-    void RefuseSecond(const std::filesystem::path& photo) {
-        const std::string name = PictureNameOf(photo);
-        if (std::any_of(names_.begin(), names_.end(), [&name](const std::string& other) {
-                return SameIgnoringCase(name, other);
-            })) {
-            throw FileError(photo, "another photo of this run is named \"" + name +
-                                       "\" too, and a kit is named up to the first dot. Rename one "
-                                       "of them.");
-        }
-        names_.push_back(name);
     }
 
     void Report(const KitReport& report) {
@@ -108,11 +93,12 @@ class KitRun {
     const KitOptions& options_;
     const Surroundings& around_;
     ProgramFolder folder_;
+    NoPhotoDecoder noDecoder_;
+    KitPhotos photos_;
     TerminalUi ui_;
     WorkState state_;
     Surfaces frames_;
     Menu menu_;
-    std::vector<std::string> names_;
 };
 
 }  // namespace

@@ -54,6 +54,7 @@ JsonObject JsonOf(const NumberingCounts& counts) {
 
 std::string SummaryOf(const KitReport& report) {
     std::string text = report.Photo + ", " + report.Difficulty + "\n";
+    AddLine(text, "picture", report.Picture);
     AddLine(text, "photo", Times(report.PhotoSize.Width, report.PhotoSize.Height) + " pixels");
     AddLine(text, "worked at",
             Times(report.WorkingSize.Width, report.WorkingSize.Height) + " pixels, stretched by " +
@@ -92,6 +93,7 @@ JsonObject JsonOf(const KitReport& report) {
     paints.Add("kept", report.PaintsKept);
     JsonObject object;
     object.Add("photo", report.Photo)
+        .Add("picture", report.Picture)
         .Add("name", report.Name)
         .Add("difficulty", report.Difficulty)
         .Add("photoSize", JsonOf(report.PhotoSize))

@@ -14,6 +14,7 @@ namespace vendrel {
 /// What was made of one photo.
 struct KitReport {
     std::string Photo;
+    std::string Picture;  // the bitmap in Pictures that it became
     std::string Name;
     std::string Difficulty;  // the word in file names
     BitmapSize PhotoSize;

@@ -5,12 +5,10 @@
 
 #include "cleanup/cell_marking.h"
 #include "cleanup/paint_pass.h"
-#include "convert/bitmap_reader.h"
+#include "convert/crop.h"
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "convert/working_size.h"
-#include "forms/photo_intake.h"
-#include "kit/photo_lookup.h"
 #include "output/painting_writer.h"
 #include "output/sheet_writer.h"
 #include "storage/load_stipples.h"
@@ -24,9 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Above this a face looks squashed.
-constexpr double kVisibleStretch = 2.0;
-
 // Runs one step and notes how long it took.
 template <class Step>
 void Timed(KitReport& report, const char* name, Step step) {
@@ -37,11 +32,8 @@ void Timed(KitReport& report, const char* name, Step step) {
     report.Milliseconds.emplace_back(name, took.count());
 }
 
-void ImportPhoto(Workplace& place, const fs::path& photo) {
-    // A file that is no whole bitmap must not even reach the Pictures folder.
-    (void)BitmapFile(photo);
-    const std::string file = TakeIntoPictures(place.Folder, photo);
-    if (!ChoosePhoto(place, file) || LoadNewPicture(place) == PhotoLoad::Nothing) {
+void ImportPhoto(Workplace& place, const fs::path& photo, const std::string& picture) {
+    if (!ChoosePhoto(place, picture) || LoadNewPicture(place) == PhotoLoad::Nothing) {
         throw FileError(photo, "is no .bmp file with pixels. Choose another photo.");
     }
 }
@@ -105,6 +97,7 @@ void FillFigures(const Workplace& place, KitReport& report) {
     const WorkState& state = place.State;
     const TwipsPerPixel twips = place.Screen.Screen().Twips;
     report.Name = state.PictureName;
+    report.Picture = fs::path(state.PicturePath).lexically_normal().string();
     report.Difficulty = DifficultyWord(place.MainMenu);
     report.PhotoSize = {state.BmpWidth, state.BmpHeight};
     report.WorkingSize = {state.PictureWidth / twips.X, state.PictureHeight / twips.Y};
@@ -113,22 +106,23 @@ void FillFigures(const Workplace& place, KitReport& report) {
     report.PaintsKept = state.PaintCount;
     report.Areas = state.AreaCount - 1;
     report.Loners = CountLoners(state);
-    if (StretchPercent(report.PhotoSize, report.WorkingSize) > kVisibleStretch) {
+    if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
             "The photo's shape does not fit whole stipples on this screen, so it is stretched; "
-            "crop it to about " +
-            std::to_string(report.WorkingSize.Width) + " x " +
-            std::to_string(report.WorkingSize.Height) + " to keep its shapes.");
+            "--crop, or --crop top for faces, cuts off what is too much.");
     }
 }
 
 }  // namespace
 
-KitReport MakeKit(Workplace& place, const KitOptions& options, const fs::path& photo) {
+KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
+                  const fs::path& photo) {
     KitReport report;
     report.Photo = photo.string();
     report.FromGrid = options.FromGrid;
-    Timed(report, "import", [&] { ImportPhoto(place, photo); });
+    std::string picture;
+    Timed(report, "photo", [&] { picture = photos.TakeIn(place, options, photo); });
+    Timed(report, "import", [&] { ImportPhoto(place, photo, picture); });
     if (options.FromGrid) {
         Timed(report, "load", [&] { TakeSavedGrid(place); });
     } else {

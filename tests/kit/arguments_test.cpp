@@ -59,6 +59,18 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
     EXPECT_EQ(Parse({"kit", "a.bmp", "--template", "Skin"}).Kit.Template, "Skin");
 }
 
+TEST(Arguments, CropTakesAPartOrKeepsTheCentre) {
+    const Arguments behind = Parse({"kit", "--crop", "a.bmp"});
+    EXPECT_EQ(behind.Kit.Crop, CropPart::Centre);
+    EXPECT_THAT(behind.Kit.Photos, ElementsAre("a.bmp"));
+    EXPECT_EQ(Parse({"kit", "a.bmp"}).Kit.Crop, CropPart::Whole);
+    EXPECT_EQ(Parse({"kit", "a.bmp", "--crop", "top"}).Kit.Crop, CropPart::Top);
+    EXPECT_EQ(Parse({"kit", "a.bmp", "--crop=top"}).Kit.Crop, CropPart::Top);
+    const Arguments centre = Parse({"kit", "--crop", "centre", "top"});
+    EXPECT_EQ(centre.Kit.Crop, CropPart::Centre);
+    EXPECT_THAT(centre.Kit.Photos, ElementsAre("top"));
+}
+
 TEST(Arguments, OtherCommandsAreTold) {
     EXPECT_EQ(Parse({}).What, Command::Window);
     EXPECT_EQ(Parse({"--folder", "x"}).What, Command::Window);
@@ -91,6 +103,7 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--screen", "0x600"}, "WIDTHxHEIGHT"},
         {{"kit", "a.bmp", "--screen", "800x600x2"}, "WIDTHxHEIGHT"},
         {{"kit", "a.bmp", "--outputs", "sheet,poster"}, "\"poster\""},
+        {{"kit", "a.bmp", "--crop=left"}, "centre or top"},
         {{"kit", "a.bmp", "--json=yes"}, "--json takes no value"},
         {{"kit", "a.bmp", "--sets", "Oils", "--template", "Skin"}, "not by both"},
         {{"symbols", "a.bmp"}, "a.bmp"},

@@ -40,6 +40,7 @@ class Studio {
     TempFolder Files;
     std::string Out;
     std::string Err;
+    const PhotoDecoder* Decoder = nullptr;
 
     explicit Studio(std::filesystem::path shipped = VENDREL_SOURCE_DIR)
         : shipped_(std::move(shipped)) {}
@@ -57,8 +58,9 @@ class Studio {
         std::ostringstream out;
         std::ostringstream err;
         const std::vector<std::string_view> views(words.begin(), words.end());
-        const int status =
-            RunCommandLine(views, {.Out = out, .Err = err, .Shipped = shipped_, .Version = "1"});
+        const int status = RunCommandLine(
+            views,
+            {.Out = out, .Err = err, .Shipped = shipped_, .Version = "1", .Decoder = Decoder});
         Out = out.str();
         Err = err.str();
         return status;

@@ -1,0 +1,55 @@
+#include "kit/kit_photos.h"
+
+#include <algorithm>
+
+#include "convert/bitmap_reader.h"
+#include "convert/foreign_photo.h"
+#include "forms/photo_intake.h"
+#include "kit/photo_lookup.h"
+#include "support/error.h"
+#include "support/letter_case.h"
+
+namespace vendrel {
+
+std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
+                              const std::filesystem::path& photo) {
+    const bool decode = NeedsDecoder(photo);
+    if (!decode) {
+        Claim(photo, PictureNameOf(photo));
+        // A file that is no whole bitmap must not even reach the Pictures folder.
+        (void)BitmapFile(photo);
+    }
+    const std::string taken = decode ? Decode(place, photo) : TakeIntoPictures(place.Folder, photo);
+    const std::string picture = CropInPictures(
+        place.Folder, taken, {place.Screen.Screen(), place.State.StippleSize}, options.Crop);
+    // Decoded photos and crops are numbered where their name is taken: it is known only now.
+    if (decode || picture != taken) {
+        Claim(photo, PictureNameOf(picture));
+    }
+    return picture;
+}
+
+std::string KitPhotos::Decode(Workplace& place, const std::filesystem::path& photo) const {
+    Ui& screen = place.Screen;
+    screen.SetCaption("Reading " + photo.filename().string());
+    std::string file = TakeIntoPictures(place.Folder, photo, decoder_, [&screen](int percent) {
+        screen.ReportProgress(percent, 100);
+        screen.Yield();
+    });
+    screen.ReportProgress(0, 0);
+    return file;
+}
+
+// Two kits of one name would take each other's place; letters of another case do not help, as some
+// disks do not tell them apart.
+void KitPhotos::Claim(const std::filesystem::path& photo, const std::string& name) {
+    if (std::ranges::any_of(
+            names_, [&name](const std::string& other) { return SameIgnoringCase(name, other); })) {
+        throw FileError(photo, "another photo of this run is named \"" + name +
+                                   "\" too, and a kit is named up to the first dot. Rename one "
+                                   "of them.");
+    }
+    names_.push_back(name);
+}
+
+}  // namespace vendrel

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "convert/photo_decoder.h"
+#include "kit/arguments.h"
+#include "shell/workplace.h"
+
+namespace vendrel {
+
+/// Brings the photos of one run into Pictures, and knows which names the run has used.
+class KitPhotos {
+  public:
+    explicit KitPhotos(const PhotoDecoder& decoder) : decoder_(decoder) {}
+
+    /// Decodes what is no plain bitmap, crops as asked, and gives the file's name in Pictures.
+    /// Throws Error, also when a kit of this run has the photo's name already.
+    [[nodiscard]] std::string TakeIn(Workplace& place, const KitOptions& options,
+                                     const std::filesystem::path& photo);
+
+  private:
+    [[nodiscard]] std::string Decode(Workplace& place, const std::filesystem::path& photo) const;
+    void Claim(const std::filesystem::path& photo, const std::string& name);
+
+    const PhotoDecoder& decoder_;
+    std::vector<std::string> names_;
+};
+
+}  // namespace vendrel
