@@ -3,7 +3,10 @@
 add_library(vendrel_settings INTERFACE)
 target_include_directories(vendrel_settings INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(vendrel_settings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(VENDREL_STRICT)
+    target_compile_options(vendrel_settings INTERFACE -Werror)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # GCC 12 sees overlapping copies in "text" + std::string where there are none.
     target_compile_options(vendrel_settings INTERFACE -Wno-restrict)
