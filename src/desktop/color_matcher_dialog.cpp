@@ -116,7 +116,7 @@ void ColorMatcherDialog::Mirror() {
             {ColorOf(row.Original), ColorOf(row.Current),
              tr("%1   %2   %3")
                  .arg(symbol)
-                 .arg(Text(PaintLabel(row.Current)), Text(ShareText(row.ShareTenths)))});
+                 .arg(Text(ShareText(row.ShareTenths)), Text(PaintLabel(row.Current)))});
     }
     MirrorPaints(*paintList_, items, form_.Chosen() - 1);
     selectedSets_->setChecked(form_.Source() == MatchSource::SelectedSets);

@@ -54,13 +54,17 @@ QIcon SwatchIcon(Color first, Color second) {
     }
     painter.setPen(QColor(128, 128, 128));
     painter.drawRect(0, 0, kSwatch * count - 1, kSwatch - 1);
-    return {picture};
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected);  // a chosen line must not tint the paint
+    return icon;
 }
 
 void MirrorPaints(QListWidget& list, const std::vector<PaintItem>& items, int index) {
     const QSignalBlocker quiet(list);
     if (!Shows(list, items)) {
         const bool pairs = !items.empty() && items.front().Second != kNoColor;
+        list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // long names are elided
+        list.setTextElideMode(Qt::ElideRight);
         list.setIconSize(QSize(kSwatch * (pairs ? 2 : 1), kSwatch));
         Fill(list, items);
     }
