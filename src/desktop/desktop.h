@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "desktop/main_window.h"
+#include "export/qt_exporter.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
@@ -24,7 +25,8 @@ class Desktop {
     Menu menu_;
     QtUi ui_{menu_};
     Workplace place_{state_, frames_, menu_, ui_, folder_};
-    MainForm form_{place_};
+    QtExporter exporter_;
+    MainForm form_{place_, &exporter_};
     MainWindow window_{place_, form_, ui_};
 };
 

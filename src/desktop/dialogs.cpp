@@ -1,8 +1,10 @@
 #include "desktop/dialogs.h"
 
 #include "desktop/about_dialog.h"
+#include "desktop/color_chart_dialog.h"
 #include "desktop/color_matcher_dialog.h"
 #include "desktop/file_import_dialog.h"
+#include "desktop/kit_pdf_dialog.h"
 #include "desktop/paint_shop_dialog.h"
 #include "desktop/template_shop_dialog.h"
 
@@ -14,6 +16,10 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<FileImportDialog>(context, parent);
         case FormId::PaintShop:
             return std::make_unique<PaintShopDialog>(context, parent);
+        case FormId::ColorChart:
+            return std::make_unique<ColorChartDialog>(context, parent);
+        case FormId::KitPdf:
+            return std::make_unique<KitPdfDialog>(context, parent);
         case FormId::TemplateShop:
             return std::make_unique<TemplateShopDialog>(context, parent);
         case FormId::ColorMatcher:

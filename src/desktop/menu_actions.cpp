@@ -55,8 +55,7 @@ constexpr Keys kKeys[] = {
 };
 
 /// Entries whose windows and writers are still to come.
-constexpr MenuId kLater[] = {SaveReference, PrintColorChart, SaveItAll, SaveKitPdf,
-                             ColorPickerSelect};
+constexpr MenuId kLater[] = {ColorPickerSelect};
 
 constexpr MenuId kCheckable[] = {EasySet,     MediumSet,   HardSet,      Set16Colors, Set32Colors,
                                  Set40Colors, Set50Colors, AveragePixel, SamplePixel, WatchItPaint};

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QMessageBox>
 #include <QScreen>
 #include <QThread>
+#include <QUrl>
 #include <algorithm>
 
 #include "desktop/picture_view.h"
@@ -92,6 +94,11 @@ void QtUi::ShowStep(int done, int total) {
 bool QtUi::PutOnClipboard(const Surface& picture) {
     QApplication::clipboard()->setImage(ToImage(picture));
     return true;
+}
+
+void QtUi::ShowFolder(const std::filesystem::path& folder) {
+    QDesktopServices::openUrl(
+        QUrl::fromLocalFile(Text(std::filesystem::absolute(folder).string())));
 }
 
 ScreenSize QtUi::Screen() const {

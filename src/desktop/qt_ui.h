@@ -43,6 +43,7 @@ class QtUi : public Ui {
     [[nodiscard]] bool Watched() const override;
     void ShowStep(int done, int total) override;
     [[nodiscard]] bool PutOnClipboard(const Surface& picture) override;
+    void ShowFolder(const std::filesystem::path& folder) override;
     void OpenForm(FormId form) override { host_.OpenForm(form); }
     void CloseForm(FormId form) override { host_.CloseForm(form); }
     [[nodiscard]] ScreenSize Screen() const override;

@@ -7,6 +7,7 @@
 #include "convert/photo_import.h"
 #include "convert/settings.h"
 #include "convert/stipple_conversion.h"
+#include "forms/save_everything.h"
 #include "forms/start_up.h"
 #include "output/painting_writer.h"
 #include "output/sheet_writer.h"
@@ -33,7 +34,11 @@ constexpr ClickHandler kHandlers[] = {
     {ChangeToStipples, &MainForm::ChangeToStipples_Click},
     {PaintItNow, &MainForm::PaintItNow_Click},
     {PrintWorkform, &MainForm::PrintWorkform_Click},
+    {SaveReference, &MainForm::SaveReference_Click},
     {PrintAll, &MainForm::PrintAll_Click},
+    {PrintColorChart, &MainForm::PrintColorChart_Click},
+    {SaveItAll, &MainForm::SaveItAll_Click},
+    {SaveKitPdf, &MainForm::SaveKitPdf_Click},
     {EasySet, &MainForm::EasySet_Click},
     {MediumSet, &MainForm::MediumSet_Click},
     {HardSet, &MainForm::HardSet_Click},
@@ -152,6 +157,22 @@ void MainForm::PaintItNow_Click() {
 
 void MainForm::PrintWorkform_Click() {
     Saved(vendrel::PrintWorkform_Click(place_));
+}
+
+void MainForm::SaveReference_Click() {
+    Saved(vendrel::SaveReference_Click(place_));
+}
+
+void MainForm::PrintColorChart_Click() {
+    place_.Screen.OpenForm(FormId::ColorChart);
+}
+
+void MainForm::SaveItAll_Click() {
+    SaveEverything(place_, Exports());
+}
+
+void MainForm::SaveKitPdf_Click() {
+    place_.Screen.OpenForm(FormId::KitPdf);
 }
 
 void MainForm::PrintAll_Click() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "forms/file_import.h"
+#include "output/exporter.h"
 #include "shell/menu.h"
 #include "shell/workplace.h"
 
@@ -13,7 +14,9 @@ namespace vendrel {
 /// throw Error and leave its telling to the window; Stop ends the program.
 class MainForm {
   public:
-    explicit MainForm(Workplace& place) : place_(place), chooser_(place) {}
+    /// `exporter` writes what needs fonts; a window always has one.
+    explicit MainForm(Workplace& place, const Exporter* exporter = nullptr)
+        : place_(place), exporter_(exporter), chooser_(place) {}
 
     /// Starts the program. Throws Stop when it ran here for the first time and has said so.
     void Form_Load();
@@ -31,7 +34,11 @@ class MainForm {
     void ChangeToStipples_Click();
     void PaintItNow_Click();
     void PrintWorkform_Click();
+    void SaveReference_Click();
     void PrintAll_Click();
+    void PrintColorChart_Click();
+    void SaveItAll_Click();
+    void SaveKitPdf_Click();
     void EasySet_Click();
     void MediumSet_Click();
     void HardSet_Click();
@@ -52,6 +59,7 @@ class MainForm {
     /// Never acts: the window keeps what is drawn.
     void WorkFrame_Paint();
 
+    [[nodiscard]] const Exporter& Exports() const { return *exporter_; }
     /// The photo chooser, which lives as long as the main window.
     [[nodiscard]] FileImport& Chooser() { return chooser_; }
 
@@ -63,6 +71,7 @@ class MainForm {
     void Saved(const std::filesystem::path& file);
 
     Workplace& place_;
+    const Exporter* exporter_;
     FileImport chooser_;
     std::string lastSaved_;  // for the hint, until the next step of the work
 };

@@ -45,6 +45,7 @@ class TerminalUi : public Ui {
     void RefreshWorkFrame() override {}
     void ShowStep(int /*done*/, int /*total*/) override {}
     [[nodiscard]] bool PutOnClipboard(const Surface& /*picture*/) override { return false; }
+    void ShowFolder(const std::filesystem::path& /*folder*/) override {}
     void OpenForm(FormId /*form*/) override {}
     void CloseForm(FormId /*form*/) override {}
     [[nodiscard]] ScreenSize Screen() const override { return screen_; }

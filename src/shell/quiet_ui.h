@@ -18,6 +18,7 @@ class QuietUi : public Ui {
     void RefreshWorkFrame() override {}
     void ShowStep(int /*done*/, int /*total*/) override {}
     bool PutOnClipboard(const Surface& /*picture*/) override { return false; }
+    void ShowFolder(const std::filesystem::path& /*folder*/) override {}
     void OpenForm(FormId /*form*/) override {}
     void CloseForm(FormId /*form*/) override {}
     ScreenSize Screen() const override { return screen_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -11,7 +12,16 @@ namespace vendrel {
 enum class Pointer { Normal, Busy };
 
 /// The windows beside the main one.
-enum class FormId { FileImport, PaintShop, TouchUp, ColorChart, TemplateShop, ColorMatcher, About };
+enum class FormId {
+    FileImport,
+    PaintShop,
+    TouchUp,
+    ColorChart,
+    KitPdf,
+    TemplateShop,
+    ColorMatcher,
+    About
+};
 
 /// Thrown out of Ui::Yield when the program is closed in mid-work. No Error and nothing to report:
 /// it unwinds to the edge and ends the program cleanly.
@@ -46,6 +56,8 @@ class Ui {
 
     /// Puts a picture on the clipboard; false when the clipboard refuses.
     [[nodiscard]] virtual bool PutOnClipboard(const Surface& picture) = 0;
+    /// Shows a folder in the system's file manager, where there is one.
+    virtual void ShowFolder(const std::filesystem::path& folder) = 0;
     virtual void OpenForm(FormId form) = 0;
     virtual void CloseForm(FormId form) = 0;
     [[nodiscard]] virtual ScreenSize Screen() const = 0;

@@ -49,6 +49,7 @@ class Recorder : public Ui {
         Clipboard = picture;
         return true;
     }
+    void ShowFolder(const std::filesystem::path& folder) override { ShownFolder = folder; }
     void OpenForm(FormId form) override { OpenForms.push_back(form); }
     void CloseForm(FormId form) override { std::erase(OpenForms, form); }
     ScreenSize Screen() const override { return Size; }
@@ -64,6 +65,7 @@ class Recorder : public Ui {
     std::vector<FormId> OpenForms;
     Pointer LastPointer = Pointer::Normal;
     Surface Clipboard;
+    std::filesystem::path ShownFolder;
     ScreenSize Size = ScreenSize::FromPixels(1920, 1080);
     bool IsWatched = false;
     int ShowSteps = 0;

@@ -1,0 +1,32 @@
+#include "forms/color_chart.h"
+
+#include "shell/busy_pointer.h"
+
+namespace vendrel {
+
+void ColorChartForm::Form_Load() {
+    rows_ = FillChart(place_.State);
+    SortChart(rows_, order_);
+}
+
+void ColorChartForm::Order_Click(ChartOrder order) {
+    order_ = order;
+    SortChart(rows_, order_);
+}
+
+void ColorChartForm::SaveButton_Click() {
+    const BusyPointer busy(place_.Screen);
+    savedFile_ = exporter_.WriteColorChart(place_).lexically_normal().string();
+}
+
+void ColorChartForm::CloseButton_Click() {
+    place_.Screen.CloseForm(FormId::ColorChart);
+}
+
+char ColorChartForm::Symbol(int paint) const {
+    const auto& codes = place_.State.SymbolCodes;
+    const auto at = static_cast<std::size_t>(paint);
+    return at < codes.size() ? static_cast<char>(codes[at]) : '?';
+}
+
+}  // namespace vendrel
