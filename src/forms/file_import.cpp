@@ -11,6 +11,7 @@
 #include "shell/menu.h"
 #include "storage/load_stipples.h"
 #include "support/error.h"
+#include "touchup/recovery.h"
 
 namespace vendrel {
 namespace {
@@ -138,6 +139,10 @@ void FileImport::OKButton_Click() {
     WorkState& state = place_.State;
     if (state.PictureFile.empty()) {
         place_.Screen.ShowMessage("No File Selected", "Select A File!");
+        return;
+    }
+    // Before the photo's name changes: what is unsaved goes by it.
+    if (!MayReplaceGrid(place_)) {
         return;
     }
     const std::string file =

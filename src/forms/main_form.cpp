@@ -32,6 +32,7 @@ constexpr ClickHandler kHandlers[] = {
     {LoadStipples, &MainForm::LoadStipples_Click},
     {StartupPaintShop, &MainForm::StartupPaintShop_Click},
     {ChangeToStipples, &MainForm::ChangeToStipples_Click},
+    {ColorPickerSelect, &MainForm::ColorPickerSelect_Click},
     {PaintItNow, &MainForm::PaintItNow_Click},
     {PrintWorkform, &MainForm::PrintWorkform_Click},
     {SaveReference, &MainForm::SaveReference_Click},
@@ -136,11 +137,16 @@ void MainForm::LoadBMP_Click() {
 }
 
 void MainForm::LoadStipples_Click() {
-    vendrel::LoadStipples_Click(place_);
+    if (MayReplaceGrid(place_)) {
+        vendrel::LoadStipples_Click(place_);
+    }
 }
 
 void MainForm::StartupPaintShop_Click() {
-    place_.Screen.OpenForm(FormId::PaintShop);
+    // The shop takes the palette apart as soon as it opens.
+    if (MayReplaceGrid(place_)) {
+        place_.Screen.OpenForm(FormId::PaintShop);
+    }
 }
 
 void MainForm::ChangeToStipples_Click() {
@@ -148,7 +154,13 @@ void MainForm::ChangeToStipples_Click() {
         place_.Screen.ShowMessage("No Photo Loaded", "Choose a photo first: Picture, Load Photo.");
         return;
     }
-    vendrel::ChangeToStipples_Click(place_);
+    if (MayReplaceGrid(place_)) {
+        vendrel::ChangeToStipples_Click(place_);
+    }
+}
+
+void MainForm::ColorPickerSelect_Click() {
+    place_.Screen.OpenForm(FormId::TouchUp);
 }
 
 void MainForm::PaintItNow_Click() {
@@ -200,7 +212,7 @@ void MainForm::SetDifficulty(MenuId level, int stippleSize) {
     WorkState& state = place_.State;
     Menu& menu = place_.MainMenu;
     menu[LoadBMP].Enabled = true;
-    if (menu[level].Checked) {
+    if (menu[level].Checked || !MayReplaceGrid(place_)) {
         return;
     }
     // First, as a photo that is gone by now must leave the old difficulty as it is.
@@ -236,6 +248,9 @@ void MainForm::Set50Colors_Click() {
 }
 
 void MainForm::SetFinalPaints(int finalColors) {
+    if (!MayReplaceGrid(place_)) {
+        return;
+    }
     const BusyPointer busy(place_.Screen);
     place_.State.FinalColors = finalColors;
     SetColorChecks(place_.MainMenu, finalColors);
@@ -264,6 +279,9 @@ void MainForm::NextBestColors_Click() {
 }
 
 void MainForm::AveragePixel_Click() {
+    if (!MayReplaceGrid(place_)) {
+        return;
+    }
     Menu& menu = place_.MainMenu;
     menu[AveragePixel].Checked = !menu[AveragePixel].Checked;
     menu[SamplePixel].Checked = !menu[AveragePixel].Checked;
@@ -272,6 +290,9 @@ void MainForm::AveragePixel_Click() {
 
 // No mirror image of averaging: sampling is switched on by unchecking averaging alone.
 void MainForm::SamplePixel_Click() {
+    if (!MayReplaceGrid(place_)) {
+        return;
+    }
     Menu& menu = place_.MainMenu;
     menu[AveragePixel].Checked = !menu[SamplePixel].Checked;
     SampleMethodChanged();
@@ -293,7 +314,14 @@ void MainForm::ShowAbout_Click() {
     place_.Screen.OpenForm(FormId::About);
 }
 
+bool MainForm::MayEnd() {
+    return MayReplaceGrid(place_);
+}
+
 void MainForm::EndItAll_Click() {
+    if (!MayEnd()) {
+        return;
+    }
     place_.Screen.SetCaption("Unloading...");
     throw Stop{};
 }

@@ -32,6 +32,7 @@ class MainForm {
     void LoadStipples_Click();
     void StartupPaintShop_Click();
     void ChangeToStipples_Click();
+    void ColorPickerSelect_Click();
     void PaintItNow_Click();
     void PrintWorkform_Click();
     void SaveReference_Click();
@@ -53,6 +54,9 @@ class MainForm {
     void WatchItPaint_Click();
     void ShowAbout_Click();
     void EndItAll_Click();
+
+    /// Whether the program may end now: asks when touched-up stipples would be lost.
+    [[nodiscard]] bool MayEnd();
 
     /// Draws the stipples again and paints them.
     void RepaintPicture();

@@ -1,0 +1,342 @@
+#include "forms/touch_up_form.h"
+
+#include <algorithm>
+#include <exception>
+#include <iterator>
+#include <tuple>
+#include <utility>
+
+#include "convert/stipple_conversion.h"
+#include "drawing/stipple_brush.h"
+#include "output/chart_contents.h"
+#include "output/symbol_set.h"
+#include "storage/load_stipples.h"
+#include "storage/stipple_file.h"
+#include "support/error.h"
+#include "touchup/clean_up.h"
+#include "touchup/markers.h"
+
+namespace vendrel {
+namespace {
+
+constexpr const char* kTitle = "Touch Up";
+
+// A kit that keeps all its paints may have more of them than symbols.
+std::string SymbolText(int paint) {
+    return paint <= kSymbolCount
+               ? std::string(1, kSymbolCharacters[static_cast<std::size_t>(paint) - 1])
+               : std::to_string(paint);
+}
+
+std::string Counted(int count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string Place(CellPos at) {
+    return "column " + std::to_string(at.X) + ", row " + std::to_string(at.Y);
+}
+
+std::string StepCaption(const std::string& verb, const std::string& step) {
+    return step.empty() ? verb : verb + " " + step;
+}
+
+void RedrawStipples(Workplace& place) {
+    EraseToColor(place, kBlack);
+    DrawStipplePicture(place);
+    SetupMenuItems(place.MainMenu, 3);
+    CheckSavedStipples(place);
+}
+
+}  // namespace
+
+void TouchUpForm::Form_Load() {
+    editor_ = std::make_unique<TouchUp>(place_);
+    controls_ = {};
+    controls_.Brush.Paint = 1;
+    lonerAt_ = {};
+    Touched(Sheet().Bounds());
+    Follow();
+}
+
+void TouchUpForm::OfferRecovery() {
+    if (!editor_->RecoveryOffered()) {
+        return;
+    }
+    const std::string& photo = place_.State.PictureName;
+    if (place_.Screen.Ask(kTitle, "The touch-up of " + photo +
+                                      " ended without being saved, but its work was kept. "
+                                      "Take it up again?")) {
+        Touched(editor_->TakeRecovery());
+        controls_.Status = "The kept work is back. Undo takes it away again.";
+    } else if (place_.Screen.Ask(kTitle, "Delete the kept work on " + photo +
+                                             " for good? No keeps it for the next time.")) {
+        editor_->DiscardRecovery();
+    }
+    Follow();
+}
+
+void TouchUpForm::Tool_Click(TouchUpTool tool) {
+    controls_.Tool = tool;
+}
+
+void TouchUpForm::BrushSize_Click(BrushSize size) {
+    controls_.Brush.Size = size;
+    controls_.Tool = TouchUpTool::Brush;
+}
+
+void TouchUpForm::PaintList_Click(int paint) {
+    if (Sheet().HoldsPaint(paint)) {
+        controls_.Brush.Paint = paint;
+        MarkAgain();
+    }
+}
+
+void TouchUpForm::PointerDown(CellPos at) {
+    controls_.Status.clear();
+    switch (controls_.Tool) {
+        case TouchUpTool::Brush:
+            Touched(editor_->BeginStroke(at, controls_.Brush));
+            break;
+        case TouchUpTool::Fill:
+            Touched(editor_->Fill(at, controls_.Brush.Paint));
+            break;
+        case TouchUpTool::Replace:
+            if (Sheet().Holds(at)) {
+                Touched(editor_->Replace(Sheet().PaintAt(at), controls_.Brush.Paint));
+            }
+            break;
+    }
+    FollowPalette();
+}
+
+void TouchUpForm::PointerTo(CellPos at) {
+    const CellRect dirty = editor_->StrokeTo(at);
+    if (!dirty.Empty()) {
+        Touched(dirty);
+        FollowPalette();
+    }
+}
+
+void TouchUpForm::PointerUp() {
+    editor_->EndStroke();
+    Follow();
+}
+
+void TouchUpForm::PickPaint(CellPos at) {
+    PaintList_Click(Sheet().PaintAt(at));
+}
+
+std::string TouchUpForm::Describe(CellPos at) const {
+    if (!Sheet().Holds(at)) {
+        return {};
+    }
+    const int paint = Sheet().PaintAt(at);
+    if (!Sheet().HoldsPaint(paint)) {
+        return "Column " + std::to_string(at.X) + ", row " + std::to_string(at.Y);
+    }
+    const TouchUpPaint& row = controls_.Palette[static_cast<std::size_t>(paint)];
+    return "Column " + std::to_string(at.X) + ", row " + std::to_string(at.Y) + ":  " + row.Symbol +
+           "  " + row.Label;
+}
+
+void TouchUpForm::Undo_Click() {
+    controls_.Status = editor_->CanUndo() ? "Undone: " + editor_->UndoName() : "";
+    Touched(editor_->Undo());
+    Follow();
+}
+
+void TouchUpForm::Redo_Click() {
+    controls_.Status = editor_->CanRedo() ? "Done again: " + editor_->RedoName() : "";
+    Touched(editor_->Redo());
+    Follow();
+}
+
+void TouchUpForm::BlinkLoners_Click() {
+    controls_.BlinkLoners = !controls_.BlinkLoners;
+    MarkAgain();
+}
+
+void TouchUpForm::BlinkPaint_Click() {
+    controls_.BlinkPaint = !controls_.BlinkPaint;
+    MarkAgain();
+}
+
+const std::vector<CellPos>& TouchUpForm::Marked() {
+    if (!std::exchange(markedStale_, false)) {
+        return marked_;
+    }
+    const auto rowMajor = [](CellPos a, CellPos b) {
+        return std::tie(a.Y, a.X) < std::tie(b.Y, b.X);
+    };
+    std::vector<CellPos> loners;
+    std::vector<CellPos> painted;
+    if (controls_.BlinkLoners) {
+        loners = FindLoners(Sheet());
+    }
+    if (controls_.BlinkPaint) {
+        painted = FindStipplesOf(Sheet(), controls_.Brush.Paint);
+    }
+    marked_.clear();
+    std::set_union(loners.begin(), loners.end(), painted.begin(), painted.end(),
+                   std::back_inserter(marked_), rowMajor);
+    return marked_;
+}
+
+std::optional<CellPos> TouchUpForm::NextLoner_Click() {
+    const std::optional<LonerStep> step = NextLoner(Sheet(), lonerAt_);
+    lonerAt_ = step ? step->At : CellPos{};
+    FollowLoners();
+    return step ? std::optional(step->At) : std::nullopt;
+}
+
+void TouchUpForm::RaiseCleanLevel_Click() {
+    editor_->RaiseCleanLevel();
+    FollowCleanUp();
+}
+
+void TouchUpForm::LowerCleanLevel_Click() {
+    editor_->LowerCleanLevel();
+    FollowCleanUp();
+}
+
+void TouchUpForm::CleanUp_Click() {
+    Touched(editor_->CleanUp());
+    controls_.Status = "Cleaned up.";
+    Follow();
+}
+
+void TouchUpForm::LoadIt_Click() {
+    // Whatever comes of it: a file that is broken leaves what was read until then.
+    Touched(Sheet().Bounds());
+    controls_.Status.clear();
+    try {
+        Touched(editor_->LoadIt_Click());
+    } catch (const Error&) {
+        Follow();
+        throw;
+    }
+    controls_.Status = "Loaded " + StippleFilePath(place_).filename().string();
+    Follow();
+}
+
+void TouchUpForm::SaveIt_Click() {
+    controls_.Status.clear();
+    editor_->SaveIt_Click();
+    controls_.Status = "Saved " + StippleFilePath(place_).filename().string();
+    Follow();
+}
+
+void TouchUpForm::Accept_Click() {
+    const AcceptReport report = editor_->Accept();
+    // Closed from here on: drawing lets the window's timers run.
+    const std::unique_ptr<TouchUp> editor = std::move(editor_);
+    place_.Screen.CloseForm(FormId::TouchUp);
+    std::exception_ptr trouble;
+    try {
+        editor->SettleRecovery();
+    } catch (const Error&) {
+        trouble = std::current_exception();
+    }
+    RedrawStipples(place_);
+    TellReport(report);
+    if (trouble) {
+        std::rethrow_exception(trouble);
+    }
+}
+
+void TouchUpForm::TellReport(const AcceptReport& report) {
+    if (report.Dropped.empty()) {
+        return;
+    }
+    std::string text = "No stipple uses these paints any more, so they are left out:";
+    for (const std::string& name : report.Dropped) {
+        text += (&name == &report.Dropped.front() ? " " : ", ") + name;
+    }
+    text += ".";
+    if (!report.Moves.empty()) {
+        text += "\n\nOther paints have moved up to new symbols:";
+        for (const SymbolMove& move : report.Moves) {
+            text += (&move == &report.Moves.front() ? " " : ", ") + move.PaintName + " from " +
+                    SymbolText(move.Old) + " to " + SymbolText(move.New);
+        }
+        text += ".";
+    }
+    place_.Screen.ShowMessage("Symbols", text);
+}
+
+void TouchUpForm::Cancel_Click() {
+    if (editor_->HasChanges() &&
+        !place_.Screen.Ask(kTitle, "Your changes are not saved. Close and lose them?")) {
+        return;
+    }
+    editor_->Cancel();
+    const std::unique_ptr<TouchUp> editor = std::move(editor_);
+    place_.Screen.CloseForm(FormId::TouchUp);
+    CheckSavedStipples(place_);
+    editor->SettleRecovery();
+}
+
+void TouchUpForm::KeepRecovery(EditTime now) {
+    // Not thrown on: a message every few seconds would leave no time to save elsewhere.
+    try {
+        editor_->KeepRecovery(now);
+    } catch (const Error& error) {
+        controls_.Status = std::string("No recovery file: ") + error.what();
+    }
+}
+
+CellRect TouchUpForm::TakeDirty() {
+    return std::exchange(dirty_, {});
+}
+
+void TouchUpForm::Touched(const CellRect& dirty) {
+    if (!dirty.Empty()) {
+        dirty_.Include({dirty.Left, dirty.Top});
+        dirty_.Include({dirty.Right, dirty.Bottom});
+        MarkAgain();
+    }
+}
+
+void TouchUpForm::Follow() {
+    if (!Sheet().HoldsPaint(controls_.Brush.Paint)) {
+        controls_.Brush.Paint = 1;
+    }
+    controls_.UndoEnabled = editor_->CanUndo();
+    controls_.RedoEnabled = editor_->CanRedo();
+    controls_.UndoCaption = StepCaption("Undo", editor_->UndoName());
+    controls_.RedoCaption = StepCaption("Redo", editor_->RedoName());
+    controls_.LoadEnabled = editor_->CanLoad();
+    FollowPalette();
+    FollowCleanUp();
+    FollowLoners();
+}
+
+void TouchUpForm::FollowPalette() {
+    const std::vector<PaintColor>& paints = Sheet().Paints();
+    controls_.Palette.resize(static_cast<std::size_t>(Sheet().PaintCount()) + 1);
+    for (std::size_t i = 1; i < controls_.Palette.size(); ++i) {
+        controls_.Palette[i] = {SymbolText(static_cast<int>(i)), PaintLabel(paints[i]),
+                                ColorOf(paints[i]), paints[i].CellCount};
+    }
+}
+
+void TouchUpForm::FollowCleanUp() {
+    const CleanUpPreview preview = editor_->PreviewCleanUp();
+    controls_.CleanLevel = place_.State.CleanLevel;
+    controls_.RaiseEnabled = controls_.CleanLevel < kHighestCleanLevel;
+    controls_.LowerEnabled = controls_.CleanLevel > kLowestCleanLevel;
+    controls_.CleanEnabled = preview.Changes > 0;
+    controls_.CleanPreview =
+        Counted(preview.Changes, "stipple would change", "stipples would change") + ", " +
+        Counted(preview.AreasLeft, "area left", "areas left");
+}
+
+void TouchUpForm::FollowLoners() {
+    const int left = static_cast<int>(FindLoners(Sheet()).size());
+    controls_.Loners = left == 0 ? "No loners" : Counted(left, "loner left", "loners left");
+    if (left > 0 && lonerAt_ != CellPos{}) {
+        controls_.Loners += "; " + Place(lonerAt_);
+    }
+}
+
+}  // namespace vendrel

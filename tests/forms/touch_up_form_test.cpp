@@ -1,0 +1,323 @@
+#include "forms/touch_up_form.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/main_form.h"
+#include "forms/studio.h"
+#include "storage/stipple_file.h"
+#include "support/error.h"
+
+namespace vendrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+using enum MenuId;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr const char* kSaved = "Saved Stipples/four-Easy.stp";
+constexpr const char* kRecovery = "Saved Stipples/four-Easy.recovery.stp";
+
+EditTime At(int second) {
+    return EditTime{} + std::chrono::seconds(second);
+}
+
+// The photo of four quarters at Easy, changed to stipples of four paints, and the editor on it.
+class TouchUpFormTest : public ::testing::Test {
+  protected:
+    TouchUpFormTest() {
+        studio_.Files.Write("Data/paintlist.txt", "Reds\r\nGreens\r\nRest\r\n");
+        main_.Form_Load();
+        main_.Click(LoadBMP);
+        ClickPhoto(main_.Chooser(), "four.bmp");
+        main_.Chooser().OKButton_Click();
+        main_.Click(ChangeToStipples);
+        before_ = State().Stipples;
+        Open();
+    }
+    void Open() {
+        main_.Click(ColorPickerSelect);
+        form_ = std::make_unique<TouchUpForm>(studio_.Place);
+        form_->Form_Load();
+    }
+    /// The program dies and comes back on the same photo.
+    void Crash() {
+        form_.reset();
+        State().HasUnsavedWork = false;
+        Open();
+    }
+    void Press(CellPos at, TouchUpTool tool = TouchUpTool::Brush) {
+        form_->Tool_Click(tool);
+        form_->PointerDown(at);
+        form_->PointerUp();
+    }
+    /// One stipple of paint 4 in the red quarter: a change, and a loner.
+    void MakeSpot() {
+        form_->PaintList_Click(4);
+        Press({3, 3});
+    }
+    void AcceptSpot() {
+        MakeSpot();
+        form_->Accept_Click();
+    }
+    [[nodiscard]] WorkState& State() { return studio_.State; }
+    [[nodiscard]] const TouchUpControls& Shown() const { return form_->Controls(); }
+    [[nodiscard]] std::vector<int> Counts() const {
+        std::vector<int> counts;
+        for (std::size_t i = 1; i < Shown().Palette.size(); ++i) {
+            counts.push_back(Shown().Palette[i].Count);
+        }
+        return counts;
+    }
+    [[nodiscard]] bool Exists(const char* file) const { return fs::exists(studio_.Files / file); }
+
+    Studio studio_;
+    MainForm main_{studio_.Place};
+    std::unique_ptr<TouchUpForm> form_;
+    Grid<StippleCell> before_;
+};
+
+TEST_F(TouchUpFormTest, OpensOnThePaletteWithNothingToUndoOrLoad) {
+    EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::TouchUp));
+    EXPECT_EQ(form_->TakeDirty(), form_->Sheet().Bounds());
+    ASSERT_THAT(Shown().Palette, SizeIs(5));
+    EXPECT_EQ(Shown().Palette[1].Symbol, "1");
+    EXPECT_EQ(Shown().Palette[1].Label, "Reds: Red [R1]");
+    EXPECT_EQ(Shown().Palette[1].Swatch, Rgb(230, 20, 20));
+    EXPECT_EQ(Shown().UndoCaption, "Undo");
+    EXPECT_FALSE(Shown().UndoEnabled);
+    EXPECT_FALSE(Shown().LoadEnabled);
+    EXPECT_EQ(Shown().Loners, "No loners");
+    EXPECT_EQ(form_->Describe({2, 1}), "Column 2, row 1:  1  Reds: Red [R1]");
+    EXPECT_EQ(form_->Describe({0, 1}), "");
+}
+
+TEST_F(TouchUpFormTest, ToolsRepaintWhatTheyAreMeantTo) {
+    struct Case {
+        TouchUpTool Tool;
+        int ReplacedInAll;  // stipples of paint 1 that become paint 2
+        const char* Caption;
+    };
+    const int quarter = Counts()[0];
+    ASSERT_GT(quarter, 9);
+    Press({1, 1});
+    EXPECT_FALSE(Shown().UndoEnabled) << "the paint was there already";
+    form_->PaintList_Click(2);
+    form_->BrushSize_Click(BrushSize::Three);
+    for (const Case& c :
+         {Case{TouchUpTool::Brush, 9, "Undo Brush"}, Case{TouchUpTool::Fill, quarter, "Undo Fill"},
+          Case{TouchUpTool::Replace, quarter, "Undo Replace Paint"}}) {
+        Press({2, 2}, c.Tool);
+        EXPECT_EQ(Counts()[0], quarter - c.ReplacedInAll) << c.Caption;
+        EXPECT_EQ(Shown().UndoCaption, c.Caption);
+        Press({-4, 400}, c.Tool);
+        form_->Undo_Click();
+        EXPECT_EQ(Counts()[0], quarter) << c.Caption;
+    }
+    EXPECT_EQ(Shown().RedoCaption, "Redo Replace Paint");
+    EXPECT_EQ(State().EditStipples, before_);
+    form_->PickPaint({1, 1});
+    EXPECT_EQ(Shown().Brush.Paint, 1);
+    form_->PickPaint({0, 0});
+    EXPECT_EQ(Shown().Brush.Paint, 1) << "nothing lies there";
+}
+
+TEST_F(TouchUpFormTest, AStrokeAsksOnlyForWhatItTouchedAndCountsAsItGoes) {
+    form_->PaintList_Click(2);
+    (void)form_->TakeDirty();
+    const int reds = Counts()[0];
+    form_->PointerDown({1, 1});
+    EXPECT_EQ(form_->TakeDirty(), (CellRect{1, 1, 1, 1}));
+    form_->PointerTo({3, 1});
+    EXPECT_EQ(form_->TakeDirty(), (CellRect{2, 1, 3, 1}));
+    EXPECT_EQ(Counts()[0], reds - 3);
+    form_->PointerUp();
+    form_->PointerTo({3, 3});
+    EXPECT_TRUE(form_->TakeDirty().Empty());
+}
+
+TEST_F(TouchUpFormTest, FindsBlinksAndCleansUpALoner) {
+    EXPECT_EQ(form_->NextLoner_Click(), std::nullopt);
+    EXPECT_FALSE(Shown().CleanEnabled);
+    MakeSpot();
+    form_->BlinkLoners_Click();
+    EXPECT_THAT(form_->Marked(), ElementsAre(CellPos{3, 3}));
+    EXPECT_EQ(Shown().Loners, "1 loner left");
+    EXPECT_EQ(form_->NextLoner_Click(), (CellPos{3, 3}));
+    EXPECT_EQ(Shown().Loners, "1 loner left; column 3, row 3");
+    EXPECT_EQ(Shown().CleanPreview, "1 stipple would change, 9 areas left");
+    form_->BlinkPaint_Click();
+    EXPECT_THAT(form_->Marked(), SizeIs(static_cast<std::size_t>(Counts()[3])));
+    form_->CleanUp_Click();
+    EXPECT_EQ(State().EditStipples, before_);
+    EXPECT_EQ(Shown().UndoCaption, "Undo Clean Up");
+    EXPECT_EQ(Shown().CleanPreview, "0 stipples would change, 9 areas left");
+    EXPECT_FALSE(Shown().CleanEnabled);
+    EXPECT_EQ(Shown().Loners, "No loners");
+    form_->BlinkPaint_Click();
+    EXPECT_THAT(form_->Marked(), IsEmpty());
+}
+
+TEST_F(TouchUpFormTest, CleanLevelButtonsStopAtTwoAndEight) {
+    EXPECT_FALSE(Shown().RaiseEnabled);
+    for (int level = 7; level >= 2; --level) {
+        EXPECT_TRUE(Shown().LowerEnabled);
+        form_->LowerCleanLevel_Click();
+        EXPECT_EQ(Shown().CleanLevel, level);
+    }
+    EXPECT_FALSE(Shown().LowerEnabled);
+    EXPECT_TRUE(Shown().RaiseEnabled);
+}
+
+TEST_F(TouchUpFormTest, CancelAsksOnlyWhenThereAreChanges) {
+    MakeSpot();
+    studio_.Screen.Answers = {false};
+    form_->Cancel_Click();
+    EXPECT_TRUE(form_->Open());
+    EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::TouchUp));
+    form_->Undo_Click();
+    form_->Cancel_Click();
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(1));
+    EXPECT_FALSE(form_->Open());
+    EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
+
+    Open();
+    MakeSpot();
+    form_->KeepRecovery(At(0));
+    EXPECT_TRUE(Exists(kRecovery));
+    form_->Cancel_Click();
+    EXPECT_EQ(State().Stipples, before_);
+    EXPECT_FALSE(Exists(kRecovery)) << "given up on purpose";
+    EXPECT_FALSE(State().HasUnsavedWork);
+}
+
+TEST_F(TouchUpFormTest, AcceptTakesTheGridOverAndTellsWhichSymbolsMoved) {
+    studio_.MainMenu[PaintItNow].Enabled = false;
+    form_->PaintList_Click(1);
+    Press({State().CellsAcross, 1}, TouchUpTool::Replace);
+    EXPECT_EQ(Counts()[1], 0);
+    form_->Accept_Click();
+    EXPECT_EQ(State().PaintCount, 3);
+    EXPECT_EQ(State().Stipples(State().CellsAcross, 1).ColorIndex, 1);
+    ASSERT_THAT(studio_.Screen.Messages, SizeIs(1));
+    EXPECT_THAT(studio_.Screen.Messages[0].second, HasSubstr("left out: Green."));
+    EXPECT_THAT(studio_.Screen.Messages[0].second,
+                HasSubstr("Blue from 3 to 2, White from 4 to 3."));
+    EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
+    EXPECT_TRUE(studio_.MainMenu[PaintItNow].Enabled);
+    EXPECT_TRUE(Exists(kRecovery)) << "accepted, but not saved";
+    const StippleCell& cell = State().Stipples(State().CellsAcross, 1);
+    EXPECT_EQ(studio_.Frames.StippleFrame.Picture.Get(cell.X, cell.Y), Rgb(230, 20, 20));
+}
+
+TEST_F(TouchUpFormTest, SavesAndLoadsAsOneStep) {
+    MakeSpot();
+    form_->SaveIt_Click();
+    EXPECT_EQ(Shown().Status, "Saved four-Easy.stp");
+    EXPECT_TRUE(Shown().LoadEnabled);
+    EXPECT_TRUE(studio_.MainMenu[LoadStipples].Enabled);
+    form_->Undo_Click();
+    (void)form_->TakeDirty();
+    form_->LoadIt_Click();
+    EXPECT_EQ(form_->TakeDirty(), form_->Sheet().Bounds());
+    EXPECT_EQ(State().EditStipples(3, 3).ColorIndex, 4);
+    EXPECT_EQ(Shown().UndoCaption, "Undo Load");
+    form_->Accept_Click();
+    EXPECT_FALSE(State().HasUnsavedWork) << "the file has it";
+    EXPECT_FALSE(Exists(kRecovery));
+}
+
+TEST_F(TouchUpFormTest, ABrokenLoadShowsWhatItReadUntilItIsTakenBack) {
+    studio_.Files.Write(kSaved, "4,8,6,50\r\n1,2,3,\"Odd\",1,\"Set\",\"R\"\r\noops\r\n");
+    const CellRect whole = form_->TakeDirty();
+    EXPECT_THROW(form_->LoadIt_Click(), FormatError);
+    EXPECT_EQ(form_->TakeDirty(), whole);
+    EXPECT_EQ(Shown().Palette[1].Swatch, Rgb(1, 2, 3));
+    form_->Undo_Click();
+    EXPECT_EQ(Shown().Palette[1].Swatch, Rgb(230, 20, 20));
+    EXPECT_EQ(State().EditStipples, before_);
+}
+
+TEST_F(TouchUpFormTest, WorkLeftByACrashIsTakenUpGivenUpOrKept) {
+    struct Case {
+        std::vector<bool> Answers;
+        int Paint;  // of the stipple that the lost session repainted
+        bool FileLeft;
+    };
+    for (const Case& c :
+         {Case{{true}, 4, true}, Case{{false, true}, 1, false}, Case{{false, false}, 1, true}}) {
+        MakeSpot();
+        form_->KeepRecovery(At(0));
+        Crash();
+        studio_.Screen.Answers = c.Answers;
+        form_->OfferRecovery();
+        EXPECT_THAT(studio_.Screen.Answers, IsEmpty());
+        EXPECT_EQ(State().EditStipples(3, 3).ColorIndex, c.Paint);
+        EXPECT_EQ(Exists(kRecovery), c.FileLeft);
+        form_->Cancel_Click();
+        fs::remove(studio_.Files / kRecovery);
+        Open();
+    }
+    const std::size_t asked = studio_.Screen.Questions.size();
+    form_->OfferRecovery();
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(asked)) << "there is nothing to offer";
+}
+
+TEST_F(TouchUpFormTest, ARecoveryFileThatCannotBeWrittenIsToldInTheStatus) {
+    fs::remove_all(studio_.Files / "Saved Stipples");
+    studio_.Files.Write("Saved Stipples", "no folder");
+    MakeSpot();
+    EXPECT_NO_THROW(form_->KeepRecovery(At(0)));
+    EXPECT_THAT(Shown().Status, HasSubstr("No recovery file"));
+}
+
+TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {
+    AcceptSpot();
+    const Grid<StippleCell> accepted = State().Stipples;
+    ASSERT_TRUE(State().HasUnsavedWork);
+    for (const MenuId entry :
+         {LoadStipples, StartupPaintShop, ChangeToStipples, MediumSet, HardSet, Set16Colors,
+          Set50Colors, RunTemplateShop, AveragePixel, SamplePixel, EndItAll}) {
+        const auto name = studio_.MainMenu[entry].Name;
+        const bool checked = studio_.MainMenu[entry].Checked;
+        studio_.Screen.Answers = {false};
+        main_.Click(entry);
+        EXPECT_THAT(studio_.Screen.Answers, IsEmpty()) << name;
+        EXPECT_EQ(studio_.MainMenu[entry].Checked, checked) << name;
+        EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty()) << name;
+    }
+    main_.Click(LoadBMP);
+    ClickPhoto(main_.Chooser(), "four.bmp");
+    studio_.Screen.Answers = {false, false};
+    main_.Chooser().OKButton_Click();
+    EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::FileImport));
+    main_.Chooser().CancelButton_Click();
+    EXPECT_FALSE(main_.MayEnd());
+    EXPECT_EQ(State().Stipples, accepted);
+    EXPECT_TRUE(studio_.MainMenu[PaintItNow].Enabled);
+    EXPECT_TRUE(Exists(kRecovery));
+
+    studio_.Screen.Questions.clear();
+    main_.Click(MediumSet);
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(1));
+    EXPECT_FALSE(Exists(kRecovery)) << "given up on purpose";
+    EXPECT_TRUE(main_.MayEnd());
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(1)) << "there is nothing left to lose";
+}
+
+TEST_F(TouchUpFormTest, PaintingAnAcceptedGridAsksNothing) {
+    AcceptSpot();
+    main_.Click(PaintItNow);
+    main_.Click(PrintAll);
+    EXPECT_THAT(studio_.Screen.Questions, IsEmpty());
+    EXPECT_TRUE(State().HasUnsavedWork);
+}
+
+}  // namespace
+}  // namespace vendrel::test
