@@ -7,6 +7,7 @@
 #include "desktop/kit_pdf_dialog.h"
 #include "desktop/paint_shop_dialog.h"
 #include "desktop/template_shop_dialog.h"
+#include "desktop/touch_up_dialog.h"
 
 namespace vendrel {
 
@@ -24,6 +25,8 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<TemplateShopDialog>(context, parent);
         case FormId::ColorMatcher:
             return std::make_unique<ColorMatcherDialog>(context, parent);
+        case FormId::TouchUp:
+            return std::make_unique<TouchUpDialog>(context, parent);
         case FormId::About:
             return std::make_unique<AboutDialog>(context, parent);
         default:

@@ -1,9 +1,11 @@
 #include "desktop/main_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QSessionManager>
 #include <QStatusBar>
 #include <QStyle>
 
@@ -47,6 +49,8 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
         Mirror();
     });
     connect(&edge_, &Edge::Ended, this, &MainWindow::End);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &MainWindow::EndSession,
+            Qt::DirectConnection);
 }
 
 void MainWindow::Arrange() {
@@ -172,13 +176,29 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     QMainWindow::keyPressEvent(event);
 }
 
+bool MainWindow::MayEnd() {
+    bool may = false;
+    edge_.Run([&] { may = form_.MayEnd(); }, Edge::Entry::Always);
+    return may;
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!edge_.Busy()) {
-        event->accept();
+    const bool may = MayEnd();
+    const bool working = edge_.Busy();
+    event->setAccepted(may && !working);
+    if (may && working) {
+        ui_.RequestStop();
+    }
+}
+
+void MainWindow::EndSession(QSessionManager& session) {
+    if (!session.allowsInteraction()) {
         return;
     }
-    event->ignore();
-    ui_.RequestStop();
+    if (!MayEnd()) {
+        session.cancel();
+    }
+    session.release();
 }
 
 void MainWindow::End() {

@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QProgressBar>
 #include <QScrollArea>
+#include <QSessionManager>
 #include <QStackedWidget>
 #include <map>
 #include <memory>
@@ -38,6 +39,8 @@ class MainWindow : public QMainWindow {
     void MirrorPictures();
     void MirrorStatus();
     void FitToPicture();
+    [[nodiscard]] bool MayEnd();
+    void EndSession(QSessionManager& session);
     void End();
 
     Workplace& place_;

@@ -54,9 +54,6 @@ constexpr Keys kKeys[] = {
     {EndItAll, 'x', "Ctrl+Q"},
 };
 
-/// Entries whose windows and writers are still to come.
-constexpr MenuId kLater[] = {ColorPickerSelect};
-
 constexpr MenuId kCheckable[] = {EasySet,     MediumSet,   HardSet,      Set16Colors, Set32Colors,
                                  Set40Colors, Set50Colors, AveragePixel, SamplePixel, WatchItPaint};
 
@@ -110,7 +107,6 @@ QAction* MenuActions::MakeAction(const MenuEntry& entry) {
     action->setMenuRole(QAction::NoRole);
     action->setShortcut(QKeySequence(QString::fromLatin1(KeysOf(entry.Id).Shortcut)));
     action->setCheckable(Contains(kCheckable, entry.Id));
-    action->setVisible(!Contains(kLater, entry.Id));
     connect(action, &QAction::triggered, this, [this, id = entry.Id] { emit Chosen(id); });
     return action;
 }

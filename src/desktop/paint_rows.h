@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <vector>
+
+#include "forms/touch_up_form.h"
+
+namespace vendrel {
+
+/// The editor's palette: swatch, symbol, name and count of every paint.
+class PaintRows : public QTreeWidget {
+    Q_OBJECT
+
+  public:
+    explicit PaintRows(QWidget* parent = nullptr);
+
+    /// Shows the palette (entry 0 is left out) with one paint chosen. Cheap when little changed.
+    void Follow(const std::vector<TouchUpPaint>& palette, int chosen);
+
+  signals:
+    void Chosen(int paint);
+
+  private:
+    void ShowRow(QTreeWidgetItem& row, const TouchUpPaint& paint);
+
+    std::vector<TouchUpPaint> shown_;
+};
+
+}  // namespace vendrel

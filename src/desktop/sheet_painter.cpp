@@ -1,0 +1,145 @@
+#include "desktop/sheet_painter.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <cstddef>
+
+#include "desktop/text.h"
+#include "export/qt_image.h"
+#include "output/contrast.h"
+
+namespace vendrel {
+namespace {
+
+QColor ToQColor(Color color) {
+    return {RedOf(color), GreenOf(color), BlueOf(color)};
+}
+
+}  // namespace
+
+void SheetPainter::SetPhoto(const Surface& photo, int stippleSize) {
+    photo_ = ToImage(photo);
+    stippleSize_ = stippleSize;
+}
+
+void SheetPainter::Follow(const TouchUpForm& form, const CellRect& dirty) {
+    const EditSheet& sheet = form.Sheet();
+    CellRect cells = dirty;
+    if (cells_.size() != QSize(sheet.Across(), sheet.Down())) {
+        cells_ = QImage(sheet.Across(), sheet.Down(), QImage::Format_RGB32);
+        paints_.assign(static_cast<std::size_t>(sheet.Across() * sheet.Down()), 0);
+        cells = sheet.Bounds();
+    }
+    const std::vector<TouchUpPaint>& palette = form.Controls().Palette;
+    if (cells.Left <= 1 && cells.Top <= 1 && cells.Right >= sheet.Across() &&
+        cells.Bottom >= sheet.Down()) {
+        // Only what touches everything can have changed the paints' colours.
+        palette_ = palette;
+        glyphs_.clear();
+    }
+    for (int y = cells.Top; y <= std::min(cells.Bottom, sheet.Down()); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(cells_.scanLine(y - 1));
+        for (int x = cells.Left; x <= std::min(cells.Right, sheet.Across()); ++x) {
+            const int paint = sheet.HoldsPaint(sheet.PaintAt({x, y})) ? sheet.PaintAt({x, y}) : 0;
+            paints_[static_cast<std::size_t>((y - 1) * sheet.Across() + x - 1)] = paint;
+            line[x - 1] = ToQColor(palette[static_cast<std::size_t>(paint)].Swatch).rgb();
+        }
+    }
+}
+
+void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPlace& place,
+                         const SheetLook& look) {
+    const CellRect cells = place.CellsIn(exposed, Bounds());
+    if (cells.Empty()) {
+        return;
+    }
+    const QRect shown = place.RectOf(cells);
+    painter.save();
+    painter.setClipRect(shown, Qt::IntersectClip);
+    if (!look.PhotoOnly) {
+        // The whole, cut by the clip: parts drawn by themselves would leave seams at zooms between
+        // whole pixels.
+        painter.drawImage(QRectF(place.Corner, QSizeF(cells_.size()) * place.Edge), cells_);
+    }
+    if (look.PhotoOnly || look.PhotoPercent > 0) {
+        painter.setOpacity(look.PhotoOnly ? 1 : look.PhotoPercent / 100.0);
+        PaintPhoto(painter, place);
+        painter.setOpacity(1);
+    }
+    if (look.Symbols && !look.PhotoOnly && place.Edge >= kSmallestForSymbols) {
+        PaintSymbols(painter, cells, place);
+    }
+    if (look.GridLines && place.Edge >= kSmallestForGrid) {
+        PaintGrid(painter, cells, place);
+    }
+    painter.restore();
+}
+
+// The stipples begin one pixel inside the photo.
+void SheetPainter::PaintPhoto(QPainter& painter, const SheetPlace& place) {
+    const double scale = place.Edge / stippleSize_;
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale < 1);
+    painter.translate(place.Corner);
+    painter.scale(scale, scale);
+    painter.drawImage(QPoint(-1, -1), photo_);
+    painter.restore();
+}
+
+void SheetPainter::PaintGrid(QPainter& painter, const CellRect& cells,
+                             const SheetPlace& place) const {
+    const QRect all = place.RectOf(cells);
+    // Light over dark, dark over light: neither alone shows on every paint.
+    for (const auto& [color, shift] :
+         {std::pair(QColor(0, 0, 0, 100), 0), std::pair(QColor(255, 255, 255, 70), 1)}) {
+        if (shift > 0 && place.Edge < 2 * kSmallestForGrid) {
+            return;  // two lines would leave too little of the stipple
+        }
+        painter.setPen(color);
+        for (int x = cells.Left; x <= cells.Right; ++x) {
+            const int left = place.RectOf(CellPos{x, cells.Top}).left() + shift;
+            painter.drawLine(left, all.top(), left, all.bottom());
+        }
+        for (int y = cells.Top; y <= cells.Bottom; ++y) {
+            const int top = place.RectOf(CellPos{cells.Left, y}).top() + shift;
+            painter.drawLine(all.left(), top, all.right(), top);
+        }
+    }
+}
+
+void SheetPainter::PaintSymbols(QPainter& painter, const CellRect& cells, const SheetPlace& place) {
+    const int edge = static_cast<int>(place.Edge);
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    for (int y = cells.Top; y <= cells.Bottom; ++y) {
+        for (int x = cells.Left; x <= cells.Right; ++x) {
+            const int paint = paints_[static_cast<std::size_t>((y - 1) * Across() + x - 1)];
+            if (paint > 0) {
+                painter.drawPixmap(place.RectOf(CellPos{x, y}).topLeft(),
+                                   Glyph(paint, edge, ratio));
+            }
+        }
+    }
+}
+
+const QPixmap& SheetPainter::Glyph(int paint, int edge, qreal ratio) {
+    if (edge != glyphEdge_ || glyphs_.size() != palette_.size()) {
+        glyphs_.assign(palette_.size(), {});
+        glyphEdge_ = edge;
+    }
+    QPixmap& glyph = glyphs_[static_cast<std::size_t>(paint)];
+    if (glyph.isNull()) {
+        const TouchUpPaint& look = palette_[static_cast<std::size_t>(paint)];
+        glyph = QPixmap(QSize(edge, edge) * ratio);
+        glyph.setDevicePixelRatio(ratio);
+        glyph.fill(Qt::transparent);
+        QPainter painter(&glyph);
+        QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        font.setPixelSize(std::max(8, edge * 3 / 4));
+        painter.setFont(font);
+        painter.setPen(ToQColor(InkOn(look.Swatch)));
+        painter.drawText(QRect(0, 0, edge, edge), Qt::AlignCenter, Text(look.Symbol));
+    }
+    return glyph;
+}
+
+}  // namespace vendrel

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTimer>
+#include <QToolButton>
+#include <array>
+
+#include "desktop/form_dialog.h"
+#include "desktop/paint_rows.h"
+#include "desktop/touch_up_canvas.h"
+
+namespace vendrel {
+
+/// The touch-up editor's window.
+class TouchUpDialog : public FormDialog {
+    Q_OBJECT
+
+  public:
+    TouchUpDialog(const ViewContext& context, QWidget* parent);
+
+    void Load() override;
+    void Mirror() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    void Dismiss() override { form_.Cancel_Click(); }
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void Arrange();
+    [[nodiscard]] QLayout* MakeToolRow();
+    [[nodiscard]] QWidget* MakeSide();
+    [[nodiscard]] QWidget* MakeMarkers();
+    [[nodiscard]] QWidget* MakeCleanUp();
+    [[nodiscard]] QWidget* MakeView();
+    [[nodiscard]] QLayout* MakeButtons();
+    void Connect();
+    void ConnectCanvas();
+    void ConnectTimers();
+    void AddShortcuts();
+    /// A form handler, started through the edge.
+    [[nodiscard]] std::function<void()> Handler(void (TouchUpForm::*handler)());
+    void ChooseLook();
+    void ShowPhoto(bool only);
+    void NextLoner();
+    void MirrorPalette();
+    void MirrorTools();
+    void MirrorStatus();
+    void PointedAt(CellPos at);
+    /// False while other work yields, and when the editor is closed.
+    [[nodiscard]] bool Ready() const { return form_.Open() && !Context().Works.Busy(); }
+
+    TouchUpForm form_;
+    TouchUpCanvas* canvas_;
+    std::array<QToolButton*, 5> tools_{};  // brush of one, two, three; fill; replace
+    QToolButton* undo_;
+    QToolButton* redo_;
+    QToolButton* zoomIn_;
+    QToolButton* zoomOut_;
+    QToolButton* fit_;
+    QLabel* zoom_;
+    PaintRows* palette_;
+    QCheckBox* blinkLoners_;
+    QCheckBox* blinkPaint_;
+    QPushButton* nextLoner_;
+    QLabel* loners_;
+    QToolButton* lowerLevel_;
+    QToolButton* raiseLevel_;
+    QLabel* cleanLevel_;
+    QLabel* cleanPreview_;
+    QPushButton* cleanUp_;
+    QCheckBox* gridLines_;
+    QCheckBox* symbols_;
+    QSlider* photo_;
+    QPushButton* load_;
+    QPushButton* save_;
+    QPushButton* accept_;
+    QPushButton* cancel_;
+    QLabel* status_;
+    QTimer blink_;
+    QTimer recovery_;
+    bool blinkOn_ = false;
+    std::string pointedAt_;
+};
+
+}  // namespace vendrel

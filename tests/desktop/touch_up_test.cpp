@@ -1,0 +1,220 @@
+#include <QApplication>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPaintEvent>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QWheelEvent>
+#include <filesystem>
+#include <memory>
+
+#include "convert/bitmap_writer.h"
+#include "desktop/paint_rows.h"
+#include "desktop/studio.h"
+#include "desktop/touch_up_canvas.h"
+
+namespace vendrel::test {
+namespace {
+
+// Answers questions as long as it lives.
+class Answer {
+  public:
+    explicit Answer(QMessageBox::StandardButton button) {
+        QObject::connect(&timer_, &QTimer::timeout, [this, button] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++Asked;
+                box->button(button)->click();
+            }
+        });
+        timer_.start(5);
+    }
+    int Asked = 0;
+
+  private:
+    QTimer timer_;
+};
+
+}  // namespace
+
+// The editor as a hand on mouse and keyboard meets it, on a photo of two halves.
+class TouchUpWindowTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
+    void init();
+    void cleanup();
+    void BrushRepaintsWithoutGapsAndIsUndone();
+    void FillAndReplaceFollowTheirKeys();
+    void RightClickPicksThePaint();
+    void SaveWritesTheFileAndFreesTheCancelFromItsQuestion();
+    void WheelZoomsAtThePointer();
+    void StrokesRepaintOnlyWhatTheyTouch();
+    void ClosingTheProgramWithAcceptedWorkAsks();
+
+  private:
+    [[nodiscard]] WorkState& State() { return desktop_->Place().State; }
+    [[nodiscard]] int PaintAt(int x, int y) { return State().EditStipples(x, y).ColorIndex; }
+    [[nodiscard]] QPoint At(int x, int y) const { return canvas_->MiddleOf({x, y}); }
+    [[nodiscard]] QPushButton& Button(const char* name) {
+        return Find<QPushButton>(*canvas_->window(), name);
+    }
+    [[nodiscard]] PaintRows& Rows() { return Find<PaintRows>(*canvas_->window(), "Palette"); }
+    [[nodiscard]] QString UndoText() {
+        return Find<QToolButton>(*canvas_->window(), "Undo").text();
+    }
+    void ChoosePaint(int paint) { Rows().setCurrentItem(Rows().topLevelItem(paint - 1)); }
+    void Drag(QPoint from, QPoint to) {
+        QTest::mousePress(canvas_->viewport(), Qt::LeftButton, {}, from);
+        QTest::mouseMove(canvas_->viewport(), to);
+        QTest::mouseRelease(canvas_->viewport(), Qt::LeftButton, {}, to);
+    }
+
+    std::unique_ptr<TempFolder> files_;
+    std::unique_ptr<Desktop> desktop_;
+    TouchUpCanvas* canvas_ = nullptr;
+};
+
+void TouchUpWindowTest::init() {
+    files_ = std::make_unique<TempFolder>();
+    files_->Write("Data/studiopaint.csv",
+                  "2\r\n200,0,0,Reds,R1,Red\r\n0,200,0,Greens,G1,Green\r\n");
+    files_->Write("Data/paintlist.txt", "Reds\r\nGreens\r\n");
+    Surface photo(64, 48, Rgb(200, 0, 0));
+    photo.FillRect(32, 0, 64, 48, Rgb(0, 200, 0));
+    WriteBitmap(*files_ / "Pictures/halves.bmp", photo);
+    WriteBitmap(*files_ / "Data/PBNLady.bmp", photo);
+    desktop_ = std::make_unique<Desktop>(ProgramFolder(files_->Path(), VENDREL_SOURCE_DIR));
+    QVERIFY(!desktop_->Start());
+    desktop_->Place().MainMenu[MenuId::WatchItPaint].Checked = false;
+    MainWindow& window = desktop_->Window();
+    QVERIFY(LoadFirstPhoto(window) && Choose(window, "ChangeToStipples"));
+    QVERIFY(Choose(window, "ColorPickerSelect"));
+    canvas_ = &Find<TouchUpCanvas>(window, "Canvas");
+    QVERIFY(QTest::qWaitForWindowExposed(canvas_->window()));
+    ChoosePaint(2);
+}
+
+void TouchUpWindowTest::cleanup() {
+    canvas_ = nullptr;
+    desktop_.reset();
+    files_.reset();
+}
+
+void TouchUpWindowTest::BrushRepaintsWithoutGapsAndIsUndone() {
+    QCOMPARE(PaintAt(2, 2), 1);
+    QTest::keyClick(canvas_, Qt::Key_2);
+    Drag(At(2, 2), At(9, 5));
+    for (int x = 2; x <= 10; ++x) {
+        bool painted = false;
+        for (int y = 2; y <= 6; ++y) {
+            painted = painted || PaintAt(x, y) == 2;
+        }
+        QVERIFY2(painted, qPrintable(QString::number(x)));
+    }
+    QCOMPARE(UndoText(), QStringLiteral("Undo Brush"));
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QCOMPARE(State().EditStipples, State().Stipples);
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    QCOMPARE(PaintAt(10, 6), 2);
+}
+
+void TouchUpWindowTest::FillAndReplaceFollowTheirKeys() {
+    const int whole = State().CellsAcross * State().CellsDown;
+    for (const Qt::Key key : {Qt::Key_F, Qt::Key_R}) {
+        QTest::keyClick(canvas_, key);
+        QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(1, 1));
+        QCOMPARE(Rows().topLevelItem(1)->text(2), QString::number(whole));
+        QCOMPARE(Rows().topLevelItem(0)->text(2), QStringLiteral("0"));
+        QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    }
+    // The same without a mouse: one stipple to the right, then Enter.
+    QTest::keyClick(canvas_, Qt::Key_1);
+    QTest::keyClick(canvas_, Qt::Key_Right);
+    QTest::keyClick(canvas_, Qt::Key_Return);
+    QCOMPARE(PaintAt(2, 1), 2);
+}
+
+void TouchUpWindowTest::RightClickPicksThePaint() {
+    QTest::mouseClick(canvas_->viewport(), Qt::RightButton, {}, At(1, 1));
+    QCOMPARE(Rows().indexOfTopLevelItem(Rows().currentItem()), 0);
+}
+
+void TouchUpWindowTest::SaveWritesTheFileAndFreesTheCancelFromItsQuestion() {
+    QVERIFY(!Button("LoadIt").isEnabled());
+    Drag(At(1, 1), At(3, 1));
+    {
+        const Answer no(QMessageBox::No);
+        Button("Cancel").click();
+        QCOMPARE(no.Asked, 1);
+    }
+    QVERIFY(canvas_->isVisible());
+    canvas_->window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(canvas_->window()));
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_S));
+    QVERIFY(std::filesystem::exists(*files_ / "Saved Stipples/halves-Easy.stp"));
+    QVERIFY(Button("LoadIt").isEnabled());
+    Button("Cancel").click();
+    QVERIFY(!canvas_->isVisible());
+    QVERIFY(desktop_->Window().findChild<QAction*>(QStringLiteral("LoadStipples"))->isEnabled());
+}
+
+void TouchUpWindowTest::WheelZoomsAtThePointer() {
+    const double fit = canvas_->Edge();
+    const QPoint spot = At(State().CellsAcross / 3, State().CellsDown / 2);
+    QWheelEvent turn(spot, canvas_->viewport()->mapToGlobal(spot), {}, {0, 1200}, Qt::NoButton, {},
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(canvas_->viewport(), &turn);
+    QCOMPARE(canvas_->Edge(), TouchUpCanvas::kLargestEdge);
+    const QPoint now = At(State().CellsAcross / 3, State().CellsDown / 2);
+    QVERIFY2((now - spot).manhattanLength() <= 2 * TouchUpCanvas::kLargestEdge, "it has run away");
+    QTest::keyClick(canvas_, Qt::Key_0);
+    QCOMPARE(canvas_->Edge(), fit);
+}
+
+void TouchUpWindowTest::StrokesRepaintOnlyWhatTheyTouch() {
+    struct Watch : QObject {
+        QRegion Painted;
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+            if (event->type() == QEvent::Paint) {
+                Painted |= static_cast<QPaintEvent*>(event)->region();
+            }
+            return false;
+        }
+    } watch;
+    QTest::mousePress(canvas_->viewport(), Qt::LeftButton, {}, At(2, 2));
+    QTest::mouseMove(canvas_->viewport(), At(2, 2));
+    QCoreApplication::processEvents();
+    canvas_->viewport()->installEventFilter(&watch);
+    QTest::mouseMove(canvas_->viewport(), At(4, 2));
+    QTRY_VERIFY(!watch.Painted.isEmpty());
+    const QRect touched = QRect(At(2, 2), At(4, 2)).adjusted(-30, -30, 30, 30);
+    QVERIFY2(touched.contains(watch.Painted.boundingRect()), "more was painted than was touched");
+    canvas_->viewport()->removeEventFilter(&watch);
+    QTest::mouseRelease(canvas_->viewport(), Qt::LeftButton, {}, At(4, 2));
+}
+
+void TouchUpWindowTest::ClosingTheProgramWithAcceptedWorkAsks() {
+    MainWindow& window = desktop_->Window();
+    Drag(At(1, 1), At(3, 1));
+    Button("Accept").click();
+    QVERIFY(State().HasUnsavedWork);
+    QVERIFY(std::filesystem::exists(*files_ / "Saved Stipples/halves-Easy.recovery.stp"));
+    {
+        const Answer no(QMessageBox::No);
+        QVERIFY(!window.close());
+        QVERIFY(Choose(window, "EndItAll"));
+        QCOMPARE(no.Asked, 2);
+    }
+    QVERIFY(window.isVisible());
+    const Answer yes(QMessageBox::Yes);
+    QVERIFY(window.close());
+    QCOMPARE(yes.Asked, 1);
+}
+
+}  // namespace vendrel::test
+
+QTEST_MAIN(vendrel::test::TouchUpWindowTest)
+#include "touch_up_test.moc"
