@@ -61,6 +61,7 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
         .Version = VENDREL_VERSION,
         .Decoder = parts.Decoder,
         .MakeSymbols = parts.MakeSymbols,
+        .MakeExporter = parts.MakeExporter,
         .OpenWindow = {},
         .StopAsked = &stopAsked,
     };

@@ -2,11 +2,13 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
 
 #include "convert/photo_decoder.h"
+#include "output/exporter.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
@@ -15,6 +17,7 @@ namespace vendrel {
 struct QtParts {
     const PhotoDecoder* Decoder = nullptr;
     std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols;
+    std::function<std::unique_ptr<Exporter>()> MakeExporter;
     std::function<int(const std::filesystem::path& folder, const std::filesystem::path& shipped)>
         OpenWindow;
 };

@@ -3,6 +3,7 @@
 #include "app/program.h"
 #include "desktop/desktop.h"
 #include "export/photo_reader.h"
+#include "export/qt_exporter.h"
 #include "export/symbol_maker.h"
 
 int main(int argc, char** argv) {
@@ -13,5 +14,8 @@ int main(int argc, char** argv) {
     };
     return vendrel::RunProgram(
         vendrel::WordsOf(argc, argv),
-        {.Decoder = &reader, .MakeSymbols = vendrel::MakeSymbols, .OpenWindow = openWindow});
+        {.Decoder = &reader,
+         .MakeSymbols = vendrel::MakeSymbols,
+         .MakeExporter = [] { return std::make_unique<vendrel::QtExporter>(); },
+         .OpenWindow = openWindow});
 }

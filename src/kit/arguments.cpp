@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "support/error.h"
+#include "support/letter_case.h"
 
 namespace vendrel {
 namespace {
@@ -36,14 +38,18 @@ and GIF photos are kept in Pictures as .bmp (not in builds without windows).
   --screen WIDTHxHEIGHT      sizes the picture for this screen (default 1920x1080)
   --crop [PART]              instead of stretching the photo, cuts off what does not
                              fit the sheet; keeps the centre (default) or the top
-  --outputs LIST             of sheet,painting,grid (default all)
+  --outputs LIST             of sheet,reference,painting,chart,grid,pdf (default
+                             all but pdf)
+  --paper SIZE               prints the pdf on A4 (default), Letter or A3
+  --canvas WIDTHcm           prints the pdf for a canvas this wide, as in 60cm;
+                             auto (default) is as large as legible symbols need
   --from-grid                takes the saved grid instead of converting the photo
   --replace-grid             writes over a saved grid that differs
   --json                     prints one JSON object per photo
   --quiet                    prints nothing but errors
 
 Without --sets and --template the paints are those of Data/paintlist.txt.
-Sheets and paintings go to Results, grids to "Saved Stipples".
+Pictures and pdf files go to Results, grids to "Saved Stipples".
 )";
 
 // The words of a command line, taken one by one. "--name=value" and "--name value" are the same.
@@ -155,23 +161,64 @@ ScreenSize ToScreen(std::string_view value) {
     return ScreenSize::FromPixels(width, height);
 }
 
+bool* OutputNamed(KitOutputs& outputs, std::string_view name) {
+    return name == "sheet"       ? &outputs.Sheet
+           : name == "reference" ? &outputs.Reference
+           : name == "painting"  ? &outputs.Painting
+           : name == "chart"     ? &outputs.Chart
+           : name == "grid"      ? &outputs.Grid
+           : name == "pdf"       ? &outputs.Pdf
+                                 : nullptr;
+}
+
 KitOutputs ToOutputs(std::string_view value) {
-    KitOutputs outputs{false, false, false};
+    KitOutputs outputs{.Sheet = false,
+                       .Reference = false,
+                       .Painting = false,
+                       .Chart = false,
+                       .Grid = false,
+                       .Pdf = false,
+                       .ByName = true};
     while (!value.empty()) {
         const auto comma = std::min(value.find(','), value.size());
         const std::string_view name = value.substr(0, comma);
-        if (name == "sheet") {
-            outputs.Sheet = true;
-        } else if (name == "painting") {
-            outputs.Painting = true;
-        } else if (name == "grid") {
-            outputs.Grid = true;
-        } else {
-            RefuseValue("--outputs", name, "from sheet, painting and grid, with commas between");
+        bool* const output = OutputNamed(outputs, name);
+        if (output == nullptr) {
+            RefuseValue("--outputs", name,
+                        "from sheet, reference, painting, chart, grid and pdf, with commas "
+                        "between");
         }
+        *output = true;
         value.remove_prefix(std::min(comma + 1, value.size()));
     }
     return outputs;
+}
+
+Paper ToPaper(std::string_view value) {
+    for (const auto& [name, paper] :
+         {std::pair{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}}) {
+        if (SameIgnoringCase(value, name)) {
+            return paper;
+        }
+    }
+    RefuseValue("--paper", value, "A4, Letter or A3");
+}
+
+// "60cm" or "60.5", within what can be painted; "auto" is 0.
+double ToCanvasCm(std::string_view value) {
+    if (value == "auto") {
+        return 0;
+    }
+    const std::string_view number =
+        value.ends_with("cm") ? value.substr(0, value.size() - 2) : value;
+    double width = 0;
+    const auto [end, failure] =
+        std::from_chars(number.data(), number.data() + number.size(), width);
+    if (failure != std::errc() || end != number.data() + number.size() ||
+        !(width >= kSmallestCanvasCm && width <= kLargestCanvasCm)) {
+        RefuseValue("--canvas", value, "a width from 10cm to 300cm, or auto");
+    }
+    return width;
 }
 
 CropPart ToCropPart(Words& words) {
@@ -233,6 +280,10 @@ void TakeKitOption(Words& words, KitOptions& kit) {
         kit.Screen = ToScreen(words.Value());
     } else if (option == "--outputs") {
         kit.Outputs = ToOutputs(words.Value());
+    } else if (option == "--paper") {
+        kit.Plan.Sheet = ToPaper(words.Value());
+    } else if (option == "--canvas") {
+        kit.Plan.CanvasCm = ToCanvasCm(words.Value());
     } else {
         RefuseOption(option, "vendrel kit --help");
     }

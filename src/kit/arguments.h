@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "convert/crop.h"
+#include "output/plan_layout.h"
 #include "shell/menu.h"
 #include "support/twips.h"
 
@@ -16,8 +17,12 @@ namespace vendrel {
 /// What a kit may consist of.
 struct KitOutputs {
     bool Sheet = true;
+    bool Reference = true;
     bool Painting = true;
+    bool Chart = true;
     bool Grid = true;
+    bool Pdf = false;
+    bool ByName = false;  // asked for by name, so that each is missed when it cannot be made
 };
 
 /// `vendrel kit`: photos and the settings that hold for all of them.
@@ -32,6 +37,7 @@ struct KitOptions {
     CropPart Crop = CropPart::Whole;
     ScreenSize Screen = ScreenSize::FromPixels(1920, 1080);
     KitOutputs Outputs;
+    PlanSettings Plan;  // of the PDF
     bool ReplaceGrid = false;
     bool FromGrid = false;
     bool Json = false;

@@ -3,11 +3,13 @@
 #include <atomic>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <ostream>
 #include <span>
 #include <string_view>
 
 #include "convert/photo_decoder.h"
+#include "output/exporter.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
@@ -23,6 +25,8 @@ struct Surroundings {
     const PhotoDecoder* Decoder = nullptr;
     /// Draws the symbols anew into a folder and names the file; empty where there are no fonts.
     std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols = {};
+    /// Makes what draws color charts and PDF files; empty where there are no fonts.
+    std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
     /// Opens the main window in a folder and gives the exit status; empty where there is none.
     std::function<int(const std::filesystem::path&)> OpenWindow = {};
     /// Set when the program should end: the work stops at the next stipple.

@@ -1,6 +1,7 @@
 #include "kit/kit_command.h"
 
 #include <exception>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -33,6 +34,7 @@ class KitRun {
           photos_(around.Decoder != nullptr ? *around.Decoder : noDecoder_),
           ui_(around.Err, ChatterOf(options, around), options.Screen, around.StopAsked) {
         RefuseMissingFolder();
+        MakeExporter();
         Workplace place{state_, frames_, menu_, ui_, folder_};
         PrepareSettings(place);
         (void)PrepareFolders(place);
@@ -57,13 +59,21 @@ class KitRun {
         }
     }
 
+    // Fonts take a while to load, so only for what needs them.
+    void MakeExporter() {
+        if (around_.MakeExporter && (options_.Outputs.Chart || options_.Outputs.Pdf)) {
+            exporter_ = around_.MakeExporter();
+        }
+        RequireExporter(options_.Outputs, exporter_.get());
+    }
+
     KitReport Make(const std::string& word) {
         const std::filesystem::path photo = FindPhoto(folder_, word);
         WorkState state = state_;
         Surfaces frames;
         Menu menu = menu_;
         Workplace place{state, frames, menu, ui_, folder_};
-        KitReport report = MakeKit(place, options_, photos_, photo);
+        KitReport report = MakeKit(place, options_, photos_, photo, exporter_.get());
         for (std::string& message : ui_.TakeMessages()) {
             report.Notes.push_back(std::move(message));
         }
@@ -99,6 +109,7 @@ class KitRun {
     WorkState state_;
     Surfaces frames_;
     Menu menu_;
+    std::unique_ptr<Exporter> exporter_;
 };
 
 }  // namespace

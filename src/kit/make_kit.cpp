@@ -64,23 +64,54 @@ void SaveGrid(const Workplace& place, bool replace, KitReport& report) {
     report.Files.emplace_back("grid", path.lexically_normal().string());
 }
 
-void WriteOutputs(Workplace& place, const KitOptions& options, KitReport& report) {
-    if (options.Outputs.Sheet) {
-        Timed(report, "sheet", [&] {
-            const SavedSheet sheet = WriteSheet(place);
-            report.Numbering = sheet.Counts;
-            report.Files.emplace_back("sheet", sheet.File.lexically_normal().string());
-        });
+void AddFile(KitReport& report, const char* output, const fs::path& file) {
+    report.Files.emplace_back(output, file.lexically_normal().string());
+}
+
+void WriteNumbered(const Workplace& place, const KitOutputs& outputs, KitReport& report) {
+    const SavedSheets saved =
+        WriteSheets(place, {.Sheet = outputs.Sheet, .Reference = outputs.Reference});
+    report.Numbering = saved.Counts;
+    if (outputs.Sheet) {
+        AddFile(report, "sheet", saved.Sheet);
     }
-    if (options.Outputs.Painting) {
-        Timed(report, "painting", [&] {
-            report.Files.emplace_back("painting",
-                                      PrintWorkform_Click(place).lexically_normal().string());
-        });
+    if (outputs.Reference) {
+        AddFile(report, "reference", saved.Reference);
     }
-    if (options.Outputs.Grid) {
+}
+
+void WritePrinted(const Workplace& place, const KitOptions& options, const Exporter* exporter,
+                  KitReport& report) {
+    if (exporter == nullptr) {
+        if (options.Outputs.Chart) {
+            report.Notes.emplace_back(
+                "No color chart: this build has no fonts to draw it with. Build the program with "
+                "Qt to get it.");
+        }
+        return;
+    }
+    if (options.Outputs.Chart) {
+        Timed(report, "chart", [&] { AddFile(report, "chart", exporter->WriteColorChart(place)); });
+    }
+    if (options.Outputs.Pdf) {
+        Timed(report, "pdf",
+              [&] { AddFile(report, "pdf", exporter->WriteKitPdf(place, options.Plan)); });
+    }
+}
+
+void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* exporter,
+                  KitReport& report) {
+    const KitOutputs& outputs = options.Outputs;
+    if (outputs.Sheet || outputs.Reference) {
+        Timed(report, "sheet", [&] { WriteNumbered(place, outputs, report); });
+    }
+    if (outputs.Painting) {
+        Timed(report, "painting", [&] { AddFile(report, "painting", PrintWorkform_Click(place)); });
+    }
+    if (outputs.Grid) {
         Timed(report, "grid", [&] { SaveGrid(place, options.ReplaceGrid, report); });
     }
+    WritePrinted(place, options, exporter, report);
 }
 
 int CountLoners(const WorkState& state) {
@@ -115,8 +146,16 @@ void FillFigures(const Workplace& place, KitReport& report) {
 
 }  // namespace
 
+void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
+    if (exporter == nullptr && (outputs.Pdf || (outputs.Chart && outputs.ByName))) {
+        throw Error(
+            "This build has no fonts to draw the chart and the pdf with; build it with Qt, or "
+            "choose other --outputs.");
+    }
+}
+
 KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
-                  const fs::path& photo) {
+                  const fs::path& photo, const Exporter* exporter) {
     KitReport report;
     report.Photo = photo.string();
     report.FromGrid = options.FromGrid;
@@ -130,7 +169,7 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     }
     Timed(report, "paint", [&] { PaintItNow_Click(place); });
     FillFigures(place, report);
-    WriteOutputs(place, options, report);
+    WriteOutputs(place, options, exporter, report);
     return report;
 }
 

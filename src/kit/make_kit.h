@@ -5,13 +5,18 @@
 #include "kit/arguments.h"
 #include "kit/kit_photos.h"
 #include "kit/kit_report.h"
+#include "output/exporter.h"
 #include "shell/workplace.h"
 
 namespace vendrel {
 
-/// Makes one kit in a workplace that is set up and has no photo yet. Throws Error; outputs written
-/// before the failure are whole and stay.
+/// Throws Error when outputs asked for by name need an exporter and there is none.
+void RequireExporter(const KitOutputs& outputs, const Exporter* exporter);
+
+/// Makes one kit in a workplace that is set up and has no photo yet. Without an exporter the chart
+/// is left out, and a note says so. Throws Error; outputs written before the failure are whole and
+/// stay.
 [[nodiscard]] KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
-                                const std::filesystem::path& photo);
+                                const std::filesystem::path& photo, const Exporter* exporter);
 
 }  // namespace vendrel

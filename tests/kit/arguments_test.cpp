@@ -32,6 +32,10 @@ TEST(Arguments, APhotoAloneGetsTheDefaults) {
     EXPECT_EQ(kit.Screen.Width, 1920 * 15);
     EXPECT_EQ(kit.Screen.Height, 1080 * 15);
     EXPECT_TRUE(kit.Outputs.Sheet && kit.Outputs.Painting && kit.Outputs.Grid);
+    EXPECT_TRUE(kit.Outputs.Reference && kit.Outputs.Chart);
+    EXPECT_FALSE(kit.Outputs.Pdf || kit.Outputs.ByName);
+    EXPECT_EQ(kit.Plan.Sheet, Paper::A4);
+    EXPECT_EQ(kit.Plan.CanvasCm, 0);
     EXPECT_FALSE(kit.FromGrid || kit.ReplaceGrid || kit.Json || kit.Quiet);
 }
 
@@ -42,7 +46,8 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
                                   "--sample",     "pixel",
                                   "--sets",       "Oils, Fine",
                                   "--sets=Greys", "--screen",
-                                  "800x600",      "--outputs=painting,grid",
+                                  "800x600",      "--outputs=painting,grid,pdf",
+                                  "--paper=a3",   "--canvas=60.5cm",
                                   "--from-grid",  "--replace-grid",
                                   "--json",       "--quiet",
                                   "--",           "--odd.bmp"})
@@ -54,6 +59,9 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
     EXPECT_THAT(kit.Sets, ElementsAre("Oils, Fine", "Greys"));
     EXPECT_EQ(kit.Screen.Height, 600 * 15);
     EXPECT_TRUE(!kit.Outputs.Sheet && kit.Outputs.Painting && kit.Outputs.Grid);
+    EXPECT_TRUE(kit.Outputs.Pdf && kit.Outputs.ByName && !kit.Outputs.Chart);
+    EXPECT_EQ(kit.Plan.Sheet, Paper::A3);
+    EXPECT_EQ(kit.Plan.CanvasCm, 60.5);
     EXPECT_TRUE(kit.FromGrid && kit.ReplaceGrid && kit.Json && kit.Quiet);
     EXPECT_THAT(kit.Photos, ElementsAre("a.bmp", "--odd.bmp"));
     EXPECT_EQ(Parse({"kit", "a.bmp", "--template", "Skin"}).Kit.Template, "Skin");
@@ -104,6 +112,10 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--screen", "800x600x2"}, "WIDTHxHEIGHT"},
         {{"kit", "a.bmp", "--outputs", "sheet,poster"}, "\"poster\""},
         {{"kit", "a.bmp", "--crop=left"}, "centre or top"},
+        {{"kit", "a.bmp", "--paper", "A5"}, "A4, Letter or A3"},
+        {{"kit", "a.bmp", "--canvas", "9cm"}, "10cm to 300cm"},
+        {{"kit", "a.bmp", "--canvas", "nan"}, "10cm to 300cm"},
+        {{"kit", "a.bmp", "--canvas", "60mm"}, "10cm to 300cm"},
         {{"kit", "a.bmp", "--json=yes"}, "--json takes no value"},
         {{"kit", "a.bmp", "--sets", "Oils", "--template", "Skin"}, "not by both"},
         {{"symbols", "a.bmp"}, "a.bmp"},

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <map>
+#include <memory>
 #include <set>
 
 #include "convert/bitmap_reader.h"
@@ -28,7 +30,8 @@ TEST(KitFiles, AKitIsASheetAPaintingAndAGridNamedAfterPhotoAndDifficulty) {
             << studio.Err;
         EXPECT_THAT(
             studio.Names("Results"),
-            UnorderedElementsAre("ball " + word + " PBS.BMP", "ball " + word + " Painting.BMP"));
+            UnorderedElementsAre("ball " + word + " PBS.BMP", "ball " + word + " Painting.BMP",
+                                 "ball " + word + " Symbol Reference.BMP"));
         EXPECT_THAT(studio.Names("Saved Stipples"), UnorderedElementsAre("ball-" + word + ".stp"));
         EXPECT_THAT(studio.Names("Pictures"), UnorderedElementsAre("ball.one.bmp"));
     }
@@ -140,6 +143,47 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
     EXPECT_EQ(studio.Kit({"ball.bmp", "--replace-grid"}), 0);
     EXPECT_EQ(studio.Files.Read(grid), made);
     EXPECT_THAT(studio.Out, Not(HasSubstr("different grid")));
+}
+
+// Draws nothing, but says what it was asked for.
+class NamingExporter final : public Exporter {
+  public:
+    explicit NamingExporter(std::vector<std::string>& asked) : asked_(asked) {}
+    std::filesystem::path WriteColorChart(const Workplace& /*place*/) const override {
+        asked_.emplace_back("chart");
+        return "chart.file";
+    }
+    std::filesystem::path WriteKitPdf(const Workplace& /*place*/,
+                                      const PlanSettings& settings) const override {
+        asked_.push_back("pdf " + std::to_string(std::lround(settings.CanvasCm)));
+        return "pdf.file";
+    }
+
+  private:
+    std::vector<std::string>& asked_;
+};
+
+TEST(KitFiles, ChartAndPdfComeFromTheHalfWithFonts) {
+    Studio studio;
+    studio.AddPhoto("Pictures/ball.bmp");
+    std::vector<std::string> asked;
+    studio.MakeExporter = [&asked] { return std::make_unique<NamingExporter>(asked); };
+    EXPECT_EQ(studio.Kit({"ball.bmp"}), 0);
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "pdf", "--canvas", "50cm"}), 0);
+    EXPECT_THAT(studio.Out, HasSubstr("pdf.file"));
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "sheet"}), 0);
+    EXPECT_THAT(asked, testing::ElementsAre("chart", "pdf 50"));
+}
+
+TEST(KitFiles, WithoutFontsAKitHasNoChartUnlessItWasAskedFor) {
+    Studio studio;
+    studio.AddPhoto("Pictures/ball.bmp");
+    EXPECT_EQ(studio.Kit({"ball.bmp"}), 0);
+    EXPECT_THAT(studio.Out, HasSubstr("with Qt"));
+    for (const char* output : {"chart", "pdf", "sheet,pdf"}) {
+        EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", output}), 1) << output;
+        EXPECT_THAT(studio.Err, HasSubstr("with Qt"));
+    }
 }
 
 TEST(KitFiles, FoldersAndPhotosAreFoundWhateverTheirLetters) {

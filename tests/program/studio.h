@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -40,6 +42,7 @@ class Studio {
     TempFolder Files;
     std::string Out;
     std::string Err;
+    std::function<std::unique_ptr<Exporter>()> MakeExporter;
     const PhotoDecoder* Decoder = nullptr;
 
     explicit Studio(std::filesystem::path shipped = VENDREL_SOURCE_DIR)
@@ -58,9 +61,12 @@ class Studio {
         std::ostringstream out;
         std::ostringstream err;
         const std::vector<std::string_view> views(words.begin(), words.end());
-        const int status = RunCommandLine(
-            views,
-            {.Out = out, .Err = err, .Shipped = shipped_, .Version = "1", .Decoder = Decoder});
+        const int status = RunCommandLine(views, {.Out = out,
+                                                  .Err = err,
+                                                  .Shipped = shipped_,
+                                                  .Version = "1",
+                                                  .Decoder = Decoder,
+                                                  .MakeExporter = MakeExporter});
         Out = out.str();
         Err = err.str();
         return status;
