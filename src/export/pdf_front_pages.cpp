@@ -53,9 +53,8 @@ const char* const kSteps[] = {
     "3.  Trim the pages along their crop marks on the sides where the next page lies on top.",
     "4.  Lay the round marks of neighbouring pages over one another and glue the pages together,",
     "     row by row, as the map shows.",
-    "5.  Glue the plan onto the canvas or board, or trace it, and fill every outline with the "
-    "paint",
-    "     of its symbol. Small letters are underlined, so that c and C stay apart.",
+    "5.  Glue the plan onto the canvas or board, or trace it, and fill every outline with the",
+    "     paint of its symbol. Small letters are underlined, so that c and C stay apart.",
 };
 
 double DrawSteps(QPainter& painter, double top, double width) {

@@ -73,7 +73,8 @@ int PlanPageDesign::LegendColumns(double paperWidth) {
 
 double PlanPageDesign::LegendHeight(double paperWidth, int paints) {
     const int columns = LegendColumns(paperWidth);
-    return (paints + columns - 1) / columns * kLegendRow;
+    const int rows = (paints + columns - 1) / columns;
+    return rows * kLegendRow;
 }
 
 PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
