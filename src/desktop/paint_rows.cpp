@@ -61,7 +61,7 @@ void PaintRows::ShowRow(QTreeWidgetItem& row, const TouchUpPaint& paint) {
     }
     row.setIcon(kSymbol, SwatchIcon(paint.Swatch));
     row.setText(kSymbol, Text(paint.Symbol));
-    row.setText(kName, Text(paint.Label));
+    row.setText(kName, Text(paint.Name));
     row.setToolTip(kName, Text(paint.Label));
     row.setText(kCount, QString::number(paint.Count));
     row.setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);

@@ -157,7 +157,7 @@ CellRect TouchUpCanvas::BrushAt(CellPos at) const {
 
 QRect TouchUpCanvas::CursorRect() const {
     QRect ring = place_.RectOf(cursor_);
-    const int grow = std::max(2, (kSmallestRing - ring.width()) / 2);
+    const int grow = std::max(4, (kSmallestRing - ring.width()) / 2);
     return ring.adjusted(-grow, -grow, grow, grow);
 }
 
@@ -354,7 +354,11 @@ void TouchUpCanvas::PaintPointer(QPainter& painter) const {
     };
     painter.setBrush(Qt::NoBrush);
     if (cursorShown_) {
-        outline(CursorRect().adjusted(2, 2, -2, -2));
+        const QRect ring = CursorRect().adjusted(2, 2, -2, -2);
+        outline(ring);
+        painter.setPen(kMarkColor);
+        painter.drawRect(ring.adjusted(0, 0, -1, -1));
+        painter.drawRect(ring.adjusted(1, 1, -2, -2));
     }
     if (pointer_ && drag_ != Drag::Pan) {
         outline(place_.RectOf(BrushAt(*pointer_)));

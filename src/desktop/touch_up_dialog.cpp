@@ -49,6 +49,17 @@ QToolButton* Button(const char* name, const QString& caption, const QString& hin
     return button;
 }
 
+// Some styles hardly show which button is down, dark ones above all.
+void MirrorTool(QToolButton& button, bool inHand) {
+    button.setChecked(inHand);
+    QPalette look;
+    if (inHand) {
+        look.setBrush(QPalette::Button, look.highlight());
+        look.setBrush(QPalette::ButtonText, look.highlightedText());
+    }
+    button.setPalette(look);
+}
+
 }  // namespace
 
 TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
@@ -78,6 +89,7 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       save_(Named<QPushButton>("SaveIt", tr("Save"))),
       accept_(Named<QPushButton>("Accept", tr("Accept"))),
       cancel_(Named<QPushButton>("Cancel", tr("Cancel"))),
+      pointed_(Named<QLabel>("Pointed", tr("The stipple pointed at"))),
       status_(Named<QLabel>("Status", tr("Status"))) {
     setWindowTitle(tr("Touch Up"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -207,14 +219,18 @@ QLayout* TouchUpDialog::MakeButtons() {
     accept_->setToolTip(tr("Take the touched-up stipples into the kit and close"));
     cancel_->setText(tr("Cancel"));
     auto* row = new QHBoxLayout;
-    row->addWidget(status_, 1);
+    for (QLabel* label : {pointed_, status_}) {
+        label->setTextFormat(Qt::PlainText);
+        // A long text is cut off rather than widening the window.
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+    row->addWidget(pointed_, 3);
+    row->addWidget(status_, 2);
     // Enter is the picture's key.
     for (QPushButton* button : {load_, save_, accept_, cancel_}) {
         button->setAutoDefault(false);
         row->addWidget(button);
     }
-    status_->setTextFormat(Qt::PlainText);
-    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     return row;
 }
 
@@ -275,6 +291,7 @@ void TouchUpDialog::ConnectCanvas() {
             form_.PointerTo(at);
             canvas_->Follow();
             MirrorPalette();
+            MirrorStatus();
         }
     });
     connect(canvas_, &TouchUpCanvas::Released, this,
@@ -369,8 +386,9 @@ void TouchUpDialog::MirrorPalette() {
 void TouchUpDialog::MirrorTools() {
     const TouchUpControls& shown = form_.Controls();
     for (std::size_t i = 0; i < kTools.size(); ++i) {
-        tools_[i]->setChecked(kTools[i].Tool == shown.Tool && (shown.Tool != TouchUpTool::Brush ||
-                                                               kTools[i].Size == shown.Brush.Size));
+        MirrorTool(*tools_[i],
+                   kTools[i].Tool == shown.Tool &&
+                       (shown.Tool != TouchUpTool::Brush || kTools[i].Size == shown.Brush.Size));
     }
     undo_->setText(Text(shown.UndoCaption));
     redo_->setText(Text(shown.RedoCaption));
@@ -379,14 +397,14 @@ void TouchUpDialog::MirrorTools() {
 }
 
 void TouchUpDialog::MirrorStatus() {
-    const std::string& status = form_.Controls().Status;
-    status_->setText(Text(status.empty() ? pointedAt_ : status));
+    pointed_->setText(Text(form_.Describe(pointedAt_)));
+    status_->setText(Text(form_.Controls().Status));
     status_->setToolTip(status_->text());
 }
 
 void TouchUpDialog::PointedAt(CellPos at) {
     if (form_.Open()) {
-        pointedAt_ = form_.Describe(at);
+        pointedAt_ = at;
         MirrorStatus();
     }
 }

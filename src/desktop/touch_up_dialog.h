@@ -81,11 +81,12 @@ class TouchUpDialog : public FormDialog {
     QPushButton* save_;
     QPushButton* accept_;
     QPushButton* cancel_;
+    QLabel* pointed_;
     QLabel* status_;
     QTimer blink_;
     QTimer recovery_;
     bool blinkOn_ = false;
-    std::string pointedAt_;
+    CellPos pointedAt_;  // {0, 0} for no stipple
 };
 
 }  // namespace vendrel

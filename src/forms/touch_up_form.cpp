@@ -315,8 +315,8 @@ void TouchUpForm::FollowPalette() {
     const std::vector<PaintColor>& paints = Sheet().Paints();
     controls_.Palette.resize(static_cast<std::size_t>(Sheet().PaintCount()) + 1);
     for (std::size_t i = 1; i < controls_.Palette.size(); ++i) {
-        controls_.Palette[i] = {SymbolText(static_cast<int>(i)), PaintLabel(paints[i]),
-                                ColorOf(paints[i]), paints[i].CellCount};
+        controls_.Palette[i] = {SymbolText(static_cast<int>(i)), paints[i].PaintName,
+                                PaintLabel(paints[i]), ColorOf(paints[i]), paints[i].CellCount};
     }
 }
 

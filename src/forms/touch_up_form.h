@@ -16,7 +16,8 @@ enum class TouchUpTool { Brush, Fill, Replace };
 /// A paint of the editor's palette, by index from 1.
 struct TouchUpPaint {
     std::string Symbol;
-    std::string Label;
+    std::string Name;
+    std::string Label;  // set, name and code
     Color Swatch = kBlack;
     int Count = 0;  // stipples; at 0 the row is greyed, but can be painted with again
 

@@ -88,6 +88,7 @@ TEST_F(TouchUpFormTest, OpensOnThePaletteWithNothingToUndoOrLoad) {
     EXPECT_EQ(form_->TakeDirty(), form_->Sheet().Bounds());
     ASSERT_THAT(Shown().Palette, SizeIs(5));
     EXPECT_EQ(Shown().Palette[1].Symbol, "1");
+    EXPECT_EQ(Shown().Palette[1].Name, "Red");
     EXPECT_EQ(Shown().Palette[1].Label, "Reds: Red [R1]");
     EXPECT_EQ(Shown().Palette[1].Swatch, Rgb(230, 20, 20));
     EXPECT_EQ(Shown().UndoCaption, "Undo");
