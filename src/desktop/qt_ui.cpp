@@ -52,7 +52,10 @@ void QtUi::ShowMessage(std::string_view title, std::string_view sentence) {
 }
 
 bool QtUi::Ask(std::string_view title, std::string_view question) {
-    return QMessageBox::question(MessageParent(), Text(title), Text(question)) == QMessageBox::Yes;
+    // Most questions are about losing work: Enter pressed in haste must not say yes.
+    return QMessageBox::question(MessageParent(), Text(title), Text(question),
+                                 QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
 }
 
 void QtUi::Yield() {
