@@ -94,6 +94,7 @@ void MainWindow::OpenForm(FormId form) {
     std::unique_ptr<FormDialog>& dialog = dialogs_[form];
     dialog = MakeDialog(form, {place_, form_, edge_}, this);
     if (dialog) {
+        dialog->resize(dialog->size().boundedTo(screen()->availableSize() - kWindowFrame));
         dialog->open();
         dialog->Load();
         dialog->Mirror();

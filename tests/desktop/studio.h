@@ -2,7 +2,9 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <filesystem>

@@ -1,6 +1,4 @@
 #include <QAbstractButton>
-#include <QListWidget>
-#include <QPushButton>
 #include <QSignalSpy>
 
 #include "desktop/about_dialog.h"

@@ -1,6 +1,3 @@
-#include <QElapsedTimer>
-#include <QListWidget>
-#include <QPushButton>
 #include <sstream>
 #include <string_view>
 #include <vector>
@@ -59,11 +56,13 @@ class WorkflowTest : public QObject {
         QVERIFY(LoadFirstPhoto(window));
         QVERIFY(watched || Choose(window, "WatchItPaint"));
         QVERIFY(Choose(window, "ChangeToStipples"));
-        QTimer::singleShot(150, &window, [&] { QTest::keyClick(&window, Qt::Key_Escape); });
-        QElapsedTimer clock;
-        clock.start();
+        bool ended = !watched;
+        QTimer::singleShot(150, &window, [&] {
+            QTest::keyClick(&window, Qt::Key_Escape);
+            ended = !desktop.Place().Screen.Watched();
+        });
         QVERIFY(Choose(window, "PaintItNow"));
-        QVERIFY2(clock.elapsed() < ShowPace::kDuration, "Escape ends the show");
+        QVERIFY2(ended, "Escape ends the show");
         QVERIFY(Choose(window, "PrintAll"));
         const std::string sheet = "Results/PBNLady " + word.toStdString() + " PBS.BMP";
         QVERIFY(Find<QLabel>(window, "StatusHint").text().contains(QString::fromStdString(sheet)));
