@@ -48,10 +48,12 @@ void QtUi::SetPointer(Pointer pointer) {
 }
 
 void QtUi::ShowMessage(std::string_view title, std::string_view sentence) {
+    host_.Mirror();  // what stands behind the message is the state it speaks of
     QMessageBox::information(MessageParent(), Text(title), Text(sentence));
 }
 
 bool QtUi::Ask(std::string_view title, std::string_view question) {
+    host_.Mirror();
     // Most questions are about losing work: Enter pressed in haste must not say yes.
     return QMessageBox::question(MessageParent(), Text(title), Text(question),
                                  QMessageBox::Yes | QMessageBox::No,

@@ -11,6 +11,8 @@ void KitPdfForm::SaveButton_Click() {
     {
         const BusyPointer busy(place_.Screen);
         file = exporter_.WriteKitPdf(place_, settings_);
+        place_.Screen.ReportProgress(0, 0);
+        place_.Screen.SetCaption("Vendrel -" + place_.State.PictureName);
     }
     place_.Screen.CloseForm(FormId::KitPdf);
     if (place_.Screen.Ask("Save Kit as PDF",
