@@ -1,6 +1,7 @@
 #include "export/kit_pdf.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QHashFunctions>
 #include <QtCore/QMarginsF>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPdfWriter>
@@ -47,6 +48,15 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
     kit.Place.Screen.ReportProgress(0, 0);
 }
 
+// Fonts and pictures are written in the order of hash tables, which the toolkit seeds by chance.
+class SteadyHashes {
+  public:
+    SteadyHashes() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~SteadyHashes() { QHashSeed::resetRandomGlobalSeed(); }
+    SteadyHashes(const SteadyHashes&) = delete;
+    SteadyHashes& operator=(const SteadyHashes&) = delete;
+};
+
 // The hour of printing says nothing about a kit, and with it no two files would be alike. Takes
 // the same room, for the file is full of byte positions.
 void FixDate(QByteArray& pdf) {
@@ -72,6 +82,7 @@ std::filesystem::path WriteKitPdf(const Workplace& place, const PlanSettings& se
     const PrintSymbols symbols;
     const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
     const KitPages kit{place, plan, symbols, SizeOf(settings.Sheet)};
+    const SteadyHashes steady;
     QByteArray pdf;
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
