@@ -23,9 +23,6 @@ Outcome Edge::Run(const std::function<void()>& work, Entry entry) {
     ++depth_;
     const Outcome outcome = Try(work, message);
     --depth_;
-    if (outcome == Outcome::Failed) {
-        emit Failed();
-    }
     emit Finished();
     if (outcome == Outcome::Ended) {
         emit Ended();

@@ -23,8 +23,6 @@ class Edge : public QObject {
 
   signals:
     void Started();
-    /// Work failed; pointer and menus have to be put back. The message follows.
-    void Failed();
     /// Work is over, however it went: what is on screen has to follow the state.
     void Finished();
     /// The program ends.

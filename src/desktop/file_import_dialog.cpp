@@ -125,7 +125,7 @@ void FileImportDialog::ShowPreview() {
     const FileImportControls& shown = form_.Controls();
     description_->setText(Text(shown.Description));
     if (shown.Preview.Empty()) {
-        preview_->setText(tr("No photo chosen"));
+        preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));
     } else {
         preview_->setPixmap(QPixmap::fromImage(ToImage(shown.Preview)));
     }

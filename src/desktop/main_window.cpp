@@ -41,7 +41,6 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
     connect(actions_, &MenuActions::Chosen, this, &MainWindow::Choose);
     connect(workFrame_, &PictureView::Clicked, this, [this] { ui_.EndShow(); });
     connect(&edge_, &Edge::Started, this, [this] { ui_.StartWork(); });
-    connect(&edge_, &Edge::Failed, this, [this] { form_.Recover(); });
     connect(&edge_, &Edge::Finished, this, [this] {
         if (!edge_.Busy()) {
             ui_.FinishWork();

@@ -95,15 +95,6 @@ void MainForm::Click(MenuId entry) {
     }
 }
 
-void MainForm::Recover() {
-    for (const MenuId entry :
-         {FileHeader, Difficulty, SetPaintMax, TemplateMenu, ShowAbout, EndItAll}) {
-        place_.MainMenu[entry].Enabled = true;
-    }
-    place_.Screen.ReportProgress(0, 0);
-    place_.Screen.SetPointer(Pointer::Normal);
-}
-
 std::string MainForm::StatusHint() const {
     const Menu& menu = place_.MainMenu;
     if (!lastSaved_.empty()) {

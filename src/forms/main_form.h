@@ -23,8 +23,6 @@ class MainForm {
 
     /// What choosing a menu entry does.
     void Click(MenuId entry);
-    /// Puts pointer and menus back after an operation that failed half-way.
-    void Recover();
     /// The sentence for the status bar: what to do next.
     [[nodiscard]] std::string StatusHint() const;
 

@@ -123,6 +123,7 @@ class WorkflowTest : public QObject {
         }
         QVERIFY(Find<QWidget>(desktop.Window(), "CaptureFrame").isVisible());
         QVERIFY(QApplication::overrideCursor() == nullptr);
+        QVERIFY2(!Choose(desktop.Window(), "TemplateMenu"), "nothing is on that was off");
         fs::remove(studio.Files / "Pictures/A.bmp");
         QVERIFY(LoadFirstPhoto(desktop.Window()));
         QVERIFY(Find<QWidget>(desktop.Window(), "WorkFrame").isVisible());

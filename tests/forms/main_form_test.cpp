@@ -264,19 +264,12 @@ TEST_F(MainFormTest, TheChooserShowsFoldersPreviewsAndTakesPhotosFromElsewhere) 
     EXPECT_EQ(chooser.Controls().FileIndex, 1) << "the photo at work is proposed";
 }
 
-TEST_F(MainFormTest, MatcherExitAndRecoveryAfterAFailure) {
+TEST_F(MainFormTest, TheMatcherNeedsAGridAndExitEnds) {
     form_.Form_Load();
     studio_.MainMenu[NextBestColors].Enabled = true;
     form_.Click(NextBestColors);
     EXPECT_EQ(studio_.Screen.Messages.size(), 1U);
     EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
-    for (const MenuId entry : {FileHeader, Difficulty, EndItAll}) {
-        studio_.MainMenu[entry].Enabled = false;
-    }
-    studio_.Screen.SetPointer(Pointer::Busy);
-    form_.Recover();
-    EXPECT_TRUE(On(FileHeader) && On(Difficulty) && On(EndItAll));
-    EXPECT_EQ(studio_.Screen.LastPointer, Pointer::Normal);
     EXPECT_THROW(form_.Click(EndItAll), Stop);
     EXPECT_EQ(studio_.Screen.Captions.back(), "Unloading...");
 }
