@@ -12,8 +12,8 @@ constexpr std::chrono::milliseconds kRedrawPause{50};
 }  // namespace
 
 std::string_view StageOf(std::string_view caption) {
-    const auto digit = std::find_if(caption.begin(), caption.end(),
-                                    [](char c) { return c >= '0' && c <= '9'; });
+    const auto digit =
+        std::find_if(caption.begin(), caption.end(), [](char c) { return c >= '0' && c <= '9'; });
     auto end = static_cast<std::size_t>(digit - caption.begin());
     for (const std::string_view lead : {" with ", " For "}) {
         if (const auto at = caption.find(lead); at != caption.npos) {
