@@ -33,7 +33,7 @@ class KitRun {
           folder_(options.Folder, around.Shipped),
           photos_(around.Decoder != nullptr ? *around.Decoder : noDecoder_),
           ui_(around.Err, ChatterOf(options, around), options.Screen, around.StopAsked) {
-        RefuseMissingFolder();
+        MakeFolder();
         MakeExporter();
         Workplace place{state_, frames_, menu_, ui_, folder_};
         PrepareSettings(place);
@@ -53,9 +53,12 @@ class KitRun {
     }
 
   private:
-    void RefuseMissingFolder() const {
+    void MakeFolder() const {
+        std::error_code failure;
+        std::filesystem::create_directories(options_.Folder, failure);
         if (!std::filesystem::is_directory(options_.Folder)) {
-            throw FileError(options_.Folder, "is no folder. Create it or name another.");
+            throw FileError(options_.Folder, "is no folder and cannot become one (" +
+                                                 failure.message() + "). Name another.");
         }
     }
 
