@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "convert/bitmap_reader.h"
+#include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
-#include "convert/scaling.h"
 #include "forms/photo_intake.h"
+#include "forms/photo_look.h"
+#include "forms/reading_shown.h"
 #include "paints/restore.h"
 #include "shell/menu.h"
 #include "storage/load_stipples.h"
@@ -20,13 +21,9 @@ namespace fs = std::filesystem;
 
 constexpr int kPreviewEdge = 260;  // pixels
 
-Surface Shrink(Surface photo) {
-    const int longer = std::max(photo.Width(), photo.Height());
-    if (longer <= kPreviewEdge) {
-        return photo;
-    }
-    return ScaleTo(photo, std::max(1, photo.Width() * kPreviewEdge / longer),
-                   std::max(1, photo.Height() * kPreviewEdge / longer));
+const PhotoDecoder& OrNone(const PhotoDecoder* decoder) {
+    static const NoPhotoDecoder none;
+    return decoder != nullptr ? *decoder : none;
 }
 
 bool Holds(const std::vector<std::string>& list, int index) {
@@ -34,6 +31,9 @@ bool Holds(const std::vector<std::string>& list, int index) {
 }
 
 }  // namespace
+
+FileImport::FileImport(Workplace& place, const PhotoDecoder* decoder)
+    : place_(place), decoder_(OrNone(decoder)), crop_(place) {}
 
 void FileImport::Remember() {
     const WorkState& state = place_.State;
@@ -73,7 +73,7 @@ void FileImport::Form_Load() {
 void FileImport::ShowFolder(const fs::path& folder) {
     controls_.Folder = fs::absolute(folder).lexically_normal();
     controls_.ImportDir = ListFolders(controls_.Folder);
-    controls_.ImportFile = ListPhotos(controls_.Folder);
+    controls_.ImportFile = ListPhotos(controls_.Folder, decoder_.Endings());
     const auto chosen = std::find(controls_.ImportFile.begin(), controls_.ImportFile.end(),
                                   ChosenPhoto().filename().string());
     const bool listed =
@@ -120,18 +120,70 @@ fs::path FileImport::ChosenPhoto() const {
 void FileImport::ShowPreview() {
     controls_.Preview = {};
     controls_.Description.clear();
+    controls_.CropEnabled = false;
     const fs::path photo = ChosenPhoto();
     if (photo.empty()) {
         return;
     }
     try {
-        Surface picture = ReadBitmap(photo);
-        controls_.Description = photo.filename().string() + "\n" + std::to_string(picture.Width()) +
-                                " x " + std::to_string(picture.Height()) + " pixels";
-        controls_.Preview = Shrink(std::move(picture));
+        Describe(photo);
     } catch (const Error& error) {
         // Looking is not choosing: OK is where a broken photo is refused.
         controls_.Description = error.what();
+    }
+}
+
+void FileImport::Describe(const fs::path& photo) {
+    controls_.Description = photo.filename().string();
+    const Surface picture = ReadAnyPhoto(place_, photo, decoder_);
+    const BitmapSize size =
+        NeedsDecoder(photo) ? decoder_.Size(photo) : BitmapSize{picture.Width(), picture.Height()};
+    PhotoLook look = LookAt(picture, TargetOf(place_), kPreviewEdge);
+    controls_.Description += "\n" + std::to_string(size.Width) + " x " +
+                             std::to_string(size.Height) + " pixels\n" + look.Stretch;
+    controls_.Preview = std::move(look.Picture);
+    controls_.CropEnabled = look.CropHelps;
+}
+
+void FileImport::CropButton_Click() {
+    const fs::path photo = ChosenPhoto();
+    if (controls_.CropEnabled) {
+        crop_.Open(ReadAnyPhoto(place_, photo, decoder_),
+                   NeedsDecoder(photo) ? PictureStem(photo) : photo.filename().string(),
+                   [this](const std::string& file) { ChooseCrop(file); });
+    }
+}
+
+void FileImport::ChooseCrop(const std::string& pictureFile) {
+    place_.State.PictureFile = pictureFile;
+    clicked_.clear();
+    controls_.Description.clear();
+    ShowFolder(place_.Folder.Path("Pictures"));
+    controls_.DriveIndex = DriveOf(controls_.ImportDrive, controls_.Folder);
+}
+
+std::string FileImport::TakeIn(const fs::path& photo) {
+    const ReadingShown reading(place_.Screen);
+    return TakeIntoPictures(place_.Folder, photo, decoder_, reading.Progress());
+}
+
+void FileImport::TakePhoto(const fs::path& photo) {
+    if (MayReplaceGrid(place_)) {
+        LoadUnchosen(TakeIn(photo));
+    }
+}
+
+void FileImport::TakePicture(const Surface& picture) {
+    if (MayReplaceGrid(place_)) {
+        LoadUnchosen(KeepPicture(place_.Folder, kPastedStem, picture));
+    }
+}
+
+void FileImport::LoadUnchosen(const std::string& pictureFile) {
+    Remember();
+    place_.MainMenu[MenuId::PrintMenu].Enabled = false;
+    if (ChoosePhoto(place_, pictureFile)) {
+        LoadChosen();
     }
 }
 
@@ -145,8 +197,7 @@ void FileImport::OKButton_Click() {
     if (!MayReplaceGrid(place_)) {
         return;
     }
-    const std::string file =
-        clicked_.empty() ? state.PictureFile : TakeIntoPictures(place_.Folder, clicked_);
+    const std::string file = clicked_.empty() ? state.PictureFile : TakeIn(clicked_);
     if (ChoosePhoto(place_, file)) {
         place_.Screen.CloseForm(FormId::FileImport);
         LoadChosen();

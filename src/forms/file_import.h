@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "convert/photo_decoder.h"
+#include "forms/crop_photo.h"
 #include "forms/folder_lists.h"
 #include "shell/workplace.h"
 #include "support/surface.h"
@@ -18,15 +20,17 @@ struct FileImportControls {
     std::vector<std::string> ImportDir;  // ".." first where there is a parent
     std::vector<std::string> ImportFile;
     int FileIndex = -1;
-    Surface Preview;          // the photo that OK takes, small; empty when it cannot be shown
-    std::string Description;  // its name and size, or why it cannot be read
+    Surface Preview;          // the photo that OK takes, small and in the sheet's shape, or empty
+    std::string Description;  // its name, size and stretch, or why it cannot be read
+    bool CropEnabled = false;
 };
 
 /// The photo chooser. Load Photo empties the work area before it opens; Cancel and photos that
 /// cannot be read put everything back.
 class FileImport {
   public:
-    explicit FileImport(Workplace& place) : place_(place) {}
+    /// `decoder` reads the photos that are no bitmaps; without one only bitmaps are listed.
+    explicit FileImport(Workplace& place, const PhotoDecoder* decoder = nullptr);
 
     /// Notes how things stand, for Cancel.
     void Remember();
@@ -40,8 +44,16 @@ class FileImport {
     /// taken into the pictures folder.
     void OKButton_Click();
     void CancelButton_Click();
+    /// Opens the crop window over the chosen photo. Throws Error.
+    void CropButton_Click();
+
+    /// Takes a photo without the chooser, as OK does. Throws Error; nothing has changed then.
+    void TakePhoto(const std::filesystem::path& photo);
+    /// The same for a picture that is no file yet; it has pixels.
+    void TakePicture(const Surface& picture);
 
     [[nodiscard]] const FileImportControls& Controls() const { return controls_; }
+    [[nodiscard]] CropPhoto& Crop() { return crop_; }
 
   private:
     /// What Load Photo and an import that fails change.
@@ -60,10 +72,16 @@ class FileImport {
 
     [[nodiscard]] std::filesystem::path ChosenPhoto() const;
     void ShowPreview();
+    void Describe(const std::filesystem::path& photo);
+    void ChooseCrop(const std::string& pictureFile);
+    [[nodiscard]] std::string TakeIn(const std::filesystem::path& photo);
+    void LoadUnchosen(const std::string& pictureFile);
     void LoadChosen();
     void PutBack();
 
     Workplace& place_;
+    const PhotoDecoder& decoder_;
+    CropPhoto crop_;
     FileImportControls controls_;
     std::filesystem::path clicked_;  // empty until a file is clicked
     Before before_;

@@ -46,11 +46,6 @@ bool IsFolder(const fs::directory_entry& entry) {
     return entry.is_directory(failure);
 }
 
-bool IsPhoto(const fs::directory_entry& entry) {
-    std::error_code failure;
-    return LowerCase(entry.path().extension().string()) == ".bmp" && entry.is_regular_file(failure);
-}
-
 void AddMounted(std::vector<Drive>& drives, const fs::path& folder) {
     for (const std::string& name : NamesIn(folder, IsFolder)) {
         drives.push_back({name, folder / name});
@@ -99,8 +94,16 @@ std::vector<std::string> ListFolders(const fs::path& folder) {
     return names;
 }
 
-std::vector<std::string> ListPhotos(const fs::path& folder) {
-    return NamesIn(folder, IsPhoto);
+std::vector<std::string> ListPhotos(const fs::path& folder,
+                                    const std::vector<std::string>& endings) {
+    return NamesIn(folder, [&endings](const fs::directory_entry& entry) {
+        std::error_code failure;
+        const std::string ending = LowerCase(entry.path().extension().string());
+        return (ending == ".bmp" ||
+                (!ending.empty() &&
+                 std::ranges::find(endings, ending.substr(1)) != endings.end())) &&
+               entry.is_regular_file(failure);
+    });
 }
 
 }  // namespace vendrel

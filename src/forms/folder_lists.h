@@ -20,7 +20,9 @@ struct Drive {
 /// Names of the subfolders, sorted, hidden ones left out; ".." stands first where there is a
 /// parent. A folder that cannot be read lists nothing else.
 [[nodiscard]] std::vector<std::string> ListFolders(const std::filesystem::path& folder);
-/// Names of the bitmap photos of a folder, sorted, hidden ones left out.
-[[nodiscard]] std::vector<std::string> ListPhotos(const std::filesystem::path& folder);
+/// Names of the photos of a folder, sorted, hidden ones left out: bitmaps, and files with one of
+/// these endings (lower case, without the dot).
+[[nodiscard]] std::vector<std::string> ListPhotos(const std::filesystem::path& folder,
+                                                  const std::vector<std::string>& endings = {});
 
 }  // namespace vendrel

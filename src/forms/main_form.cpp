@@ -101,7 +101,7 @@ std::string MainForm::StatusHint() const {
         return "Saved " + lastSaved_;
     }
     if (!place_.State.PictureLoaded) {
-        return "Choose a photo: Picture, Load Photo.";
+        return "Choose a photo: Picture, Load Photo. Or drop one here.";
     }
     if (menu[PrintMenu].Enabled) {
         return "Save your kit: Picture, Save, Prepair and Save Paint by Symbol.";
@@ -125,6 +125,20 @@ void MainForm::LoadBMP_Click() {
     chooser_.ShowFolder(place_.Folder.Path("Pictures"));
     place_.MainMenu[PrintMenu].Enabled = false;
     place_.Screen.OpenForm(FormId::FileImport);
+}
+
+void MainForm::TakePhoto(const fs::path& photo) {
+    lastSaved_.clear();
+    chooser_.TakePhoto(photo);
+}
+
+void MainForm::PastePicture(const Surface& picture) {
+    if (picture.Empty()) {
+        place_.Screen.ShowMessage("Nothing To Paste", "Copy a picture or a photo's file first.");
+        return;
+    }
+    lastSaved_.clear();
+    chooser_.TakePicture(picture);
 }
 
 void MainForm::LoadStipples_Click() {

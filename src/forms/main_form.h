@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "convert/photo_decoder.h"
 #include "forms/file_import.h"
 #include "output/exporter.h"
 #include "shell/menu.h"
@@ -14,9 +15,11 @@ namespace vendrel {
 /// throw Error and leave its telling to the window; Stop ends the program.
 class MainForm {
   public:
-    /// `exporter` writes what needs fonts; a window always has one.
-    explicit MainForm(Workplace& place, const Exporter* exporter = nullptr)
-        : place_(place), exporter_(exporter), chooser_(place) {}
+    /// `exporter` writes what needs fonts, `decoder` reads photos that are no bitmaps; a window
+    /// always has both.
+    explicit MainForm(Workplace& place, const Exporter* exporter = nullptr,
+                      const PhotoDecoder* decoder = nullptr)
+        : place_(place), exporter_(exporter), chooser_(place, decoder) {}
 
     /// Starts the program. Throws Stop when it ran here for the first time and has said so.
     void Form_Load();
@@ -52,6 +55,11 @@ class MainForm {
     void WatchItPaint_Click();
     void ShowAbout_Click();
     void EndItAll_Click();
+
+    /// A photo was dropped on the window, or its file pasted.
+    void TakePhoto(const std::filesystem::path& photo);
+    /// A picture was pasted; empty when there was none.
+    void PastePicture(const Surface& picture);
 
     /// Whether the program may end now: asks when touched-up stipples would be lost.
     [[nodiscard]] bool MayEnd();

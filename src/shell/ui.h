@@ -14,6 +14,7 @@ enum class Pointer { Normal, Busy };
 /// The windows beside the main one.
 enum class FormId {
     FileImport,
+    CropPhoto,
     PaintShop,
     TouchUp,
     ColorChart,

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "convert/crop.h"
+#include "convert/photo_decoder.h"
+#include "shell/workplace.h"
+#include "support/surface.h"
+
+namespace vendrel {
+
+/// The sheet that a photo would be painted on now.
+[[nodiscard]] CropTarget TargetOf(const Workplace& place);
+
+/// A photo of any format at its size, under the busy pointer and with progress. Throws FileError,
+/// FormatError, Stop.
+[[nodiscard]] Surface ReadAnyPhoto(Workplace& place, const std::filesystem::path& photo,
+                                   const PhotoDecoder& decoder);
+
+/// A photo before it is chosen.
+struct PhotoLook {
+    Surface Picture;         // small, stretched as the sheet will be; as it is when no sheet fits
+    std::string Stretch;     // the sentence on it
+    bool CropHelps = false;  // it is stretched so much that it shows, and a part would not be
+};
+
+/// `photo` has pixels. `edge` is the length of the preview's longer side in pixels, at most.
+[[nodiscard]] PhotoLook LookAt(const Surface& photo, const CropTarget& target, int edge);
+
+}  // namespace vendrel
