@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "desktop/main_window.h"
+#include "export/photo_reader.h"
 #include "export/qt_exporter.h"
 #include "support/program_folder.h"
 
@@ -26,7 +27,8 @@ class Desktop {
     QtUi ui_{menu_};
     Workplace place_{state_, frames_, menu_, ui_, folder_};
     QtExporter exporter_;
-    MainForm form_{place_, &exporter_};
+    PhotoReader reader_;
+    MainForm form_{place_, &exporter_, &reader_};
     MainWindow window_{place_, form_, ui_};
 };
 

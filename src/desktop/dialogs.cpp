@@ -3,6 +3,7 @@
 #include "desktop/about_dialog.h"
 #include "desktop/color_chart_dialog.h"
 #include "desktop/color_matcher_dialog.h"
+#include "desktop/crop_photo_dialog.h"
 #include "desktop/file_import_dialog.h"
 #include "desktop/kit_pdf_dialog.h"
 #include "desktop/paint_shop_dialog.h"
@@ -15,6 +16,8 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
     switch (form) {
         case FormId::FileImport:
             return std::make_unique<FileImportDialog>(context, parent);
+        case FormId::CropPhoto:
+            return std::make_unique<CropPhotoDialog>(context, parent);
         case FormId::PaintShop:
             return std::make_unique<PaintShopDialog>(context, parent);
         case FormId::ColorChart:

@@ -37,14 +37,15 @@ FileImportDialog::FileImportDialog(const ViewContext& context, QWidget* parent)
       importFile_(Named<QListWidget>("ImportFile", tr("Photos"))),
       preview_(Named<QLabel>("Preview", tr("Preview of the photo"))),
       description_(Named<QLabel>("Description", tr("About the photo"))),
+      cropButton_(Named<QPushButton>("CropButton", tr("Crop to Fit"))),
       okButton_(Named<QPushButton>("OKButton", tr("OK"))),
       cancelButton_(Named<QPushButton>("CancelButton", tr("Cancel"))) {
     setWindowTitle(tr("Load Photo"));
     Arrange();
     Connect();
-    SetTabOrder({importDrive_, importDir_, importFile_, okButton_, cancelButton_});
+    SetTabOrder({importDrive_, importDir_, importFile_, cropButton_, okButton_, cancelButton_});
     importFile_->setFocus();
-    resize(820, 440);
+    resize(820, 500);
 }
 
 void FileImportDialog::Arrange() {
@@ -52,6 +53,9 @@ void FileImportDialog::Arrange() {
     okButton_->setDefault(true);
     cancelButton_->setText(tr("Cancel"));
     cancelButton_->setAutoDefault(false);
+    cropButton_->setText(tr("&Crop to Fit"));
+    cropButton_->setAutoDefault(false);
+    cropButton_->setToolTip(tr("Keep the part of the photo that the sheet shows unstretched"));
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(okButton_, QDialogButtonBox::AcceptRole);
     buttons->addButton(cancelButton_, QDialogButtonBox::RejectRole);
@@ -69,7 +73,7 @@ void FileImportDialog::Arrange() {
                                LabelFor(*importDir_, tr("F&olders")), importDir_}),
                        2);
     columns->addLayout(Column({LabelFor(*importFile_, tr("&Photos")), importFile_}), 3);
-    columns->addLayout(Column({new QLabel(tr("Preview")), preview_, description_}));
+    columns->addLayout(Column({new QLabel(tr("Preview")), preview_, description_, cropButton_}));
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(columns, 1);
     rows->addWidget(folder_);
@@ -84,6 +88,8 @@ void FileImportDialog::Connect() {
     OnChosen(*importFile_,
              [this](int file) { Run([this, file] { form_.ImportFile_Click(file); }); });
     connect(importFile_, &QListWidget::itemDoubleClicked, okButton_, &QPushButton::click);
+    connect(cropButton_, &QPushButton::clicked, this,
+            [this] { Run([this] { form_.CropButton_Click(); }); });
     connect(okButton_, &QPushButton::clicked, this,
             [this] { Run([this] { form_.OKButton_Click(); }); });
     connect(cancelButton_, &QPushButton::clicked, this, &FileImportDialog::reject);
@@ -124,6 +130,7 @@ void FileImportDialog::Mirror() {
 void FileImportDialog::ShowPreview() {
     const FileImportControls& shown = form_.Controls();
     description_->setText(Text(shown.Description));
+    cropButton_->setEnabled(shown.CropEnabled);
     if (shown.Preview.Empty()) {
         preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));
     } else {

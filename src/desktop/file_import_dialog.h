@@ -36,6 +36,7 @@ class FileImportDialog : public FormDialog {
     QListWidget* importFile_;
     QLabel* preview_;
     QLabel* description_;
+    QPushButton* cropButton_;
     QPushButton* okButton_;
     QPushButton* cancelButton_;
 };

@@ -1,14 +1,21 @@
 #include "desktop/main_window.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
-#include <QGuiApplication>
+#include <QDragEnterEvent>
+#include <QFile>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSessionManager>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QStyle>
+#include <QWindow>
+#include <memory>
 
+#include "desktop/arrivals.h"
 #include "desktop/dialogs.h"
 #include "desktop/text.h"
 
@@ -35,9 +42,12 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
       hint_(new QLabel),
       progress_(new QProgressBar) {
     setObjectName(QStringLiteral("Main"));
+    setAcceptDrops(true);
     Arrange();
     ui_.Attach({[this] { Mirror(); }, [this](FormId id) { OpenForm(id); },
                 [this](FormId id) { CloseForm(id); }, this});
+    connect(new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, this,
+            [this] { TakeIn(*QGuiApplication::clipboard()->mimeData()); });
     connect(actions_, &MenuActions::Chosen, this, &MainWindow::Choose);
     connect(workFrame_, &PictureView::Clicked, this, [this] { ui_.EndShow(); });
     connect(&edge_, &Edge::Started, this, [this] { ui_.StartWork(); });
@@ -90,10 +100,16 @@ void MainWindow::Choose(MenuId entry) {
 }
 
 void MainWindow::OpenForm(FormId form) {
+    const QWidget* below = QApplication::activeModalWidget();
     std::unique_ptr<FormDialog>& dialog = dialogs_[form];
     dialog = MakeDialog(form, {place_, form_, edge_}, this);
     if (dialog) {
         dialog->resize(dialog->size().boundedTo(screen()->availableSize() - kWindowFrame));
+        if (below != nullptr) {
+            // Over the dialog it was opened from, which waits for it.
+            dialog->winId();
+            dialog->windowHandle()->setTransientParent(below->windowHandle());
+        }
         dialog->open();
         dialog->Load();
         dialog->Mirror();
@@ -174,6 +190,39 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
         ui_.EndShow();
     }
     QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!edge_.Busy() && MayBePhoto(*event->mimeData())) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    TakeIn(*event->mimeData());
+}
+
+void MainWindow::TakeIn(const QMimeData& arriving) {
+    if (edge_.Busy()) {
+        return;
+    }
+    // Later: whoever is dragging waits until the drop has been answered.
+    const auto arrival = std::make_shared<Arrival>(ArrivalOf(arriving));
+    QMetaObject::invokeMethod(
+        this,
+        [this, arrival] {
+            edge_.Run([&] {
+                if (arrival->File.isEmpty()) {
+                    form_.PastePicture(arrival->Picture);
+                } else {
+                    form_.TakePhoto(QFile::encodeName(arrival->File).toStdString());
+                }
+            });
+        },
+        Qt::QueuedConnection);
 }
 
 bool MainWindow::MayEnd() {

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QSessionManager>
@@ -30,10 +31,13 @@ class MainWindow : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     void Arrange();
     void Choose(MenuId entry);
+    void TakeIn(const QMimeData& arriving);
     void OpenForm(FormId form);
     void CloseForm(FormId form);
     void MirrorPictures();

@@ -134,13 +134,14 @@ void FileImport::ShowPreview() {
 }
 
 void FileImport::Describe(const fs::path& photo) {
-    controls_.Description = photo.filename().string();
+    const std::string name = photo.filename().string();
+    controls_.Description = name + "\nReading ...";
     const Surface picture = ReadAnyPhoto(place_, photo, decoder_);
     const BitmapSize size =
         NeedsDecoder(photo) ? decoder_.Size(photo) : BitmapSize{picture.Width(), picture.Height()};
     PhotoLook look = LookAt(picture, TargetOf(place_), kPreviewEdge);
-    controls_.Description += "\n" + std::to_string(size.Width) + " x " +
-                             std::to_string(size.Height) + " pixels\n" + look.Stretch;
+    controls_.Description = name + "\n" + std::to_string(size.Width) + " x " +
+                            std::to_string(size.Height) + " pixels\n" + look.Stretch;
     controls_.Preview = std::move(look.Picture);
     controls_.CropEnabled = look.CropHelps;
 }

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "desktop/crop_view.h"
+#include "desktop/form_dialog.h"
+#include "forms/crop_photo.h"
+
+namespace vendrel {
+
+/// The crop window over the photo chooser.
+class CropPhotoDialog : public FormDialog {
+    Q_OBJECT
+
+  public:
+    CropPhotoDialog(const ViewContext& context, QWidget* parent);
+
+    void Load() override {}  // the chooser has filled the form
+    void Mirror() override;
+
+  protected:
+    void Dismiss() override { form_.CancelButton_Click(); }
+
+  private:
+    void Arrange();
+    void Connect();
+
+    CropPhoto& form_;
+    CropView* view_;
+    QLabel* description_;
+    QPushButton* turnLeft_;
+    QPushButton* turnRight_;
+    QPushButton* okButton_;
+    QPushButton* cancelButton_;
+};
+
+}  // namespace vendrel
