@@ -18,6 +18,7 @@ class Desktop {
     [[nodiscard]] std::optional<int> Start();
     [[nodiscard]] MainWindow& Window() { return window_; }
     [[nodiscard]] Workplace& Place() { return place_; }
+    [[nodiscard]] MainForm& Form() { return form_; }
 
   private:
     ProgramFolder folder_;
