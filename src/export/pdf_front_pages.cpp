@@ -50,7 +50,8 @@ void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) 
 const char* const kSteps[] = {
     "1.  Print all pages at their actual size (100 %), never fitted to the paper.",
     "2.  Measure the ruler below: it must be exactly 5 cm long.",
-    "3.  Trim the pages along their crop marks on the sides where the next page lies on top.",
+    "3.  Trim each page along its crop marks on its left and its top, where it will lie on a page",
+    "     that was laid before it.",
     "4.  Lay the round marks of neighbouring pages over one another and glue the pages together,",
     "     row by row, as the map shows.",
     "5.  Glue the plan onto the canvas or board, or trace it, and fill every outline with the",

@@ -99,17 +99,16 @@ void PlanPage::DrawOutlines() {
 }
 
 void PlanPage::DrawSymbols() {
-    const PlanRect part = InPixels(tile_.Shown);
+    const PlanRect own = InPixels(tile_.Own);
+    const PlanRect shown = InPixels(tile_.Shown);
+    const SymbolAspects aspects = kit_.Symbols.Aspects();
     painter_.setPen(kSymbolInk);
     for (const PlanLabel& label : kit_.Plan.Labels) {
-        const double reach = label.Height / 2;
-        if (label.Centre.X - reach < part.Left || label.Centre.X + reach > part.Right ||
-            label.Centre.Y - reach < part.Top || label.Centre.Y + reach > part.Bottom) {
-            continue;
-        }
         const int paint = kit_.Plan.Regions.List[static_cast<std::size_t>(label.Region)].Paint;
-        kit_.Symbols.Draw(painter_, paint, At(label.Centre),
-                          Mm(label.Height * kit_.Plan.MmPerPixel));
+        if (IsLabelOn(label, aspects[static_cast<std::size_t>(paint)], own, shown)) {
+            kit_.Symbols.Draw(painter_, paint, At(label.Centre),
+                              Mm(label.Height * kit_.Plan.MmPerPixel));
+        }
     }
 }
 

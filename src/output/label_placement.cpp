@@ -15,6 +15,9 @@ constexpr double kFill = 0.9;
 // A second symbol in a region helps only when it can be read about as well as the first.
 constexpr double kSmallestRepeat = 0.7;
 
+// Symbols of one region stand this many of their heights apart at least.
+constexpr double kApart = 1.5;
+
 class Placement {
   public:
     Placement(const PaintedRegions& regions, const LabelRules& rules)
@@ -22,10 +25,13 @@ class Placement {
 
     std::vector<PlanLabel> Run() {
         AddPieces({}, [](const PlanLabel&, const PlanLabel&) { return false; });
-        AddPieces({rules_.PageColumns, rules_.PageRows},
-                  [this](const auto& one, const auto& other) {
-                      return PageOf(one.Centre) == PageOf(other.Centre);
-                  });
+        AddPieces({rules_.PageColumns, rules_.PageRows}, [this](const auto& one,
+                                                                const auto& other) {
+            // Pages overlap: a symbol close behind the cut is on this page too, and two
+            // of them would be printed into one another.
+            return PageOf(one.Centre) == PageOf(other.Centre) ||
+                   Distance(one.Centre, other.Centre) < kApart * std::max(one.Height, other.Height);
+        });
         if (rules_.LatticeStep >= 1) {
             const std::vector<int> columns = Lattice(regions_.Ids.Across());
             const std::vector<int> rows = Lattice(regions_.Ids.Down());
@@ -94,6 +100,17 @@ class Placement {
 
 std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const LabelRules& rules) {
     return Placement(regions, rules).Run();
+}
+
+bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own, const PlanRect& shown) {
+    const auto [x, y] = label.Centre;
+    if (x >= own.Left && x <= own.Right && y >= own.Top && y <= own.Bottom) {
+        return true;
+    }
+    const double reachX = label.Height * aspect / 2;
+    const double reachY = label.Height / 2;
+    return x - reachX >= shown.Left && x + reachX <= shown.Right && y - reachY >= shown.Top &&
+           y + reachY <= shown.Bottom;
 }
 
 double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects) {

@@ -34,6 +34,11 @@ struct LabelRules {
 [[nodiscard]] std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions,
                                                  const LabelRules& rules);
 
+/// Whether a page draws a label: its middle lies in the page's own share, or all of it in what the
+/// page shows. So every label is on some page. Both parts in picture pixels.
+[[nodiscard]] bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own,
+                             const PlanRect& shown);
+
 /// Height in pixels of the smallest symbol when every region has one as tall as fits.
 [[nodiscard]] double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects);
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "cleanup/easel.h"
 #include "cleanup/paint_pass.h"
@@ -51,6 +52,26 @@ TEST_F(PlannedPicture, TakesTheCanvasAskedForAndThePagesItNeeds) {
             return label.Centre.X >= own.Left && label.Centre.X <= own.Right &&
                    label.Centre.Y >= own.Top && label.Centre.Y <= own.Bottom;
         })) << tile.Name();
+    }
+}
+
+TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndNoneIntoAnother) {
+    for (const double canvas : {15.0, 37.3, 60.0, 111.0}) {
+        const PrintPlan plan = Plan({.Sheet = Paper::A4, .CanvasCm = canvas});
+        const auto inPixels = [&plan](const PlanRect& part) {
+            return PlanRect{part.Left / plan.MmPerPixel, part.Top / plan.MmPerPixel,
+                            part.Right / plan.MmPerPixel, part.Bottom / plan.MmPerPixel};
+        };
+        for (const PlanLabel& label : plan.Labels) {
+            EXPECT_TRUE(std::ranges::any_of(plan.Pages.Tiles, [&](const PageTile& tile) {
+                return IsLabelOn(label, 0.7, inPixels(tile.Own), inPixels(tile.Shown));
+            })) << canvas;
+            for (const PlanLabel& other : plan.Labels) {
+                const double apart =
+                    std::hypot(label.Centre.X - other.Centre.X, label.Centre.Y - other.Centre.Y);
+                EXPECT_TRUE(&label == &other || apart > std::max(label.Height, other.Height));
+            }
+        }
     }
 }
 
