@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
-#include <new>
 #include <random>
 #include <vector>
 
@@ -82,7 +81,7 @@ bool cDIBSection::CreateDIB(int width, int height) {
                             " pixels wide is wider than can be held. Make a narrower one.");
     }
     const BitmapInfoHeader header = MakeInfoHeader(width, height);
-    bits_.reset(new (std::nothrow) std::uint8_t[header.SizeImage]());
+    bits_.reset(static_cast<std::uint8_t*>(std::calloc(header.SizeImage, 1)));
     if (!bits_) {
         return false;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 
 #include "shell/ui.h"
@@ -91,7 +92,11 @@ class cDIBSection {
     void ResampleDib(cDIBSection& target) const;
 
     BitmapInfoHeader header_;
-    std::unique_ptr<std::uint8_t[]> bits_;
+    struct FreeBits {
+        void operator()(std::uint8_t* bits) const { std::free(bits); }
+    };
+    // Cleared by the system as it is touched: a sheet of 33 MB is not written twice.
+    std::unique_ptr<std::uint8_t[], FreeBits> bits_;
 };
 
 }  // namespace vendrel
