@@ -50,7 +50,7 @@ void Copy(const fs::path& from, const fs::path& to) {
 }  // namespace
 
 std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo) {
-    const fs::path target = folder.Path("Pictures") / photo.filename();
+    const fs::path target = folder.Path("Pictures/" + photo.filename().string());
     std::error_code ignored;
     if (fs::equivalent(photo, target, ignored)) {
         return target.filename().string();

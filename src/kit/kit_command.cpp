@@ -37,9 +37,9 @@ class KitRun {
         MakeExporter();
         Workplace place{state_, frames_, menu_, ui_, folder_};
         PrepareSettings(place);
-        (void)PrepareFolders(place);
         PreparePaints(place);
         ApplySettings(place, options_);
+        (void)PrepareFolders(place);  // last: a wrong setting leaves nothing behind
     }
 
     [[nodiscard]] bool Photo(const std::string& word) {

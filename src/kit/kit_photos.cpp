@@ -15,9 +15,9 @@ std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
                               const std::filesystem::path& photo) {
     const bool decode = NeedsDecoder(photo);
     if (!decode) {
-        Claim(photo, PictureNameOf(photo));
-        // A file that is no whole bitmap must not even reach the Pictures folder.
+        // A file that is no whole bitmap must not even reach the Pictures folder, nor take a name.
         (void)BitmapFile(photo);
+        Claim(photo, PictureNameOf(photo));
     }
     const std::string taken = decode ? Decode(place, photo) : TakeIntoPictures(place.Folder, photo);
     const std::string picture = CropInPictures(
@@ -43,6 +43,11 @@ std::string KitPhotos::Decode(Workplace& place, const std::filesystem::path& pho
 // Two kits of one name would take each other's place; letters of another case do not help, as some
 // disks do not tell them apart.
 void KitPhotos::Claim(const std::filesystem::path& photo, const std::string& name) {
+    if (name.empty()) {
+        throw FileError(photo,
+                        "has nothing before its first dot, which is what a kit is named "
+                        "after. Rename it.");
+    }
     if (std::ranges::any_of(
             names_, [&name](const std::string& other) { return SameIgnoringCase(name, other); })) {
         throw FileError(photo, "another photo of this run is named \"" + name +

@@ -28,14 +28,26 @@ void TerminalUi::SetCaption(std::string_view caption) {
         return;
     }
     const bool newStage = StageOf(caption) != StageOf(caption_);
+    if (newStage) {
+        PrintStage();
+    }
     caption_ = caption;
-    if (chatter_ == Chatter::Stages && newStage) {
-        out_ << caption_ << '\n';
-    } else if (chatter_ == Chatter::Progress) {
+    if (newStage) {
+        PrintStage();
+    }
+    if (chatter_ == Chatter::Progress) {
         if (newStage) {
             percent_ = -1;
         }
         DrawLine(newStage);
+    }
+}
+
+// A log gets the first and the last caption of each stage: where it began and where it ended.
+void TerminalUi::PrintStage() {
+    if (chatter_ == Chatter::Stages && caption_ != printed_) {
+        out_ << caption_ << '\n';
+        printed_ = caption_;
     }
 }
 
@@ -77,7 +89,9 @@ void TerminalUi::ClearLine() {
         out_ << kWipe << std::flush;
         lineShown_ = false;
     }
+    PrintStage();
     caption_.clear();
+    printed_.clear();
 }
 
 }  // namespace vendrel

@@ -57,12 +57,14 @@ class TerminalUi : public Ui {
 
   private:
     void DrawLine(bool atOnce);
+    void PrintStage();
 
     std::ostream& out_;
     Chatter chatter_;
     ScreenSize screen_;
     const std::atomic<bool>* stopAsked_;
     std::string caption_;
+    std::string printed_;  // the caption a log shows last
     int percent_ = -1;
     bool lineShown_ = false;
     std::chrono::steady_clock::time_point lastDrawn_{};

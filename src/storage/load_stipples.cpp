@@ -6,6 +6,7 @@
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
 #include "storage/stipple_file.h"
+#include "support/error.h"
 #include "support/text_file.h"
 
 namespace vendrel {
@@ -25,10 +26,24 @@ CellPos PhotoCells(const Workplace& place) {
             state.PictureHeight / twips.Y / state.StippleSize};
 }
 
+std::string SizeText(int across, int down) {
+    return std::to_string(across) + " x " + std::to_string(down);
+}
+
+// Reading would run past the end of the file; its counts are right, the photo is another one.
+void RefuseTooFew(const std::filesystem::path& path, const StippleHeader& header, CellPos size) {
+    if (header.Across * header.Down < size.X * size.Y) {
+        throw FileError(path, "was saved for " + SizeText(header.Across, header.Down) +
+                                  " stipples, too few for the photo's " + SizeText(size.X, size.Y) +
+                                  ". Load the photo it was saved from, or convert this one.");
+    }
+}
+
 LoadedGrid ReadGrid(const std::filesystem::path& path, CellPos size) {
     const std::string text = ReadTextFile(path);
     StippleFileReader reader(text, path);
     LoadedGrid loaded{reader.Header(), reader.ReadPalette(), {size.X, size.Y}};
+    RefuseTooFew(path, loaded.Header, size);
     for (int y = 1; y <= size.Y; ++y) {
         reader.ReadRow(loaded.Cells, y, size.X);
     }
@@ -47,10 +62,6 @@ void Commit(WorkState& state, LoadedGrid loaded) {
     state.CellMarks = Grid<CellMark>(state.CellsAcross, state.CellsDown);
 }
 
-std::string SizeText(int across, int down) {
-    return std::to_string(across) + " x " + std::to_string(down);
-}
-
 void TellOtherSize(const Workplace& place, const std::filesystem::path& path,
                    const StippleHeader& header) {
     const WorkState& state = place.State;
@@ -62,8 +73,7 @@ void TellOtherSize(const Workplace& place, const std::filesystem::path& path,
         path.filename().string() + " was saved for " + SizeText(header.Across, header.Down) +
             " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
             ". It was read with the photo's size. If the picture looks jumbled, load the photo "
-            "again "
-            "and convert it afresh.");
+            "again and convert it afresh.");
 }
 
 }  // namespace

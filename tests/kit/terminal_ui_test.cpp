@@ -27,15 +27,18 @@ void Work(TerminalUi& ui) {
     ui.SetCaption("Getting Colors");
 }
 
-TEST(TerminalUi, LogsGetEachStageOnceInARow) {
+TEST(TerminalUi, LogsGetTheBeginningAndTheEndOfEachStage) {
     std::ostringstream out;
     TerminalUi ui(out, Chatter::Stages, kScreen);
     Work(ui);
     EXPECT_EQ(out.str(),
               "Getting Colors\n"
               "Matching Paint Sets to 2 Colors\n"
+              "Matching Paint Sets to 3 Colors\n"
               "Painting with Oils Ochre [3]\n"
+              "Painting with Oils Umber [1]\n"
               "Finding Borders and Numbers For Ochre\n"
+              "Finding Borders and Numbers For Umber\n"
               "Getting Colors\n");
 }
 
