@@ -43,7 +43,7 @@ Rows Areas(const WorkState& state) {
 TEST(AreaSearch, NumbersAreasByPaintThenByFirstCell) {
     struct Case {
         const char* what;
-        std::initializer_list<std::string_view> grid;
+        std::vector<std::string_view> grid;
         Rows areas;
         int count;
     };

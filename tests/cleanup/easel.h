@@ -1,7 +1,7 @@
 #pragma once
 
-#include <initializer_list>
 #include <string_view>
+#include <vector>
 
 #include "shell/recorder.h"
 
@@ -10,8 +10,8 @@ namespace vendrel::test {
 /// A converted grid ready to be painted. Paints 1..9 are the digits of `rows`, 0 is no paint;
 /// paint p has the colour (20 p, 10, p).
 struct Easel : Bench {
-    Easel(int size, std::initializer_list<std::string_view> rows)
-        : Easel(size, static_cast<int>(rows.begin()->size()), static_cast<int>(rows.size())) {
+    Easel(int size, const std::vector<std::string_view>& rows)
+        : Easel(size, static_cast<int>(rows.front().size()), static_cast<int>(rows.size())) {
         int y = 0;
         for (const std::string_view row : rows) {
             ++y;
