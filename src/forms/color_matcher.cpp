@@ -17,7 +17,7 @@ namespace vendrel {
 namespace {
 
 void RequireGrid(const WorkState& state) {
-    if (!state.PictureLoaded || !state.StipplesMade || state.PaintCount == 0) {
+    if (!state.PictureLoaded || state.Stipples.Across() < 1 || state.PaintCount == 0) {
         throw Error(
             "The photo has no stipples yet. Choose \"Change To Stipples\" in the Picture menu "
             "first.");
@@ -60,8 +60,7 @@ void ColorMatcher::Form_Load() {
         rows_.push_back({state.PaintColors[k], state.PaintColors[k], counts[k], shares[k - 1]});
     }
     chosen_ = 1;
-    preview_ = DrawSmall(state);
-    FindOffers();
+    Changed();
 }
 
 void ColorMatcher::Source_Click(MatchSource source) {
@@ -85,6 +84,18 @@ std::vector<PaintColor> ColorMatcher::Palette() const {
     return palette;
 }
 
+// The palette as it is, and what the other paints may be put back to: were one of those offered,
+// putting it back would have it there twice.
+std::vector<PaintColor> ColorMatcher::Taken() const {
+    std::vector<PaintColor> taken = Palette();
+    for (std::size_t k = 1; k < rows_.size(); ++k) {
+        if (static_cast<int>(k) != chosen_) {
+            taken.push_back(rows_[k].Original);
+        }
+    }
+    return taken;
+}
+
 void ColorMatcher::FindOffers() {
     const WorkState& state = place_.State;
     std::vector<PaintColor> candidates;
@@ -95,7 +106,7 @@ void ColorMatcher::FindOffers() {
             candidates.push_back(paint);
         }
     }
-    offers_ = FindNextBest(rows_[static_cast<std::size_t>(chosen_)].Original, candidates, Palette(),
+    offers_ = FindNextBest(rows_[static_cast<std::size_t>(chosen_)].Original, candidates, Taken(),
                            kOffers);
 }
 
@@ -137,7 +148,7 @@ void ColorMatcher::ShowPreview() {
 }
 
 void ColorMatcher::AcceptButton_Click() {
-    if (!MayReplaceGrid(place_)) {
+    if (rows_.size() <= 1 || !MayReplaceGrid(place_)) {
         return;
     }
     place_.Screen.CloseForm(FormId::ColorMatcher);
@@ -150,6 +161,7 @@ void ColorMatcher::CancelButton_Click() {
 }
 
 std::string ColorMatcher::SaveTemplate_Click() {
+    RequireGrid(place_.State);
     const std::string name = FreeTemplateName(
         place_, CleanTemplateName(place_.State.PictureName + " " +
                                   std::string(DifficultyWord(place_.MainMenu)) + " " +

@@ -57,6 +57,7 @@ class ColorMatcher {
 
   private:
     [[nodiscard]] std::vector<PaintColor> Palette() const;
+    [[nodiscard]] std::vector<PaintColor> Taken() const;
     void FindOffers();
     void ShowPreview();
     void Changed();

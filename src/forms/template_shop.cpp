@@ -233,8 +233,8 @@ void TemplateShop::Export_Click(const std::filesystem::path& file) const {
 
 // A template in use may have been changed here, and the photo is to be converted again in any case.
 void TemplateShop::Done_Click() {
-    RestorePaintColors(place_);
     place_.Screen.CloseForm(FormId::TemplateShop);
+    RestorePaintColors(place_);
 }
 
 std::vector<std::string> TemplateShop::Sets() const {

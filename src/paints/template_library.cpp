@@ -72,10 +72,15 @@ std::string CleanTemplateName(std::string_view name) {
 }
 
 void RenameTemplate(Workplace& place, std::string_view from, std::string_view to) {
-    if (!SameIgnoringCase(from, to)) {
+    CheckSpelling(to);
+    if (from == to) {
+        return;
+    }
+    // Only the case may change, unless another template has just that spelling.
+    const std::vector<std::string> names = ListTemplates(place);
+    if (!SameIgnoringCase(from, to) || std::ranges::find(names, to) != names.end()) {
         CheckNewTemplateName(place, to);
     }
-    CheckSpelling(to);
     const fs::path file = TemplatePath(place, from);
     std::error_code failure;
     fs::rename(file, file.parent_path() / (std::string(to) + ".csv"), failure);
@@ -105,7 +110,9 @@ void DeleteTemplate(Workplace& place, std::string_view name) {
     if (state.SelectedTemplate == name) {
         state.SelectedTemplate.clear();
         state.TemplateMode = false;
+        state.TemplateLoaded = false;
         state.MfgSelected = true;
+        state.FinalColors = WantedFinalColors(place.MainMenu);
     }
 }
 

@@ -76,6 +76,16 @@ TEST(ColorMatcher, PutsBackOneOrAll) {
     EXPECT_EQ(matcher.Form.Preview().Get(0, 0), Rgb(200, 0, 0));
 }
 
+TEST(ColorMatcher, NeverHoldsAPaintTwiceAndTakesALoadedGrid) {
+    Matcher matcher;
+    matcher.State.StipplesMade = false;  // as after loading a saved grid
+    matcher.Form.Form_Load();
+    matcher.Form.Source_Click(MatchSource::WholeCatalogue);
+    matcher.Form.Exchange_Click(0);  // Red gives way to Ochre
+    matcher.Form.PaintList_Click(2);
+    EXPECT_THAT(matcher.Offered(), ElementsAre("Night"));  // Red may be put back
+}
+
 TEST(ColorMatcher, AsksBeforeTouchUpsAreWipedAndSavesNumberedTemplates) {
     Matcher matcher;
     matcher.Form.Exchange_Click(0);
