@@ -45,6 +45,7 @@ TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
     }
     opening_ = {state.FoundColors, state.FoundCount, {},
                 state.CellsAcross, state.CellsDown,  state.FinalColors};
+    wantedAtOpening_ = WantedFinalColors(place_.MainMenu);
     unsavedAtOpening_ = state.HasUnsavedWork;
     // The file of work that was only accepted is still in use, not left over.
     recoveryOffered_ = !state.HasUnsavedWork && RecoveryExists(place_);
@@ -139,9 +140,17 @@ CellRect TouchUp::Redo() {
 CellRect TouchUp::AfterStep(CellRect dirty) {
     if (!dirty.Empty()) {
         timer_.NoteChange();
-        SetColorChecks(place_.MainMenu, place_.State.FinalColors);
+        ShowFinalColors();
     }
     return dirty;
+}
+
+// The kit itself may use fewer paints than its menu asks for, as with a small template; only a
+// load or a recovery brings another count.
+void TouchUp::ShowFinalColors() {
+    const int finalColors = place_.State.FinalColors;
+    SetColorChecks(place_.MainMenu,
+                   finalColors == opening_.FinalColors ? wantedAtOpening_ : finalColors);
 }
 
 void TouchUp::SaveIt_Click() {
@@ -172,7 +181,7 @@ CellRect TouchUp::LoadIt_Click() {
         ReadIntoSheet(reader, path, place_.State);
     }
     savedId_ = history_.StateId();
-    SetColorChecks(place_.MainMenu, place_.State.FinalColors);
+    ShowFinalColors();
     return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
 }
 
@@ -212,7 +221,7 @@ void TouchUp::Cancel() {
     state.FoundCount = opening_.FoundCount;
     state.EditStipples = {};
     state.HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
-    SetColorChecks(place_.MainMenu, state.FinalColors);
+    ShowFinalColors();
 }
 
 CellRect TouchUp::TakeRecovery() {
@@ -240,7 +249,7 @@ CellRect TouchUp::TakeRecovery() {
     sheet_.Exchange(found);
     sheet_.Recount();
     recoveryOffered_ = false;
-    SetColorChecks(place_.MainMenu, state.FinalColors);
+    ShowFinalColors();
     return sheet_.Bounds();
 }
 

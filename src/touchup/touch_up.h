@@ -90,6 +90,7 @@ class TouchUp {
     void PushStroke(std::string name);
     void PushLoad(std::string name);
     CellRect AfterStep(CellRect dirty);
+    void ShowFinalColors();
     void WriteRecovery();
     void MakeRoomForRecovery();
     [[nodiscard]] bool IsSaved() const { return history_.StateId() == savedId_ && !pen_.Drew(); }
@@ -104,7 +105,8 @@ class TouchUp {
     bool drawing_ = false;
     int savedId_ = -1;  // state of the history that the saved grid holds
     bool recoveryOffered_ = false;
-    SheetContents opening_;  // without the grid: Stipples still hold it
+    SheetContents opening_;    // without the grid: Stipples still hold it
+    int wantedAtOpening_ = 0;  // final paints checked in the menu
     bool unsavedAtOpening_ = false;
 };
 

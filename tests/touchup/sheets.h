@@ -17,6 +17,7 @@ class KitBench : public Bench {
     explicit KitBench(const Rows& rows, int paints = 9) {
         MainMenu[MenuId::EasySet].Checked = true;
         State.PictureName = "Lady";
+        SetColorChecks(MainMenu, State.FinalColors);
         MakeKit(rows, paints);
     }
 

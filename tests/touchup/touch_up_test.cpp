@@ -20,6 +20,7 @@ using testing::ThrowsMessage;
 constexpr const char* kSaved = "Saved Stipples/Lady-Easy.stp";
 constexpr const char* kRecovery = "Saved Stipples/Lady-Easy.recovery.stp";
 const std::string kRed = "1,2,3,\"Red\",1,\"Set\",\"R\"\r\n";
+constexpr const char* kFourReds = "0,1,5,5\r\n0,1,13,5\r\n0,1,5,13\r\n0,1,13,13\r\n";
 
 EditTime At(int second) {
     return EditTime{} + std::chrono::seconds(second);
@@ -128,6 +129,27 @@ TEST(Cancelling, PutsTheKitBackAsItWas) {
     EXPECT_EQ(bench.State.CellsDown, 2);
     EXPECT_EQ(KitBench::Shown(bench.State.Stipples), (Rows{"123", "123"}));
     EXPECT_FALSE(bench.State.HasUnsavedWork);
+}
+
+TEST(FinalPaints, StayCheckedAsAtTheOpeningUntilALoadBringsOthers) {
+    KitBench bench({"12", "12"}, 2);
+    bench.Files.Write(kSaved, "1,2,2,16\r\n" + kRed + kFourReds);
+    bench.State.FinalColors = 12;  // a template of twelve paints, while the menu asks for fifty
+    const auto checked = [&] { return WantedFinalColors(bench.MainMenu); };
+    TouchUp editor(bench.Place);
+    editor.Fill({1, 1}, 2);
+    editor.Undo();
+    editor.Redo();
+    EXPECT_EQ(checked(), 50);
+    editor.LoadIt_Click();
+    EXPECT_EQ(checked(), 16);
+    editor.Undo();
+    EXPECT_EQ(checked(), 50);
+    editor.Redo();
+    EXPECT_EQ(checked(), 16);
+    editor.Cancel();
+    EXPECT_EQ(checked(), 50);
+    EXPECT_EQ(bench.State.FinalColors, 12);
 }
 
 TEST(SavingAndLoading, BringsGridAndPaintsBackAsOneStep) {
