@@ -169,23 +169,27 @@ std::string FileImport::TakeIn(const fs::path& photo) {
 }
 
 void FileImport::TakePhoto(const fs::path& photo) {
-    if (MayReplaceGrid(place_)) {
-        LoadUnchosen(TakeIn(photo));
+    GridReplacement replacement(place_);
+    if (replacement.Allowed() && LoadUnchosen(TakeIn(photo))) {
+        replacement.Done();
     }
 }
 
 void FileImport::TakePicture(const Surface& picture) {
-    if (MayReplaceGrid(place_)) {
-        LoadUnchosen(KeepPicture(place_.Folder, kPastedStem, picture));
+    GridReplacement replacement(place_);
+    if (replacement.Allowed() && LoadUnchosen(KeepPicture(place_.Folder, kPastedStem, picture))) {
+        replacement.Done();
     }
 }
 
-void FileImport::LoadUnchosen(const std::string& pictureFile) {
+bool FileImport::LoadUnchosen(const std::string& pictureFile) {
     Remember();
     place_.MainMenu[MenuId::PrintMenu].Enabled = false;
-    if (ChoosePhoto(place_, pictureFile)) {
+    const bool isPhoto = ChoosePhoto(place_, pictureFile);
+    if (isPhoto) {
         LoadChosen();
     }
+    return isPhoto;
 }
 
 void FileImport::OKButton_Click() {
@@ -195,13 +199,15 @@ void FileImport::OKButton_Click() {
         return;
     }
     // Before the photo's name changes: what is unsaved goes by it.
-    if (!MayReplaceGrid(place_)) {
+    GridReplacement replacement(place_);
+    if (!replacement.Allowed()) {
         return;
     }
     const std::string file = clicked_.empty() ? state.PictureFile : TakeIn(clicked_);
     if (ChoosePhoto(place_, file)) {
         place_.Screen.CloseForm(FormId::FileImport);
         LoadChosen();
+        replacement.Done();
     }
 }
 

@@ -75,7 +75,7 @@ class FileImport {
     void Describe(const std::filesystem::path& photo);
     void ChooseCrop(const std::string& pictureFile);
     [[nodiscard]] std::string TakeIn(const std::filesystem::path& photo);
-    void LoadUnchosen(const std::string& pictureFile);
+    [[nodiscard]] bool LoadUnchosen(const std::string& pictureFile);
     void LoadChosen();
     void PutBack();
 

@@ -141,17 +141,21 @@ void MainForm::PastePicture(const Surface& picture) {
     chooser_.TakePicture(picture);
 }
 
-void MainForm::LoadStipples_Click() {
-    if (MayReplaceGrid(place_)) {
-        vendrel::LoadStipples_Click(place_);
+void MainForm::Replace(const std::function<void()>& step) {
+    GridReplacement replacement(place_);
+    if (replacement.Allowed()) {
+        step();
+        replacement.Done();
     }
+}
+
+void MainForm::LoadStipples_Click() {
+    Replace([this] { vendrel::LoadStipples_Click(place_); });
 }
 
 void MainForm::StartupPaintShop_Click() {
     // The shop takes the palette apart as soon as it opens.
-    if (MayReplaceGrid(place_)) {
-        place_.Screen.OpenForm(FormId::PaintShop);
-    }
+    Replace([this] { place_.Screen.OpenForm(FormId::PaintShop); });
 }
 
 void MainForm::ChangeToStipples_Click() {
@@ -159,9 +163,7 @@ void MainForm::ChangeToStipples_Click() {
         place_.Screen.ShowMessage("No Photo Loaded", "Choose a photo first: Picture, Load Photo.");
         return;
     }
-    if (MayReplaceGrid(place_)) {
-        vendrel::ChangeToStipples_Click(place_);
-    }
+    Replace([this] { vendrel::ChangeToStipples_Click(place_); });
 }
 
 void MainForm::ColorPickerSelect_Click() {
@@ -214,12 +216,15 @@ void MainForm::HardSet_Click() {
 }
 
 void MainForm::SetDifficulty(MenuId level, int stippleSize) {
+    place_.MainMenu[LoadBMP].Enabled = true;
+    if (!place_.MainMenu[level].Checked) {
+        Replace([&] { TakeDifficulty(level, stippleSize); });
+    }
+}
+
+void MainForm::TakeDifficulty(MenuId level, int stippleSize) {
     WorkState& state = place_.State;
     Menu& menu = place_.MainMenu;
-    menu[LoadBMP].Enabled = true;
-    if (menu[level].Checked || !MayReplaceGrid(place_)) {
-        return;
-    }
     // First, as a photo that is gone by now must leave the old difficulty as it is.
     SetStippleSize(place_, stippleSize);
     for (const MenuId entry : {EasySet, MediumSet, HardSet}) {
@@ -253,22 +258,21 @@ void MainForm::Set50Colors_Click() {
 }
 
 void MainForm::SetFinalPaints(int finalColors) {
-    if (!MayReplaceGrid(place_)) {
-        return;
-    }
-    const BusyPointer busy(place_.Screen);
-    place_.State.FinalColors = finalColors;
-    SetColorChecks(place_.MainMenu, finalColors);
-    RefreshPhotoImage(place_);
-    SetupMenuItems(place_.MainMenu, 2);
-    RestorePaintColors(place_);
+    Replace([&] {
+        const BusyPointer busy(place_.Screen);
+        place_.State.FinalColors = finalColors;
+        SetColorChecks(place_.MainMenu, finalColors);
+        RefreshPhotoImage(place_);
+        SetupMenuItems(place_.MainMenu, 2);
+        RestorePaintColors(place_);
+    });
 }
 
 void MainForm::RunTemplateShop_Click() {
-    if (MayReplaceGrid(place_)) {
+    Replace([this] {
         SetupMenuItems(place_.MainMenu, 2);
         place_.Screen.OpenForm(FormId::TemplateShop);
-    }
+    });
 }
 
 void MainForm::NextBestColors_Click() {
@@ -284,23 +288,21 @@ void MainForm::NextBestColors_Click() {
 }
 
 void MainForm::AveragePixel_Click() {
-    if (!MayReplaceGrid(place_)) {
-        return;
-    }
-    Menu& menu = place_.MainMenu;
-    menu[AveragePixel].Checked = !menu[AveragePixel].Checked;
-    menu[SamplePixel].Checked = !menu[AveragePixel].Checked;
-    SampleMethodChanged();
+    Replace([this] {
+        Menu& menu = place_.MainMenu;
+        menu[AveragePixel].Checked = !menu[AveragePixel].Checked;
+        menu[SamplePixel].Checked = !menu[AveragePixel].Checked;
+        SampleMethodChanged();
+    });
 }
 
 // No mirror image of averaging: sampling is switched on by unchecking averaging alone.
 void MainForm::SamplePixel_Click() {
-    if (!MayReplaceGrid(place_)) {
-        return;
-    }
-    Menu& menu = place_.MainMenu;
-    menu[AveragePixel].Checked = !menu[SamplePixel].Checked;
-    SampleMethodChanged();
+    Replace([this] {
+        Menu& menu = place_.MainMenu;
+        menu[AveragePixel].Checked = !menu[SamplePixel].Checked;
+        SampleMethodChanged();
+    });
 }
 
 void MainForm::SampleMethodChanged() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "convert/photo_decoder.h"
@@ -75,7 +76,10 @@ class MainForm {
 
   private:
     void ShowSample();
+    /// A step that costs the grid: asks first, and gives unsaved work up once it succeeded.
+    void Replace(const std::function<void()>& step);
     void SetDifficulty(MenuId level, int stippleSize);
+    void TakeDifficulty(MenuId level, int stippleSize);
     void SetFinalPaints(int finalColors);
     void SampleMethodChanged();
     void Saved(const std::filesystem::path& file);

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "storage/stipple_file.h"
 #include "support/error.h"
@@ -10,6 +11,15 @@ namespace vendrel {
 namespace {
 
 constexpr std::chrono::seconds kRecoveryPause{5};
+
+void Remove(const std::filesystem::path& recovery) {
+    std::error_code failure;
+    std::filesystem::remove(recovery, failure);
+    if (failure) {
+        throw FileError(recovery, "the recovery file cannot be removed (" + failure.message() +
+                                      "). Delete it yourself, or it will be offered again.");
+    }
+}
 
 }  // namespace
 
@@ -29,13 +39,7 @@ void WriteRecoveryOfGrid(const Workplace& place) {
 }
 
 void RemoveRecovery(const Workplace& place) {
-    const std::filesystem::path file = RecoveryPath(place);
-    std::error_code failure;
-    std::filesystem::remove(file, failure);
-    if (failure) {
-        throw FileError(file, "the recovery file cannot be removed (" + failure.message() +
-                                  "). Delete it yourself, or it will be offered again.");
-    }
+    Remove(RecoveryPath(place));
 }
 
 void SetRecoveryAside(const Workplace& place) {
@@ -57,24 +61,48 @@ bool RecoveryTimer::Tick(EditTime now) {
     return true;
 }
 
-void DiscardUnsavedWork(const Workplace& place) {
-    if (place.State.HasUnsavedWork) {
-        place.State.HasUnsavedWork = false;
-        RemoveRecovery(place);
+GridReplacement::GridReplacement(const Workplace& place) : place_(place) {
+    const WorkState& state = place_.State;
+    if (!state.HasUnsavedWork) {
+        return;
+    }
+    allowed_ =
+        place_.Screen.Ask("Unsaved Stipples", "The touched-up stipples of " + state.PictureName +
+                                                  " are not saved. Go on and lose them?");
+    if (allowed_) {
+        unsaved_ = {RecoveryPath(place_), state.PictureName, state.StippleSize, state.Stipples,
+                    state.PaintColors};
+    }
+}
+
+GridReplacement::~GridReplacement() {
+    // Marked as unsaved, whatever took its place would be kept over the work's recovery file.
+    if (unsaved_ && !StillInKit()) {
+        place_.State.HasUnsavedWork = false;
+    }
+}
+
+bool GridReplacement::StillInKit() const {
+    const WorkState& state = place_.State;
+    return state.PictureName == unsaved_->PictureName &&
+           state.StippleSize == unsaved_->StippleSize && state.Stipples == unsaved_->Stipples &&
+           state.PaintColors == unsaved_->Paints;
+}
+
+void GridReplacement::Done() {
+    if (unsaved_) {
+        const std::filesystem::path recovery = std::exchange(unsaved_, std::nullopt)->Recovery;
+        place_.State.HasUnsavedWork = false;
+        Remove(recovery);
     }
 }
 
 bool MayReplaceGrid(const Workplace& place) {
-    if (!place.State.HasUnsavedWork) {
-        return true;
+    GridReplacement replacement(place);
+    if (replacement.Allowed()) {
+        replacement.Done();
     }
-    if (!place.Screen.Ask("Unsaved Stipples", "The touched-up stipples of " +
-                                                  place.State.PictureName +
-                                                  " are not saved. Go on and lose them?")) {
-        return false;
-    }
-    DiscardUnsavedWork(place);
-    return true;
+    return replacement.Allowed();
 }
 
 }  // namespace vendrel

@@ -3,6 +3,8 @@
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "shell/workplace.h"
 
@@ -39,12 +41,42 @@ class RecoveryTimer {
     std::optional<EditTime> lastTry_;
 };
 
-/// Throws accepted but unsaved work away on purpose, its recovery file too. To be called while the
-/// photo and the difficulty are still those of the work.
-void DiscardUnsavedWork(const Workplace& place);
+/// A step that replaces the kit's grid, from its question to its success. To be made before the
+/// photo, the difficulty or the grid changes: what is unsaved goes by the old ones.
+class GridReplacement {
+  public:
+    /// Asks when the grid holds accepted but unsaved work; "yes" does not lose it yet.
+    explicit GridReplacement(const Workplace& place);
+    /// A step that broke off before Done has lost nothing: work that is no longer in the kit is
+    /// offered again from its recovery file.
+    ~GridReplacement();
+    GridReplacement(const GridReplacement&) = delete;
+    GridReplacement& operator=(const GridReplacement&) = delete;
 
-/// True when the grid may be replaced: nothing in it is unsaved, or the user agreed to lose it, in
-/// which case it is discarded. To be asked before the photo, the difficulty or the grid changes.
+    /// True when nothing is unsaved, or the user agreed to lose it.
+    [[nodiscard]] bool Allowed() const { return allowed_; }
+    /// The step succeeded: the unsaved work goes, its recovery file too. Throws FileError when
+    /// that cannot be removed.
+    void Done();
+
+  private:
+    struct Work {
+        std::filesystem::path Recovery;
+        std::string PictureName;
+        int StippleSize = 0;
+        Grid<StippleCell> Stipples;
+        std::vector<PaintColor> Paints;
+    };
+
+    [[nodiscard]] bool StillInKit() const;
+
+    Workplace place_;
+    std::optional<Work> unsaved_;
+    bool allowed_ = true;
+};
+
+/// Asks, and gives the unsaved work up at once: for the end of the program. True when nothing is
+/// left to lose.
 [[nodiscard]] bool MayReplaceGrid(const Workplace& place);
 
 }  // namespace vendrel

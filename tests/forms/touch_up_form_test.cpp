@@ -312,6 +312,23 @@ TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {
     EXPECT_THAT(studio_.Screen.Questions, SizeIs(1)) << "there is nothing left to lose";
 }
 
+TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothing) {
+    AcceptSpot();
+    const Grid<StippleCell> accepted = State().Stipples;
+    fs::remove(studio_.Files / "Pictures/four.bmp");
+    studio_.Files.Write("Pictures/broken.bmp", "BM, but no more");
+    EXPECT_THROW(main_.Click(MediumSet), Error);
+    EXPECT_THROW(main_.Click(LoadStipples), Error);
+    EXPECT_THROW(main_.TakePhoto(studio_.Files / "Pictures/broken.bmp"), Error);
+    main_.Click(LoadBMP);
+    ClickPhoto(main_.Chooser(), "broken.bmp");
+    EXPECT_THROW(main_.Chooser().OKButton_Click(), Error);
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(4));
+    EXPECT_TRUE(State().HasUnsavedWork);
+    EXPECT_EQ(State().Stipples, accepted);
+    EXPECT_TRUE(Exists(kRecovery));
+}
+
 TEST_F(TouchUpFormTest, PaintingAnAcceptedGridAsksNothing) {
     AcceptSpot();
     main_.Click(PaintItNow);

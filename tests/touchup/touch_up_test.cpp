@@ -5,6 +5,7 @@
 #include <sys/resource.h>
 
 #include <csignal>
+#include <filesystem>
 #include <random>
 
 #include "sheets.h"
@@ -17,6 +18,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::ThrowsMessage;
 
+namespace fs = std::filesystem;
 constexpr const char* kSaved = "Saved Stipples/Lady-Easy.stp";
 constexpr const char* kRecovery = "Saved Stipples/Lady-Easy.recovery.stp";
 const std::string kRed = "1,2,3,\"Red\",1,\"Set\",\"R\"\r\n";
@@ -338,6 +340,38 @@ TEST(UnsavedWork, IsThrownAwayOnlyWithLeave) {
     EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
     EXPECT_TRUE(MayReplaceGrid(bench.Place));
     EXPECT_FALSE(bench.State.HasUnsavedWork || RecoveryExists(bench.Place));
+}
+
+TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
+    struct Case {
+        const char* Step;
+        bool ReplacesGrid;
+        bool EndsWell;
+        bool Unsaved;
+        bool Recoverable;
+    };
+    for (const Case& test : {Case{"breaks off at once", false, false, true, true},
+                             Case{"breaks off half-way", true, false, false, true},
+                             Case{"succeeds", true, true, false, false}}) {
+        SCOPED_TRACE(test.Step);
+        KitBench bench({"12", "12"}, 2);
+        bench.State.HasUnsavedWork = true;
+        WriteRecoveryOfGrid(bench.Place);
+        {
+            GridReplacement replacement(bench.Place);
+            ASSERT_TRUE(replacement.Allowed());
+            EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
+            if (test.ReplacesGrid) {
+                bench.State.PictureName = "Other";
+                bench.State.Stipples = Grid<StippleCell>(2, 2);
+            }
+            if (test.EndsWell) {
+                replacement.Done();
+            }
+        }
+        EXPECT_EQ(bench.State.HasUnsavedWork, test.Unsaved);
+        EXPECT_EQ(fs::exists(bench.Files / kRecovery), test.Recoverable);
+    }
 }
 
 }  // namespace
