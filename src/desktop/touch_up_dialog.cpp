@@ -235,13 +235,23 @@ QLayout* TouchUpDialog::MakeButtons() {
 }
 
 std::function<void()> TouchUpDialog::Handler(void (TouchUpForm::*handler)()) {
-    return [this, handler] {
-        Run([this, handler] {
-            if (form_.Open()) {
-                (form_.*handler)();
-            }
-        });
-    };
+    return [this, handler] { RunOpen([this, handler] { (form_.*handler)(); }); };
+}
+
+void TouchUpDialog::RunOpen(const std::function<void()>& work) {
+    Run([this, &work] {
+        if (form_.Open()) {
+            work();
+        }
+    });
+}
+
+void TouchUpDialog::Dismiss() {
+    if (form_.Open()) {
+        form_.Cancel_Click();
+    } else {
+        hide();  // the opening failed
+    }
 }
 
 void TouchUpDialog::Connect() {
@@ -277,13 +287,13 @@ void TouchUpDialog::Connect() {
     connect(symbols_, &QCheckBox::toggled, this, &TouchUpDialog::ChooseLook);
     connect(photo_, &QSlider::valueChanged, this, &TouchUpDialog::ChooseLook);
     connect(palette_, &PaintRows::Chosen, this,
-            [this](int paint) { Run([this, paint] { form_.PaintList_Click(paint); }); });
+            [this](int paint) { RunOpen([this, paint] { form_.PaintList_Click(paint); }); });
     palette_->installEventFilter(this);
 }
 
 void TouchUpDialog::ConnectCanvas() {
     connect(canvas_, &TouchUpCanvas::Pressed, this,
-            [this](CellPos at) { Run([this, at] { form_.PointerDown(at); }); });
+            [this](CellPos at) { RunOpen([this, at] { form_.PointerDown(at); }); });
     // Past the edge, which has the main window look after itself: a stroke repaints nothing but
     // what it touched.
     connect(canvas_, &TouchUpCanvas::Dragged, this, [this](CellPos at) {
@@ -295,9 +305,9 @@ void TouchUpDialog::ConnectCanvas() {
         }
     });
     connect(canvas_, &TouchUpCanvas::Released, this,
-            [this] { Run([this] { form_.PointerUp(); }); });
+            [this] { RunOpen([this] { form_.PointerUp(); }); });
     connect(canvas_, &TouchUpCanvas::Picked, this,
-            [this](CellPos at) { Run([this, at] { form_.PickPaint(at); }); });
+            [this](CellPos at) { RunOpen([this, at] { form_.PickPaint(at); }); });
     connect(canvas_, &TouchUpCanvas::Pointed, this, &TouchUpDialog::PointedAt);
     connect(canvas_, &TouchUpCanvas::Zoomed, this, [this] {
         const double edge = canvas_->Edge();
@@ -410,7 +420,7 @@ void TouchUpDialog::PointedAt(CellPos at) {
 }
 
 void TouchUpDialog::NextLoner() {
-    Run([this] {
+    RunOpen([this] {
         if (const auto at = form_.NextLoner_Click()) {
             canvas_->GoTo(*at);
         }

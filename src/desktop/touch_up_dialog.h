@@ -26,7 +26,7 @@ class TouchUpDialog : public FormDialog {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
-    void Dismiss() override { form_.Cancel_Click(); }
+    void Dismiss() override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -43,7 +43,9 @@ class TouchUpDialog : public FormDialog {
     void ConnectCanvas();
     void ConnectTimers();
     void AddShortcuts();
-    /// A form handler, started through the edge.
+    /// Starts work through the edge that the open editor alone can do.
+    void RunOpen(const std::function<void()>& work);
+    /// A form handler, started the same way.
     [[nodiscard]] std::function<void()> Handler(void (TouchUpForm::*handler)());
     void ChooseLook();
     void ShowPhoto(bool only);

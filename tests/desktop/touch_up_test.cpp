@@ -53,6 +53,7 @@ class TouchUpWindowTest : public QObject {
     void WheelZoomsAtThePointer();
     void StrokesRepaintOnlyWhatTheyTouch();
     void ClosingTheProgramWithAcceptedWorkAsks();
+    void AnEditorThatCannotOpenDoesNothingButClose();
 
   private:
     [[nodiscard]] WorkState& State() { return desktop_->Place().State; }
@@ -212,6 +213,27 @@ void TouchUpWindowTest::ClosingTheProgramWithAcceptedWorkAsks() {
     const Answer yes(QMessageBox::Yes);
     QVERIFY(window.close());
     QCOMPARE(yes.Asked, 1);
+}
+
+void TouchUpWindowTest::AnEditorThatCannotOpenDoesNothingButClose() {
+    MainWindow& window = desktop_->Window();
+    Button("Cancel").click();
+    State().CellsAcross = 0;
+    {
+        NextMessage message;
+        QVERIFY(Choose(window, "ColorPickerSelect"));
+        QVERIFY2(message.Text.contains(QStringLiteral("no stipples")), qPrintable(message.Text));
+    }
+    canvas_ = &Find<TouchUpCanvas>(window, "Canvas");
+    QVERIFY(canvas_->isVisible());
+    emit canvas_->Pressed({1, 1});
+    emit canvas_->Dragged({1, 1});
+    emit canvas_->Released();
+    emit canvas_->Picked({1, 1});
+    emit Rows().Chosen(1);
+    Button("NextLoner").click();
+    QTest::keyClick(canvas_->window(), Qt::Key_Escape);
+    QVERIFY(!canvas_->isVisible());
 }
 
 }  // namespace vendrel::test
