@@ -17,6 +17,8 @@ class FormDialog : public QDialog {
     virtual void Load() = 0;
     /// Takes over what the form shows.
     virtual void Mirror() = 0;
+    /// The session ends: what is not saved has to outlive it. Throws Error.
+    virtual void KeepWork() {}
     void reject() override;
 
   protected:

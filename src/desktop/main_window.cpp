@@ -18,6 +18,7 @@
 #include "desktop/arrivals.h"
 #include "desktop/dialogs.h"
 #include "desktop/text.h"
+#include "support/error.h"
 
 namespace vendrel {
 namespace {
@@ -242,12 +243,36 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::EndSession(QSessionManager& session) {
     if (!session.allowsInteraction()) {
+        // Without leave to ask there is no staying either.
+        static_cast<void>(MayEndSession(Questions::Forbidden));
         return;
     }
-    if (!MayEnd()) {
+    if (!MayEndSession(Questions::Allowed)) {
         session.cancel();
     }
     session.release();
+}
+
+bool MainWindow::MayEndSession(Questions questions) {
+    if (questions == Questions::Allowed) {
+        // Kept last: giving accepted stipples up removes the recovery file they share.
+        return MayEnd() &&
+               edge_.Run([this] { KeepOpenWork(); }, Edge::Entry::Always) == Outcome::Done;
+    }
+    try {
+        KeepOpenWork();
+        return true;
+    } catch (const Error&) {
+        return false;  // even telling it is a question
+    }
+}
+
+void MainWindow::KeepOpenWork() {
+    for (const auto& [form, dialog] : dialogs_) {
+        if (dialog) {
+            dialog->KeepWork();
+        }
+    }
 }
 
 void MainWindow::End() {

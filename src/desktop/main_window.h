@@ -24,7 +24,12 @@ class MainWindow : public QMainWindow {
   public:
     MainWindow(Workplace& place, MainForm& form, QtUi& ui);
 
+    enum class Questions { Allowed, Forbidden };
+
     [[nodiscard]] Edge& Works() { return edge_; }
+    /// Makes ready for the end of the session: what an open editor holds is kept first. False when
+    /// the program had better stay.
+    [[nodiscard]] bool MayEndSession(Questions questions);
     /// Takes over the state of menu, pictures, captions and open dialogs.
     void Mirror();
 
@@ -44,6 +49,7 @@ class MainWindow : public QMainWindow {
     void MirrorStatus();
     void FitToPicture();
     [[nodiscard]] bool MayEnd();
+    void KeepOpenWork();
     void EndSession(QSessionManager& session);
     void End();
 

@@ -360,6 +360,12 @@ void TouchUpDialog::Load() {
     form_.OfferRecovery();
 }
 
+void TouchUpDialog::KeepWork() {
+    if (form_.Open()) {
+        form_.KeepRecoveryNow();
+    }
+}
+
 void TouchUpDialog::Mirror() {
     if (!form_.Open()) {
         recovery_.stop();

@@ -23,6 +23,7 @@ class TouchUpDialog : public FormDialog {
 
     void Load() override;
     void Mirror() override;
+    void KeepWork() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:

@@ -97,6 +97,8 @@ class TouchUpForm {
 
     /// To be called about once a second. What goes wrong is told in the status.
     void KeepRecovery(EditTime now);
+    /// For the end of the session: keeps what is not saved at once. Throws FileError.
+    void KeepRecoveryNow() { editor_->KeepRecoveryNow(); }
 
     /// The stipples to draw anew since the last call.
     [[nodiscard]] CellRect TakeDirty();

@@ -264,6 +264,12 @@ void TouchUp::KeepRecovery(EditTime now) {
     }
 }
 
+void TouchUp::KeepRecoveryNow() {
+    if (HasChanges()) {
+        WriteRecovery();
+    }
+}
+
 void TouchUp::WriteRecovery() {
     if (!sheet_.Flaw().empty()) {
         return;

@@ -83,6 +83,8 @@ class TouchUp {
     /// To be called about once a second: keeps the recovery file close behind the edits. Throws
     /// FileError.
     void KeepRecovery(EditTime now);
+    /// The same at once, for when the program is about to be ended. Throws FileError.
+    void KeepRecoveryNow();
 
   private:
     static constexpr const char* kBrushName = "Brush";

@@ -54,6 +54,7 @@ class TouchUpWindowTest : public QObject {
     void StrokesRepaintOnlyWhatTheyTouch();
     void ClosingTheProgramWithAcceptedWorkAsks();
     void AnEditorThatCannotOpenDoesNothingButClose();
+    void TheEndOfTheSessionKeepsOpenWorkOrIsRefused();
 
   private:
     [[nodiscard]] WorkState& State() { return desktop_->Place().State; }
@@ -234,6 +235,29 @@ void TouchUpWindowTest::AnEditorThatCannotOpenDoesNothingButClose() {
     Button("NextLoner").click();
     QTest::keyClick(canvas_->window(), Qt::Key_Escape);
     QVERIFY(!canvas_->isVisible());
+}
+
+void TouchUpWindowTest::TheEndOfTheSessionKeepsOpenWorkOrIsRefused() {
+    using enum MainWindow::Questions;
+    namespace fs = std::filesystem;
+    MainWindow& window = desktop_->Window();
+    const fs::path kept = *files_ / "Saved Stipples/halves-Easy.recovery.stp";
+    QVERIFY(window.MayEndSession(Allowed));
+    QVERIFY2(!fs::exists(kept), "nothing was changed");
+    for (const auto questions : {Forbidden, Allowed}) {
+        Drag(At(1, 1), At(3, 1));
+        QVERIFY(window.MayEndSession(questions));
+        QVERIFY(fs::exists(kept));
+        fs::remove(kept);
+        QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    }
+    Drag(At(1, 1), At(3, 1));
+    fs::remove_all(kept.parent_path());
+    files_->Write("Saved Stipples", "no folder");
+    NextMessage message;
+    QVERIFY(!window.MayEndSession(Allowed));
+    QVERIFY(!message.Text.isEmpty());
+    QVERIFY(!window.MayEndSession(Forbidden));
 }
 
 }  // namespace vendrel::test
