@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <fstream>
-#include <iterator>
 #include <span>
 #include <system_error>
 
@@ -26,14 +25,23 @@ std::ifstream Open(const fs::path& file) {
     return in;
 }
 
+// In blocks: a photo taken in again is compared on every run.
 bool SameBytes(const fs::path& a, const fs::path& b) {
     if (fs::file_size(a) != fs::file_size(b)) {
         return false;
     }
     std::ifstream first = Open(a);
     std::ifstream second = Open(b);
-    return std::equal(std::istreambuf_iterator<char>(first), {},
-                      std::istreambuf_iterator<char>(second));
+    std::array<char, 1 << 16> one{};
+    std::array<char, 1 << 16> other{};
+    while (first.read(one.data(), one.size()) || first.gcount() > 0) {
+        second.read(other.data(), first.gcount());
+        if (second.gcount() != first.gcount() ||
+            !std::equal(one.begin(), one.begin() + first.gcount(), other.begin())) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void Copy(const fs::path& from, const fs::path& to) {
