@@ -37,15 +37,6 @@ ColorMatcherDialog::ColorMatcherDialog(const ViewContext& context, QWidget* pare
     resize(1100, 560);
 }
 
-QPushButton* ColorMatcherDialog::MakeButton(const char* name, const QString& text,
-                                            const std::function<void()>& clicked) {
-    auto* button = Named<QPushButton>(name, QString(text).remove(QLatin1Char('&')));
-    button->setText(text);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this, clicked] { Run(clicked); });
-    return button;
-}
-
 QWidget* ColorMatcherDialog::MakePalette() {
     auto* frame = new QGroupBox(tr("Paints of the palette"));
     auto* column = new QVBoxLayout(frame);

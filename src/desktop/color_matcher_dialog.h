@@ -29,8 +29,6 @@ class ColorMatcherDialog : public FormDialog {
     [[nodiscard]] QWidget* MakeOffers();
     [[nodiscard]] QWidget* MakePreview();
     [[nodiscard]] QLayout* MakeButtons();
-    [[nodiscard]] QPushButton* MakeButton(const char* name, const QString& text,
-                                          const std::function<void()>& clicked);
     void MirrorOffers();
     void MirrorPreview();
 

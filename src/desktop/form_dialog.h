@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QPushButton>
+#include <functional>
 
 #include "desktop/view_context.h"
 
@@ -26,6 +28,9 @@ class FormDialog : public QDialog {
     virtual void Dismiss() = 0;
     /// Starts work through the edge.
     void Run(const std::function<void()>& work) { context_.Works.Run(work); }
+    /// A button that starts `clicked` through the edge; Enter stays with the default button.
+    [[nodiscard]] QPushButton* MakeButton(const char* name, const QString& text,
+                                          const std::function<void()>& clicked);
     [[nodiscard]] const ViewContext& Context() const { return context_; }
 
   private:

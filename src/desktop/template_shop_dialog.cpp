@@ -59,15 +59,6 @@ TemplateShopDialog::TemplateShopDialog(const ViewContext& context, QWidget* pare
     resize(1040, 600);
 }
 
-QPushButton* TemplateShopDialog::MakeButton(const char* name, const QString& text,
-                                            const std::function<void()>& clicked) {
-    auto* button = Named<QPushButton>(name, QString(text).remove(QLatin1Char('&')));
-    button->setText(text);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this, clicked] { Run(clicked); });
-    return button;
-}
-
 QWidget* TemplateShopDialog::MakeTemplates() {
     auto* frame = new QGroupBox(tr("Templates"));
     auto* column = new QVBoxLayout(frame);

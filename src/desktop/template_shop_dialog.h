@@ -29,8 +29,6 @@ class TemplateShopDialog : public FormDialog {
     [[nodiscard]] QWidget* MakeTemplates();
     [[nodiscard]] QWidget* MakePaints();
     [[nodiscard]] QWidget* MakeCatalogue();
-    [[nodiscard]] QPushButton* MakeButton(const char* name, const QString& text,
-                                          const std::function<void()>& clicked);
     void MirrorTemplate();
     void MirrorCatalogue();
     void Search();
