@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <new>
 #include <random>
 #include <vector>
 
@@ -66,9 +67,13 @@ BitmapInfoHeader MakeInfoHeader(int width, int height) {
     return header;
 }
 
-bool cDIBSection::Create(int width, int height) {
+bool cDIBSection::Create(int width, int height, std::uint8_t fill) {
     ClearUp();
-    return CreateDIB(width, height);
+    if (!CreateDIB(width, height)) {
+        return false;
+    }
+    std::fill_n(bits_.get(), header_.SizeImage, fill);
+    return true;
 }
 
 bool cDIBSection::CreateDIB(int width, int height) {
@@ -81,7 +86,7 @@ bool cDIBSection::CreateDIB(int width, int height) {
                             " pixels wide is wider than can be held. Make a narrower one.");
     }
     const BitmapInfoHeader header = MakeInfoHeader(width, height);
-    bits_.reset(static_cast<std::uint8_t*>(std::calloc(header.SizeImage, 1)));
+    bits_.reset(new (std::nothrow) std::uint8_t[header.SizeImage]);
     if (!bits_) {
         return false;
     }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 
 #include "shell/ui.h"
@@ -43,9 +42,10 @@ enum class ClipboardFormat { Bitmap, Dib };
 /// filled up to a multiple of four bytes, the lowest row first. Empty until created.
 class cDIBSection {
   public:
-    /// An image of black pixels in place of the one held. False, and empty, when a side is below 1
-    /// or memory is short; OverflowError when width x BytesPerScanLine outgrows 31 bits.
-    [[nodiscard]] bool Create(int width, int height);
+    /// An image with every byte at `fill`, black, in place of the one held. False, and empty, when
+    /// a side is below 1 or memory is short; OverflowError when width x BytesPerScanLine outgrows
+    /// 31 bits.
+    [[nodiscard]] bool Create(int width, int height, std::uint8_t fill = 0);
     /// The same at the picture's size and with its pixels.
     [[nodiscard]] bool CreateFromPicture(const Surface& picture);
     /// Gives the image back; harmless on an empty object.
@@ -92,11 +92,7 @@ class cDIBSection {
     void ResampleDib(cDIBSection& target) const;
 
     BitmapInfoHeader header_;
-    struct FreeBits {
-        void operator()(std::uint8_t* bits) const { std::free(bits); }
-    };
-    // Cleared by the system as it is touched: a sheet of 33 MB is not written twice.
-    std::unique_ptr<std::uint8_t[], FreeBits> bits_;
+    std::unique_ptr<std::uint8_t[]> bits_;
 };
 
 }  // namespace vendrel

@@ -70,22 +70,20 @@ class SheetPainter final : public NumberSink {
     std::vector<Color> inks_;  // per paint, on the reference
 };
 
-void CreateSheet(cDIBSection& sheet, int width, int height) {
-    if (!sheet.Create(width, height)) {
+void CreateSheet(cDIBSection& sheet, int width, int height, std::uint8_t fill) {
+    if (!sheet.Create(width, height, fill)) {
         throw Error("There is not enough memory for a sheet of " + std::to_string(width) + " x " +
                     std::to_string(height) + " pixels. Close other programs and try again.");
     }
 }
 
 void CreateWhite(cDIBSection& sheet, int width, int height) {
-    CreateSheet(sheet, width, height);
-    std::fill_n(sheet.DIBSectionBitsPtr(),
-                static_cast<std::ptrdiff_t>(sheet.BytesPerScanLine()) * height, std::uint8_t{255});
+    CreateSheet(sheet, width, height, 255);
 }
 
 // Every pixel of the painting becomes a square.
 void CreateEnlarged(cDIBSection& sheet, const Surface& painting, int scale) {
-    CreateSheet(sheet, painting.Width() * scale, painting.Height() * scale);
+    CreateSheet(sheet, painting.Width() * scale, painting.Height() * scale, 0);
     const auto rowBytes = static_cast<std::size_t>(sheet.BytesPerScanLine());
     std::uint8_t* to = sheet.DIBSectionBitsPtr();
     for (int y = painting.Height() - 1; y >= 0; --y) {
