@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/cell_queue.h"
+#include "support/cell_pos.h"
 
 namespace vendrel {
 

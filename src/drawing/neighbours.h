@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "support/cell_queue.h"
+#include "support/cell_pos.h"
 
 namespace vendrel {
 

@@ -6,9 +6,9 @@
 
 #include "output/nearest_stipple.h"
 #include "output/symbol_set.h"
-#include "output/walk_queue.h"
 #include "support/counter.h"
 #include "support/error.h"
+#include "support/position_ring.h"
 
 namespace vendrel {
 namespace {
@@ -35,12 +35,27 @@ class SheetSink : public NumberSink {
     const WorkState& state_;
 };
 
-// What the walk must know of a pixel, in one place: its paint and whether it is numbered or waits
-// in the queue. The walk looks at every pixel five times.
-using WalkPixel = std::uint16_t;
-constexpr WalkPixel kQueued = 0x8000;
-constexpr WalkPixel kMarked = 0x4000;
-constexpr WalkPixel kPaintMask = 0x3FFF;
+// What the walk must know of a pixel, in one byte, for it looks at every pixel five times: its
+// paint, whether an area has claimed it and whether it waits in the queue.
+enum class WalkPixel : std::uint8_t {};
+constexpr unsigned kQueued = 0x80;
+constexpr unsigned kMarked = 0x40;
+constexpr unsigned kPaintMask = 0x3F;
+constexpr int kForeign = 0x3F;  // stands for every index beyond the palette
+static_assert(kSymbolCount < kForeign);
+
+constexpr int PaintOf(WalkPixel pixel) {
+    return static_cast<int>(static_cast<unsigned>(pixel) & kPaintMask);
+}
+constexpr bool Has(WalkPixel pixel, unsigned flags) {
+    return (static_cast<unsigned>(pixel) & flags) != 0;
+}
+constexpr WalkPixel With(WalkPixel pixel, unsigned flags) {
+    return static_cast<WalkPixel>(static_cast<unsigned>(pixel) | flags);
+}
+constexpr WalkPixel Without(WalkPixel pixel, unsigned flags) {
+    return static_cast<WalkPixel>(static_cast<unsigned>(pixel) & ~flags);
+}
 
 class Numbering {
   public:
@@ -60,11 +75,12 @@ class Numbering {
     void ReMarkCells(int paint);
     void MarkOneNumber(CellPos seed);
     void AddSeedNeighbours(CellPos seed);
-    void AddNeighbours(CellPos at);
-    void AddToNumberCells(bool inside, CellPos at);
-    void Claim(CellPos at);
+    void AddNeighbours(int x, int y);
+    void AddToNumberCells(bool inside, int x, int y, WalkPixel& pixel);
+    void Claim(int x, int y);
     void Stamp(CellPos at);
-    void DrawBorder(CellPos at);
+    void DrawBorder(int x, int y);
+    [[nodiscard]] int CountBorderDots() const;
     void Breathe();
 
     const Workplace& place_;
@@ -74,7 +90,7 @@ class Numbering {
     StippleFinder finder_;
     int period_;
     Grid<WalkPixel> pixels_;
-    WalkQueue queue_;
+    PositionRing queue_;                       // flag: the pixel is the area's own
     std::vector<std::vector<CellPos>> seeds_;  // per paint, in row-major order
     NumberingCounts counts_;
     unsigned walked_ = 0;
@@ -114,11 +130,11 @@ void Numbering::FillRow(int y, TwipsPerPixel twips) {
         const int paint = from[static_cast<std::size_t>(x)].ColorIndex;
         NumberPixel& pixel = to[static_cast<std::size_t>(x)];
         pixel.ColorIndex = static_cast<std::int16_t>(paint);
-        walk[static_cast<std::size_t>(x)] = static_cast<WalkPixel>(paint & kPaintMask);
+        const bool known = paint >= 0 && paint <= state_.PaintCount;
+        walk[static_cast<std::size_t>(x)] = static_cast<WalkPixel>(known ? paint : kForeign);
         pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
         pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
-        if ((paint != before || x == state_.NumberWidth) && paint > 0 &&
-            paint <= state_.PaintCount) {
+        if ((paint != before || x == state_.NumberWidth) && paint > 0 && known) {
             seeds_[static_cast<std::size_t>(paint)].push_back({x, y});
         }
         before = paint;
@@ -138,6 +154,7 @@ NumberingCounts Numbering::Run() {
     }
     place_.Screen.ReportProgress(0, 0);
     counts_.Areas = state_.NextAreaNumber - 1;
+    counts_.BorderDots = sink_ == nullptr ? 0 : CountBorderDots();
     return counts_;
 }
 
@@ -145,9 +162,9 @@ void Numbering::ReMarkCells(int paint) {
     paint_ = paint;
     color_ = ColorOf(state_.PaintColors[static_cast<std::size_t>(paint)]);
     for (const CellPos seed : seeds_[static_cast<std::size_t>(paint)]) {
-        if ((pixels_(seed.X, seed.Y) & kMarked) == 0) {
+        if (!Has(pixels_(seed.X, seed.Y), kMarked)) {
             area_ = static_cast<std::int16_t>(state_.NextAreaNumber);
-            Claim(seed);
+            Claim(seed.X, seed.Y);
             MarkOneNumber(seed);
             CountUp(state_.NextAreaNumber, "areas on the sheet");
         }
@@ -160,58 +177,63 @@ void Numbering::MarkOneNumber(CellPos seed) {
     int sinceSymbol = 0;
     AddSeedNeighbours(seed);
     while (!queue_.Empty()) {
-        const CellPos at = queue_.Pop();
-        WalkPixel& pixel = pixels_(at.X, at.Y);
-        pixel &= static_cast<WalkPixel>(~kQueued);
-        if ((pixel & kPaintMask) != paint_) {
-            DrawBorder(at);
-        } else if ((pixel & kMarked) == 0) {
-            Claim(at);
+        const PositionRing::Entry next = queue_.Pop();
+        if (next.Flag()) {
+            Claim(next.X(), next.Y());
             if (sinceSymbol == 0) {
-                Stamp(at);
+                Stamp(next.At());
             }
             sinceSymbol = sinceSymbol + 1 == period_ ? 0 : sinceSymbol + 1;
-            AddNeighbours(at);
+            AddNeighbours(next.X(), next.Y());
+        } else {
+            DrawBorder(next.X(), next.Y());
         }
         Breathe();
     }
     counts_.AreasWithoutSymbol += counts_.Symbols == symbolsBefore ? 1 : 0;
 }
 
-void Numbering::Claim(CellPos at) {
-    pixels_(at.X, at.Y) |= kMarked;
-    state_.NumberMarks(at.X, at.Y) = {area_, true};
-    picture_.Set(at.X, at.Y, color_);
+void Numbering::Claim(int x, int y) {
+    WalkPixel& pixel = pixels_(x, y);
+    pixel = With(pixel, kMarked);
+    state_.NumberMarks(x, y) = {area_, true};
+    picture_.Set(x, y, color_);
 }
 
 // Unlike the walk's own steps a seed looks at its neighbours wherever they are, only not beyond
-// the grid, where nothing could be dotted.
+// the grid, where nothing could be dotted. A neighbour the area has already is let be.
 void Numbering::AddSeedNeighbours(CellPos seed) {
     const std::array<CellPos, 4> around = {
         {{seed.X, seed.Y - 1}, {seed.X + 1, seed.Y}, {seed.X, seed.Y + 1}, {seed.X - 1, seed.Y}}};
     queue_.Reserve(around.size());
     for (const CellPos at : around) {
-        if (at.X <= state_.NumberWidth && at.Y <= state_.NumberHeight) {
-            pixels_(at.X, at.Y) |= kQueued;
-            queue_.PushIf(true, at);
+        if (at.X > state_.NumberWidth || at.Y > state_.NumberHeight) {
+            continue;
+        }
+        WalkPixel& pixel = pixels_(at.X, at.Y);
+        const bool own = PaintOf(pixel) == paint_;
+        if (!own || !Has(pixel, kMarked)) {
+            pixel = With(pixel, kQueued);
+            queue_.PushIf(true, at.X, at.Y, own);
         }
     }
 }
 
 // The last column and row are left out on purpose: no step to the right or down enters them.
-void Numbering::AddNeighbours(CellPos at) {
+void Numbering::AddNeighbours(int x, int y) {
     queue_.Reserve(4);
-    AddToNumberCells(at.Y - 1 > 0, {at.X, at.Y - 1});
-    AddToNumberCells(at.X + 1 < state_.NumberWidth, {at.X + 1, at.Y});
-    AddToNumberCells(at.Y + 1 < state_.NumberHeight, {at.X, at.Y + 1});
-    AddToNumberCells(at.X - 1 >= 1, {at.X - 1, at.Y});
+    WalkPixel* const pixel = &pixels_(x, y);
+    const std::ptrdiff_t row = pixels_.Stride();
+    AddToNumberCells(y - 1 > 0, x, y - 1, pixel[-row]);
+    AddToNumberCells(x + 1 < state_.NumberWidth, x + 1, y, pixel[1]);
+    AddToNumberCells(y + 1 < state_.NumberHeight, x, y + 1, pixel[row]);
+    AddToNumberCells(x - 1 >= 1, x - 1, y, pixel[-1]);
 }
 
-void Numbering::AddToNumberCells(bool inside, CellPos at) {
-    WalkPixel& pixel = pixels_(at.X, at.Y);
-    const bool wanted = inside & ((pixel & (kMarked | kQueued)) == 0);
-    pixel = static_cast<WalkPixel>(pixel | (wanted ? kQueued : 0));
-    queue_.PushIf(wanted, at);
+void Numbering::AddToNumberCells(bool inside, int x, int y, WalkPixel& pixel) {
+    const bool wanted = inside & !Has(pixel, kMarked | kQueued);
+    pixel = With(pixel, wanted ? kQueued : 0);
+    queue_.PushIf(wanted, x, y, PaintOf(pixel) == paint_);
 }
 
 void Numbering::Stamp(CellPos at) {
@@ -224,15 +246,27 @@ void Numbering::Stamp(CellPos at) {
     counts_.SymbolsAstray += state_.Stipples(cell.X, cell.Y).ColorIndex != paint_ ? 1 : 0;
 }
 
-void Numbering::DrawBorder(CellPos at) {
-    NumberPixel& pixel = state_.NumberGrid(at.X, at.Y);
+void Numbering::DrawBorder(int x, int y) {
+    pixels_(x, y) = Without(pixels_(x, y), kQueued);
     if (sink_ != nullptr) {
-        sink_->Dot(at);
-        counts_.BorderDots += !pixel.IsBorder && picture_.Holds(at.X, at.Y) ? 1 : 0;
+        sink_->Dot({x, y});
     }
-    picture_.Set(at.X, at.Y, state_.EdgeColor);
+    picture_.Set(x, y, state_.EdgeColor);
+    NumberPixel& pixel = state_.NumberGrid(x, y);
     pixel.IsBorder = true;
     pixel.AreaNumber = area_;
+}
+
+// Once at the end, since most dots are drawn several times; those past the picture's edge are cut.
+int Numbering::CountBorderDots() const {
+    int dots = 0;
+    for (int y = 0; y < state_.NumberHeight; ++y) {
+        for (const NumberPixel& pixel :
+             state_.NumberGrid.Row(y).first(static_cast<std::size_t>(state_.NumberWidth))) {
+            dots += pixel.IsBorder ? 1 : 0;
+        }
+    }
+    return dots;
 }
 
 // Events get their turn often enough for the hand on the mouse, not for every pixel.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/workplace.h"
-#include "support/cell_queue.h"
+#include "support/cell_pos.h"
 #include "support/surface.h"
 
 namespace vendrel {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "support/cell_queue.h"
+#include "support/cell_pos.h"
 #include "support/color.h"
 
 namespace vendrel {

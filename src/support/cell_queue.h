@@ -4,14 +4,9 @@
 #include <cstdint>
 #include <vector>
 
-namespace vendrel {
+#include "support/position_ring.h"
 
-/// A position on a grid: column X, row Y.
-struct CellPos {
-    int X = 0;
-    int Y = 0;
-    bool operator==(const CellPos&) const = default;
-};
+namespace vendrel {
 
 /// First-in-first-out list of grid positions that holds each position at most once at a time.
 /// The check for a position already queued costs one look instead of a walk through the list.
@@ -19,43 +14,33 @@ class CellQueue {
   public:
     CellQueue() = default;
     /// Positions 0..across+1, 0..down+1: a seed's neighbours may lie one past the grid.
-    CellQueue(int across, int down);
+    CellQueue(int across, int down)
+        : stride_(static_cast<std::size_t>(across) + 2),
+          queued_(stride_ * (static_cast<std::size_t>(down) + 2)) {}
 
     /// Appends a position unless it waits in the queue already; answers whether it was appended.
     bool Push(CellPos pos) {
         std::uint8_t& queued = queued_[At(pos)];
-        if (queued != 0) {
-            return false;
-        }
+        const bool wanted = queued == 0;
         queued = 1;
-        if (count_ == ring_.size()) {
-            Grow();
-        }
-        ring_[(first_ + count_) & (ring_.size() - 1)] = pos;
-        ++count_;
-        return true;
+        ring_.Reserve(1);
+        ring_.PushIf(wanted, pos.X, pos.Y);
+        return wanted;
     }
-    [[nodiscard]] bool Empty() const { return count_ == 0; }
-    [[nodiscard]] std::size_t Size() const { return count_; }
-    [[nodiscard]] CellPos Front() const { return ring_[first_]; }
+    [[nodiscard]] bool Empty() const { return ring_.Empty(); }
+    [[nodiscard]] std::size_t Size() const { return ring_.Size(); }
+    [[nodiscard]] CellPos Front() const { return ring_.Front().At(); }
     /// Drops the front; the queue must not be empty.
-    void Pop() {
-        queued_[At(ring_[first_])] = 0;
-        first_ = (first_ + 1) & (ring_.size() - 1);
-        --count_;
-    }
+    void Pop() { queued_[At(ring_.Pop().At())] = 0; }
 
   private:
     [[nodiscard]] std::size_t At(CellPos pos) const {
         return static_cast<std::size_t>(pos.Y) * stride_ + static_cast<std::size_t>(pos.X);
     }
-    void Grow();
 
     std::size_t stride_ = 0;
     std::vector<std::uint8_t> queued_;
-    std::vector<CellPos> ring_;  // size is a power of two
-    std::size_t first_ = 0;
-    std::size_t count_ = 0;
+    PositionRing ring_;
 };
 
 }  // namespace vendrel

@@ -34,6 +34,8 @@ class Grid {
     [[nodiscard]] std::span<const T> Row(int y) const {
         return {cells_.data() + At(0, y), static_cast<std::size_t>(across_) + 1};
     }
+    /// From a cell to the one below it.
+    [[nodiscard]] std::ptrdiff_t Stride() const { return across_ + 1; }
     /// Every cell, row 0 and column 0 included.
     [[nodiscard]] std::span<T> All() { return cells_; }
     [[nodiscard]] std::span<const T> All() const { return cells_; }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/cell_queue.h"
+#include "support/cell_pos.h"
 
 namespace vendrel {
 
