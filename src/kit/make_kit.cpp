@@ -108,7 +108,9 @@ void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* e
     if (outputs.Painting) {
         Timed(report, "painting", [&] { AddFile(report, "painting", PrintWorkform_Click(place)); });
     }
-    if (outputs.Grid) {
+    // Painting numbers the areas of a grid anew; nobody asked for that in the file it came from.
+    const bool gridIsTheSource = options.FromGrid && !options.ReplaceGrid && !outputs.ByName;
+    if (outputs.Grid && !gridIsTheSource) {
         Timed(report, "grid", [&] { SaveGrid(place, options.ReplaceGrid, report); });
     }
     WritePrinted(place, options, exporter, report);

@@ -137,8 +137,10 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
     EXPECT_THAT(studio.Out, HasSubstr("ball-Easy.stp is a different grid and was kept"));
     EXPECT_TRUE(studio.Files.Read("Results/ball Easy Painting.BMP") == painting);
 
-    EXPECT_EQ(studio.Kit({"ball.bmp", "--from-grid", "--outputs", "painting"}), 0);
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--from-grid"}), 0);
     EXPECT_FALSE(studio.Files.Read("Results/ball Easy Painting.BMP") == painting);
+    EXPECT_EQ(studio.Files.Read(grid), edited);
+    EXPECT_THAT(studio.Out, Not(HasSubstr("different grid")));
 
     EXPECT_EQ(studio.Kit({"ball.bmp", "--replace-grid"}), 0);
     EXPECT_EQ(studio.Files.Read(grid), made);
