@@ -148,12 +148,17 @@ void ColorMatcher::ShowPreview() {
 }
 
 void ColorMatcher::AcceptButton_Click() {
-    if (rows_.size() <= 1 || !MayReplaceGrid(place_)) {
+    if (rows_.size() <= 1) {
+        return;
+    }
+    GridReplacement replacement(place_);
+    if (!replacement.Allowed()) {
         return;
     }
     place_.Screen.CloseForm(FormId::ColorMatcher);
     SetPalette(place_.State, Palette());
     AutoChangeToStipples(place_);
+    replacement.Done();
 }
 
 void ColorMatcher::CancelButton_Click() {
