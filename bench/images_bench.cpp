@@ -45,7 +45,7 @@ void CountPixels(benchmark::State& state) {
 
 void ReadAll(benchmark::State& state) {
     const PhotoFile file(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto step : state) {
         benchmark::DoNotOptimize(ReadBitmap(file.Path()));
     }
     CountPixels(state);
@@ -54,7 +54,7 @@ void ReadAll(benchmark::State& state) {
 void Import(benchmark::State& state) {
     const PhotoFile file(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     const ScreenSize screen = ScreenSize::FromPixels(1920, 1080);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto step : state) {
         benchmark::DoNotOptimize(ReadPhoto(file.Path(), screen, 8));
     }
     CountPixels(state);
@@ -62,7 +62,7 @@ void Import(benchmark::State& state) {
 
 void Scale(benchmark::State& state) {
     const Surface photo = Photo(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto step : state) {
         benchmark::DoNotOptimize(ScaleTo(photo, 960, 720));
     }
     CountPixels(state);
@@ -71,7 +71,7 @@ void Scale(benchmark::State& state) {
 void Write(benchmark::State& state) {
     const Surface photo = Photo(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     const PhotoFile file(1, 1);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto step : state) {
         WriteBitmap(file.Path(), photo);
     }
     CountPixels(state);
@@ -84,7 +84,7 @@ void WriteImage(benchmark::State& state) {
         state.SkipWithError("no memory");
     }
     const PhotoFile file(1, 1);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto step : state) {
         WriteBitmap(file.Path(), image);
     }
     CountPixels(state);

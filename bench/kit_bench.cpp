@@ -41,7 +41,7 @@ class Photos {
     Photos& operator=(const Photos&) = delete;
 
     std::string Photo(int width, int height) {
-        const std::string name = "scene" + std::to_string(width) + ".bmp";
+        std::string name = "scene" + std::to_string(width) + ".bmp";
         if (!fs::exists(Folder / "Pictures" / name)) {
             WriteBitmap(Folder / "Pictures" / name, Scene::Paint(width, height));
         }
@@ -96,7 +96,7 @@ struct Studio {
 };
 
 void StartUp(benchmark::State& run) {
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         Studio studio(8);
         benchmark::DoNotOptimize(studio.State.PaintCount);
     }
@@ -106,7 +106,7 @@ BENCHMARK(StartUp)->Unit(benchmark::kMillisecond);
 void Import(benchmark::State& run) {
     Studio studio(8);
     const auto width = static_cast<int>(run.range(0));
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         studio.Choose(width, width * 3 / 4);
     }
     run.SetComplexityN(run.range(0) * run.range(0));
@@ -122,7 +122,7 @@ BENCHMARK(Import)
 void Convert(benchmark::State& run) {
     Studio studio(run.range(0));
     studio.Choose(kWidth, kHeight);
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         studio.Convert();
         run.PauseTiming();
         studio.Restore();
@@ -138,11 +138,11 @@ void ConvertByPaints(benchmark::State& run) {
     std::vector<PaintColor> paints{{}};
     for (int i = 0; i < run.range(0); ++i) {
         PaintColor paint =
-            studio.State.MasterColors[static_cast<std::size_t>(1 + i % studio.State.MasterCount)];
+            studio.State.MasterColors[static_cast<std::size_t>(i % studio.State.MasterCount) + 1];
         paint.Red = std::max(1, paint.Red - i / studio.State.MasterCount);
         paints.push_back(paint);
     }
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         run.PauseTiming();
         SetPalette(studio.State, paints);
         run.ResumeTiming();
@@ -160,7 +160,7 @@ void PaintPass(benchmark::State& run) {
     Studio studio(run.range(0));
     studio.Choose(kWidth, kHeight);
     studio.Convert();
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         PaintItNow_Click(studio.Place);
     }
 }
@@ -171,7 +171,7 @@ void Sheet(benchmark::State& run) {
     studio.Choose(kWidth, kHeight);
     studio.Convert();
     PaintItNow_Click(studio.Place);
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         benchmark::DoNotOptimize(WriteSheet(studio.Place));
     }
 }
@@ -182,7 +182,7 @@ void Painting(benchmark::State& run) {
     studio.Choose(kWidth, kHeight);
     studio.Convert();
     PaintItNow_Click(studio.Place);
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         benchmark::DoNotOptimize(PrintWorkform_Click(studio.Place));
     }
 }
@@ -193,7 +193,7 @@ void SavedGridFile(benchmark::State& run) {
     studio.Choose(kWidth, kHeight);
     studio.Convert();
     const WorkState& state = studio.State;
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         WriteStippleFile(StippleFilePath(studio.Place),
                          {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown,
                           state.FinalColors});
@@ -210,7 +210,7 @@ void WholeKit(benchmark::State& run, const char* difficulty, const char* outputs
     std::ostringstream out;
     std::ostringstream err;
     const Surroundings around{.Out = out, .Err = err, .Shipped = VENDREL_SOURCE_DIR};
-    for (auto _ : run) {
+    for ([[maybe_unused]] const auto step : run) {
         if (RunCommandLine(words, around) != 0) {
             run.SkipWithError(err.str().c_str());
             return;

@@ -67,7 +67,7 @@ void BM_Numbering(benchmark::State& run) {
                                    static_cast<std::size_t>(height));
     state.SheetDC = DibView(bits.data(), width, height, width * 3);
     NumberingCounts counts;
-    for (auto step : run) {
+    for ([[maybe_unused]] const auto step : run) {
         counts = SetupCellNumbers(painted.bench.Place, painted.bench.Frames.WorkFrame.Picture);
     }
     run.counters["areas"] = counts.Areas;
@@ -82,7 +82,7 @@ SavedGrid Saved(const WorkState& state) {
 
 void BM_FormatStippleFile(benchmark::State& run) {
     PaintedBench painted(4);
-    for (auto step : run) {
+    for ([[maybe_unused]] const auto step : run) {
         benchmark::DoNotOptimize(FormatStippleFile(Saved(painted.bench.State)));
     }
 }
@@ -91,7 +91,7 @@ BENCHMARK(BM_FormatStippleFile)->Unit(benchmark::kMillisecond);
 void BM_ReadStippleFile(benchmark::State& run) {
     PaintedBench painted(4);
     const std::string text = FormatStippleFile(Saved(painted.bench.State));
-    for (auto step : run) {
+    for ([[maybe_unused]] const auto step : run) {
         StippleFileReader reader(text, "a.stp");
         benchmark::DoNotOptimize(reader.ReadPalette());
         Grid<StippleCell> cells(reader.Header().Across, reader.Header().Down);

@@ -47,7 +47,7 @@ std::vector<PaintColor> Catalogue(int count) {
 void MatchCells(benchmark::State& bench) {
     const std::vector<Channels> colors = PhotoColors(static_cast<int>(bench.range(0)));
     const std::vector<PaintColor> paints = Catalogue(static_cast<int>(bench.range(1)));
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto step : bench) {
         NearestPaintTable table(paints);
         int sum = 0;
         for (const Channels& color : colors) {
@@ -81,7 +81,7 @@ void Reduce(benchmark::State& bench) {
             ++counts[static_cast<std::size_t>(paint)];
         }
     }
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto step : bench) {
         bench.PauseTiming();
         WorkState state = full;
         bench.ResumeTiming();

@@ -42,8 +42,9 @@ class Scene {
     static double Grain(double x, double y) {
         double sum = 0;
         double weight = 0.5;
-        for (double size = 160; size > 1; size /= 2.5, weight *= 0.55) {
+        for (const double size : {160.0, 64.0, 25.6, 10.24, 4.096, 1.6384}) {
             sum += weight * (Noise(x / size, y / size) - 0.5);
+            weight *= 0.55;
         }
         return sum;
     }

@@ -27,7 +27,7 @@ void AskToStop(int signal) {
 fs::path ShippedFolder() {
     std::error_code ignored;
     for (const char* way : {"../share/vendrel", "../../share/vendrel"}) {
-        const fs::path installed = (OwnFolder() / way).lexically_normal();
+        fs::path installed = (OwnFolder() / way).lexically_normal();
         if (fs::exists(installed / "Data", ignored)) {
             return installed;
         }

@@ -30,7 +30,7 @@ class TempFolder {
     }
 
     std::filesystem::path Write(std::string_view name, std::string_view bytes) const {
-        const auto file = path_ / name;
+        std::filesystem::path file = path_ / name;
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file, std::ios::binary) << bytes;
         return file;
