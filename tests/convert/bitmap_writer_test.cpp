@@ -3,27 +3,23 @@
 #include <gtest/gtest.h>
 
 #include "convert/bitmap_reader.h"
-#include "convert/bmp_bytes.h"
 #include "support/error.h"
+#include "support/pictures.h"
 #include "support/temp_folder.h"
 
 namespace vendrel {
 namespace {
 
-using test::TempFolder;
-
 TEST(BitmapWriter, WritesTheBytesThatEveryProgramReads) {
-    const TempFolder folder;
-    Surface picture(1, 2, Rgb(1, 2, 3));
-    picture.Set(0, 1, Rgb(250, 251, 252));
-    WriteBitmap(folder / "new/x.BMP", picture);
-    const std::string bytes = folder.Read("new/x.BMP");
+    const test::TempFolder folder;
+    const Surface picture = test::PictureOf({{Rgb(1, 2, 3)}, {Rgb(250, 251, 252)}});
     const std::string golden(
         "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0"
         "\x28\0\0\0\1\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x08\0\0\0\x7C\x15\0\0\x7C\x15\0\0\0\0\0\0\0\0"
         "\0\0\xFC\xFB\xFA\0\3\2\1\0",
         62);
-    EXPECT_EQ(bytes, golden);
+    WriteBitmap(folder / "new/x.BMP", picture);
+    EXPECT_EQ(folder.Read("new/x.BMP"), golden);
 
     cDIBSection image;
     ASSERT_TRUE(image.CreateFromPicture(picture));
@@ -32,20 +28,16 @@ TEST(BitmapWriter, WritesTheBytesThatEveryProgramReads) {
 }
 
 TEST(BitmapWriter, WhatItWritesIsReadBack) {
-    const TempFolder folder;
+    const test::TempFolder folder;
     // Rows of 603 bytes: the last block is not full, rows are padded.
-    Surface picture(201, 1000);
-    for (int y = 0; y < 1000; ++y) {
-        for (int x = 0; x < 201; ++x) {
-            picture.Set(x, y, (x * 7919 + y * 104729) & 0xFFFFFF);
-        }
-    }
+    const Surface picture =
+        test::PictureOf(201, 1000, [](int x, int y) { return (x * 7919 + y * 104729) & 0xFFFFFF; });
     WriteBitmap(folder / "x.bmp", picture);
     EXPECT_EQ(ReadBitmap(folder / "x.bmp"), picture);
 }
 
 TEST(BitmapWriter, RefusesNothingAndLeavesTheOldFile) {
-    const TempFolder folder;
+    const test::TempFolder folder;
     const auto file = folder.Write("x.bmp", "old");
     EXPECT_THROW(WriteBitmap(file, Surface()), FileError);
     EXPECT_THROW(WriteBitmap(file, cDIBSection()), FileError);

@@ -9,7 +9,7 @@
 
 namespace vendrel::test {
 
-/// A BMP file built byte by byte, so that any of its fields may lie.
+/// A BMP file of one pixel built byte by byte, so that any of its fields may lie.
 struct BmpBytes {
     int Width = 1;
     int Height = 1;
@@ -20,7 +20,7 @@ struct BmpBytes {
     int PixelOffset = -1;  // -1: right behind header and palette
     std::vector<std::uint32_t> Masks = {};
     std::vector<std::uint32_t> Palette = {};  // 0xRRGGBB
-    std::vector<int> Pixels = {};             // bytes as they stand in the file
+    std::vector<int> Pixels = {1, 2, 3, 0};   // bytes as they stand in the file
 
     [[nodiscard]] std::string Make() const {
         const std::size_t masksInside =

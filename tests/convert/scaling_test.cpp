@@ -2,48 +2,32 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
+
+#include "support/pictures.h"
 
 namespace vendrel {
 namespace {
 
-Surface Greys(const std::vector<std::vector<int>>& rows) {
-    Surface picture(static_cast<int>(rows[0].size()), static_cast<int>(rows.size()));
-    for (int y = 0; y < picture.Height(); ++y) {
-        for (int x = 0; x < picture.Width(); ++x) {
-            const int grey = rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
-            picture.Set(x, y, Rgb(grey, 255 - grey, grey / 2));
-        }
-    }
-    return picture;
-}
+using test::PictureOf;
 
 Surface Noise(int width, int height) {
     std::minstd_rand random(static_cast<unsigned>(width * 1000 + height));
-    Surface picture(width, height);
-    for (int y = 0; y < height; ++y) {
-        for (Color& pixel : picture.Row(y)) {
-            pixel = static_cast<Color>(random() & 0xFFFFFF);
-        }
-    }
-    return picture;
+    return PictureOf(width, height,
+                     [&](int, int) { return static_cast<Color>(random() & 0xFFFFFF); });
 }
 
 TEST(Scaling, ShrinksToTheAverageOfTheAreaCovered) {
-    EXPECT_EQ(ScaleTo(Greys({{0, 100}, {50, 250}}), 1, 1), Greys({{100}}));
-    // Two thirds of a source pixel and a third of its neighbour: one and a half cover each target.
-    EXPECT_EQ(RedOf(ScaleTo(Greys({{0, 90, 240}}), 2, 1).Get(0, 0)), 30);
-    EXPECT_EQ(RedOf(ScaleTo(Greys({{0, 90, 240}}), 2, 1).Get(1, 0)), 190);
-    EXPECT_EQ(RedOf(ScaleTo(Greys({{0}, {90}, {240}}), 1, 2).Get(0, 1)), 190);
+    EXPECT_EQ(ScaleTo(PictureOf({{0, 100}, {50, 250}}), 1, 1), PictureOf({{100}}));
+    // One and a half source pixels cover each target.
+    EXPECT_EQ(ScaleTo(PictureOf({{0, 90, 240}}), 2, 1), PictureOf({{30, 190}}));
+    EXPECT_EQ(ScaleTo(PictureOf({{0}, {90}, {240}}), 1, 2), PictureOf({{30}, {190}}));
 }
 
 TEST(Scaling, GrowsSmoothlyBetweenPixelCentres) {
-    const Surface grown = ScaleTo(Greys({{0, 200}}), 4, 1);
-    EXPECT_EQ(RedOf(grown.Get(0, 0)), 0);
-    EXPECT_EQ(RedOf(grown.Get(1, 0)), 50);
-    EXPECT_EQ(RedOf(grown.Get(2, 0)), 150);
-    EXPECT_EQ(RedOf(grown.Get(3, 0)), 200);
-    EXPECT_EQ(ScaleTo(Greys({{77}}), 3, 5), Greys(std::vector(5, std::vector(3, 77))));
+    EXPECT_EQ(ScaleTo(PictureOf({{0, 200}}), 4, 1), PictureOf({{0, 50, 150, 200}}));
+    EXPECT_EQ(ScaleTo(PictureOf({{77}}), 3, 5), Surface(3, 5, 77));
 }
 
 // Every pixel on its own, in the order of the formulas.
@@ -63,32 +47,29 @@ TEST(Scaling, AgreesWithThePlainSumForEveryPairOfSizes) {
              {7, 5, 3, 2}, {3, 2, 7, 5}, {7, 2, 3, 5}, {2, 7, 5, 3}, {9, 9, 9, 4}, {4, 1, 4, 6}}) {
         const Surface picture = Noise(fw, fh);
         const Surface scaled = ScaleTo(picture, w, h);
-        for (int y = 0; y < h; ++y) {
-            for (int x = 0; x < w; ++x) {
-                double red = 0;
-                double blue = 0;
-                for (int sy = 0; sy < fh; ++sy) {
-                    for (int sx = 0; sx < fw; ++sx) {
-                        const double share = Share(fw, w, x, sx) * Share(fh, h, y, sy);
-                        red += share * RedOf(picture.Get(sx, sy));
-                        blue += share * BlueOf(picture.Get(sx, sy));
-                    }
-                }
-                EXPECT_NEAR(RedOf(scaled.Get(x, y)), red, 0.5001);
-                EXPECT_NEAR(BlueOf(scaled.Get(x, y)), blue, 0.5001);
+        for (int at = 0; at < w * h; ++at) {
+            double red = 0;
+            double green = 0;
+            double blue = 0;
+            for (int from = 0; from < fw * fh; ++from) {
+                const double share =
+                    Share(fw, w, at % w, from % fw) * Share(fh, h, at / w, from / fw);
+                const Color color = picture.Get(from % fw, from / fw);
+                red += share * RedOf(color);
+                green += share * GreenOf(color);
+                blue += share * BlueOf(color);
             }
+            EXPECT_NEAR(RedOf(scaled.Get(at % w, at / w)), red, 0.5001);
+            EXPECT_NEAR(GreenOf(scaled.Get(at % w, at / w)), green, 0.5001);
+            EXPECT_NEAR(BlueOf(scaled.Get(at % w, at / w)), blue, 0.5001);
         }
     }
 }
 
-TEST(Scaling, KeepsTheSameSizeExactly) {
+TEST(Scaling, GivesTheSamePixelsFromTheLowestRowUp) {
     const Surface picture = Noise(13, 7);
     EXPECT_EQ(ScaleTo(picture, 13, 7), picture);
-}
-
-TEST(Scaling, GivesTheSamePixelsFromTheLowestRowUp) {
     for (const auto& [w, h] : {std::pair{4, 3}, {30, 20}, {13, 7}, {20, 4}}) {
-        const Surface picture = Noise(13, 7);
         RowScaler scaler({13, 7, w, h}, RowOrder::BottomUp);
         for (int y = 6; y >= 0; --y) {
             scaler.Push(picture.Row(y));

@@ -1,15 +1,13 @@
 #include "convert/stipple_conversion.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
 
 #include "convert/cell_color.h"
 #include "drawing/stipple_brush.h"
 #include "paints/color_match.h"
 #include "paints/paints.h"
 #include "support/error.h"
+#include "support/pictures.h"
 
 namespace vendrel {
 namespace {
@@ -65,35 +63,21 @@ TEST(Stipples, TakeTheirColourFromTheirOwnPixels) {
     }
 }
 
-// The conversion in so many words, one pixel and one paint at a time.
+// The conversion in so many words, one stipple and one paint at a time; the paints as they are
+// found.
 std::vector<std::vector<int>> PlainConversion(const Conversion& bench, const Surface& photo,
                                               std::vector<PaintColor>& found) {
     const int size = bench.State.StippleSize;
-    const int half = size / 2;
+    const bool sampling = bench.MainMenu[MenuId::SamplePixel].Checked;
     found.assign(1, {});
     std::vector<std::vector<int>> rows;
     for (int y = 1; y <= photo.Height(); y += size) {
         rows.emplace_back();
         for (int x = 1; x <= photo.Width(); x += size) {
-            float sums[3] = {};
-            float count = 0;
-            const bool sampling = bench.MainMenu[MenuId::SamplePixel].Checked;
-            for (int n = 0; n < (sampling ? 1 : size * size); ++n) {
-                const Color color = sampling ? photo.Get(x + half, y + half)
-                                             : photo.Get(x + n % size, y + n / size);
-                if (color != kNoColor) {
-                    sums[0] += static_cast<float>(RedOf(color));
-                    sums[1] += static_cast<float>(GreenOf(color));
-                    sums[2] += static_cast<float>(BlueOf(color));
-                    ++count;
-                }
-            }
-            int rgb[3];
-            for (int c = 0; c < 3; ++c) {
-                rgb[c] = static_cast<int>(std::lrint(sums[c] / count));
-            }
+            Channels color = sampling ? PixelColor(photo, x + size / 2, y + size / 2)
+                                      : AverageColor(photo, x, y, size);
             int index = 0;
-            ColorMatch(bench.State, rgb[0], rgb[1], rgb[2], index, 0);
+            ColorMatch(bench.State, color.Red, color.Green, color.Blue, index, 0);
             const PaintColor& paint = bench.State.PaintColors[static_cast<std::size_t>(index)];
             const auto known = std::find_if(found.begin() + 1, found.end(), [&](const auto& f) {
                 return ColorOf(f) == ColorOf(paint);
@@ -114,11 +98,9 @@ TEST(Stipples, AreMatchedAsOneByOneAndLookTheSameUnwatched) {
         bench.MainMenu[MenuId::SamplePixel].Checked = round % 2 == 0;
         bench.State.KeepAllColors = round % 4 < 2;
         bench.State.FinalColors = 3;
-        for (int y = 0; y < bench.Photo().Height(); ++y) {
-            for (Color& pixel : bench.Photo().Row(y)) {
-                pixel = ColorOf(test::RandomPaints(random, 1, 1)[0]);
-            }
-        }
+        bench.Photo() =
+            test::PictureOf(bench.Photo().Width(), bench.Photo().Height(),
+                            [&](int, int) { return static_cast<Color>(random() & 0xFFFFFF); });
         test::UsePaints(bench.State, test::RandomPaints(random, 30, round % 5 == 0 ? 127 : 5));
         std::vector<PaintColor> found;
         const auto rows = PlainConversion(bench, bench.Photo(), found);
@@ -165,12 +147,8 @@ TEST(Stipples, AreRefusedWithoutFinalPaintsOrPaints) {
          {std::pair{0, "choose Final Paints"}, {16, "Paint Shop"}}) {
         Conversion bench(8, 1, 1);
         bench.State.FinalColors = finalColors;
-        try {
-            ChangeToStipples_Click(bench.Place);
-            ADD_FAILURE() << advice;
-        } catch (const Error& error) {
-            EXPECT_THAT(error.what(), testing::HasSubstr(advice));
-        }
+        EXPECT_THAT([&] { ChangeToStipples_Click(bench.Place); },
+                    testing::ThrowsMessage<Error>(testing::HasSubstr(advice)));
         EXPECT_EQ(bench.State.WorkStage, 0);
         EXPECT_TRUE(bench.Drawn().Empty());
     }
