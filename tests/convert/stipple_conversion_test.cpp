@@ -65,12 +65,12 @@ TEST(Stipples, TakeTheirColourFromTheirOwnPixels) {
 
 // The conversion in so many words, one stipple and one paint at a time; the paints as they are
 // found.
-std::vector<std::vector<int>> PlainConversion(const Conversion& bench, const Surface& photo,
-                                              std::vector<PaintColor>& found) {
+std::vector<std::string> PlainConversion(const Conversion& bench, const Surface& photo,
+                                         std::vector<PaintColor>& found) {
     const int size = bench.State.StippleSize;
     const bool sampling = bench.MainMenu[MenuId::SamplePixel].Checked;
     found.assign(1, {});
-    std::vector<std::vector<int>> rows;
+    std::vector<std::string> rows;
     for (int y = 1; y <= photo.Height(); y += size) {
         rows.emplace_back();
         for (int x = 1; x <= photo.Width(); x += size) {
@@ -82,7 +82,7 @@ std::vector<std::vector<int>> PlainConversion(const Conversion& bench, const Sur
             const auto known = std::find_if(found.begin() + 1, found.end(), [&](const auto& f) {
                 return ColorOf(f) == ColorOf(paint);
             });
-            rows.back().push_back(static_cast<int>(known - found.begin()));
+            rows.back() += static_cast<char>('0' + (known - found.begin()));
             if (known == found.end()) {
                 found.push_back(paint);
             }
@@ -107,7 +107,7 @@ TEST(Stipples, AreMatchedAsOneByOneAndLookTheSameUnwatched) {
         const auto palette = bench.State.PaintColors;
         ChangeToStipples_Click(bench.Place);
         if (bench.State.KeepAllColors) {
-            ASSERT_EQ(test::GridOf(bench.State), rows);
+            ASSERT_EQ(test::GridOf(bench.State.Stipples), rows);
             ASSERT_EQ(bench.State.PaintColors, found);
         }
         ASSERT_LE(bench.State.PaintCount, bench.State.KeepAllColors ? 30 : 3);

@@ -1,7 +1,6 @@
 #include "paints/catalogue.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "paints/paints.h"
 #include "support/error.h"
@@ -33,12 +32,8 @@ TEST(Catalogue, KeepsWhatItHasWhenTheFileIsBroken) {
         test::Bench bench;
         bench.State.MasterColors.resize(2);
         bench.Files.Write("Data/studiopaint.csv", text);
-        try {
-            LoadMasterColors(bench.Place);
-            ADD_FAILURE() << text;
-        } catch (const FormatError& error) {
-            EXPECT_THAT(error.what(), testing::HasSubstr(problem));
-        }
+        EXPECT_THAT([&] { LoadMasterColors(bench.Place); },
+                    testing::ThrowsMessage<FormatError>(testing::HasSubstr(problem)));
         EXPECT_EQ(bench.State.MasterColors.size(), 2U);
     }
     test::Bench empty;

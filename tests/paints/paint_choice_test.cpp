@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "paints/catalogue.h"
 #include "paints/paint_list.h"
@@ -36,19 +35,15 @@ class PaintChoice : public testing::Test {
 };
 
 TEST_F(PaintChoice, StartsWithThePaintListInTheOrderOfItsLines) {
-    struct Case {
-        const char* File;
-        const char* Sets;
-        const char* Paints;
-    };
-    for (const Case& c : {Case{"Inks, dark\r\nOils\r\n", "Oils;Inks, dark;", "i1 o1 o2"},
-                          {"Nobody's\r\n oils\r\nGreys \r\n", "", ""},
-                          {"Greys\nGreys", "Greys;", "g1 g1"}}) {
+    for (const auto& [file, sets, paints] :
+         {std::tuple{"Inks, dark\r\nOils\r\n", "Oils;Inks, dark;", "i1 o1 o2"},
+          {"Nobody's\r\n oils\r\nGreys \r\n", "", ""},
+          {"Greys\nGreys", "Greys;", "g1 g1"}}) {
         BuildPaintSets(Bench.Place);
-        Bench.Files.Write("data/paintlist.txt", c.File);
+        Bench.Files.Write("data/paintlist.txt", file);
         LoadPaintList(Bench.Place);
-        EXPECT_EQ(Selected(), c.Sets) << c.File;
-        EXPECT_EQ(test::NamesOf(State), c.Paints) << c.File;
+        EXPECT_EQ(Selected(), sets) << file;
+        EXPECT_EQ(test::NamesOf(State), paints) << file;
     }
 }
 

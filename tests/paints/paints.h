@@ -20,25 +20,25 @@ inline void UsePaints(WorkState& state, const std::vector<PaintColor>& paints) {
     state.PaintCount = static_cast<int>(paints.size());
 }
 
-/// Lays a grid of paint indices, row by row.
-inline void UseGrid(WorkState& state, const std::vector<std::vector<int>>& rows) {
+/// Lays a grid row by row, one character a stipple: '0' for no paint, '1' for paint 1 and so on
+/// through the characters.
+inline void UseGrid(WorkState& state, const std::vector<std::string>& rows) {
     state.CellsAcross = static_cast<int>(rows.front().size());
     state.CellsDown = static_cast<int>(rows.size());
     state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);
     for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            state.Stipples(x, y).ColorIndex =
-                rows[static_cast<std::size_t>(y - 1)][static_cast<std::size_t>(x - 1)];
+        auto cell = state.Stipples.Row(y).begin();
+        for (const char paint : rows[static_cast<std::size_t>(y - 1)]) {
+            (++cell)->ColorIndex = paint - '0';
         }
     }
 }
 
-inline std::vector<std::vector<int>> GridOf(const WorkState& state) {
-    std::vector<std::vector<int>> rows;
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        rows.emplace_back();
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            rows.back().push_back(state.Stipples(x, y).ColorIndex);
+inline std::vector<std::string> GridOf(const Grid<StippleCell>& stipples) {
+    std::vector<std::string> rows(static_cast<std::size_t>(stipples.Down()));
+    for (int y = 1; y <= stipples.Down(); ++y) {
+        for (const StippleCell& cell : stipples.Row(y).subspan(1)) {
+            rows[static_cast<std::size_t>(y - 1)] += static_cast<char>('0' + cell.ColorIndex);
         }
     }
     return rows;

@@ -1,7 +1,6 @@
 #include "paints/palette_files.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "paints/next_best.h"
 #include "support/error.h"
@@ -9,6 +8,10 @@
 
 namespace vendrel {
 namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::ThrowsMessage;
 
 PaintColor Paint(int red, int green, int blue, const char* set, const char* name) {
     return {red, green, blue, set, "", name, 0};
@@ -18,16 +21,10 @@ using Paints = std::vector<PaintColor>;
 
 TEST(PaletteFiles, ReadsPalettesOfOtherPrograms) {
     const test::TempFolder folder;
-    struct Case {
-        const char* file;
-        const char* text;
-        Paints expected;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<const char*, const char*, Paints> cases[] = {
         {"a.gpl",
-         "GIMP Palette\r\nName: Sea \"deep\"\nColumns: 4\n# 1 2 3 no colour\n  0  20\t "
-         "40\tInk\n\n255 "
-         "255 255\n",
+         "GIMP Palette\r\nName: Sea \"deep\"\nColumns: 4\n# 1 2 3 no colour\n"
+         "  0  20\t 40\tInk\n\n255 255 255\n",
          {{},
           Paint(0, 20, 40, "Sea 'deep'", "Ink"),
           Paint(255, 255, 255, "Sea 'deep'", "Unnamed")}},
@@ -36,31 +33,22 @@ TEST(PaletteFiles, ReadsPalettesOfOtherPrograms) {
          {{}, Paint(1, 2, 3, "plain", "Red, 'hot'"), Paint(4, 5, 6, "plain", "Unnamed")}},
         {"heading.CSV", "Name;B;G;R\nSky;9;8;7\n", {{}, Paint(7, 8, 9, "heading", "Sky")}},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(ReadPaletteFile(folder.Write(c.file, c.text)), c.expected) << c.file;
+    for (const auto& [file, text, expected] : cases) {
+        EXPECT_EQ(ReadPaletteFile(folder.Write(file, text)), expected) << file;
     }
 }
 
 TEST(PaletteFiles, NamesTheLineThatIsBroken) {
     const test::TempFolder folder;
-    struct Case {
-        const char* file;
-        const char* text;
-        const char* says;
-    };
-    for (const Case& c : {Case{"a.gpl", "no palette", "line 1"},
-                          {"a.gpl", "GIMP Palette\n1 2 300 x\n", "line 2"},
-                          {"a.csv", "1,2,3,x\n1,2\n", "line 2"},
-                          {"a.csv", "name,red,green\nx,1,2\n", "line 1"},
-                          {"a.csv", "red,green,blue,name\n", "no colours"},
-                          {"a.txt", "", ".gpl or a .csv"}}) {
-        try {
-            (void)ReadPaletteFile(folder.Write(c.file, c.text));
-            ADD_FAILURE() << c.text;
-        } catch (const Error& error) {
-            EXPECT_THAT(error.what(), testing::HasSubstr(c.says));
-            EXPECT_THAT(error.what(), testing::HasSubstr(c.file));
-        }
+    for (const auto& [file, text, says] : {std::tuple{"a.gpl", "no palette", "line 1"},
+                                           {"a.gpl", "GIMP Palette\n1 2 300 x\n", "line 2"},
+                                           {"a.csv", "1,2,3,x\n1,2\n", "line 2"},
+                                           {"a.csv", "name,red,green\nx,1,2\n", "line 1"},
+                                           {"a.csv", "red,green,blue,name\n", "no colours"},
+                                           {"a.txt", "", ".gpl or a .csv"}}) {
+        const auto path = folder.Write(file, text);
+        EXPECT_THAT([&] { (void)ReadPaletteFile(path); },
+                    ThrowsMessage<Error>(AllOf(HasSubstr(file), HasSubstr(says))));
     }
 }
 

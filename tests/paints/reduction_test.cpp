@@ -1,6 +1,5 @@
 #include "paints/reduction.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "paints/color_match.h"
@@ -10,7 +9,7 @@
 namespace vendrel {
 namespace {
 
-using Rows = std::vector<std::vector<int>>;
+using Rows = std::vector<std::string>;
 using test::Paint;
 
 // The reduction in so many words: for every paint dropped, the grid is counted, repainted and
@@ -48,41 +47,21 @@ TEST(ReduceColors, DropsTheLeastUsedPaintAndRepaintsItsStipples) {
         const char* Names;
     };
     const Case cases[] = {
-        {"enough already", {{1, 2, 3, 4, 5}}, 5, {{1, 2, 3, 4, 5}}, "a b c d e"},
-        {"unused first", {{1, 1, 3, 4, 4}}, 3, {{1, 1, 2, 3, 3}}, "a c d"},
-        {"into a later paint",
-         {{1, 2, 2, 3, 3, 4, 4, 5, 5}},
-         4,
-         {{1, 1, 1, 2, 2, 3, 3, 4, 4}},
-         "b c d e"},
-        {"the lower of equals",
-         {{1, 1, 2, 2, 3, 4, 5, 5}},
-         4,
-         {{1, 1, 2, 2, 3, 3, 4, 4}},
-         "a b d e"},
-        {"the last paint",
-         {{1, 1, 2, 2, 3, 3, 4, 4, 5}},
-         4,
-         {{1, 1, 2, 2, 3, 3, 4, 4, 1}},
-         "a b c d"},
-        {"takes in, then stays",
-         {{1, 2, 2, 3, 3, 4, 4, 4, 5, 5}},
-         3,
-         {{1, 1, 1, 2, 2, 2, 2, 2, 3, 3}},
-         "b d e"},
-        {"counts up to a bare stipple",
-         {{1, 2, 0, 3, 3}, {3, 4, 4, 5, 5}},
-         2,
-         {{1, 2, 0, 1, 1}, {1, 1, 1, 1, 1}},
-         "a b"},
-        {"down to nothing", {{1, 2, 3, 4, 5}}, 0, {{0, 0, 0, 0, 0}}, ""},
+        {"enough already", {"12345"}, 5, {"12345"}, "a b c d e"},
+        {"unused first", {"11344"}, 3, {"11233"}, "a c d"},
+        {"into a later paint", {"122334455"}, 4, {"111223344"}, "b c d e"},
+        {"the lower of equals", {"11223455"}, 4, {"11223344"}, "a b d e"},
+        {"the last paint", {"112233445"}, 4, {"112233441"}, "a b c d"},
+        {"takes in, then stays", {"1223344455"}, 3, {"1112222233"}, "b d e"},
+        {"counts up to a bare stipple", {"12033", "34455"}, 2, {"12011", "11111"}, "a b"},
+        {"down to nothing", {"12345"}, 0, {"00000"}, ""},
     };
     for (const Case& c : cases) {
         test::Bench bench;
         test::UsePaints(bench.State, paints);
         test::UseGrid(bench.State, c.Before);
         ReduceColors(bench.Place, c.Target);
-        EXPECT_EQ(test::GridOf(bench.State), c.After) << c.What;
+        EXPECT_EQ(test::GridOf(bench.State.Stipples), c.After) << c.What;
         EXPECT_EQ(test::NamesOf(bench.State), c.Names) << c.What;
         EXPECT_EQ(bench.State.PaintColors.size(), static_cast<std::size_t>(c.Target) + 1) << c.What;
         EXPECT_EQ(bench.Screen.Captions.size(), static_cast<std::size_t>(5 - c.Target)) << c.What;
@@ -96,14 +75,14 @@ TEST(ReduceColors, AgreesWithCountingAfreshForEveryPaint) {
         test::Bench bench;
         test::UsePaints(bench.State, test::RandomPaints(random, count, round % 2 == 0 ? 85 : 5));
         std::uniform_int_distribution<int> index(round % 3 == 0 ? 0 : 1, count);
-        Rows rows(static_cast<std::size_t>(1 + round % 5), std::vector<int>(17));
-        for (auto& row : rows) {
-            for (int& cell : row) {
-                cell = std::min(index(random), index(random));
+        Rows rows(static_cast<std::size_t>(1 + round % 5), std::string(17, '0'));
+        for (std::string& row : rows) {
+            for (char& cell : row) {
+                cell = static_cast<char>('0' + std::min(index(random), index(random)));
             }
         }
         test::UseGrid(bench.State, rows);
-        bench.State.Stipples(1, 1) = {bench.State.Stipples(1, 1).ColorIndex, 5, 6, 7, {}};
+        bench.State.Stipples(1, 1).X = 5;
         WorkState plain = bench.State;
         std::vector<std::string> captions;
         const int target = round % count;
@@ -124,9 +103,7 @@ TEST(ReduceColors, StopsWithWhatWasDoneWhenACounterIsFull) {
         test::Bench bench;
         test::UsePaints(bench.State,
                         {Paint(10, 0, 0, "a"), Paint(11, 0, 0, "b"), Paint(250, 0, 0, "c")});
-        std::vector<int> row(32767, 1);
-        row.insert(row.end(), {2, 3, 3});
-        test::UseGrid(bench.State, {row});
+        test::UseGrid(bench.State, {std::string(32767, '1') + "233"});
         if (target == 2) {
             ReduceColors(bench.Place, target);
         } else {
@@ -146,9 +123,9 @@ TEST(ReduceColors, StopsWithWhatWasDoneWhenACounterIsFull) {
 TEST(RemoveColor, MovesLaterPaintsUp) {
     WorkState state;
     test::UsePaints(state, {Paint(0, 0, 0, "a"), Paint(90, 0, 0, "b"), Paint(100, 0, 0, "c")});
-    test::UseGrid(state, {{1, 2, 3}, {0, 2, 1}});
+    test::UseGrid(state, {"123", "021"});
     RemoveColor(state, 2);
-    EXPECT_EQ(test::GridOf(state), (Rows{{1, 2, 2}, {0, 2, 1}}));
+    EXPECT_EQ(test::GridOf(state.Stipples), (Rows{"122", "021"}));
     EXPECT_EQ(test::NamesOf(state), "a c");
 }
 

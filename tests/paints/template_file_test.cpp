@@ -1,7 +1,6 @@
 #include "paints/template_file.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "paints/paints.h"
 #include "paints/restore.h"
@@ -33,20 +32,16 @@ TEST(TemplateFile, RefusesADoubleQuoteAndKeepsTheOldFile) {
 }
 
 TEST(TemplateFile, BecomesThePaletteAndLowersTheFinalPaints) {
-    using enum MenuId;
-    struct Case {
-        int Paints;
-        MenuId Wanted;
-        int FinalColors;
-    };
-    for (const Case& c : {Case{12, Set32Colors, 12}, {33, Set32Colors, 32}, {60, EasySet, 0}}) {
+    for (const auto& [paints, wanted, finalColors] : {std::tuple{12, MenuId::Set32Colors, 12},
+                                                      {33, MenuId::Set32Colors, 32},
+                                                      {60, MenuId::EasySet, 0}}) {
         test::Bench bench;
-        bench.MainMenu[c.Wanted].Checked = true;
+        bench.MainMenu[wanted].Checked = true;
         WriteTemplate(TemplatePath(bench.Place, "T"),
-                      std::vector<PaintColor>(static_cast<std::size_t>(c.Paints) + 1));
+                      std::vector<PaintColor>(static_cast<std::size_t>(paints) + 1));
         EXPECT_TRUE(LoadTemplateColors(bench.Place, "T"));
-        EXPECT_EQ(bench.State.PaintCount, c.Paints);
-        EXPECT_EQ(bench.State.FinalColors, c.FinalColors) << c.Paints;
+        EXPECT_EQ(bench.State.PaintCount, paints);
+        EXPECT_EQ(bench.State.FinalColors, finalColors) << paints;
         EXPECT_TRUE(bench.Screen.Messages.empty());
     }
 }
@@ -58,21 +53,18 @@ TEST(TemplateFile, WithoutPaintsSaysSoAndEmptiesThePalette) {
     EXPECT_FALSE(LoadTemplateColors(bench.Place, "T"));
     EXPECT_EQ(bench.State.PaintCount, 0);
     EXPECT_EQ(bench.State.FinalColors, 50);
-    EXPECT_EQ(bench.Screen.Messages[0],
-              std::pair(std::string("Unable To Continue"),
-                        std::string("The Selected Template Has NO Paints Assigned!")));
+    EXPECT_THAT(bench.Screen.Messages,
+                testing::ElementsAre(testing::Pair(
+                    "Unable To Continue", "The Selected Template Has NO Paints Assigned!")));
 }
 
 TEST(TemplateFile, LeavesThePaletteAloneWhenItCannotBeRead) {
     test::Bench bench;
     test::UsePaints(bench.State, {test::Paint(1, 1, 1, "old")});
     bench.Files.Write("templates/T.csv", " 2\r\n1,2,3,\"a\",\"b\",\"c\"\r\n1,2,999,\"a\"");
-    try {
-        (void)LoadTemplateColors(bench.Place, "T");
-        ADD_FAILURE();
-    } catch (const FormatError& error) {
-        EXPECT_THAT(error.what(), testing::HasSubstr("T.csv, line 3: a paint's blue"));
-    }
+    EXPECT_THAT(
+        [&] { (void)LoadTemplateColors(bench.Place, "T"); },
+        testing::ThrowsMessage<FormatError>(testing::HasSubstr("T.csv, line 3: a paint's blue")));
     EXPECT_THROW((void)LoadTemplateColors(bench.Place, "Missing"), FileError);
     EXPECT_EQ(test::NamesOf(bench.State), "old");
 }
