@@ -41,13 +41,12 @@ Rows Areas(const WorkState& state) {
 }
 
 TEST(AreaSearch, NumbersAreasByPaintThenByFirstCell) {
-    struct Case {
+    const struct {
         const char* what;
-        std::vector<std::string_view> grid;
+        Rows grid;
         Rows areas;
         int count;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"corners join, a lone cell stays alone",
          {"21222", "12222", "22232", "22222"},
          {"babbc", "abbbc", "bbbFc", "dddde"},
@@ -65,7 +64,7 @@ TEST(AreaSearch, NumbersAreasByPaintThenByFirstCell) {
          {"ccd", "acd", "acd", "bee"},
          5},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         Easel easel(8, c.grid);
         MarkAll(easel);
         EXPECT_EQ(Areas(easel.State), c.areas) << c.what;

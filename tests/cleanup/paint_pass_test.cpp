@@ -5,7 +5,6 @@
 #include <random>
 
 #include "cleanup/easel.h"
-#include "cleanup/painting_order.h"
 #include "cleanup/plain_paint_pass.h"
 #include "cleanup/small_spots.h"
 #include "cleanup/smart_clean.h"
@@ -62,16 +61,6 @@ TEST(PaintPass, TheSecondPassOfASessionGivesTheBytesOfTheFirst) {
     EXPECT_EQ(easel.State.PixelMap, map);
 }
 
-TEST(PaintPass, TheBrushReachesTheLastColumnAndNotTheLastRow) {
-    // A cell sweeps to its like in the last column but never down into the last row; the cells of
-    // the last row sweep up themselves.
-    Easel easel(8, {"122", "211", "111"});
-    PaintAllCells(easel.Place);
-    EXPECT_EQ(easel.Work().Get(20, 12), easel.Paint(1));  // between (2, 2) and (3, 2)
-    EXPECT_EQ(easel.Work().Get(12, 16), easel.Paint(1));  // between (2, 2) and (2, 3)
-    EXPECT_EQ(easel.Work().Get(0, 5), kBlack);            // pixel column 0 belongs to no cell
-}
-
 TEST(PaintPass, CommandWrapsThePassInPointerMenusAndCaptions) {
     Easel easel(8, {"112", "112", "222"});
     SetupMenuItems(easel.MainMenu, 3);
@@ -100,23 +89,6 @@ TEST(PaintPass, ClosingWhileItPaintsPutsTheMenusBack) {
     EXPECT_TRUE(easel.MainMenu[FileHeader].Enabled);
     EXPECT_EQ(easel.Screen.LastPointer, Pointer::Normal);
     EXPECT_FALSE(easel.State.PaintingDone);
-}
-
-TEST(PaintingOrder, LargestFirstThenByNumberAndEntryZeroAtTheEnd) {
-    std::vector<PaintArea> areas(6);
-    const int counts[] = {0, 2, 5, 2, 5, 0};
-    for (std::size_t a = 0; a < areas.size(); ++a) {
-        areas[a].StippleCount = counts[a];
-    }
-    PaintingOrder order(areas);
-    for (const int expected : {2, 4, 1, 3}) {
-        EXPECT_EQ(order.GetBiggestCell(areas), expected);
-        EXPECT_TRUE(areas[static_cast<std::size_t>(expected)].Painted);
-    }
-    EXPECT_FALSE(areas[0].Painted);
-    EXPECT_EQ(order.GetBiggestCell(areas), 0);
-    EXPECT_TRUE(areas[0].Painted);
-    EXPECT_FALSE(areas[5].Painted);
 }
 
 TEST(SmallSpots, RedrawsBelowTheLimitOfEachSize) {

@@ -10,31 +10,23 @@
 namespace vendrel::test {
 namespace {
 
-constexpr int kDx[] = {0, -1, 0, 1, 1, 1, 0, -1, -1};
-constexpr int kDy[] = {0, -1, -1, -1, 0, 1, 1, 1, 0};
+constexpr CellPos kSteps[] = {{-1, -1}, {0, -1}, {1, -1}, {1, 0}, {1, 1}, {0, 1}, {-1, 1}, {-1, 0}};
 
-bool Visits(const WorkState& s, int direction, int x, int y, bool brush) {
-    const int nx = x + kDx[direction];
-    const int ny = y + kDy[direction];
-    if (direction >= 3 && direction <= 5 && !(brush ? nx <= s.CellsAcross : nx < s.CellsAcross)) {
-        return false;
-    }
-    if ((direction == 1 || direction >= 7) && nx <= 0) {
-        return false;
-    }
-    if (direction >= 5 && direction <= 7 && ny >= s.CellsDown) {
-        return false;
-    }
-    return direction > 3 || ny > 0;
+enum class Reach { Search, Brush };
+
+// The search never steps into the last column or row, the brush never into the last row.
+bool Steps(const WorkState& s, CellPos from, CellPos step, Reach reach) {
+    const int last = s.CellsAcross - (step.X > 0 && reach == Reach::Search ? 1 : 0);
+    const int lowest = s.CellsDown - (step.Y > 0 ? 1 : 0);
+    const CellPos to{from.X + step.X, from.Y + step.Y};
+    return to.X > 0 && to.X <= last && to.Y > 0 && to.Y <= lowest;
 }
 
-bool Loner(const WorkState& s, int x, int y, int p) {
-    for (int d = 1; d <= 8; ++d) {
-        if (Visits(s, d, x, y, false) && s.Stipples(x + kDx[d], y + kDy[d]).ColorIndex == p) {
-            return false;
-        }
-    }
-    return true;
+bool Loner(const WorkState& s, CellPos at, int p) {
+    return std::ranges::none_of(kSteps, [&](CellPos step) {
+        return Steps(s, at, step, Reach::Search) &&
+               s.Stipples(at.X + step.X, at.Y + step.Y).ColorIndex == p;
+    });
 }
 
 void Mark(WorkState& s, int x, int y, int number) {
@@ -44,22 +36,23 @@ void Mark(WorkState& s, int x, int y, int number) {
 }
 
 void Grow(WorkState& s, int x, int y, int p, int number) {
-    if (Loner(s, x, y, p)) {
+    if (Loner(s, {x, y}, p)) {
         s.CellMarks(x, y).Loner = true;
         return;
     }
     std::deque<CellPos> list;
-    for (int d = 1; d <= 8; ++d) {
-        list.push_back({x + kDx[d], y + kDy[d]});
+    for (const CellPos step : kSteps) {
+        list.push_back({x + step.X, y + step.Y});
     }
     while (!list.empty()) {
         const auto [tx, ty] = list.front();
         if (ty >= 0 && ty <= s.CellsDown && tx >= 0 && tx <= s.CellsAcross &&
             s.Stipples(tx, ty).ColorIndex == p && !s.CellMarks(tx, ty).Visited) {
             Mark(s, tx, ty, number);
-            for (int d = 1; d <= 8; ++d) {
-                const CellPos next{tx + kDx[d], ty + kDy[d]};
-                if (Visits(s, d, tx, ty, false) && !s.CellMarks(next.X, next.Y).Visited &&
+            for (const CellPos step : kSteps) {
+                const CellPos next{tx + step.X, ty + step.Y};
+                if (Steps(s, {tx, ty}, step, Reach::Search) &&
+                    !s.CellMarks(next.X, next.Y).Visited &&
                     std::find(list.begin(), list.end(), next) == list.end()) {
                     list.push_back(next);
                 }
@@ -84,7 +77,7 @@ void Redraw(const Workplace& place, BrushShape shape) {
         EachCell(s, [&](int x, int y) {
             const StippleCell& cell = s.Stipples(x, y);
             if (cell.ColorIndex == p) {
-                s.CellMarks(x, y).Loner = Loner(s, x, y, p);
+                s.CellMarks(x, y).Loner = Loner(s, {x, y}, p);
                 if (s.CellMarks(x, y).Loner) {
                     DrawOneStipple(place, cell.X, cell.Y, p, Record::Yes, shape);
                 }
@@ -97,15 +90,15 @@ void PaintArea(const Workplace& place, int number) {
     WorkState& s = place.State;
     const vendrel::PaintArea& area = s.Areas[static_cast<std::size_t>(number)];
     for (const auto& [x, y] : area.Members) {
-        for (int d = 1; d <= 8 && area.StippleCount > 1; ++d) {
-            if (!Visits(s, d, x, y, true) || !s.CellMarks(x + kDx[d], y + kDy[d]).Visited ||
-                s.Stipples(x + kDx[d], y + kDy[d]).ColorIndex != area.ColorIndex) {
-                continue;
-            }
-            const StippleCell& cell = s.Stipples(x, y);
-            for (int i = 0; i < s.StippleSize; ++i) {
-                DrawOneStipple(place, cell.X + i * kDx[d], cell.Y + i * kDy[d], area.ColorIndex,
-                               Record::Yes, BrushShape::Rounded);
+        const StippleCell& cell = s.Stipples(x, y);
+        for (const CellPos step : kSteps) {
+            if (area.StippleCount > 1 && Steps(s, {x, y}, step, Reach::Brush) &&
+                s.CellMarks(x + step.X, y + step.Y).Visited &&
+                s.Stipples(x + step.X, y + step.Y).ColorIndex == area.ColorIndex) {
+                for (int i = 0; i < s.StippleSize; ++i) {
+                    DrawOneStipple(place, cell.X + i * step.X, cell.Y + i * step.Y, area.ColorIndex,
+                                   Record::Yes, BrushShape::Rounded);
+                }
             }
         }
     }
@@ -157,13 +150,8 @@ void PlainPaintPass(const Workplace& place) {
         PaintArea(place, area);
     }
     Redraw(place, BrushShape::Rounded);
-    if (place.State.StippleSize == 8) {
-        SmartClean8(place);
-    } else if (place.State.StippleSize == 6) {
-        SmartClean6(place);
-    } else if (place.State.StippleSize == 4) {
-        SmartClean4(place);
-    }
+    const int size = place.State.StippleSize;
+    (size == 8 ? SmartClean8 : size == 6 ? SmartClean6 : SmartClean4)(place);
     FixSmallSpots(place);
 }
 
