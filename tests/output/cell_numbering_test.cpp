@@ -1,13 +1,12 @@
 #include "output/cell_numbering.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 
+#include "cleanup/easel.h"
 #include "output/nearest_stipple.h"
-#include "shell/recorder.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -27,44 +26,21 @@ class MarkList : public NumberSink {
     std::vector<Mark> Marks;
 };
 
-Color PaintOf(int k) {
-    return Rgb(k, 10, 20);
-}
-
-// A painted picture given as paints of its pixels, (0, 0) first, and the grid below it.
-class Painted {
-  public:
-    Painted(int width, int height, int stippleSize, int paints) {
-        WorkState& state = bench.State;
-        state.StippleSize = stippleSize;
-        state.HalfStipple = stippleSize / 2;
-        state.CellsAcross = std::max(1, width / stippleSize);
-        state.CellsDown = std::max(1, height / stippleSize);
-        state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);
-        for (int y = 1; y <= state.CellsDown; ++y) {
-            for (int x = 1; x <= state.CellsAcross; ++x) {
-                state.Stipples(x, y) = {1, 1 + (x - 1) * stippleSize + state.HalfStipple,
-                                        1 + (y - 1) * stippleSize + state.HalfStipple, 0};
-            }
-        }
-        state.PixelMap = Grid<MapPixel>(width, height);
-        state.PaintCount = paints;
-        for (int k = 1; k <= paints; ++k) {
-            state.PaintColors.push_back({k, 10, 20, "Acme", "", "Paint " + std::to_string(k), 0});
-        }
-        Picture() = Surface(width, height);
+// An easel whose picture is given as the paint of every pixel, (0, 0) first.
+struct Painted : test::Easel {
+    Painted(int size, int across, int down, int paints) : Easel(size, across, down) {
+        State.PaintCount = paints;
     }
-    void Paint(const std::vector<std::string>& rows) {
+    void PaintPixels(const std::vector<std::string>& rows) {
         for (int y = 0; y < static_cast<int>(rows.size()); ++y) {
             for (int x = 0; x < static_cast<int>(rows[0].size()); ++x) {
-                bench.State.PixelMap(x, y).ColorIndex =
+                State.PixelMap(x, y).ColorIndex =
                     rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] - '0';
             }
         }
     }
-    Surface& Picture() { return bench.Frames.WorkFrame.Picture; }
-
-    test::Bench bench;
+    Surface& Picture() { return Frames.WorkFrame.Picture; }
+    NumberingCounts Number(NumberSink& sink) { return SetupCellNumbers(Place, Picture(), sink); }
 };
 
 // The numbering as it would be done by hand: a plain list for the queue, searched from its front,
@@ -72,7 +48,8 @@ class Painted {
 class ByHand {
   public:
     explicit ByHand(Painted& painted)
-        : state_(painted.bench.State),
+        : painted_(painted),
+          state_(painted.State),
           width_(painted.Picture().Width()),
           height_(painted.Picture().Height()),
           Picture(painted.Picture()),
@@ -94,7 +71,7 @@ class ByHand {
   private:
     void Claim(CellPos at, int k) {
         Areas(at.X, at.Y) = Next;
-        Picture.Set(at.X, at.Y, PaintOf(k));
+        Picture.Set(at.X, at.Y, painted_.Paint(k));
     }
     void Walk(CellPos seed, int k) {
         const int period = state_.StippleSize == 4 ? 1000 : state_.StippleSize == 6 ? 800 : 600;
@@ -130,6 +107,7 @@ class ByHand {
         }
     }
 
+    Painted& painted_;
     WorkState& state_;
     int width_;
     int height_;
@@ -145,9 +123,9 @@ class ByHand {
 
 void ExpectSameAsByHand(Painted& painted) {
     const ByHand expected(painted);
-    WorkState& state = painted.bench.State;
+    WorkState& state = painted.State;
     MarkList sink;
-    const NumberingCounts counts = SetupCellNumbers(painted.bench.Place, painted.Picture(), sink);
+    const NumberingCounts counts = painted.Number(sink);
     ASSERT_EQ(sink.Marks, expected.Marks);
     EXPECT_EQ(painted.Picture(), expected.Picture);
     EXPECT_EQ(state.NextAreaNumber, expected.Next);
@@ -168,9 +146,9 @@ TEST(CellNumbering, AgreesWithTheNumberingByHand) {
         SCOPED_TRACE(round);
         const int size = round % 3 == 0 ? 8 : round % 3 == 1 ? 6 : 4;
         const int paints = 1 + round % 4;
-        Painted painted(size * (1 + round % 5), size * (1 + round % 4), size, paints);
+        Painted painted(size, 1 + round % 5, 1 + round % 4, paints);
         // Coarse blobs and fine specks alike; paint 0 is what the brush never reached.
-        Grid<MapPixel>& map = painted.bench.State.PixelMap;
+        Grid<MapPixel>& map = painted.State.PixelMap;
         const int grain = 1 + round % 7;
         for (int y = 1; y <= map.Down(); ++y) {
             for (int x = 1; x <= map.Across(); ++x) {
@@ -185,36 +163,31 @@ TEST(CellNumbering, AgreesWithTheNumberingByHand) {
 
 TEST(CellNumbering, StampsAgainEveryPeriodOfTheWalk) {
     // The walk enters 71 x 47 pixels less the first one: 3336.
-    const struct {
-        int Size;
-        int Symbols;
-    } cases[] = {{8, 6}, {6, 5}, {4, 4}};  // periods 600, 800 and 1000
-    for (const auto& one : cases) {
-        Painted painted(72, 48, one.Size, 2);
-        for (MapPixel& pixel : painted.bench.State.PixelMap.All()) {
+    for (const auto& [size, symbols] : {std::pair{8, 6}, {6, 5}, {4, 4}}) {  // 600, 800, 1000
+        Painted painted(size, 72 / size, 48 / size, 2);
+        for (MapPixel& pixel : painted.State.PixelMap.All()) {
             pixel.ColorIndex = 2;
         }
         ExpectSameAsByHand(painted);
         MarkList sink;
-        const NumberingCounts counts =
-            SetupCellNumbers(painted.bench.Place, painted.Picture(), sink);
-        EXPECT_EQ(counts.Symbols, one.Symbols);
-        EXPECT_EQ(counts.SymbolsAstray, one.Symbols);  // all stipples have paint 1
+        const NumberingCounts counts = painted.Number(sink);
+        EXPECT_EQ(counts.Symbols, symbols);
+        EXPECT_EQ(counts.SymbolsAstray, symbols);  // no stipple has paint 2
     }
 }
 
 TEST(CellNumbering, LeavesALonePixelWithoutASymbol) {
-    Painted painted(8, 8, 8, 2);
-    painted.Paint({"000000000",  //
-                   "011111111",  //
-                   "011111111",  //
-                   "011211111",  //
-                   "011111111",  //
-                   "011221111",  //
-                   "011111111"});
+    Painted painted(8, 1, 1, 2);
+    painted.PaintPixels({"000000000",  //
+                         "011111111",  //
+                         "011111111",  //
+                         "011211111",  //
+                         "011111111",  //
+                         "011221111",  //
+                         "011111111"});
     MarkList sink;
-    const NumberingCounts counts = SetupCellNumbers(painted.bench.Place, painted.Picture(), sink);
-    const WorkState& state = painted.bench.State;
+    const NumberingCounts counts = painted.Number(sink);
+    const WorkState& state = painted.State;
     // The last area has two pixels, the one before it a single one, hence no symbol.
     EXPECT_EQ(state.NumberMarks(3, 3).AreaNumber, counts.Areas - 1);
     EXPECT_EQ(std::count_if(sink.Marks.begin(), sink.Marks.end(),
@@ -226,44 +199,43 @@ TEST(CellNumbering, LeavesALonePixelWithoutASymbol) {
     EXPECT_FALSE(state.NumberGrid(5, 5).IsBorder);
     EXPECT_EQ(state.NumberGrid(3, 2).XTwips, 45);
     EXPECT_EQ(state.NumberGrid(3, 2).YTwips, 30);
-    EXPECT_EQ(painted.Picture().Get(3, 3), PaintOf(2));
-    EXPECT_TRUE(painted.bench.Screen.HasCaption("Setting Up Cell Numbers"));
-    EXPECT_TRUE(
-        painted.bench.Screen.HasCaption("Finding Borders and Numbers For Acme Paint 2 [2]"));
+    EXPECT_EQ(painted.Picture().Get(3, 3), painted.Paint(2));
+    EXPECT_TRUE(painted.Screen.HasCaption("Setting Up Cell Numbers"));
+    EXPECT_TRUE(painted.Screen.HasCaption("Finding Borders and Numbers For Set Paint 2 [2]"));
 }
 
 TEST(CellNumbering, DrawsNothingForAnotherPicture) {
-    Painted painted(8, 8, 8, 1);
-    painted.Paint({"000000000", "011100000", "011100000"});
+    Painted painted(8, 1, 1, 1);
+    painted.PaintPixels({"000000000", "011100000", "011100000"});
     Surface other(8, 8, kWhite);
     MarkList sink;
-    const NumberingCounts counts = SetupCellNumbers(painted.bench.Place, other, sink);
+    const NumberingCounts counts = SetupCellNumbers(painted.Place, other, sink);
     EXPECT_TRUE(sink.Marks.empty());
     EXPECT_EQ(counts.Symbols + counts.BorderDots, 0);
-    EXPECT_EQ(other.Get(1, 1), PaintOf(1));
-    EXPECT_EQ(other.Get(1, 3), painted.bench.State.EdgeColor);
+    EXPECT_EQ(other.Get(1, 1), painted.Paint(1));
+    EXPECT_EQ(other.Get(1, 3), painted.State.EdgeColor);
 }
 
 TEST(CellNumbering, RefusesWhatASheetCannotHold) {
-    Painted many(8, 8, 8, 51);
-    EXPECT_THROW(SetupCellNumbers(many.bench.Place, many.Picture()), Error);
-    Painted bare(8, 8, 8, 1);
-    bare.bench.State.PixelMap = {};
-    EXPECT_THROW(SetupCellNumbers(bare.bench.Place, bare.Picture()), Error);
-    Painted specks(400, 400, 4, 2);
+    Painted many(8, 1, 1, 51);
+    EXPECT_THROW(SetupCellNumbers(many.Place, many.Picture()), Error);
+    Painted bare(8, 1, 1, 1);
+    bare.State.PixelMap = {};
+    EXPECT_THROW(SetupCellNumbers(bare.Place, bare.Picture()), Error);
+    Painted specks(4, 100, 100, 2);
     for (int y = 1; y <= 400; ++y) {
         for (int x = 1; x <= 400; ++x) {
-            specks.bench.State.PixelMap(x, y).ColorIndex = 1 + (x + y) % 2;
+            specks.State.PixelMap(x, y).ColorIndex = 1 + (x + y) % 2;
         }
     }
     MarkList sink;
-    EXPECT_THROW(SetupCellNumbers(specks.bench.Place, specks.Picture(), sink), OverflowError);
+    EXPECT_THROW(specks.Number(sink), OverflowError);
 }
 
 TEST(NearestStipple, IsTheLastOfTheNearestInRowOrder) {
     for (const int size : {8, 6, 4}) {
-        Painted painted(5 * size, 3 * size, size, 1);
-        WorkState& state = painted.bench.State;
+        Painted painted(size, 5, 3, 1);
+        WorkState& state = painted.State;
         for (const bool regular : {true, false}) {
             state.Stipples(2, 2).X += regular ? 0 : 3;  // as an edited file may have it
             const StippleFinder finder(state, {});
@@ -272,15 +244,14 @@ TEST(NearestStipple, IsTheLastOfTheNearestInRowOrder) {
                     CellPos found;
                     int bestX = 5 * 15;
                     int bestY = 3 * 15;
-                    for (int row = 1; row <= 3; ++row) {
-                        for (int column = 1; column <= 5; ++column) {
-                            const int dx = std::abs(state.Stipples(column, row).X - x);
-                            const int dy = std::abs(state.Stipples(column, row).Y - y);
-                            if (dx <= bestX && dy <= bestY) {
-                                bestX = dx;
-                                bestY = dy;
-                                found = {column, row};
-                            }
+                    for (int i = 0; i < 15; ++i) {
+                        const CellPos cell{1 + i % 5, 1 + i / 5};
+                        const int dx = std::abs(state.Stipples(cell.X, cell.Y).X - x);
+                        const int dy = std::abs(state.Stipples(cell.X, cell.Y).Y - y);
+                        if (dx <= bestX && dy <= bestY) {
+                            bestX = dx;
+                            bestY = dy;
+                            found = cell;
                         }
                     }
                     ASSERT_EQ(finder.NearestCell({x, y}), found) << x << ' ' << y;
@@ -288,8 +259,8 @@ TEST(NearestStipple, IsTheLastOfTheNearestInRowOrder) {
             }
         }
     }
-    Painted painted(16, 16, 8, 1);  // centres 5 and 13, half of the half stipple is 2
-    EXPECT_EQ(FindNearestStipple(painted.bench.State, {}, {9, 8}), (CellPos{11, 3}));
+    const Painted painted(8, 2, 2, 1);  // centres 5 and 13, half of the half stipple is 2
+    EXPECT_EQ(FindNearestStipple(painted.State, {}, {9, 8}), (CellPos{11, 3}));
 }
 
 }  // namespace

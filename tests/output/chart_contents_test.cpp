@@ -1,30 +1,21 @@
 #include "output/chart_contents.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <numeric>
 
 #include "output/contrast.h"
+#include "paints/paints.h"
 
 namespace vendrel {
 namespace {
 
 using testing::ElementsAre;
 
-WorkState StateOf(std::vector<PaintColor> paints, const std::vector<std::vector<int>>& rows) {
+WorkState StateOf(const std::vector<PaintColor>& paints, const std::vector<std::string>& rows) {
     WorkState state;
-    state.PaintCount = static_cast<int>(paints.size());
-    state.PaintColors.insert(state.PaintColors.end(), paints.begin(), paints.end());
-    state.CellsAcross = static_cast<int>(rows.front().size());
-    state.CellsDown = static_cast<int>(rows.size());
-    state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            state.Stipples(x, y).ColorIndex =
-                rows[static_cast<std::size_t>(y) - 1][static_cast<std::size_t>(x) - 1];
-        }
-    }
+    test::UsePaints(state, paints);
+    test::UseGrid(state, rows);
     return state;
 }
 
@@ -42,9 +33,8 @@ TEST(Shares, AddUpToTheWholePicture) {
 }
 
 TEST(Chart, ListsPaintsInPaletteOrderAndCountsTheirStipples) {
-    WorkState state =
-        StateOf({{1, 2, 3, "Oils", "PW6", "White", 77}, {9, 9, 9, "Inks", "K", "Jet"}},
-                {{2, 1, 2}, {2, 0, 2}});
+    WorkState state = StateOf(
+        {{1, 2, 3, "Oils", "PW6", "White", 77}, {9, 9, 9, "Inks", "K", "Jet"}}, {"212", "202"});
     const auto rows = FillChart(state);
     EXPECT_THAT(rows, ElementsAre(ChartRow{1, "Oils", "Oils: White [PW6]", Rgb(1, 2, 3), 1, 200},
                                   ChartRow{2, "Inks", "Inks: Jet [K]", Rgb(9, 9, 9), 4, 800}));
@@ -57,7 +47,7 @@ TEST(Chart, SortsByShareAndSetAndBack) {
                                {2, 2, 2, "Inks", "", "Z"},
                                {3, 3, 3, "Oils", "", "A"},
                                {4, 4, 4, "Inks", "", "Y"}},
-                              {{1, 2, 2, 3, 3, 4}});
+                              {"122334"});
     auto rows = FillChart(state);
     const auto order = [&rows](ChartOrder by) {
         SortChart(rows, by);

@@ -1,6 +1,5 @@
 // What the printed plan is drawn from: regions, their outlines and the places of their symbols.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <initializer_list>
@@ -8,8 +7,8 @@
 #include <random>
 #include <set>
 #include <string_view>
-#include <tuple>
 
+#include "cleanup/easel.h"
 #include "output/inscribed_boxes.h"
 #include "output/label_placement.h"
 #include "output/outlines.h"
@@ -49,35 +48,34 @@ LabelRules Rules(double largest, double step) {
     return rules;
 }
 
-// One unit of border: the corner it starts from and whether it runs down.
-using Unit = std::tuple<int, int, bool>;
+// Borders as the middles of their units.
+using Units = std::multiset<std::pair<double, double>>;
 
-std::multiset<Unit> UnitsOf(const std::vector<PlanLine>& lines) {
-    std::multiset<Unit> units;
+Units UnitsOf(const std::vector<PlanLine>& lines) {
+    Units units;
     for (const PlanLine& line : lines) {
         for (std::size_t i = 1; i < line.size(); ++i) {
-            const bool down = line[i].X == line[i - 1].X;
-            const auto [from, to] =
-                std::minmax(down ? line[i].Y : line[i].X, down ? line[i - 1].Y : line[i - 1].X);
-            for (int at = static_cast<int>(from); at < static_cast<int>(to); ++at) {
-                units.insert(down ? Unit{static_cast<int>(line[i].X), at, true}
-                                  : Unit{at, static_cast<int>(line[i].Y), false});
+            for (PlanPoint at = line[i - 1]; at != line[i];) {
+                const double dx = std::clamp(line[i].X - at.X, -1.0, 1.0);
+                const double dy = std::clamp(line[i].Y - at.Y, -1.0, 1.0);
+                units.emplace(at.X + dx / 2, at.Y + dy / 2);
+                at = {at.X + dx, at.Y + dy};
             }
         }
     }
     return units;
 }
 
-std::multiset<Unit> PlainUnits(const PixelGrid& ids) {
+Units PlainUnits(const PixelGrid& ids) {
     const auto at = [&ids](int x, int y) { return ids.Holds(x, y) ? ids(x, y) : -1; };
-    std::multiset<Unit> units;
+    Units units;
     for (int y = 0; y <= ids.Down() + 1; ++y) {
         for (int x = 0; x <= ids.Across() + 1; ++x) {
             if (at(x, y) != at(x - 1, y)) {
-                units.insert({x, y, true});
+                units.emplace(x, y + 0.5);
             }
             if (at(x, y) != at(x, y - 1)) {
-                units.insert({x, y, false});
+                units.emplace(x + 0.5, y);
             }
         }
     }
@@ -85,14 +83,8 @@ std::multiset<Unit> PlainUnits(const PixelGrid& ids) {
 }
 
 TEST(PaintedRegions, BarePixelsTakeThePaintOfTheirStipple) {
-    WorkState state;
-    state.StippleSize = 4;
-    state.CellsAcross = 2;
-    state.CellsDown = 1;
-    state.Stipples = Grid<StippleCell>(2, 1);
-    state.Stipples(1, 1).ColorIndex = 1;
-    state.Stipples(2, 1).ColorIndex = 2;
-    state.PixelMap = Grid<MapPixel>(8, 4);
+    test::Easel easel(4, {"12"});
+    WorkState& state = easel.State;
     state.PixelMap(5, 1).ColorIndex = 1;
     EXPECT_EQ(PaintPerPixel(state, 8, 4), Pixels({"11111222", "11111122", "11111222", "11111222"}));
     state.PixelMap = Grid<MapPixel>();
@@ -107,9 +99,7 @@ TEST(PaintedRegions, CrumbsJoinTheNeighbourWithTheLongestEdge) {
     ASSERT_EQ(regions.List.size(), 2U);
     EXPECT_EQ(regions.Ids, Pixels({"00011", "00011", "00011"}));
     EXPECT_EQ(regions.List[0].Pixels, 9);
-}
-
-TEST(PaintedRegions, APictureOfNothingButCrumbsStaysAsItIs) {
+    // A picture of nothing but crumbs stays as it is.
     EXPECT_EQ(FindRegions(Pixels({"12", "21"}), 5).List.size(), 4U);
 }
 
@@ -175,10 +165,10 @@ TEST(InscribedBoxes, AreTheRoomiestThereAre) {
 void ExpectInside(const PaintedRegions& regions, const PlanLabel& label, double aspect) {
     const double halfWidth = label.Height * aspect / 2;
     const double halfHeight = label.Height / 2;
-    for (int y = static_cast<int>(label.Centre.Y - halfHeight); y < label.Centre.Y + halfHeight;
-         ++y) {
-        for (int x = static_cast<int>(label.Centre.X - halfWidth); x < label.Centre.X + halfWidth;
-             ++x) {
+    const int left = static_cast<int>(label.Centre.X - halfWidth);
+    const int top = static_cast<int>(label.Centre.Y - halfHeight);
+    for (int y = top; y < label.Centre.Y + halfHeight; ++y) {
+        for (int x = left; x < label.Centre.X + halfWidth; ++x) {
             ASSERT_EQ(regions.Ids(x, y), label.Region);
         }
     }

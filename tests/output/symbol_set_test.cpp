@@ -1,7 +1,6 @@
 #include "output/symbol_set.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <array>
 
@@ -53,14 +52,11 @@ TEST(SymbolSet, TiesSymbolsToTheirCharacters) {
     bench.Files.Write("data/symbols.txt", OnePixelSymbols());
     SetupBMPSymbols(bench.Place);
     const auto& codes = bench.State.SymbolCodes;
-    EXPECT_EQ(codes[1], '1');
-    EXPECT_EQ(codes[10], 'A');
-    EXPECT_EQ(codes[23], 'N');
-    EXPECT_EQ(codes[24], '0');
-    EXPECT_EQ(codes[25], 'P');
-    EXPECT_EQ(codes[50], 'z');
-    for (const char never : {'O', 'Q', 'V', 'b', 'h', 'i', 'j', 'l', 'o', 'p', 'q', 'v'}) {
-        EXPECT_EQ(std::find(codes.begin(), codes.end(), never), codes.end()) << never;
+    for (const auto& [symbol, character] : {std::pair{1, '1'}, {23, 'N'}, {24, '0'}, {50, 'z'}}) {
+        EXPECT_EQ(codes[static_cast<std::size_t>(symbol)], character);
+    }
+    for (const char never : std::string("OQVbhijlopqv")) {
+        EXPECT_THAT(codes, testing::Not(testing::Contains(never)));
     }
 }
 
@@ -86,27 +82,17 @@ TEST(SymbolSet, StampsWithTheShiftAndCutsAtTheSheet) {
 }
 
 TEST(SymbolSet, NamesFileAndLineOfBrokenGlyphs) {
-    const struct {
-        const char* Text;
-        const char* Expected;
-    } cases[] = {
-        {"1\r\n3,x\r\n", "line 2: a symbol pixel's row"},
-        {"1\r\n-32767,3\r\n", "line 2: a symbol pixel's column lies too far out"},
-        {"-1\r\n", "line 1: a symbol's pixel count"},
-        {"3\r\n1,1\r\n2,2\r\n", "line 4: the file ends"},
-        {"", "the file ends"},
-    };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.Text);
+    for (const auto& [text, problem] :
+         {std::pair{"1\r\n3,x\r\n", "line 2: a symbol pixel's row"},
+          {"1\r\n-32767,3\r\n", "line 2: a symbol pixel's column lies too far out"},
+          {"-1\r\n", "line 1: a symbol's pixel count"},
+          {"3\r\n1,1\r\n2,2\r\n", "line 4: the file ends"},
+          {"", "the file ends"}}) {
         test::Bench bench;
-        bench.Files.Write("Data/Symbols.txt", one.Text);
-        try {
-            SetupBMPSymbols(bench.Place);
-            ADD_FAILURE() << "read without complaint";
-        } catch (const FormatError& error) {
-            EXPECT_THAT(error.what(), HasSubstr("Symbols.txt"));
-            EXPECT_THAT(error.what(), HasSubstr(one.Expected));
-        }
+        bench.Files.Write("Data/Symbols.txt", text);
+        EXPECT_THAT([&] { SetupBMPSymbols(bench.Place); },
+                    testing::ThrowsMessage<FormatError>(
+                        testing::AllOf(HasSubstr("Symbols.txt"), HasSubstr(problem))));
     }
     test::Bench empty;
     EXPECT_THROW(SetupBMPSymbols(empty.Place), FileError);
