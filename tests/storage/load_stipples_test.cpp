@@ -1,9 +1,8 @@
 #include "storage/load_stipples.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "shell/recorder.h"
+#include "cleanup/easel.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -15,28 +14,19 @@ using testing::HasSubstr;
 class LoadStipples : public testing::Test {
   protected:
     LoadStipples() {
-        WorkState& state = bench_.State;
-        state.PictureName = "lady";
-        state.PictureWidth = 16 * 15;
-        state.PictureHeight = 8 * 15;
-        state.PixelMap = Grid<MapPixel>(16, 8);
-        state.PaintColors = {{}, {9, 9, 9, "Old", "", "Old", 0}};
-        state.PaintCount = 1;
-        bench_.Frames.WorkFrame.Picture = Surface(16, 8, kWhite);
         bench_.MainMenu[MenuId::EasySet].Checked = true;
         SetupMenuItems(bench_.MainMenu, 2);
         bench_.MainMenu[MenuId::NextBestColors].Enabled = false;
     }
-    void Save(const std::string& text) { bench_.Files.Write("Saved Stipples/lady-Easy.stp", text); }
+    void Save(const std::string& text) { bench_.Files.Write("Saved Stipples/Lady-Easy.stp", text); }
 
     const std::string paints_ =
         "1,2,3,\"Red\",1,\"Acme\",\"A1\"\r\n4,5,6,\"Blue\",1,\"Acme\",\"A2\"\r\n";
-    test::Bench bench_;
+    test::Easel bench_{8, {"11"}};
 };
 
 TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
     Save("2,2,1,32\r\n" + paints_ + "7,2,5,5\r\n8,1,13,5\r\n");
-    bench_.State.CellMarks = Grid<CellMark>(2, 1);
     bench_.State.CellMarks(1, 1).Visited = true;
     LoadStipples_Click(bench_.Place);
     const WorkState& state = bench_.State;
@@ -46,8 +36,6 @@ TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
     EXPECT_EQ(state.FoundColors, state.PaintColors);
     EXPECT_EQ(state.FoundCount, 2);
     EXPECT_EQ(state.FinalColors, 32);
-    EXPECT_EQ(state.CellsAcross, 2);
-    EXPECT_EQ(state.CellsDown, 1);
     EXPECT_EQ(state.Stipples(1, 1), (StippleCell{2, 5, 5, 7}));
     EXPECT_EQ(state.CellMarks, Grid<CellMark>(2, 1));
     EXPECT_TRUE(bench_.MainMenu[MenuId::PaintItNow].Enabled);
@@ -68,7 +56,7 @@ TEST_F(LoadStipples, KeepsThePhotosSizeAndSaysSo) {
     EXPECT_EQ(bench_.State.Stipples(2, 1).AreaNumber, 2);
     ASSERT_EQ(bench_.Screen.Messages.size(), 1U);
     EXPECT_THAT(bench_.Screen.Messages[0].second,
-                testing::AllOf(HasSubstr("3 x 1"), HasSubstr("2 x 1"), HasSubstr("lady-Easy.stp")));
+                testing::AllOf(HasSubstr("3 x 1"), HasSubstr("2 x 1"), HasSubstr("Lady-Easy.stp")));
 }
 
 TEST_F(LoadStipples, BrokenFileChangesNothing) {
@@ -76,11 +64,11 @@ TEST_F(LoadStipples, BrokenFileChangesNothing) {
         Save("2,2,1,16\r\n" + paints_ + cells);
         EXPECT_THROW(LoadStipples_Click(bench_.Place), FormatError) << cells;
     }
-    std::filesystem::remove(bench_.Files / "Saved Stipples/lady-Easy.stp");
+    std::filesystem::remove(bench_.Files / "Saved Stipples/Lady-Easy.stp");
     EXPECT_THROW(LoadStipples_Click(bench_.Place), FileError);
-    EXPECT_EQ(bench_.State.PaintColors[1].PaintName, "Old");
+    EXPECT_EQ(bench_.State.PaintColors[1].PaintName, "Paint 1");
     EXPECT_EQ(bench_.State.FinalColors, 50);
-    EXPECT_EQ(bench_.State.CellsAcross, 0);
+    EXPECT_EQ(test::GridOf(bench_.State.Stipples), std::vector<std::string>{"11"});
     EXPECT_EQ(bench_.Frames.WorkFrame.Picture, Surface(16, 8, kWhite));
     EXPECT_FALSE(bench_.MainMenu[MenuId::PaintItNow].Enabled);
 }

@@ -1,7 +1,6 @@
 #include "storage/stipple_file.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "shell/recorder.h"
 #include "support/error.h"
@@ -14,20 +13,17 @@ using testing::HasSubstr;
 
 Grid<StippleCell> ThreeByTwo() {
     Grid<StippleCell> cells(3, 2);
-    int paint = 0;
-    for (int y = 1; y <= 2; ++y) {
-        for (int x = 1; x <= 3; ++x) {
-            cells(x, y) = {1 + paint++ % 2, x * 8 - 3, y * 8 - 3, 10 * y + x};
-        }
+    for (int i = 0; i < 6; ++i) {
+        const int x = 1 + i % 3;
+        const int y = 1 + i / 3;
+        cells(x, y) = {1 + i % 2, x * 8 - 3, y * 8 - 3, 10 * y + x, {}};
     }
     return cells;
 }
 
-std::vector<PaintColor> TwoPaints() {
-    return {{},
-            {255, 0, 7, "Acme, fine", "PR1", "Red \xC3\xA9", 99},
-            {0, 128, 0, "", "", "1/2\" Green", 0}};
-}
+const std::vector<PaintColor> kPaints = {{},
+                                         {255, 0, 7, "Acme, fine", "PR1", "Red \xC3\xA9", 99},
+                                         {0, 128, 0, "", "", "1/2\" Green", 0}};
 
 // The file is also edited by hand and read by kits made earlier: every byte counts.
 constexpr const char* kGolden =
@@ -39,16 +35,15 @@ constexpr const char* kGolden =
 
 TEST(StippleFile, IsWrittenRowByRowWithFreshCounts) {
     const Grid<StippleCell> cells = ThreeByTwo();
-    const std::vector<PaintColor> paints = TwoPaints();
-    EXPECT_EQ(FormatStippleFile({paints, cells, 3, 2, 16}), kGolden);
+    EXPECT_EQ(FormatStippleFile({kPaints, cells, 3, 2, 16}), kGolden);
     // An editor's grid may be larger than what it saves.
-    EXPECT_THAT(FormatStippleFile({paints, cells, 1, 1, 16}), HasSubstr("\"\r\n11,1,5,5\r\n"));
+    EXPECT_THAT(FormatStippleFile({kPaints, cells, 1, 1, 16}), HasSubstr("\"\r\n11,1,5,5\r\n"));
 }
 
 TEST(StippleFile, ReadsBackWhatWasWritten) {
     const test::TempFolder folder;
     const auto path = folder / "Saved Stipples/a-Easy.stp";
-    WriteStippleFile(path, {TwoPaints(), ThreeByTwo(), 3, 2, 16});
+    WriteStippleFile(path, {kPaints, ThreeByTwo(), 3, 2, 16});
     const std::string text = ReadTextFile(path);
     StippleFileReader reader(text, path);
     EXPECT_EQ(reader.Header().Across, 3);
@@ -56,7 +51,7 @@ TEST(StippleFile, ReadsBackWhatWasWritten) {
     EXPECT_EQ(reader.Header().FinalColors, 16);
     const std::vector<PaintColor> paints = reader.ReadPalette();
     ASSERT_EQ(paints.size(), 3U);
-    PaintColor expected = TwoPaints()[1];
+    PaintColor expected = kPaints[1];
     expected.CellCount = 3;
     EXPECT_EQ(paints[1], expected);
     Grid<StippleCell> cells(3, 2);
@@ -65,15 +60,13 @@ TEST(StippleFile, ReadsBackWhatWasWritten) {
     EXPECT_EQ(cells, ThreeByTwo());
 }
 
-struct Broken {
-    const char* What;
-    std::string From;
-    std::string To;
-    const char* Expected;
-};
-
 TEST(StippleFile, NamesTheLineThatIsBroken) {
-    const Broken cases[] = {
+    const struct {
+        const char* What;
+        std::string From;
+        std::string To;
+        const char* Expected;
+    } cases[] = {
         {"no number", "2,3,2,16", "two,3,2,16", "line 1: the number of paints"},
         {"header too short", "2,3,2,16", "2,3,2", "line 1: there are too few fields"},
         {"channel too large", "255,0,7", "256,0,7", "line 2: a paint's red"},
@@ -85,38 +78,32 @@ TEST(StippleFile, NamesTheLineThatIsBroken) {
         {"area out of range", "23,2,21,13", "99999,2,21,13", "line 9: a stipple's area"},
         {"cut short", "23,2,21,13\r\n", "23,2,", "line 9: the file ends"},
     };
-    for (const Broken& broken : cases) {
+    for (const auto& broken : cases) {
         SCOPED_TRACE(broken.What);
         std::string text = kGolden;
         text.replace(text.find(broken.From), broken.From.size(), broken.To);
-        try {
+        const auto read = [&] {
             StippleFileReader reader(text, "x/a-Easy.stp");
             (void)reader.ReadPalette();
             Grid<StippleCell> cells(3, 2);
             reader.ReadRow(cells, 1, 3);
             reader.ReadRow(cells, 2, 3);
-            ADD_FAILURE() << "read without complaint";
-        } catch (const FormatError& error) {
-            EXPECT_THAT(error.what(), HasSubstr("a-Easy.stp"));
-            EXPECT_THAT(error.what(), HasSubstr(broken.Expected));
-        }
+        };
+        EXPECT_THAT(read, testing::ThrowsMessage<FormatError>(
+                              testing::AllOf(HasSubstr("a-Easy.stp"), HasSubstr(broken.Expected))));
     }
 }
 
 TEST(StippleFile, IsNamedAfterPhotoAndCheckedDifficulty) {
     test::Bench bench;
     bench.State.PictureName = "my";
-    const struct {
-        MenuId Checked;
-        const char* Name;
-    } cases[] = {{MenuId::EasySet, "my-Easy.stp"},
-                 {MenuId::MediumSet, "my-Medium.stp"},
-                 {MenuId::HardSet, "my-Difficult.stp"}};
-    for (const auto& one : cases) {
+    for (const auto& [difficulty, name] : {std::pair{MenuId::EasySet, "my-Easy.stp"},
+                                           {MenuId::MediumSet, "my-Medium.stp"},
+                                           {MenuId::HardSet, "my-Difficult.stp"}}) {
         for (const MenuId id : {MenuId::EasySet, MenuId::MediumSet, MenuId::HardSet}) {
-            bench.MainMenu[id].Checked = id == one.Checked;
+            bench.MainMenu[id].Checked = id == difficulty;
         }
-        EXPECT_EQ(StippleFilePath(bench.Place).filename(), one.Name);
+        EXPECT_EQ(StippleFilePath(bench.Place).filename(), name);
         EXPECT_FALSE(StippleFileExists(bench.Place));
     }
     bench.Files.Write("saved stipples/my-difficult.stp", "");
