@@ -1,11 +1,11 @@
 #include "touchup/touch_up.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <random>
 
 #include "sheets.h"
@@ -34,27 +34,18 @@ void EditAtRandom(TouchUp& editor, WorkState& state, std::mt19937& random) {
     const CellPos from{upTo(16), upTo(13)};
     const int paint = 1 + upTo(6);
     state.CleanLevel = 2 + upTo(7);
-    switch (upTo(7)) {
-        case 0:
-            editor.Fill(from, paint);
-            break;
-        case 1:
-            editor.Replace(paint, 1 + upTo(6));
-            break;
-        case 2:
-            editor.CleanUp();
-            break;
-        case 3:
-            editor.Undo();
-            break;
-        case 4:
-            editor.Redo();
-            break;
-        default:
+    const std::function<void()> edits[] = {
+        [&] { editor.Fill(from, paint); },
+        [&] { editor.Replace(paint, 1 + upTo(6)); },
+        [&] { editor.CleanUp(); },
+        [&] { editor.Undo(); },
+        [&] { editor.Redo(); },
+        [&] {
             editor.BeginStroke(from, {static_cast<BrushSize>(1 + upTo(3)), paint});
             editor.StrokeTo({upTo(16), upTo(13)});
-            break;
-    }
+        },
+    };
+    edits[upTo(6)]();
 }
 
 TEST(History, UndoneToTheBottomGivesTheFirstGridBackAndRedoneTheLast) {
@@ -67,18 +58,19 @@ TEST(History, UndoneToTheBottomGivesTheFirstGridBackAndRedoneTheLast) {
             EditAtRandom(editor, bench.State, random);
             ASSERT_TRUE(bench.CountsAreTrue());
         }
-        while (editor.CanRedo()) {
-            editor.Redo();
-        }
+        const auto redoAll = [&editor] {
+            while (editor.CanRedo()) {
+                editor.Redo();
+            }
+        };
+        redoAll();
         const Grid<StippleCell> last = bench.State.EditStipples;
         while (editor.CanUndo()) {
             editor.Undo();
         }
         EXPECT_EQ(bench.State.EditStipples, bench.State.Stipples);
         EXPECT_FALSE(editor.HasChanges());
-        while (editor.CanRedo()) {
-            editor.Redo();
-        }
+        redoAll();
         EXPECT_EQ(bench.State.EditStipples, last);
     }
 }
@@ -100,6 +92,7 @@ TEST(History, NamesItsStepsAndForgetsTheUndoneOnesWithANewEdit) {
 TEST(Accepting, DropsUnusedPaintsAndTellsWhichSymbolsMoved) {
     KitBench bench({"123", "123"}, 4);
     bench.State.CellMarks(1, 1).Visited = true;
+    bench.State.Stipples(1, 1).AreaNumber = 7;
     TouchUp editor(bench.Place);
     editor.Replace(2, 4);
     const AcceptReport report = editor.Accept();
@@ -107,7 +100,7 @@ TEST(Accepting, DropsUnusedPaintsAndTellsWhichSymbolsMoved) {
     EXPECT_THAT(report.Moves,
                 ElementsAre(SymbolMove{"Paint 3", 3, 2}, SymbolMove{"Paint 4", 4, 3}));
     const WorkState& state = bench.State;
-    EXPECT_EQ(KitBench::Shown(state.Stipples), (Rows{"132", "132"}));
+    EXPECT_EQ(GridOf(state.Stipples), (Rows{"132", "132"}));
     EXPECT_EQ(state.PaintCount, 3);
     EXPECT_EQ(state.PaintColors[3].PaintName, "Paint 4");
     EXPECT_EQ(state.PaintColors[3].CellCount, 2);
@@ -127,9 +120,7 @@ TEST(Cancelling, PutsTheKitBackAsItWas) {
     editor.Cancel();
     EXPECT_TRUE(bench.MainMenu[MenuId::Set50Colors].Checked);
     EXPECT_EQ(bench.State.FinalColors, 50);
-    EXPECT_EQ(bench.State.CellsAcross, 3);
-    EXPECT_EQ(bench.State.CellsDown, 2);
-    EXPECT_EQ(KitBench::Shown(bench.State.Stipples), (Rows{"123", "123"}));
+    EXPECT_EQ(GridOf(bench.State.Stipples), (Rows{"123", "123"}));
     EXPECT_FALSE(bench.State.HasUnsavedWork);
 }
 
@@ -272,7 +263,7 @@ TEST(Recovery, IsOfferedAfterACrashAndTakenAsOneStep) {
         crashed.Replace(2, 3);
         crashed.KeepRecovery(At(1));
     }
-    bench.MakeKit({"112", "112"}, 2);
+    bench.Lay({"112", "112"}, 2);
     TouchUp editor(bench.Place);
     ASSERT_TRUE(editor.RecoveryOffered());
     editor.TakeRecovery();
@@ -343,17 +334,11 @@ TEST(UnsavedWork, IsThrownAwayOnlyWithLeave) {
 }
 
 TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
-    struct Case {
-        const char* Step;
-        bool ReplacesGrid;
-        bool EndsWell;
-        bool Unsaved;
-        bool Recoverable;
-    };
-    for (const Case& test : {Case{"breaks off at once", false, false, true, true},
-                             Case{"breaks off half-way", true, false, false, true},
-                             Case{"succeeds", true, true, false, false}}) {
-        SCOPED_TRACE(test.Step);
+    for (const auto& [step, replacesGrid, endsWell, unsaved, recoverable] :
+         {std::tuple{"breaks off at once", false, false, true, true},
+          {"breaks off half-way", true, false, false, true},
+          {"succeeds", true, true, false, false}}) {
+        SCOPED_TRACE(step);
         KitBench bench({"12", "12"}, 2);
         bench.State.HasUnsavedWork = true;
         WriteRecoveryOfGrid(bench.Place);
@@ -361,16 +346,16 @@ TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
             GridReplacement replacement(bench.Place);
             ASSERT_TRUE(replacement.Allowed());
             EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
-            if (test.ReplacesGrid) {
+            if (replacesGrid) {
                 bench.State.PictureName = "Other";
                 bench.State.Stipples = Grid<StippleCell>(2, 2);
             }
-            if (test.EndsWell) {
+            if (endsWell) {
                 replacement.Done();
             }
         }
-        EXPECT_EQ(bench.State.HasUnsavedWork, test.Unsaved);
-        EXPECT_EQ(fs::exists(bench.Files / kRecovery), test.Recoverable);
+        EXPECT_EQ(bench.State.HasUnsavedWork, unsaved);
+        EXPECT_EQ(fs::exists(bench.Files / kRecovery), recoverable);
     }
 }
 
