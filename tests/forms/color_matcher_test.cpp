@@ -1,7 +1,6 @@
 #include "forms/color_matcher.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "forms/small_photo.h"
 #include "paints/template_file.h"

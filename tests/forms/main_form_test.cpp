@@ -14,6 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using enum MenuId;
+using ::testing::_;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -21,6 +22,7 @@ using ::testing::Pair;
 
 class MainFormTest : public ::testing::Test {
   protected:
+    MainFormTest() { form_.Form_Load(); }
     [[nodiscard]] bool On(MenuId entry) const { return studio_.MainMenu[entry].Enabled; }
     [[nodiscard]] bool Checked(MenuId entry) const { return studio_.MainMenu[entry].Checked; }
     void LoadPhoto(const char* name = "four.bmp") {
@@ -43,7 +45,6 @@ class MainFormTest : public ::testing::Test {
 };
 
 TEST_F(MainFormTest, StartsOnTheSampleWithEasyFiftyAndAveraging) {
-    form_.Form_Load();
     EXPECT_EQ(studio_.Frames.CaptureFrame.Picture, FourQuarters(8, 8));
     EXPECT_TRUE(studio_.Frames.CaptureFrame.Visible);
     EXPECT_FALSE(studio_.Frames.WorkFrame.Visible);
@@ -89,26 +90,21 @@ TEST(FirstRun, KeepsFoldersWhateverTheirSpelling) {
 }
 
 TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
-    struct Step {
-        MenuId Entry;
-        const char* Stage;
-        const char* Hint;
-    };
-    form_.Form_Load();
     LoadPhoto();
     EXPECT_EQ(Stage(), "+++---");
-    for (const Step& step :
-         {Step{ChangeToStipples, "++-++-", "Paint It"}, Step{PaintItNow, "++--++", "Save your kit"},
-          Step{PrintAll, "++--++", "PBS.BMP"}, Step{PrintWorkform, "++--++", "Painting.BMP"},
-          Step{MediumSet, "+++---", "Change To Stipples"},
-          Step{ChangeToStipples, "++-++-", "Paint It"},
-          Step{Set16Colors, "+++---", "Change To Stipples"},
-          Step{ChangeToStipples, "++-++-", "Paint It"},
-          Step{SamplePixel, "+++---", "Change To Stipples"}}) {
-        form_.Click(step.Entry);
-        const auto name = studio_.MainMenu[step.Entry].Name;
-        EXPECT_EQ(Stage(), step.Stage) << name;
-        EXPECT_THAT(form_.StatusHint(), HasSubstr(step.Hint)) << name;
+    for (const auto& [entry, stage, hint] : {std::tuple{ChangeToStipples, "++-++-", "Paint It"},
+                                             {PaintItNow, "++--++", "Save your kit"},
+                                             {PrintAll, "++--++", "PBS.BMP"},
+                                             {PrintWorkform, "++--++", "Painting.BMP"},
+                                             {MediumSet, "+++---", "Change To Stipples"},
+                                             {ChangeToStipples, "++-++-", "Paint It"},
+                                             {Set16Colors, "+++---", "Change To Stipples"},
+                                             {ChangeToStipples, "++-++-", "Paint It"},
+                                             {SamplePixel, "+++---", "Change To Stipples"}}) {
+        form_.Click(entry);
+        const auto name = studio_.MainMenu[entry].Name;
+        EXPECT_EQ(Stage(), stage) << name;
+        EXPECT_THAT(form_.StatusHint(), HasSubstr(hint)) << name;
         EXPECT_EQ(studio_.Screen.LastPointer, Pointer::Normal) << name;
     }
     EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy PBS.BMP"));
@@ -117,37 +113,29 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
 }
 
 TEST_F(MainFormTest, ConvertingWithoutAPhotoAsksForOne) {
-    form_.Form_Load();
     form_.Click(Set32Colors);
     ASSERT_TRUE(On(ChangeToStipples));
     form_.Click(ChangeToStipples);
-    ASSERT_EQ(studio_.Screen.Messages.size(), 1U);
-    EXPECT_THAT(studio_.Screen.Messages[0].second, HasSubstr("Choose a photo"));
+    EXPECT_THAT(studio_.Screen.Messages, ElementsAre(Pair(_, HasSubstr("Choose a photo"))));
     EXPECT_FALSE(studio_.State.StipplesMade);
 }
 
 TEST_F(MainFormTest, SampleMethodsAreNoMirrorImages) {
-    struct Case {
-        bool Averaging, Sampling;
-        MenuId Click;
-        bool ThenAveraging, ThenSampling;
-    };
-    form_.Form_Load();
-    for (const Case& c :
-         {Case{true, false, AveragePixel, false, true},
-          Case{false, true, AveragePixel, true, false}, Case{true, false, SamplePixel, true, false},
-          Case{false, true, SamplePixel, false, true},
-          Case{false, false, SamplePixel, true, false}}) {
-        studio_.MainMenu[AveragePixel].Checked = c.Averaging;
-        studio_.MainMenu[SamplePixel].Checked = c.Sampling;
-        form_.Click(c.Click);
-        EXPECT_EQ(Checked(AveragePixel), c.ThenAveraging);
-        EXPECT_EQ(Checked(SamplePixel), c.ThenSampling);
+    for (const auto& [averaging, sampling, click, thenAveraging, thenSampling] :
+         {std::tuple{true, false, AveragePixel, false, true},
+          {false, true, AveragePixel, true, false},
+          {true, false, SamplePixel, true, false},
+          {false, true, SamplePixel, false, true},
+          {false, false, SamplePixel, true, false}}) {
+        studio_.MainMenu[AveragePixel].Checked = averaging;
+        studio_.MainMenu[SamplePixel].Checked = sampling;
+        form_.Click(click);
+        EXPECT_EQ(Checked(AveragePixel), thenAveraging);
+        EXPECT_EQ(Checked(SamplePixel), thenSampling);
     }
 }
 
 TEST_F(MainFormTest, DifficultyFitsPhotoPaletteAndPixelMapToItsStipples) {
-    form_.Form_Load();
     LoadPhoto();
     for (const auto& [entry, size] :
          {std::pair(MediumSet, 6), std::pair(HardSet, 4), std::pair(EasySet, 8)}) {
@@ -163,21 +151,13 @@ TEST_F(MainFormTest, DifficultyFitsPhotoPaletteAndPixelMapToItsStipples) {
     form_.Click(ChangeToStipples);
     form_.Click(EasySet);
     EXPECT_EQ(Stage(), "++-++-") << "choosing the checked difficulty keeps the grid";
-}
-
-TEST_F(MainFormTest, ADifficultyThatCannotReadThePhotoLeavesTheOldOne) {
-    form_.Form_Load();
-    LoadPhoto();
     fs::remove(studio_.Files / "Pictures/four.bmp");
     EXPECT_THROW(form_.Click(HardSet), FileError);
     EXPECT_TRUE(Checked(EasySet));
     EXPECT_EQ(studio_.State.StippleSize, 8);
-    form_.Click(ChangeToStipples);
-    EXPECT_TRUE(studio_.State.StipplesMade);
 }
 
 TEST_F(MainFormTest, SavedGridsAreOfferedPerPhotoAndDifficultyButNeverLoadedUnasked) {
-    form_.Form_Load();
     LoadPhoto();
     EXPECT_FALSE(On(LoadStipples));
     form_.Click(ChangeToStipples);
@@ -201,7 +181,6 @@ TEST_F(MainFormTest, SavedGridsAreOfferedPerPhotoAndDifficultyButNeverLoadedUnas
 }
 
 TEST_F(MainFormTest, CancelLeavesThingsAsBeforeLoadPhoto) {
-    form_.Form_Load();
     const auto cancel = [this] {
         form_.Click(LoadBMP);
         EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::FileImport));
@@ -228,7 +207,6 @@ TEST_F(MainFormTest, CancelLeavesThingsAsBeforeLoadPhoto) {
 }
 
 TEST_F(MainFormTest, APhotoThatCannotBeReadLeavesTheOldOne) {
-    form_.Form_Load();
     LoadPhoto();
     studio_.Files.Write("Pictures/broken.bmp", "BM, but no more");
     studio_.Files.Write("Pictures/empty.bmp", std::string("BM") + std::string(100, '\0'));
@@ -241,7 +219,6 @@ TEST_F(MainFormTest, APhotoThatCannotBeReadLeavesTheOldOne) {
 }
 
 TEST_F(MainFormTest, TheChooserShowsFoldersPreviewsAndTakesPhotosFromElsewhere) {
-    form_.Form_Load();
     WriteBitmap(studio_.Files.Path() / "Album" / "my.holiday.bmp", FourQuarters(600, 300));
     form_.Click(LoadBMP);
     FileImport& chooser = form_.Chooser();
@@ -265,7 +242,6 @@ TEST_F(MainFormTest, TheChooserShowsFoldersPreviewsAndTakesPhotosFromElsewhere) 
 }
 
 TEST_F(MainFormTest, TheMatcherNeedsAGridAndExitEnds) {
-    form_.Form_Load();
     studio_.MainMenu[NextBestColors].Enabled = true;
     form_.Click(NextBestColors);
     EXPECT_EQ(studio_.Screen.Messages.size(), 1U);

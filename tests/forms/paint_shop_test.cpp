@@ -4,7 +4,6 @@
 
 #include <string>
 #include <tuple>
-#include <vector>
 
 #include "forms/start_up.h"
 #include "forms/studio.h"
@@ -30,10 +29,10 @@ class PaintShopTest : public ::testing::Test {
         }
         studio_.Files.Write("templates/" + name + ".csv", text);
     }
-    [[nodiscard]] std::vector<std::string> Palette() const {
-        std::vector<std::string> names;
+    [[nodiscard]] std::string Palette() const {
+        std::string names;
         for (int i = 0; i < studio_.State.PaintCount; ++i) {
-            names.push_back(shop_.PaintAt(i)->PaintName);
+            names += shop_.PaintAt(i)->PaintName + ";";
         }
         return names;
     }
@@ -51,35 +50,27 @@ TEST_F(PaintShopTest, OpensWithTheSelectedSetsAndTheirPaints) {
     EXPECT_EQ(shown.PaletteCaption, "Vendrel Selected Paints [2]");
     EXPECT_EQ(shown.Swatches.Size, 17);
     EXPECT_EQ(studio_.State.SwatchSize, 17);
-    EXPECT_THAT(Palette(), ElementsAre("Red", "Dark Red"));
+    EXPECT_EQ(Palette(), "Red;Dark Red;");
     EXPECT_EQ(shop_.PaintAt(2), nullptr);
     EXPECT_FALSE(shown.TransferEnabled) << "nothing is clicked yet";
 }
 
 TEST_F(PaintShopTest, TransferAddsAndRemovesSetsAndRewritesTheFile) {
-    struct Step {
-        char List;  // 'm' all sets, 's' selected sets
-        int Entry;
-        const char* File;
-        std::vector<std::string> Paints;
-    };
-    const std::vector<std::string> all = {"Red", "Dark Red", "Green", "Blue", "White"};
+    const auto clickSet = &PaintShop::MfgList_Click;
+    const auto clickSelected = &PaintShop::SelectedPaintsList_Click;
     shop_.Form_Load();
-    for (const Step& step : {Step{'m', 2, "Reds\r\nRest\r\n", {"Red", "Dark Red", "Blue", "White"}},
-                             Step{'m', 1, "Reds\r\nGreens\r\nRest\r\n", all},
-                             Step{'m', 1, "Reds\r\nGreens\r\nRest\r\n", all},
-                             Step{'s', 0, "Greens\r\nRest\r\n", {"Green", "Blue", "White"}},
-                             Step{'s', 1, "Greens\r\n", {"Green"}}}) {
-        if (step.List == 'm') {
-            shop_.MfgList_Click(step.Entry);
-        } else {
-            shop_.SelectedPaintsList_Click(step.Entry);
-        }
-        EXPECT_EQ(shop_.Controls().TransferCaption, step.List == 'm' ? ">>" : "<<");
+    for (const auto& [click, entry, file, paints] :
+         {std::tuple{clickSet, 2, "Reds\r\nRest\r\n", "Red;Dark Red;Blue;White;"},
+          {clickSet, 1, "Reds\r\nGreens\r\nRest\r\n", "Red;Dark Red;Green;Blue;White;"},
+          {clickSet, 1, "Reds\r\nGreens\r\nRest\r\n", "Red;Dark Red;Green;Blue;White;"},
+          {clickSelected, 0, "Greens\r\nRest\r\n", "Green;Blue;White;"},
+          {clickSelected, 1, "Greens\r\n", "Green;"}}) {
+        (shop_.*click)(entry);
+        EXPECT_EQ(shop_.Controls().TransferCaption, click == clickSet ? ">>" : "<<");
         studio_.Files.Write("Data/paintlist.txt", "stale");
         shop_.Transfer_Click();
-        EXPECT_EQ(studio_.Files.Read("Data/paintlist.txt"), step.File);
-        EXPECT_EQ(Palette(), step.Paints);
+        EXPECT_EQ(studio_.Files.Read("Data/paintlist.txt"), file);
+        EXPECT_EQ(Palette(), paints);
     }
     shop_.SelectedPaintsList_Click(0);
     shop_.Transfer_Click();
@@ -97,7 +88,7 @@ TEST_F(PaintShopTest, WithoutASelectedSetTheListSaysSoAndOneCanBeAdded) {
     EXPECT_FALSE(shop_.Controls().TransferEnabled);
     shop_.MfgList_Click(1);
     shop_.Transfer_Click();
-    EXPECT_THAT(Palette(), ElementsAre("Green"));
+    EXPECT_EQ(Palette(), "Green;");
 }
 
 TEST_F(PaintShopTest, ATemplateLowersTheFinalPaintsUntilSetsAreChosenAgain) {
@@ -126,7 +117,7 @@ TEST_F(PaintShopTest, ATemplateLowersTheFinalPaintsUntilSetsAreChosenAgain) {
     shop_.MfgSelected_Click();
     EXPECT_EQ(studio_.State.FinalColors, 32);
     EXPECT_FALSE(studio_.State.TemplateMode);
-    EXPECT_THAT(Palette(), ElementsAre("Red", "Dark Red"));
+    EXPECT_EQ(Palette(), "Red;Dark Red;");
 }
 
 TEST_F(PaintShopTest, DoneKeepsTheTemplateForTheNextTime) {
@@ -163,7 +154,7 @@ TEST_F(PaintShopTest, TheLastTemplateIsProposedBesideTheSets) {
     studio_.State.LastTemplate = "B";
     shop_.Form_Load();
     EXPECT_EQ(shop_.Controls().TemplateIndex, 1);
-    EXPECT_THAT(Palette(), ElementsAre("Red", "Dark Red"));
+    EXPECT_EQ(Palette(), "Red;Dark Red;");
 }
 
 }  // namespace

@@ -2,37 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 #include "convert/bitmap_reader.h"
 #include "convert/bitmap_writer.h"
+#include "forms/picture_decoder.h"
+#include "support/pictures.h"
 #include "support/temp_folder.h"
 
 namespace vendrel {
 namespace {
 
-// Takes every photo for a picture of this size whose rows differ.
-class RowDecoder final : public PhotoDecoder {
-  public:
-    explicit RowDecoder(BitmapSize size) : size_(size) {}
-
-    [[nodiscard]] std::vector<std::string> Endings() const override { return {"jpg"}; }
-    [[nodiscard]] BitmapSize Size(const std::filesystem::path& /*photo*/) const override {
-        return size_;
-    }
-    [[nodiscard]] Surface Decode(const std::filesystem::path& /*photo*/,
-                                 const ReadProgress& /*progress*/) const override {
-        Surface picture(size_.Width, size_.Height);
-        for (int y = 0; y < size_.Height; ++y) {
-            picture.FillRect(0, y, size_.Width, y + 1, y + 1);
-        }
-        return picture;
-    }
-
-  private:
-    BitmapSize size_;
-};
+// Rows of a picture differ.
+test::PictureDecoder DecoderOf(int width, int height) {
+    return test::PictureDecoder(
+        test::PictureOf(width, height, [](int /*x*/, int y) { return y + 1; }));
+}
 
 class PhotoIntakeTest : public ::testing::Test {
   protected:
@@ -42,7 +25,7 @@ class PhotoIntakeTest : public ::testing::Test {
 };
 
 TEST_F(PhotoIntakeTest, DecodesOnlyWhatTheBitmapReaderCannotRead) {
-    const RowDecoder decoder({30, 20});
+    const test::PictureDecoder decoder = DecoderOf(30, 20);
     EXPECT_EQ(TakeIntoPictures(folder_, files_.Write("my.aunt.jpg", "\xFF\xD8\xFF"), decoder),
               "my-aunt.bmp");
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/my-aunt.bmp"), (BitmapSize{30, 20}));
@@ -53,7 +36,7 @@ TEST_F(PhotoIntakeTest, DecodesOnlyWhatTheBitmapReaderCannotRead) {
 
 TEST_F(PhotoIntakeTest, CropsASquarePortraitBesideItself) {
     const std::string photo =
-        TakeIntoPictures(folder_, files_.Write("aunt.jpg", ""), RowDecoder({600, 600}));
+        TakeIntoPictures(folder_, files_.Write("aunt.jpg", "x"), DecoderOf(600, 600));
     ASSERT_EQ(CropInPictures(folder_, photo, easy_, CropPart::Whole), photo);
     const std::string top = CropInPictures(folder_, photo, easy_, CropPart::Top);
     const std::string centre = CropInPictures(folder_, photo, easy_, CropPart::Centre);
@@ -66,12 +49,10 @@ TEST_F(PhotoIntakeTest, CropsASquarePortraitBesideItself) {
     EXPECT_EQ(upper.Get(0, 0), 1);
     EXPECT_EQ(middle.Get(0, 0), 1 + (600 - middle.Height()) / 2);
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/aunt.bmp"), (BitmapSize{600, 600}));
-}
-
-TEST_F(PhotoIntakeTest, LeavesAPhotoOfTheRightShapeAlone) {
-    const std::string photo =
-        TakeIntoPictures(folder_, files_.Write("sheet.jpg", ""), RowDecoder({960, 720}));
-    EXPECT_EQ(CropInPictures(folder_, photo, easy_, CropPart::Top), photo);
+    // A photo of the right shape is left alone.
+    const std::string sheet =
+        TakeIntoPictures(folder_, files_.Write("sheet.jpg", "x"), DecoderOf(960, 720));
+    EXPECT_EQ(CropInPictures(folder_, sheet, easy_, CropPart::Top), sheet);
 }
 
 }  // namespace

@@ -56,15 +56,15 @@ TEST(FolderLists, AFolderBelongsToTheDeepestDriveAboveIt) {
 }
 
 TEST(Swatches, ShrinkUntilAllPaintsFit) {
-    struct Case {
-        int Width, Height, Count, Twips, Size, Columns;
-    };
-    for (const Case& c :
-         {Case{340, 255, 20, 15, 17, 20}, Case{340, 255, 301, 15, 16, 21},
-          Case{60, 40, 200, 15, 3, 20}, Case{340, 255, 20, 12, 21, 16}, Case{1, 1, 50, 15, 1, 1}}) {
-        const SwatchLayout layout = LayOutSwatches(c.Width, c.Height, c.Count, c.Twips);
-        EXPECT_EQ(layout.Size, c.Size) << c.Count;
-        EXPECT_EQ(layout.Columns, c.Columns) << c.Count;
+    for (const auto& [width, height, count, twips, size, columns] :
+         {std::tuple{340, 255, 20, 15, 17, 20},
+          {340, 255, 301, 15, 16, 21},
+          {60, 40, 200, 15, 3, 20},
+          {340, 255, 20, 12, 21, 16},
+          {1, 1, 50, 15, 1, 1}}) {
+        const SwatchLayout layout = LayOutSwatches(width, height, count, twips);
+        EXPECT_EQ(layout.Size, size) << count;
+        EXPECT_EQ(layout.Columns, columns) << count;
     }
     const SwatchLayout layout{10, 4};
     EXPECT_EQ(layout.IndexAt(layout.Left(6) + 9, layout.Top(6)), 6);

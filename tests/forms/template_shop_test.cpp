@@ -1,7 +1,6 @@
 #include "forms/template_shop.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "forms/main_form.h"
 #include "forms/small_photo.h"

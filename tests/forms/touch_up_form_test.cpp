@@ -100,26 +100,22 @@ TEST_F(TouchUpFormTest, OpensOnThePaletteWithNothingToUndoOrLoad) {
 }
 
 TEST_F(TouchUpFormTest, ToolsRepaintWhatTheyAreMeantTo) {
-    struct Case {
-        TouchUpTool Tool;
-        int ReplacedInAll;  // stipples of paint 1 that become paint 2
-        const char* Caption;
-    };
     const int quarter = Counts()[0];
     ASSERT_GT(quarter, 9);
     Press({1, 1});
     EXPECT_FALSE(Shown().UndoEnabled) << "the paint was there already";
     form_->PaintList_Click(2);
     form_->BrushSize_Click(BrushSize::Three);
-    for (const Case& c :
-         {Case{TouchUpTool::Brush, 9, "Undo Brush"}, Case{TouchUpTool::Fill, quarter, "Undo Fill"},
-          Case{TouchUpTool::Replace, quarter, "Undo Replace Paint"}}) {
-        Press({2, 2}, c.Tool);
-        EXPECT_EQ(Counts()[0], quarter - c.ReplacedInAll) << c.Caption;
-        EXPECT_EQ(Shown().UndoCaption, c.Caption);
-        Press({-4, 400}, c.Tool);
+    for (const auto& [tool, replaced, caption] :
+         {std::tuple{TouchUpTool::Brush, 9, "Undo Brush"},
+          {TouchUpTool::Fill, quarter, "Undo Fill"},
+          {TouchUpTool::Replace, quarter, "Undo Replace Paint"}}) {
+        Press({2, 2}, tool);
+        EXPECT_EQ(Counts()[0], quarter - replaced) << caption;
+        EXPECT_EQ(Shown().UndoCaption, caption);
+        Press({-4, 400}, tool);
         form_->Undo_Click();
-        EXPECT_EQ(Counts()[0], quarter) << c.Caption;
+        EXPECT_EQ(Counts()[0], quarter) << caption;
     }
     EXPECT_EQ(Shown().RedoCaption, "Redo Replace Paint");
     EXPECT_EQ(State().EditStipples, before_);
@@ -165,15 +161,17 @@ TEST_F(TouchUpFormTest, FindsBlinksAndCleansUpALoner) {
     EXPECT_THAT(form_->Marked(), IsEmpty());
 }
 
-TEST_F(TouchUpFormTest, CleanLevelButtonsStopAtTwoAndEight) {
+TEST_F(TouchUpFormTest, CleanLevelStaysFromTwoToEight) {
+    form_->RaiseCleanLevel_Click();
+    EXPECT_EQ(Shown().CleanLevel, 8);
     EXPECT_FALSE(Shown().RaiseEnabled);
-    for (int level = 7; level >= 2; --level) {
-        EXPECT_TRUE(Shown().LowerEnabled);
+    EXPECT_TRUE(Shown().LowerEnabled);
+    for (int i = 0; i < 9; ++i) {
         form_->LowerCleanLevel_Click();
-        EXPECT_EQ(Shown().CleanLevel, level);
     }
-    EXPECT_FALSE(Shown().LowerEnabled);
+    EXPECT_EQ(Shown().CleanLevel, 2);
     EXPECT_TRUE(Shown().RaiseEnabled);
+    EXPECT_FALSE(Shown().LowerEnabled);
 }
 
 TEST_F(TouchUpFormTest, CancelAsksOnlyWhenThereAreChanges) {
@@ -246,21 +244,18 @@ TEST_F(TouchUpFormTest, ABrokenLoadShowsWhatItReadUntilItIsTakenBack) {
 }
 
 TEST_F(TouchUpFormTest, WorkLeftByACrashIsTakenUpGivenUpOrKept) {
-    struct Case {
-        std::vector<bool> Answers;
-        int Paint;  // of the stipple that the lost session repainted
-        bool FileLeft;
-    };
-    for (const Case& c :
-         {Case{{true}, 4, true}, Case{{false, true}, 1, false}, Case{{false, false}, 1, true}}) {
+    using Answers = std::vector<bool>;
+    for (const auto& [answers, paint, fileLeft] : {std::tuple{Answers{true}, 4, true},
+                                                   {Answers{false, true}, 1, false},
+                                                   {Answers{false, false}, 1, true}}) {
         MakeSpot();
         form_->KeepRecovery(At(0));
         Crash();
-        studio_.Screen.Answers = c.Answers;
+        studio_.Screen.Answers = answers;
         form_->OfferRecovery();
         EXPECT_THAT(studio_.Screen.Answers, IsEmpty());
-        EXPECT_EQ(State().EditStipples(3, 3).ColorIndex, c.Paint);
-        EXPECT_EQ(Exists(kRecovery), c.FileLeft);
+        EXPECT_EQ(State().EditStipples(3, 3).ColorIndex, paint);
+        EXPECT_EQ(Exists(kRecovery), fileLeft);
         form_->Cancel_Click();
         fs::remove(studio_.Files / kRecovery);
         Open();
@@ -312,7 +307,7 @@ TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {
     EXPECT_THAT(studio_.Screen.Questions, SizeIs(1)) << "there is nothing left to lose";
 }
 
-TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothing) {
+TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothingNorDoesPainting) {
     AcceptSpot();
     const Grid<StippleCell> accepted = State().Stipples;
     fs::remove(studio_.Files / "Pictures/four.bmp");
@@ -324,17 +319,13 @@ TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothing) {
     ClickPhoto(main_.Chooser(), "broken.bmp");
     EXPECT_THROW(main_.Chooser().OKButton_Click(), Error);
     EXPECT_THAT(studio_.Screen.Questions, SizeIs(4));
-    EXPECT_TRUE(State().HasUnsavedWork);
     EXPECT_EQ(State().Stipples, accepted);
-    EXPECT_TRUE(Exists(kRecovery));
-}
-
-TEST_F(TouchUpFormTest, PaintingAnAcceptedGridAsksNothing) {
-    AcceptSpot();
+    main_.Chooser().CancelButton_Click();
     main_.Click(PaintItNow);
     main_.Click(PrintAll);
-    EXPECT_THAT(studio_.Screen.Questions, IsEmpty());
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(4)) << "painting loses nothing";
     EXPECT_TRUE(State().HasUnsavedWork);
+    EXPECT_TRUE(Exists(kRecovery));
 }
 
 }  // namespace
