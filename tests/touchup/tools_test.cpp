@@ -112,17 +112,6 @@ TEST(CleanUp, RepaintsWhatItsPreviewAnnouncedInOneStep) {
     }
 }
 
-TEST(CleanLevel, StaysFromTwoToEight) {
-    KitBench bench({"12"});
-    TouchUp editor(bench.Place);
-    editor.RaiseCleanLevel();
-    EXPECT_EQ(bench.State.CleanLevel, 8);
-    for (int i = 0; i < 9; ++i) {
-        editor.LowerCleanLevel();
-    }
-    EXPECT_EQ(bench.State.CleanLevel, 2);
-}
-
 TEST(Markers, StepThroughTheLonersOfTheEditedGridAndStartOver) {
     // The last column gives no company from its left: of the two 1s only the inner one is alone.
     KitBench bench({"2311", "2222", "2522", "2222"});
