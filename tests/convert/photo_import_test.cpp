@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <random>
 
 #include "convert/bitmap_writer.h"
 #include "convert/bmp_bytes.h"
@@ -73,18 +74,15 @@ int HeightByLoop(const WorkingSize& size, const ScreenSize& screen, int stipple)
 }
 
 TEST(WorkingSize, AgreesWithShrinkingTwipByTwip) {
-    for (int stipple : {4, 6, 8}) {
-        for (int photoHeight = 40; photoHeight <= 900; photoHeight += 43) {
-            for (int screenHeight = 300; screenHeight < 1300; screenHeight += 37) {
-                for (int odd = 0; odd < 3; ++odd) {
-                    ScreenSize screen = ScreenSize::FromPixels(1000, screenHeight);
-                    screen.Height += odd;
-                    const auto size = ComputeWorkingSize({901, photoHeight}, screen, stipple);
-                    ASSERT_EQ(size.Height, HeightByLoop(size, screen, stipple))
-                        << photoHeight << " on " << screen.Height << " by " << stipple;
-                }
-            }
-        }
+    std::minstd_rand random(3);
+    for (int round = 0; round < 5000; ++round) {
+        const int stipple = 4 + 2 * static_cast<int>(random() % 3);
+        const int photoHeight = 40 + static_cast<int>(random() % 860);
+        ScreenSize screen = ScreenSize::FromPixels(1000, 300);
+        screen.Height += static_cast<int>(random() % 15000);
+        const auto size = ComputeWorkingSize({901, photoHeight}, screen, stipple);
+        ASSERT_EQ(size.Height, HeightByLoop(size, screen, stipple))
+            << photoHeight << " on " << screen.Height << " by " << stipple;
     }
 }
 

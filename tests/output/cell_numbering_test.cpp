@@ -12,32 +12,20 @@
 namespace vendrel {
 namespace {
 
-// What a sink was told: dots as paint 0.
-struct Mark {
-    int Paint = 0;
-    CellPos At;
-    bool operator==(const Mark&) const = default;
-};
+// What a sink was told: the paint, 0 for a dot, and where.
+using Mark = std::pair<int, CellPos>;
 
 class MarkList : public NumberSink {
   public:
-    void Dot(CellPos at) override { Marks.push_back({0, at}); }
-    void Stamp(int paint, CellPos at) override { Marks.push_back({paint, at}); }
+    void Dot(CellPos at) override { Marks.emplace_back(0, at); }
+    void Stamp(int paint, CellPos at) override { Marks.emplace_back(paint, at); }
     std::vector<Mark> Marks;
 };
 
-// An easel whose picture is given as the paint of every pixel, (0, 0) first.
+// An easel whose picture tests paint pixel by pixel.
 struct Painted : test::Easel {
     Painted(int size, int across, int down, int paints) : Easel(size, across, down) {
         State.PaintCount = paints;
-    }
-    void PaintPixels(const std::vector<std::string>& rows) {
-        for (int y = 0; y < static_cast<int>(rows.size()); ++y) {
-            for (int x = 0; x < static_cast<int>(rows[0].size()); ++x) {
-                State.PixelMap(x, y).ColorIndex =
-                    rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] - '0';
-            }
-        }
     }
     Surface& Picture() { return Frames.WorkFrame.Picture; }
     NumberingCounts Number(NumberSink& sink) { return SetupCellNumbers(Place, Picture(), sink); }
@@ -83,13 +71,13 @@ class ByHand {
             if (x > width_ || y > height_) {
                 // nothing lies there
             } else if (state_.PixelMap(x, y).ColorIndex != k || x == 0 || y == 0) {
-                Marks.push_back({0, {x, y}});
+                Marks.emplace_back(0, CellPos{x, y});
                 Picture.Set(x, y, state_.EdgeColor);
                 Borders(x, y) = Next;
             } else if (Areas(x, y) == 0) {
                 Claim({x, y}, k);
                 if (counter == 0 && x < width_ && y < height_) {
-                    Marks.push_back({k, FindNearestStipple(state_, {}, {x, y})});
+                    Marks.emplace_back(k, FindNearestStipple(state_, {}, {x, y}));
                 }
                 counter = (counter + 1) % period;
                 Add(y - 1 > 0, {x, y - 1});
@@ -176,44 +164,22 @@ TEST(CellNumbering, StampsAgainEveryPeriodOfTheWalk) {
     }
 }
 
-TEST(CellNumbering, LeavesALonePixelWithoutASymbol) {
-    Painted painted(8, 1, 1, 2);
-    painted.PaintPixels({"000000000",  //
-                         "011111111",  //
-                         "011111111",  //
-                         "011211111",  //
-                         "011111111",  //
-                         "011221111",  //
-                         "011111111"});
-    MarkList sink;
-    const NumberingCounts counts = painted.Number(sink);
-    const WorkState& state = painted.State;
-    // The last area has two pixels, the one before it a single one, hence no symbol.
-    EXPECT_EQ(state.NumberMarks(3, 3).AreaNumber, counts.Areas - 1);
-    EXPECT_EQ(std::count_if(sink.Marks.begin(), sink.Marks.end(),
-                            [](const Mark& mark) { return mark.Paint == 2; }),
-              1);
-    // A first pixel dots all its neighbours; a walk only what has no number yet.
-    EXPECT_TRUE(state.NumberGrid(2, 3).IsBorder);
-    EXPECT_TRUE(state.NumberGrid(4, 3).IsBorder);
-    EXPECT_FALSE(state.NumberGrid(5, 5).IsBorder);
-    EXPECT_EQ(state.NumberGrid(3, 2).XTwips, 45);
-    EXPECT_EQ(state.NumberGrid(3, 2).YTwips, 30);
-    EXPECT_EQ(painted.Picture().Get(3, 3), painted.Paint(2));
-    EXPECT_TRUE(painted.Screen.HasCaption("Setting Up Cell Numbers"));
-    EXPECT_TRUE(painted.Screen.HasCaption("Finding Borders and Numbers For Set Paint 2 [2]"));
-}
-
 TEST(CellNumbering, DrawsNothingForAnotherPicture) {
-    Painted painted(8, 1, 1, 1);
-    painted.PaintPixels({"000000000", "011100000", "011100000"});
+    Painted painted(8, 1, 1, 2);
+    for (const CellPos at : {CellPos{1, 1}, {2, 1}, {3, 1}, {1, 2}, {2, 2}, {3, 2}}) {
+        painted.State.PixelMap(at.X, at.Y).ColorIndex = 2;
+    }
     Surface other(8, 8, kWhite);
     MarkList sink;
     const NumberingCounts counts = SetupCellNumbers(painted.Place, other, sink);
     EXPECT_TRUE(sink.Marks.empty());
     EXPECT_EQ(counts.Symbols + counts.BorderDots, 0);
-    EXPECT_EQ(other.Get(1, 1), painted.Paint(1));
+    EXPECT_EQ(other.Get(1, 1), painted.Paint(2));
     EXPECT_EQ(other.Get(1, 3), painted.State.EdgeColor);
+    EXPECT_EQ(painted.State.NumberGrid(2, 3).XTwips, 30);
+    EXPECT_EQ(painted.State.NumberGrid(2, 3).YTwips, 45);
+    EXPECT_TRUE(painted.Screen.HasCaption("Setting Up Cell Numbers"));
+    EXPECT_TRUE(painted.Screen.HasCaption("Finding Borders and Numbers For Set Paint 2 [2]"));
 }
 
 TEST(CellNumbering, RefusesWhatASheetCannotHold) {

@@ -52,9 +52,6 @@ TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndEveryPageHasOne) {
             return PlanRect{part.Left / scale, part.Top / scale, part.Right / scale,
                             part.Bottom / scale};
         };
-        const auto shows = [&](const PageTile& tile, const PlanLabel& label) {
-            return IsLabelOn(label, 0.7, inPixels(tile.Own), inPixels(tile.Shown));
-        };
         for (const PageTile& tile : plan.Pages.Tiles) {
             const PlanRect own = inPixels(tile.Own);
             EXPECT_TRUE(std::ranges::any_of(plan.Labels,
@@ -68,7 +65,7 @@ TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndEveryPageHasOne) {
         }
         for (const PlanLabel& label : plan.Labels) {
             EXPECT_TRUE(std::ranges::any_of(plan.Pages.Tiles, [&](const PageTile& tile) {
-                return shows(tile, label);
+                return IsLabelOn(label, 0.7, inPixels(tile.Own), inPixels(tile.Shown));
             })) << canvas;
             for (const PlanLabel& other : plan.Labels) {
                 const double apart =

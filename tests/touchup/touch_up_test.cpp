@@ -124,7 +124,7 @@ TEST(Cancelling, PutsTheKitBackAsItWas) {
     EXPECT_FALSE(bench.State.HasUnsavedWork);
 }
 
-TEST(FinalPaints, StayCheckedAsAtTheOpeningUntilALoadBringsOthers) {
+TEST(Loading, BringsGridPaintsAndFinalPaintsAsOneStep) {
     KitBench bench({"12", "12"}, 2);
     bench.Files.Write(kSaved, "1,2,2,16\r\n" + kRed + kFourReds);
     bench.State.FinalColors = 12;  // a template of twelve paints, while the menu asks for fifty
@@ -136,35 +136,19 @@ TEST(FinalPaints, StayCheckedAsAtTheOpeningUntilALoadBringsOthers) {
     EXPECT_EQ(checked(), 50);
     editor.LoadIt_Click();
     EXPECT_EQ(checked(), 16);
+    EXPECT_EQ(bench.Edited(), (Rows{"11", "11"}));
+    EXPECT_TRUE(bench.CountsAreTrue());
+    EXPECT_FALSE(editor.HasChanges());
     editor.Undo();
     EXPECT_EQ(checked(), 50);
+    EXPECT_EQ(bench.Edited(), (Rows{"22", "22"}));
+    EXPECT_TRUE(bench.CountsAreTrue());
+    EXPECT_TRUE(editor.HasChanges());
     editor.Redo();
     EXPECT_EQ(checked(), 16);
     editor.Cancel();
     EXPECT_EQ(checked(), 50);
     EXPECT_EQ(bench.State.FinalColors, 12);
-}
-
-TEST(SavingAndLoading, BringsGridAndPaintsBackAsOneStep) {
-    KitBench bench({"123", "123"}, 3);
-    TouchUp editor(bench.Place);
-    EXPECT_FALSE(editor.CanLoad());
-    editor.Fill({1, 1}, 2);
-    EXPECT_TRUE(editor.HasChanges());
-    editor.SaveIt_Click();
-    EXPECT_FALSE(editor.HasChanges());
-    EXPECT_TRUE(editor.CanLoad());
-    EXPECT_TRUE(bench.MainMenu[MenuId::LoadStipples].Enabled);
-    const std::vector<PaintColor> saved = bench.State.FoundColors;
-    editor.Replace(2, 3);
-    editor.LoadIt_Click();
-    EXPECT_EQ(bench.Edited(), (Rows{"223", "223"}));
-    EXPECT_EQ(bench.State.FoundColors, saved);
-    EXPECT_FALSE(editor.HasChanges());
-    editor.Undo();
-    EXPECT_EQ(bench.Edited(), (Rows{"333", "333"}));
-    EXPECT_TRUE(editor.HasChanges());
-    EXPECT_TRUE(bench.CountsAreTrue());
 }
 
 TEST(BrokenLoad, LeavesWhatWasReadUntilItIsTakenBack) {
@@ -316,21 +300,6 @@ TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
     editor.KeepRecovery(At(1));
     EXPECT_THAT(bench.Files.Read("Saved Stipples/Lady-Easy.recovery-old.stp"), HasSubstr("5,5"));
     EXPECT_THAT(bench.Files.Read(kRecovery), HasSubstr("2,2,2,50"));
-}
-
-TEST(UnsavedWork, IsThrownAwayOnlyWithLeave) {
-    KitBench bench({"12", "12"}, 2);
-    EXPECT_TRUE(MayReplaceGrid(bench.Place));
-    EXPECT_TRUE(bench.Screen.Questions.empty());
-    TouchUp editor(bench.Place);
-    editor.Fill({1, 1}, 2);
-    editor.Accept();
-    editor.SettleRecovery();
-    bench.Screen.Answers = {false, true};
-    EXPECT_FALSE(MayReplaceGrid(bench.Place));
-    EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
-    EXPECT_TRUE(MayReplaceGrid(bench.Place));
-    EXPECT_FALSE(bench.State.HasUnsavedWork || RecoveryExists(bench.Place));
 }
 
 TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
