@@ -73,14 +73,6 @@ TEST(AreaSearch, NumbersAreasByPaintThenByFirstCell) {
     }
 }
 
-TEST(AreaSearch, LonersAreJudgedByTheStepsTheSearchMayTake) {
-    const Easel easel(8, {"2211", "2222", "2222", "1222"});
-    EXPECT_TRUE(CheckLoner(easel.State, 3, 1, 1));   // its company lies in the last column
-    EXPECT_FALSE(CheckLoner(easel.State, 4, 1, 1));  // the same pair seen from the other side
-    EXPECT_TRUE(CheckLoner(easel.State, 1, 4, 1));
-    EXPECT_FALSE(CheckLoner(easel.State, 1, 1, 2));
-}
-
 TEST(AreaSearch, RedrawingTellsLonersFromCellsWithCompany) {
     Easel easel(8, {"222", "212", "222"});
     easel.State.CellMarks(1, 1).Loner = true;  // left over from before it had company

@@ -35,10 +35,6 @@ bool LiesInside(const CropRect& part, BitmapSize photo) {
            part.Left + part.Width <= photo.Width && part.Top + part.Height <= photo.Height;
 }
 
-double Share(const CropRect& part, BitmapSize photo) {
-    return 1.0 * part.Width * part.Height / photo.Width / photo.Height;
-}
-
 TEST(Crop, EveryShapeEndsUnstretchedAtEveryDifficulty) {
     std::vector<BitmapSize> photos = {{3000, 3000}, {4032, 3024}, {3024, 4032}, {4096, 1000},
                                       {512, 600},   {640, 427},   {1000, 1001}, {200, 200}};
@@ -69,8 +65,10 @@ TEST(Crop, CutsOffNoMoreThanTheShapeAsksFor) {
     EXPECT_NEAR(CropTop({3000, 3600}, kEasy).Width, 2880, 15);
     EXPECT_EQ(CropTop({3000, 3600}, kEasy).Left, CropCentre({3000, 3600}, kEasy).Left);
     // Where a standing sheet may be nearly square, a square photo loses next to nothing.
-    EXPECT_GT(Share(CropCentre({3000, 3000}, {kLaptop, 8}), {3000, 3000}), 0.97);
-    EXPECT_GT(Share(CropCentre({4032, 3024}, kEasy), {4032, 3024}), 0.99);
+    const CropRect standing = CropCentre({3000, 3000}, {kLaptop, 8});
+    EXPECT_GT(standing.Width * standing.Height, 0.97 * 3000 * 3000);
+    const CropRect usual = CropCentre({4032, 3024}, kEasy);
+    EXPECT_GT(usual.Width * usual.Height, 0.99 * 4032 * 3024);
 }
 
 TEST(Crop, PhotosTooSmallForAnyShapeKeepTheLeastStretchedPart) {

@@ -70,16 +70,16 @@ TEST_F(ForeignPhotoTest, KnowsWhatTheBitmapReaderCannotRead) {
     const std::string upwards = "BM" + before + "\x28\0\0\0\x05\0\0\0\x03\0\0\0"s;
     const std::string downwards = "BM" + before + "\x28\0\0\0\x05\0\0\0\xFD\xFF\xFF\xFF"s;
     const std::string old = "BM" + before + "\x0C\0\0\0\x05\0\x03\0\x01\0\x18\0"s;
-    struct Case {
-        std::string Name;
-        std::string Bytes;
-        bool Needs;
-    };
-    for (const Case& one : {Case{"a.bmp", upwards, false}, Case{"a.jpg", upwards, false},
-                            Case{"b.bmp", downwards, true}, Case{"c.bmp", old, true},
-                            Case{"d.bmp", "\xFF\xD8\xFF\xE0", true}, Case{"e.bmp", "letter", false},
-                            Case{"f.BMP", "", false}, Case{"g.heic", "letter", true}}) {
-        EXPECT_EQ(NeedsDecoder(files_.Write(one.Name, one.Bytes)), one.Needs) << one.Name;
+    const std::string jpeg = "\xFF\xD8\xFF\xE0";
+    for (const auto& [name, bytes, needs] : {std::tuple{"a.bmp", upwards, false},
+                                             {"a.jpg", upwards, false},
+                                             {"b.bmp", downwards, true},
+                                             {"c.bmp", old, true},
+                                             {"d.bmp", jpeg, true},
+                                             {"e.bmp", "letter"s, false},
+                                             {"f.BMP", ""s, false},
+                                             {"g.heic", "letter"s, true}}) {
+        EXPECT_EQ(NeedsDecoder(files_.Write(name, bytes)), needs) << name;
     }
     EXPECT_THROW(static_cast<void>(NeedsDecoder(files_ / "missing.jpg")), FileError);
 }

@@ -55,22 +55,6 @@ TEST(Sheet, ShowsDotsAndSymbolsOnWhite) {
     }
 }
 
-TEST(Painting, ComesOutTheSameBeforeAndAfterTheSheet) {
-    PaintedKit kit;
-    SetupMenuItems(kit.MainMenu, 4);
-    const auto file = PrintWorkform_Click(kit.Place);
-    EXPECT_EQ(file, kit.Files / "Results/Lady Easy Painting.BMP");
-    const std::string before = kit.Files.Read("Results/Lady Easy Painting.BMP");
-    PrintAll_Click(kit.Place);
-    PrintWorkform_Click(kit.Place);
-    EXPECT_EQ(kit.Files.Read("Results/Lady Easy Painting.BMP"), before);
-    EXPECT_EQ(ReadBitmap(file), kit.Frames.WorkFrame.Picture);
-    EXPECT_TRUE(kit.State.SheetDC.Empty());
-    EXPECT_TRUE(kit.MainMenu[MenuId::PrintMenu].Enabled);
-    EXPECT_EQ(kit.Screen.LastPointer, Pointer::Normal);
-    EXPECT_EQ(kit.Screen.Captions.back(), "Saving File, Please Wait....");
-}
-
 TEST(Sheet, RefusedOneLeavesPictureAndFiles) {
     test::Bench bare;
     EXPECT_THROW(WriteSheet(bare.Place), Error);  // nothing painted
@@ -110,19 +94,25 @@ TEST(Reference, ShowsTheSheetsDotsAndSymbolsOnTheEnlargedPainting) {
 
 TEST(Sheets, AreTheSameBytesInAnyOrderAndCompany) {
     PaintedKit kit;
+    SetupMenuItems(kit.MainMenu, 4);
     const auto read = [&kit](const std::string& kind) {
         return kit.Files.Read("Results/Lady Easy " + kind + ".BMP");
     };
+    const auto painting = PrintWorkform_Click(kit.Place);
+    EXPECT_EQ(painting, kit.Files / "Results/Lady Easy Painting.BMP");
+    EXPECT_EQ(ReadBitmap(painting), kit.Work());
     WriteSheets(kit.Place, {.Sheet = true, .Reference = true});
-    const std::string sheet = read("PBS");
-    const std::string reference = read("Symbol Reference");
+    const auto first = std::array{read("Painting"), read("PBS"), read("Symbol Reference")};
+    EXPECT_TRUE(kit.State.SheetDC.Empty());
     std::filesystem::remove_all(kit.Files / "Results");
     SaveReference_Click(kit.Place);
     EXPECT_FALSE(kit.Program.Exists("Results/Lady Easy PBS.BMP"));
-    PrintWorkform_Click(kit.Place);
     PrintAll_Click(kit.Place);
-    EXPECT_EQ(read("PBS"), sheet);
-    EXPECT_EQ(read("Symbol Reference"), reference);
+    PrintWorkform_Click(kit.Place);
+    EXPECT_EQ((std::array{read("Painting"), read("PBS"), read("Symbol Reference")}), first);
+    EXPECT_TRUE(kit.MainMenu[MenuId::PrintMenu].Enabled);
+    EXPECT_EQ(kit.Screen.LastPointer, Pointer::Normal);
+    EXPECT_EQ(kit.Screen.Captions.back(), "Saving File, Please Wait....");
 }
 
 TEST(Sheets, AResultsFolderThatCannotBeWrittenIsNamed) {

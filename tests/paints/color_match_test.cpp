@@ -32,29 +32,22 @@ int PlainMatch(const std::vector<PaintColor>& paints, const Channels& color, int
 TEST(ColorMatch, FindsTheNearestPaint) {
     const PaintColor black = Paint(0, 0, 0);
     const PaintColor white = Paint(255, 255, 255);
-    struct Case {
-        std::vector<PaintColor> Paints;
-        int Grey;
-        int Skip;
-        int Index;  // -7 stays as it was
-        int Matched;
-    };
-    const Case cases[] = {
-        {{black, white}, 100, 0, 1, 0},
-        {{Paint(10, 10, 10), Paint(20, 20, 20)}, 15, 0, 2, 20},  // a tie
-        {{white}, 0, 0, 1, 255},                                 // the furthest counts
-        {{black, white}, 0, 1, 2, 255},
-        {{white}, 3, 1, -7, 3},
-        {{}, 3, 0, -7, 3},
-    };
-    for (const Case& c : cases) {
+    using Paints = std::vector<PaintColor>;
+    constexpr int kStays = -7;
+    for (const auto& [paints, grey, skip, expected, matched] :
+         {std::tuple{Paints{black, white}, 100, 0, 1, 0},
+          {Paints{Paint(10, 10, 10), Paint(20, 20, 20)}, 15, 0, 2, 20},  // a tie
+          {Paints{white}, 0, 0, 1, 255},                                 // the furthest counts
+          {Paints{black, white}, 0, 1, 2, 255},
+          {Paints{white}, 3, 1, kStays, 3},
+          {Paints{}, 3, 0, kStays, 3}}) {
         WorkState state;
-        test::UsePaints(state, c.Paints);
-        Channels color{c.Grey, c.Grey, c.Grey};
-        int index = -7;
-        ColorMatch(state, color.Red, color.Green, color.Blue, index, c.Skip);
-        EXPECT_EQ(index, c.Index) << c.Grey;
-        EXPECT_EQ(color, (Channels{c.Matched, c.Matched, c.Matched})) << c.Grey;
+        test::UsePaints(state, paints);
+        Channels color{grey, grey, grey};
+        int index = kStays;
+        ColorMatch(state, color.Red, color.Green, color.Blue, index, skip);
+        EXPECT_EQ(index, expected) << grey;
+        EXPECT_EQ(color, (Channels{matched, matched, matched})) << grey;
     }
 }
 
