@@ -113,7 +113,10 @@ using Step = std::pair<PlanPoint, PlanPoint>;
 std::optional<Step> ClipStep(PlanPoint from, PlanPoint to, const PlanRect& part) {
     const auto [left, right] = std::minmax(from.X, to.X);
     const auto [top, bottom] = std::minmax(from.Y, to.Y);
-    if (right < part.Left || left > part.Right || bottom < part.Top || top > part.Bottom) {
+    // A part may be given in another unit: its edge must not lose the picture's for a rounding.
+    constexpr double kRounding = 1e-6;
+    if (right < part.Left - kRounding || left > part.Right + kRounding ||
+        bottom < part.Top - kRounding || top > part.Bottom + kRounding) {
         return std::nullopt;
     }
     const auto inside = [&part](PlanPoint p) -> PlanPoint {
