@@ -13,7 +13,7 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       form_(context.Place, context.Form.Exports()),
       paper_(Named<QComboBox>("Paper", tr("Paper"))),
-      legible_(Named<QRadioButton>("LegibleCanvas", tr("As large as legible symbols need"))),
+      legible_(Named<QRadioButton>("LegibleCanvas", tr("As many pages as legible symbols need"))),
       chosenSize_(Named<QRadioButton>("ChosenCanvas", tr("A canvas of a chosen width"))),
       width_(Named<QDoubleSpinBox>("CanvasWidth", tr("Width of the canvas in centimetres"))) {
     setWindowTitle(tr("Save Kit as PDF"));
@@ -21,7 +21,7 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
     connect(paper_, &QComboBox::activated, this, [this](int index) {
         Run([this, index] { form_.Paper_Click(static_cast<Paper>(index)); });
     });
-    legible_->setText(tr("As large as &legible symbols need (2 mm and more)"));
+    legible_->setText(tr("As many pages as &legible symbols need (2 mm and more)"));
     chosenSize_->setText(tr("&Width of the canvas"));
     width_->setRange(kSmallestCanvasCm, kLargestCanvasCm);
     width_->setDecimals(1);

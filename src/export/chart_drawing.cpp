@@ -62,8 +62,10 @@ void DrawRow(QPainter& painter, const ColorChart& chart, const ChartRow& row, do
     const double pad = height * 0.08;
     painter.fillRect(QRectF(kMargin, top - 1, kChartWidth - 2 * kMargin, 2), kRule);
     const QRectF swatch = CellOf(kSwatch, top, height).adjusted(0, pad, 0, -pad);
-    painter.fillRect(swatch, kFaint);  // a pale paint needs an edge on white paper
-    painter.fillRect(swatch.adjusted(2, 2, -2, -2), ToQt(row.Swatch));
+    painter.setPen(QPen(kFaint, 2));  // a pale paint needs an edge on white paper
+    painter.setBrush(ToQt(row.Swatch));
+    painter.drawRect(swatch.adjusted(1, 1, -1, -1));
+    painter.setBrush(Qt::NoBrush);
     painter.setPen(Qt::black);
     chart.DrawSymbol(painter, row.Paint, CellOf(kSymbol, top, height).adjusted(0, pad, 0, -pad));
     painter.setFont(TextFont(static_cast<int>(std::min(height * 0.62, 46.0))));
@@ -81,7 +83,7 @@ ColorChart MakeColorChart(const Workplace& place) {
     ColorChart chart;
     chart.Rows = FillChart(place.State);
     const std::string word(DifficultyWord(place.MainMenu));
-    chart.Title = ToQt(place.State.PictureName);
+    chart.Title = ToQt(PrintedName(place.State));
     chart.Subtitle = QString("Color chart  \u2022  %1  \u2022  %2 %3")
                          .arg(ToQt(word))
                          .arg(chart.Rows.size())

@@ -13,17 +13,19 @@ namespace vendrel {
 namespace {
 
 // The glyphs' ink lies within these columns and rows, counted from where they are stamped.
-constexpr QRect kGlyphFrame(-2, -2, 10, 14);
+constexpr QRect kGlyphFrame(-2, -3, 10, 15);
+// Middle of capitals and digits, which stand in the middle of a line; small letters hang below it.
+constexpr double kMiddleRow = 3.5;
 
 // Whole squares, so that the enlarged symbol has the very shape that the sheet shows.
 void DrawGlyph(QPainter& painter, const SymbolGlyph& glyph, const QRectF& box) {
     const int scale = std::max(1, static_cast<int>(box.height()) / kGlyphFrame.height());
     const int left = static_cast<int>(box.center().x()) - scale * kGlyphFrame.width() / 2;
-    const int top = static_cast<int>(box.center().y()) - scale * kGlyphFrame.height() / 2;
+    const int top = static_cast<int>(box.center().y() - scale * kMiddleRow);  // of row 0
     for (int i = 1; i <= glyph.PointCount; ++i) {
         const GlyphPoint& point = glyph.Points[static_cast<std::size_t>(i)];
-        painter.fillRect(left + scale * (point.X - kGlyphFrame.left()),
-                         top + scale * (point.Y - kGlyphFrame.top()), scale, scale, Qt::black);
+        painter.fillRect(left + scale * (point.X - kGlyphFrame.left()), top + scale * point.Y,
+                         scale, scale, Qt::black);
     }
 }
 

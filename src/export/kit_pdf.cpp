@@ -48,6 +48,30 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
     kit.Place.Screen.ReportProgress(0, 0);
 }
 
+std::vector<PlanRect> BoxesOf(const PrintPlan& plan, const SymbolAspects& aspects) {
+    std::vector<PlanRect> boxes;
+    for (const PlanLabel& label : plan.Labels) {
+        const int paint = plan.Regions.List[static_cast<std::size_t>(label.Region)].Paint;
+        const double mm = plan.MmPerPixel;
+        const double reachX = label.Height * aspects.at(static_cast<std::size_t>(paint)) / 2 * mm;
+        const double reachY = label.Height / 2 * mm;
+        const PlanPoint at{label.Centre.X * mm, label.Centre.Y * mm};
+        boxes.push_back({at.X - reachX, at.Y - reachY, at.X + reachX, at.Y + reachY});
+    }
+    return boxes;
+}
+
+Surface PaintingOf(const PaintedRegions& regions, const WorkState& state) {
+    Surface painting(regions.Ids.Across() + 1, regions.Ids.Down() + 1);
+    for (int y = 0; y < painting.Height(); ++y) {
+        for (int x = 0; x < painting.Width(); ++x) {
+            const Region& region = regions.List[static_cast<std::size_t>(regions.Ids(x, y))];
+            painting.Set(x, y, ColorOf(state.PaintColors[static_cast<std::size_t>(region.Paint)]));
+        }
+    }
+    return painting;
+}
+
 // Fonts and pictures are written in the order of hash tables, which the toolkit seeds by chance.
 class SteadyHashes {
   public:
@@ -81,7 +105,12 @@ std::filesystem::path WriteKitPdf(const Workplace& place, const PlanSettings& se
     place.Screen.SetCaption("Drawing the Plan");
     const PrintSymbols symbols;
     const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
-    const KitPages kit{place, plan, symbols, SizeOf(settings.Sheet)};
+    const KitPages kit{place,
+                       plan,
+                       symbols,
+                       SizeOf(settings.Sheet),
+                       BoxesOf(plan, symbols.Aspects()),
+                       PaintingOf(plan.Regions, place.State)};
     const SteadyHashes steady;
     QByteArray pdf;
     QBuffer buffer(&pdf);

@@ -40,6 +40,38 @@ QString KitSummary(const KitPages& kit) {
         .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages");
 }
 
+struct CoverPlaces {
+    QRectF Painting;
+    QRectF Photo;
+};
+
+// Wide pictures stand above one another, upright ones side by side: either way the painting is the
+// larger one, and the page is filled.
+CoverPlaces PlacesOn(const QRectF& room, const Surface& painting, const Surface& photo) {
+    constexpr double kCaption = 8;
+    constexpr double kGap = 8;
+    constexpr double kPaintingsPart = 0.62;
+    CoverPlaces places;
+    const bool upright = painting.Height() > painting.Width();
+    const QSizeF all(room.width(), room.height() - Mm(kCaption));
+    if (upright) {
+        places.Painting = {room.topLeft(),
+                           Fitted(painting, {all.width() * kPaintingsPart, all.height()})};
+        const double left = places.Painting.right() + Mm(kGap);
+        places.Photo = {QPointF(left, room.top()),
+                        Fitted(photo, {room.right() - left, all.height()})};
+        return places;
+    }
+    const auto centred = [&room](double top, const QSizeF& size) {
+        return QRectF(QPointF(room.center().x() - size.width() / 2, top), size);
+    };
+    places.Painting =
+        centred(room.top(), Fitted(painting, {all.width(), all.height() * kPaintingsPart}));
+    const double top = places.Painting.bottom() + Mm(kCaption + 2);
+    places.Photo = centred(top, Fitted(photo, {all.width(), room.bottom() - Mm(kCaption) - top}));
+    return places;
+}
+
 void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) {
     painter.setFont(TextFont(FontMm(3.5)));
     painter.setPen(kFaint);
@@ -48,22 +80,30 @@ void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) 
 }
 
 const char* const kSteps[] = {
-    "1.  Print all pages at their actual size (100 %), never fitted to the paper.",
-    "2.  Measure the ruler below: it must be exactly 5 cm long.",
-    "3.  Trim each page along its crop marks on its left and its top, where it will lie on a page",
-    "     that was laid before it.",
-    "4.  Lay the round marks of neighbouring pages over one another and glue the pages together,",
-    "     row by row, as the map shows.",
-    "5.  Glue the plan onto the canvas or board, or trace it, and fill every outline with the",
-    "     paint of its symbol. Small letters are underlined, so that c and C stay apart.",
+    "Print all pages at their actual size (100 %), never fitted to the paper.",
+    "Measure the ruler below: it must be exactly 5 cm long.",
+    "Where a page has crop marks, cut off its left or its top margin along them. The strips beyond "
+    "the dashed blue lines on the right and below stay on: the next pages are glued over them.",
+    "Lay the cut edge of the next page on the dashed line, so that the halves of the round marks "
+    "meet, and glue page to page, row by row, as the map shows.",
+    "Glue the plan onto the canvas or board, or trace it, and fill every outline with the paint of "
+    "its symbol. Small letters are underlined, so that c and C stay apart.",
+    "Keep the color chart at hand: the lists of paints on the pages vanish under their neighbors.",
 };
 
+// Answers where the text ends.
 double DrawSteps(QPainter& painter, double top, double width) {
+    constexpr double kIndent = 7;
     painter.setFont(TextFont(FontMm(3.6)));
     painter.setPen(Qt::black);
+    int number = 0;
     for (const char* step : kSteps) {
-        DrawLineOfText(painter, QRectF(Mm(kMargin), top, width, Mm(6)), Qt::AlignLeft, step);
-        top += Mm(6);
+        painter.drawText(QRectF(Mm(kMargin), top, Mm(kIndent), Mm(6)), Qt::AlignLeft,
+                         QString("%1.").arg(++number));
+        QRectF used;
+        painter.drawText(QRectF(Mm(kMargin + kIndent), top, width - Mm(kIndent), Mm(30)),
+                         Qt::AlignLeft | Qt::TextWordWrap, step, &used);
+        top = used.bottom() + Mm(1.8);
     }
     return top;
 }
@@ -71,7 +111,7 @@ double DrawSteps(QPainter& painter, double top, double width) {
 }  // namespace
 
 std::string KitPages::Title() const {
-    return Place.State.PictureName + ", " + std::string(DifficultyWord(Place.MainMenu));
+    return PrintedName(Place.State) + ", " + std::string(DifficultyWord(Place.MainMenu));
 }
 
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {
@@ -86,29 +126,23 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
     DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
                    KitSummary(kit));
 
-    const double top = Mm(kMargin + 28);
-    const double room = bottom - top - Mm(16);  // for both pictures without their captions
-    const Surface& painting = kit.Place.Frames.WorkFrame.Picture;
-    const QRectF large(QPointF(Mm(kMargin), top), Fitted(painting, {width, room * 0.62}));
-    painter.setRenderHint(QPainter::LosslessImageRendering);
-    DrawPicture(painter, painting, large);
-    painter.setRenderHint(QPainter::LosslessImageRendering, false);
-    DrawCaption(painter, large, "The painting");
-
+    const QRectF room(Mm(kMargin), Mm(kMargin + 28), width, bottom - Mm(kMargin + 28));
     const Surface& photo = kit.Place.Frames.CaptureFrame.Picture;
-    if (photo.Empty()) {
-        return;
+    const CoverPlaces places = PlacesOn(room, kit.Painting, photo);
+    painter.setRenderHint(QPainter::LosslessImageRendering);
+    DrawPicture(painter, kit.Painting, places.Painting);
+    painter.setRenderHint(QPainter::LosslessImageRendering, false);
+    DrawCaption(painter, places.Painting, "The painting");
+    if (!photo.Empty()) {
+        DrawPicture(painter, photo, places.Photo);
+        DrawCaption(painter, places.Photo, "The photo");
     }
-    const QRectF small(QPointF(Mm(kMargin), large.bottom() + Mm(9)),
-                       Fitted(photo, {width, bottom - large.bottom() - Mm(16)}));
-    DrawPicture(painter, photo, small);
-    DrawCaption(painter, small, "The photo");
 }
 
 void DrawChartPage(QPainter& painter, const KitPages& kit) {
     ColorChart chart = MakeColorChart(kit.Place);
     chart.DrawSymbol = [&kit](QPainter& on, int paint, const QRectF& box) {
-        kit.Symbols.Draw(on, paint, box.center(), std::min(box.height() * 0.8, 50.0));
+        kit.Symbols.DrawInLine(on, paint, box.center(), std::min(box.height() * 0.6, 34.0));
     };
     const double scale =
         std::min(Mm(kit.FrontPaper.Width) / kChartWidth, Mm(kit.FrontPaper.Height) / kChartHeight);
@@ -130,8 +164,7 @@ void DrawMapPage(QPainter& painter, const KitPages& kit) {
     const QRectF box(Mm(kMargin), top + Mm(22), width,
                      Mm(kit.FrontPaper.Height - kMargin) - top - Mm(22));
     painter.setOpacity(0.45);
-    painter.drawImage(PageMapRect(kit.Plan.Pages, box),
-                      ToImage(kit.Place.Frames.WorkFrame.Picture));
+    painter.drawImage(PageMapRect(kit.Plan.Pages, box), ToImage(kit.Painting));
     painter.setOpacity(1);
     DrawPageMap(painter, kit.Plan.Pages, box, nullptr);
 }

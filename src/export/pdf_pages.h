@@ -2,6 +2,7 @@
 
 #include <QtGui/QPainter>
 #include <string>
+#include <vector>
 
 #include "export/print_fonts.h"
 #include "output/plan_layout.h"
@@ -14,7 +15,9 @@ struct KitPages {
     const Workplace& Place;
     const PrintPlan& Plan;
     const PrintSymbols& Symbols;
-    SizeMm FrontPaper;  // of cover, chart and page map, upright
+    SizeMm FrontPaper;                  // of cover, chart and page map, upright
+    std::vector<PlanRect> SymbolBoxes;  // of all labels, in millimetres of the canvas
+    Surface Painting;                   // as the plan cuts it, no pixel bare
 
     [[nodiscard]] std::string Title() const;  // photo and difficulty
 };

@@ -7,7 +7,7 @@
 #include "export/page_map.h"
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
-#include "output/chart_contents.h"
+#include "output/mark_places.h"
 
 namespace vendrel {
 namespace {
@@ -32,9 +32,9 @@ class PlanPage {
 
     void Draw() {
         DrawHeading();
+        DrawCuts();
         DrawOutlines();
         DrawSymbols();
-        DrawCuts();
         DrawCropMarks();
         DrawLegend();
     }
@@ -52,14 +52,15 @@ class PlanPage {
         return {part.Left / scale, part.Top / scale, part.Right / scale, part.Bottom / scale};
     }
 
+    [[nodiscard]] QString PageCount() const;
     void DrawHeading();
     void DrawOutlines();
     void DrawSymbols();
     void DrawCuts();
-    void DrawCut(QPointF from, QPointF to);
+    void DrawCut(const CutLine& cut);
     void DrawCropMarks();
     void DrawLegend();
-    void DrawLegendEntry(int paint, QPointF corner);
+    void DrawLegendEntry(int paint, const QRectF& box);
 
     QPainter& painter_;
     const KitPages& kit_;
@@ -68,6 +69,13 @@ class PlanPage {
     PlanPoint offset_;  // from canvas to page, in millimetres
 };
 
+QString PlanPage::PageCount() const {
+    const PagePlan& pages = kit_.Plan.Pages;
+    return QString("   (%1 of %2)")
+        .arg(tile_.Row * pages.Across + tile_.Column + 1)
+        .arg(pages.Tiles.size());
+}
+
 void PlanPage::DrawHeading() {
     const double top = Design::kMargin;
     const double left = Design::kMargin;
@@ -75,7 +83,7 @@ void PlanPage::DrawHeading() {
     painter_.setFont(TextFont(FontMm(4.4), Weight::Bold));
     const double room = sheet_.Width - 2 * left - 60 - 30;
     DrawLineOfText(painter_, MmRect(left, top, room, 6), Qt::AlignLeft,
-                   ToQt("Page " + tile_.Name()));
+                   ToQt("Page " + tile_.Name()) + PageCount());
     painter_.setFont(TextFont(FontMm(3)));
     DrawLineOfText(painter_, MmRect(left, top + 6, room, 5), Qt::AlignLeft, ToQt(kit_.Title()));
     DrawRuler(painter_, {Mm(sheet_.Width - left - 30 - 58), Mm(top + 5)});
@@ -112,56 +120,61 @@ void PlanPage::DrawSymbols() {
     }
 }
 
+// Below the symbols, which must stay legible.
 void PlanPage::DrawCuts() {
     const PlanRect& own = tile_.Own;
-    const PlanRect& shown = tile_.Shown;
-    if (own.Left > shown.Left) {
-        DrawCut(At(own.Left, shown.Top), At(own.Left, shown.Bottom));
+    if (tile_.Column > 0) {
+        DrawCut({{own.Left, own.Top}, {own.Left, own.Bottom}});
     }
-    if (own.Right < shown.Right) {
-        DrawCut(At(own.Right, shown.Top), At(own.Right, shown.Bottom));
+    if (tile_.Column + 1 < kit_.Plan.Pages.Across) {
+        DrawCut({{own.Right, own.Top}, {own.Right, own.Bottom}});
     }
-    if (own.Top > shown.Top) {
-        DrawCut(At(shown.Left, own.Top), At(shown.Right, own.Top));
+    if (tile_.Row > 0) {
+        DrawCut({{own.Left, own.Top}, {own.Right, own.Top}});
     }
-    if (own.Bottom < shown.Bottom) {
-        DrawCut(At(shown.Left, own.Bottom), At(shown.Right, own.Bottom));
+    if (tile_.Row + 1 < kit_.Plan.Pages.Down) {
+        DrawCut({{own.Left, own.Bottom}, {own.Right, own.Bottom}});
     }
 }
 
-// The line where two pages meet, with a round mark near each end that both pages show.
-void PlanPage::DrawCut(QPointF from, QPointF to) {
+// The line where two pages meet, with two round marks that both pages show.
+void PlanPage::DrawCut(const CutLine& cut) {
+    constexpr double kCircle = 1.5;
+    constexpr double kCross = 2.2;
     QPen dashes(kCutInk, Mm(0.12));
     dashes.setDashPattern({12, 12});
     painter_.setPen(dashes);
-    painter_.drawLine(QLineF(from, to));
+    painter_.drawLine(QLineF(At(cut.From.X, cut.From.Y), At(cut.To.X, cut.To.Y)));
     painter_.setPen(QPen(kCutInk, Mm(0.15)));
-    for (const double share : {0.2, 0.8}) {
-        const QPointF at = from + (to - from) * share;
-        painter_.drawEllipse(at, Mm(1.5), Mm(1.5));
-        painter_.drawLine(QLineF(at - QPointF(Mm(2.2), 0), at + QPointF(Mm(2.2), 0)));
-        painter_.drawLine(QLineF(at - QPointF(0, Mm(2.2)), at + QPointF(0, Mm(2.2))));
+    for (const PlanPoint& mark : PlaceMarks(cut, kCross, kit_.SymbolBoxes)) {
+        const QPointF at = At(mark.X, mark.Y);
+        painter_.drawEllipse(at, Mm(kCircle), Mm(kCircle));
+        painter_.drawLine(QLineF(at - QPointF(Mm(kCross), 0), at + QPointF(Mm(kCross), 0)));
+        painter_.drawLine(QLineF(at - QPointF(0, Mm(kCross)), at + QPointF(0, Mm(kCross))));
     }
 }
 
+// Only where a page is cut: what stays on to the right and below carries the next page.
 void PlanPage::DrawCropMarks() {
     constexpr double kGap = 1;
     constexpr double kLength = 4;
     painter_.setPen(QPen(Qt::black, Mm(0.15)));
     const PlanRect& own = tile_.Own;
     const PlanRect& shown = tile_.Shown;
-    for (const double x : {own.Left, own.Right}) {
+    if (tile_.Column > 0) {
+        const double x = own.Left;
         painter_.drawLine(QLineF(At(x, shown.Top - kGap - kLength), At(x, shown.Top - kGap)));
         painter_.drawLine(QLineF(At(x, shown.Bottom + kGap), At(x, shown.Bottom + kGap + kLength)));
     }
-    for (const double y : {own.Top, own.Bottom}) {
+    if (tile_.Row > 0) {
+        const double y = own.Top;
         painter_.drawLine(QLineF(At(shown.Left - kGap - kLength, y), At(shown.Left - kGap, y)));
         painter_.drawLine(QLineF(At(shown.Right + kGap, y), At(shown.Right + kGap + kLength, y)));
     }
 }
 
 void PlanPage::DrawLegend() {
-    const std::vector<int> paints = PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Shown));
+    const std::vector<int> paints = PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own));
     const int columns = Design::LegendColumns(sheet_.Width);
     const int rows = (static_cast<int>(paints.size()) + columns - 1) / columns;
     const double width = (sheet_.Width - 2 * Design::kMargin) / columns;
@@ -170,24 +183,26 @@ void PlanPage::DrawLegend() {
         const int column = static_cast<int>(i) / rows;
         const int row = static_cast<int>(i) % rows;
         DrawLegendEntry(paints[i],
-                        {Mm(Design::kMargin + column * width), Mm(top + row * Design::kLegendRow)});
+                        MmRect(Design::kMargin + column * width, top + row * Design::kLegendRow,
+                               width, Design::kLegendRow));
     }
 }
 
-void PlanPage::DrawLegendEntry(int paint, QPointF corner) {
+// The code of a long name is left out: the chart has it, and half a code helps nobody.
+void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
     const PaintColor& color = kit_.Place.State.PaintColors[static_cast<std::size_t>(paint)];
-    const double height = Mm(Design::kLegendRow);
+    const QPointF corner = box.topLeft();
     painter_.setPen(QPen(kBorderInk, Mm(0.1)));
     painter_.setBrush(ToQt(ColorOf(color)));
-    painter_.drawRect(QRectF(corner + QPointF(0, Mm(0.4)), QSizeF(Mm(6), height - Mm(0.8))));
+    painter_.drawRect(QRectF(corner + QPointF(0, Mm(0.4)), QSizeF(Mm(6), box.height() - Mm(0.8))));
     painter_.setBrush(Qt::NoBrush);
     painter_.setPen(Qt::black);
-    kit_.Symbols.Draw(painter_, paint, corner + QPointF(Mm(8.3), height / 2), Mm(2.8));
+    kit_.Symbols.DrawInLine(painter_, paint, corner + QPointF(Mm(8.3), box.height() / 2), Mm(2));
     painter_.setFont(TextFont(FontMm(2.6)));
-    DrawLineOfText(
-        painter_,
-        QRectF(corner + QPointF(Mm(11), 0), QSizeF(Mm(Design::kLegendColumn - 12.5), height)),
-        Qt::AlignLeft, ToQt(color.PaintName + " [" + color.PaintCode + "]"));
+    const QRectF text = box.adjusted(Mm(11), 0, -Mm(1.5), 0);
+    const QString name = ToQt(color.PaintName);
+    const QString full = name + ToQt(" [" + color.PaintCode + "]");
+    DrawLineOfText(painter_, text, Qt::AlignLeft, Fits(painter_, text, full) ? full : name);
 }
 
 }  // namespace

@@ -71,6 +71,7 @@ PrintSymbols::PrintSymbols() {
                     " is not installed. Install the package fonts-liberation.");
     }
     const QFont font = SymbolFont(kMeasureSize);
+    capital_ = InkOf(QStringLiteral("X"), font).height();
     for (int symbol = 1; symbol <= kSymbolCount; ++symbol) {
         shapes_[static_cast<std::size_t>(symbol)] = Measure(symbol, font);
     }
@@ -105,12 +106,27 @@ void PrintSymbols::Draw(QPainter& painter, int symbol, QPointF centre, double he
     painter.translate(centre);
     painter.scale(shape.Squeeze, 1);
     painter.translate(-shape.Ink.center() * em);
+    DrawShape(painter, symbol, shape, em);
+    painter.restore();
+}
+
+void PrintSymbols::DrawInLine(QPainter& painter, int symbol, QPointF centre,
+                              double capitals) const {
+    const Shape& shape = shapes_.at(static_cast<std::size_t>(symbol));
+    const double em = std::max(1.0, std::floor(capitals / capital_));
+    painter.save();
+    painter.translate(centre.x() - shape.Ink.center().x() * em, centre.y() + capitals / 2);
+    DrawShape(painter, symbol, shape, em);
+    painter.restore();
+}
+
+// With the pen at the painter's zero.
+void PrintSymbols::DrawShape(QPainter& painter, int symbol, const Shape& shape, double em) {
     painter.setFont(SymbolFont(static_cast<int>(em)));
     painter.drawText(QPointF(0, 0), TextOf(symbol));
     if (!shape.Bar.isEmpty()) {
         painter.fillRect(Scaled(shape.Bar, em), painter.pen().color());
     }
-    painter.restore();
 }
 
 }  // namespace vendrel

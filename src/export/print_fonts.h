@@ -32,6 +32,9 @@ class PrintSymbols {
     [[nodiscard]] SymbolAspects Aspects() const;
     /// Draws a symbol with the painter's pen; its box is `height` units tall, capitals fill it.
     void Draw(QPainter& painter, int symbol, QPointF centre, double height) const;
+    /// Draws a symbol as one of a list: all in one size, on one base line, capitals `capitals`
+    /// units tall and centred.
+    void DrawInLine(QPainter& painter, int symbol, QPointF centre, double capitals) const;
 
   private:
     // In a font of 1 unit.
@@ -42,8 +45,10 @@ class PrintSymbols {
         double Squeeze = 1;
     };
     static Shape Measure(int symbol, const QFont& font);
+    static void DrawShape(QPainter& painter, int symbol, const Shape& shape, double em);
 
     std::array<Shape, kSymbolCount + 1> shapes_;
+    double capital_ = 1;  // height of one
 };
 
 }  // namespace vendrel

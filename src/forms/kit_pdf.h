@@ -11,7 +11,7 @@ class KitPdfForm {
     KitPdfForm(Workplace& place, const Exporter& exporter) : place_(place), exporter_(exporter) {}
 
     void Paper_Click(Paper paper) { settings_.Sheet = paper; }
-    /// Width of the canvas in centimetres; 0 for as large as legible symbols need.
+    /// Width of the canvas in centimetres; 0 to fill the pages that legible symbols need.
     void Canvas_Change(double centimetres) { settings_.CanvasCm = centimetres; }
     /// Writes the PDF, closes, and offers to open its folder.
     void SaveButton_Click();

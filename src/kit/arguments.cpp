@@ -42,7 +42,8 @@ and GIF photos are kept in Pictures as .bmp (not in builds without windows).
                              all but pdf)
   --paper SIZE               prints the pdf on A4 (default), Letter or A3
   --canvas WIDTHcm           prints the pdf for a canvas this wide, as in 60cm;
-                             auto (default) is as large as legible symbols need
+                             auto (default) fills the pages that legible
+                             symbols need
   --from-grid                takes the saved grid instead of converting the photo
   --replace-grid             writes over a saved grid that differs
   --json                     prints one JSON object per photo

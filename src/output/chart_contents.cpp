@@ -83,4 +83,10 @@ std::string ShareText(int tenths) {
     return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " %";
 }
 
+std::string PrintedName(const WorkState& state) {
+    std::string name = state.PictureName;
+    std::ranges::replace(name, '_', ' ');
+    return name;
+}
+
 }  // namespace vendrel

@@ -36,6 +36,9 @@ void SortChart(std::vector<ChartRow>& rows, ChartOrder order);
 /// "12.3 %".
 [[nodiscard]] std::string ShareText(int tenths);
 
+/// The photo's name as a title: cameras and painters write "_" for a space.
+[[nodiscard]] std::string PrintedName(const WorkState& state);
+
 /// "Set: Name [Code]".
 [[nodiscard]] std::string PaintLabel(const PaintColor& paint);
 

@@ -2,38 +2,28 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <map>
-#include <tuple>
 #include <utility>
 
 namespace vendrel {
 namespace {
 
-// For every index the piece it falls into, 0 before the first cut.
-std::vector<int> PieceOfEach(std::span<const int> cuts, int count) {
-    std::vector<int> pieces(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        pieces[static_cast<std::size_t>(i)] =
-            static_cast<int>(std::ranges::upper_bound(cuts, i) - cuts.begin());
-    }
-    return pieces;
-}
-
 double AreaOf(const InscribedBox& box) {
     return static_cast<double>(box.Right - box.Left) * (box.Bottom - box.Top);
 }
 
-// Walks the picture row by row and keeps for every column how far the pixel's piece reaches up. All
-// boxes that can grow no further show up where a shorter column ends them.
+// Walks the picture row by row and keeps for every column how far the pixel's region reaches up.
+// All boxes that can grow no further show up where a shorter column ends them.
 class BoxSearch {
   public:
-    BoxSearch(const PixelGrid& ids, const PixelCuts& cuts,
-              const std::function<double(int)>& aspectOf)
-        : ids_(ids),
+    BoxSearch(const PaintedRegions& regions, const std::function<double(int)>& aspectOf)
+        : ids_(regions.Ids),
           aspectOf_(aspectOf),
-          columnPiece_(PieceOfEach(cuts.Columns, ids.Across() + 1)),
-          rowPiece_(PieceOfEach(cuts.Rows, ids.Down() + 1)),
-          reach_(static_cast<std::size_t>(ids.Across()) + 1) {}
+          reach_(static_cast<std::size_t>(ids_.Across()) + 1),
+          best_(regions.List.size()) {
+        for (std::size_t i = 0; i < best_.size(); ++i) {
+            best_[i].Region = static_cast<int>(i);
+        }
+    }
 
     std::vector<InscribedBox> Run() {
         for (int y = 0; y <= ids_.Down(); ++y) {
@@ -42,11 +32,7 @@ class BoxSearch {
                 x = SearchRun(x, y);
             }
         }
-        std::vector<InscribedBox> boxes;
-        for (const auto& [key, box] : best_) {
-            boxes.push_back(box);
-        }
-        return boxes;
+        return std::move(best_);
     }
 
   private:
@@ -56,26 +42,24 @@ class BoxSearch {
     };
 
     void UpdateReach(int y) {
-        const bool fresh = y == 0 || PieceOfRow(y) != PieceOfRow(y - 1);
         for (int x = 0; x <= ids_.Across(); ++x) {
             int& reach = reach_[static_cast<std::size_t>(x)];
-            reach = !fresh && ids_(x, y) == ids_(x, y - 1) ? reach + 1 : 1;
+            reach = y > 0 && ids_(x, y) == ids_(x, y - 1) ? reach + 1 : 1;
         }
     }
 
-    // One run of pixels of the same piece, from column x on; answers where the next one begins.
+    // One run of pixels of the same region, from column x on; answers where the next one begins.
     int SearchRun(int x, int y) {
         const int id = ids_(x, y);
-        const int piece = PieceOfColumn(x);
         const double aspect = aspectOf_(id);
-        InscribedBox* const best = &BestOf(id, x, y);
+        InscribedBox& best = best_[static_cast<std::size_t>(id)];
         open_.clear();
         int end = x;
-        for (; end <= ids_.Across() && ids_(end, y) == id && PieceOfColumn(end) == piece; ++end) {
-            const int left = Close(end, reach_[static_cast<std::size_t>(end)], y, aspect, *best);
+        for (; end <= ids_.Across() && ids_(end, y) == id; ++end) {
+            const int left = Close(end, reach_[static_cast<std::size_t>(end)], y, aspect, best);
             open_.push_back({left, reach_[static_cast<std::size_t>(end)]});
         }
-        (void)Close(end, 0, y, aspect, *best);
+        (void)Close(end, 0, y, aspect, best);
         return end;
     }
 
@@ -98,30 +82,18 @@ class BoxSearch {
         }
     }
 
-    InscribedBox& BestOf(int id, int x, int y) {
-        InscribedBox& best = best_[{id, PieceOfRow(y), PieceOfColumn(x)}];
-        best.Region = id;
-        return best;
-    }
-    [[nodiscard]] int PieceOfRow(int y) const { return rowPiece_[static_cast<std::size_t>(y)]; }
-    [[nodiscard]] int PieceOfColumn(int x) const {
-        return columnPiece_[static_cast<std::size_t>(x)];
-    }
-
     const PixelGrid& ids_;
     const std::function<double(int)>& aspectOf_;
-    std::vector<int> columnPiece_;
-    std::vector<int> rowPiece_;
     std::vector<int> reach_;
     std::vector<Open> open_;
-    std::map<std::tuple<int, int, int>, InscribedBox> best_;
+    std::vector<InscribedBox> best_;
 };
 
 }  // namespace
 
-std::vector<InscribedBox> FindRoomiestBoxes(const PixelGrid& ids, const PixelCuts& cuts,
+std::vector<InscribedBox> FindRoomiestBoxes(const PaintedRegions& regions,
                                             const std::function<double(int)>& aspectOf) {
-    return BoxSearch(ids, cuts, aspectOf).Run();
+    return BoxSearch(regions, aspectOf).Run();
 }
 
 }  // namespace vendrel

@@ -3,20 +3,21 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 #include "drawing/brush.h"
 #include "output/inscribed_boxes.h"
+#include "output/region_pieces.h"
 
 namespace vendrel {
 namespace {
 
 // Leaves some white between a symbol and the border around it.
 constexpr double kFill = 0.9;
-// A second symbol in a region helps only when it can be read about as well as the first.
-constexpr double kSmallestRepeat = 0.7;
-
+// A second symbol in a region is welcome when it can be read about as well as the first.
+constexpr double kAsGood = 0.7;
 // Symbols of one region stand this many of their heights apart at least.
-constexpr double kApart = 1.5;
+constexpr double kApart = 2;
 
 class Placement {
   public:
@@ -24,21 +25,9 @@ class Placement {
         : regions_(regions), rules_(rules), placed_(regions.List.size()) {}
 
     std::vector<PlanLabel> Run() {
-        AddPieces({}, [](const PlanLabel&, const PlanLabel&) { return false; });
-        AddPieces({rules_.PageColumns, rules_.PageRows}, [this](const auto& one,
-                                                                const auto& other) {
-            // Pages overlap: a symbol close behind the cut is on this page too, and two
-            // of them would be printed into one another.
-            return PageOf(one.Centre) == PageOf(other.Centre) ||
-                   Distance(one.Centre, other.Centre) < kApart * std::max(one.Height, other.Height);
-        });
-        if (rules_.LatticeStep >= 1) {
-            const std::vector<int> columns = Lattice(regions_.Ids.Across());
-            const std::vector<int> rows = Lattice(regions_.Ids.Down());
-            AddPieces({columns, rows}, [this](const auto& one, const auto& other) {
-                return Distance(one.Centre, other.Centre) < rules_.LatticeStep / 2;
-            });
-        }
+        PlaceFirst();
+        PlaceOnPages();
+        PlaceOnLattice();
         std::vector<PlanLabel> labels;
         for (const std::vector<PlanLabel>& ofRegion : placed_) {
             labels.insert(labels.end(), ofRegion.begin(), ofRegion.end());
@@ -47,6 +36,59 @@ class Placement {
     }
 
   private:
+    void PlaceFirst() {
+        const auto aspectOf = [this](int region) { return AspectOf(region); };
+        for (const InscribedBox& box : FindRoomiestBoxes(regions_, aspectOf)) {
+            placed_[static_cast<std::size_t>(box.Region)].push_back(LabelIn(box, box.Region));
+        }
+    }
+
+    // Every piece that a page shows of a region has a symbol of its own, if one can be read there
+    // and none stands close by across the cut, where the two would run into one another.
+    void PlaceOnPages() {
+        const RegionPieces cut = CutIntoPieces(regions_.Ids, {rules_.PageColumns, rules_.PageRows});
+        const std::vector<PlanLabel> labels = LabelsOf(cut);
+        KeepOffTheCuts(labels);
+        for (std::size_t piece = 0; piece < labels.size(); ++piece) {
+            const PlanLabel& label = labels[piece];
+            std::vector<PlanLabel>& others = OthersOf(label);
+            const bool legible =
+                label.Height >= std::min(others.front().Height * kAsGood, rules_.LegibleHeight);
+            if (legible && std::ranges::none_of(others, [&](const PlanLabel& other) {
+                    return PieceUnder(cut, other) == static_cast<int>(piece) ||
+                           IsClose(label, other);
+                })) {
+                others.push_back(label);
+            }
+        }
+    }
+
+    // A symbol on a cut would be trimmed in half; one a little smaller beside it is better.
+    void KeepOffTheCuts(const std::vector<PlanLabel>& pieces) {
+        for (const PlanLabel& label : pieces) {
+            PlanLabel& first = OthersOf(label).front();
+            if (IsOnCut(first) && label.Height >= first.Height * kAsGood) {
+                first = label;
+            }
+        }
+    }
+
+    void PlaceOnLattice() {
+        if (rules_.LatticeStep < 1) {
+            return;
+        }
+        const std::vector<int> columns = Lattice(regions_.Ids.Across());
+        const std::vector<int> rows = Lattice(regions_.Ids.Down());
+        for (const PlanLabel& label : LabelsOf(CutIntoPieces(regions_.Ids, {columns, rows}))) {
+            std::vector<PlanLabel>& others = OthersOf(label);
+            if (label.Height >= others.front().Height * kAsGood && !IsOnCut(label) &&
+                std::ranges::none_of(others, [&](const PlanLabel& other) {
+                    return Distance(label, other) < rules_.LatticeStep / 2 || IsClose(label, other);
+                })) {
+                others.push_back(label);
+            }
+        }
+    }
     [[nodiscard]] std::vector<int> Lattice(int last) const {
         std::vector<int> cuts;
         for (int i = 1; i * rules_.LatticeStep <= last; ++i) {
@@ -55,45 +97,54 @@ class Placement {
         return cuts;
     }
 
-    static double Distance(const PlanPoint& one, const PlanPoint& other) {
-        return std::hypot(one.X - other.X, one.Y - other.Y);
-    }
-    [[nodiscard]] CellPos PageOf(const PlanPoint& at) const {
-        const auto pieceOf = [](const std::vector<int>& cuts, double position) {
-            return static_cast<int>(std::ranges::upper_bound(cuts, position) - cuts.begin());
+    // The roomiest place of every piece.
+    [[nodiscard]] std::vector<PlanLabel> LabelsOf(const RegionPieces& cut) const {
+        const auto regionOf = [&cut](int piece) {
+            return cut.RegionOf[static_cast<std::size_t>(piece)];
         };
-        return {pieceOf(rules_.PageColumns, at.X), pieceOf(rules_.PageRows, at.Y)};
+        const auto aspectOf = [&](int piece) { return AspectOf(regionOf(piece)); };
+        std::vector<PlanLabel> labels;
+        for (const InscribedBox& box : FindRoomiestBoxes(cut.Pieces, aspectOf)) {
+            labels.push_back(LabelIn(box, regionOf(box.Region)));
+        }
+        return labels;
     }
 
-    // One symbol more per piece, unless one that the region has already does for it.
-    template <class DoesFor>
-    void AddPieces(const PixelCuts& cuts, DoesFor doesFor) {
-        const auto aspectOf = [this](int region) { return AspectOf(region); };
-        for (const InscribedBox& box : FindRoomiestBoxes(regions_.Ids, cuts, aspectOf)) {
-            const PlanLabel label = LabelIn(box);
-            std::vector<PlanLabel>& others = placed_[static_cast<std::size_t>(label.Region)];
-            const bool tooSmall =
-                !others.empty() && label.Height < others.front().Height * kSmallestRepeat;
-            if (!tooSmall && std::ranges::none_of(others, [&](const PlanLabel& other) {
-                    return doesFor(label, other);
-                })) {
-                others.push_back(label);
-            }
-        }
+    static int PieceUnder(const RegionPieces& cut, const PlanLabel& label) {
+        return cut.Pieces.Ids(static_cast<int>(label.Centre.X), static_cast<int>(label.Centre.Y));
+    }
+    static double Distance(const PlanLabel& one, const PlanLabel& other) {
+        return std::hypot(one.Centre.X - other.Centre.X, one.Centre.Y - other.Centre.Y);
+    }
+    static bool IsClose(const PlanLabel& one, const PlanLabel& other) {
+        return Distance(one, other) < kApart * std::max(one.Height, other.Height);
+    }
+    [[nodiscard]] bool IsOnCut(const PlanLabel& label) const {
+        const auto meets = [](const std::vector<int>& cuts, double middle, double reach) {
+            return std::ranges::any_of(cuts,
+                                       [&](int cut) { return std::abs(cut - middle) < reach; });
+        };
+        const double halfWidth = label.Height * AspectOf(label.Region) / 2;
+        return meets(rules_.PageColumns, label.Centre.X, halfWidth) ||
+               meets(rules_.PageRows, label.Centre.Y, label.Height / 2);
+    }
+
+    [[nodiscard]] std::vector<PlanLabel>& OthersOf(const PlanLabel& label) {
+        return placed_[static_cast<std::size_t>(label.Region)];
     }
     [[nodiscard]] double AspectOf(int region) const {
         const int paint = regions_.List[static_cast<std::size_t>(region)].Paint;
         return rules_.Aspects.at(static_cast<std::size_t>(paint));
     }
-    [[nodiscard]] PlanLabel LabelIn(const InscribedBox& box) const {
-        return {box.Region,
+    [[nodiscard]] PlanLabel LabelIn(const InscribedBox& box, int region) const {
+        return {region,
                 {(box.Left + box.Right) / 2.0, (box.Top + box.Bottom) / 2.0},
                 std::min(box.Height * kFill, rules_.LargestHeight)};
     }
 
     const PaintedRegions& regions_;
     const LabelRules& rules_;
-    std::vector<std::vector<PlanLabel>> placed_;  // per region
+    std::vector<std::vector<PlanLabel>> placed_;  // per region, the roomiest place first
 };
 
 }  // namespace
@@ -118,7 +169,7 @@ double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspect
         return aspects.at(
             static_cast<std::size_t>(regions.List[static_cast<std::size_t>(region)].Paint));
     };
-    const auto boxes = FindRoomiestBoxes(regions.Ids, {}, aspectOf);
+    const auto boxes = FindRoomiestBoxes(regions, aspectOf);
     return std::ranges::min_element(boxes, {}, &InscribedBox::Height)->Height * kFill;
 }
 
@@ -129,8 +180,13 @@ double SymbolHeightInStipple(int stippleSize, double aspect) {
             dot(x + stippleSize / 2, run.Row + stippleSize / 2) = 1;
         }
     }
-    const auto boxes = FindRoomiestBoxes(dot, {}, [aspect](int) { return aspect; });
-    return boxes.back().Height * kFill;
+    const PaintedRegions regions = FindRegions(std::move(dot), 1);
+    double tallest = 0;
+    for (const InscribedBox& box : FindRoomiestBoxes(regions, [aspect](int) { return aspect; })) {
+        const bool isDot = regions.List[static_cast<std::size_t>(box.Region)].Paint == 1;
+        tallest = isDot ? std::max(tallest, box.Height) : tallest;
+    }
+    return tallest * kFill;
 }
 
 }  // namespace vendrel

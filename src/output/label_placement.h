@@ -23,14 +23,15 @@ using SymbolAspects = std::array<double, kSymbolCount + 1>;
 struct LabelRules {
     SymbolAspects Aspects{};
     double LargestHeight = 0;  // in pixels: no symbol is taller
+    double LegibleHeight = 0;  // in pixels: a repeated symbol as tall as this can be read
     double LatticeStep = 0;    // in pixels: large regions repeat their symbol about this often
     std::vector<int> PageColumns{};  // where pages are cut, first pixel of each; without the 0
     std::vector<int> PageRows{};
 };
 
-/// Gives every region one symbol at its roomiest place, as tall as fits inside; then one more on
-/// every page that shows room for it and, in large regions, about every LatticeStep.
-/// In order of regions, each region's roomiest place first.
+/// Gives every region one symbol at its roomiest place, as tall as fits inside, beside a page's cut
+/// rather than on it; then one in every other piece of it that a page shows, where there is room,
+/// and, in large regions, about every LatticeStep. In order of regions.
 [[nodiscard]] std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions,
                                                  const LabelRules& rules);
 

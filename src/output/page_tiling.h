@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,31 +32,43 @@ struct PageTile {
     int Column = 0;  // from 0
     int Row = 0;
     PlanRect Own;                            // the page's share, trimmed at its crop marks
-    PlanRect Shown;                          // with the overlap toward the pages beside it
+    PlanRect Shown;                          // with the overlap under the pages right and below
     [[nodiscard]] std::string Name() const;  // "B3": row B, third page in it
 };
 
 /// A canvas cut into pages.
 struct PagePlan {
     SizeMm Sheet;  // of paper, turned as it is printed
+    PageFrame Frame;
     SizeMm Canvas;
     int Across = 0;
     int Down = 0;
     std::vector<PageTile> Tiles;  // row by row
 };
 
-/// How much of the page beside it a page shows again, in millimetres from its trimmed edge.
+/// How much of the pages to the right and below a page shows again: the strip on which they are
+/// glued, in millimetres. To the left and the top it is trimmed where its own share begins.
 inline constexpr double kOverlapMm = 5;
 
-/// What one way of turning the paper leaves for each page.
+/// One way of turning the paper and of sharing it out.
 struct PaperChoice {
     SizeMm Sheet;
     PageFrame Frame;
 };
 
-/// Cuts the canvas into equal shares that fit the choice that needs fewer pages (the first when it
-/// makes no difference). Throws Error when a frame leaves no room on the paper.
-[[nodiscard]] PagePlan PlanPages(const SizeMm& canvas, const std::vector<PaperChoice>& choices);
+/// Whether the frame of a plan holds what its pages list.
+using PlanCheck = std::function<bool(const PagePlan&)>;
+
+/// Cuts the canvas into equal shares by the choice that passes `holds` and needs the fewest pages;
+/// of several by the one with the most room to grow, the first when it makes no difference. Throws
+/// Error when none leaves room on the paper.
+[[nodiscard]] PagePlan PlanPages(const SizeMm& canvas, const std::vector<PaperChoice>& choices,
+                                 const PlanCheck& holds = {});
+
+/// How many times larger the canvas could be on the same number of pages.
+[[nodiscard]] double RoomToGrow(const PagePlan& plan);
+/// The same pages for a canvas so many times larger.
+[[nodiscard]] PagePlan Enlarged(const PagePlan& plan, double times);
 
 /// The paints that occur on a part of the picture (in pixels), ascending.
 [[nodiscard]] std::vector<int> PaintsWithin(const PaintedRegions& regions, const PlanRect& part);

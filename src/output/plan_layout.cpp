@@ -10,9 +10,12 @@
 namespace vendrel {
 namespace {
 
-// A symbol larger than this wastes paint, and a hand's breadth without one has to be searched.
-constexpr double kLargestSymbolMm = 3;
+// A hand's breadth without a symbol has to be searched.
 constexpr double kLatticeMm = 35;
+// A canvas has a round width where nothing speaks against it.
+constexpr double kRoundMm = 5;
+// The share of a stipple's symbol that is left where its neighbours nibbled at it.
+constexpr double kNibbled = 0.65;
 
 void RequireCanvas(double widthCm, const Surface& picture) {
     const double heightCm = widthCm * picture.Height() / picture.Width();
@@ -28,7 +31,6 @@ void RequireCanvas(double widthCm, const Surface& picture) {
 // somewhat smaller one: a single odd shape shall not blow up the whole canvas.
 double LegibleScale(const WorkState& state, const PaintedRegions& regions,
                     const SymbolAspects& aspects) {
-    constexpr double kNibbled = 0.65;
     double inStipple = state.StippleSize;
     for (int p = 1; p <= state.PaintCount; ++p) {
         inStipple = std::min(
@@ -43,17 +45,59 @@ double ScaleOf(const PlanSettings& settings, const Surface& picture) {
     return settings.CanvasCm * 10 / picture.Width();
 }
 
+// The shorter the list of paints may be, the more of the paper is left for the picture.
 std::vector<PaperChoice> ChoicesFor(Paper paper, int paints) {
     using Design = PlanPageDesign;
     const SizeMm upright = SizeOf(paper);
     std::vector<PaperChoice> choices;
     for (const SizeMm sheet : {upright, SizeMm{upright.Height, upright.Width}}) {
-        choices.push_back(
-            {sheet,
-             {Design::kMargin + Design::kMarks, Design::kMargin + Design::kHeading + Design::kMarks,
-              Design::kMargin + Design::kMarks + Design::LegendHeight(sheet.Width, paints)}});
+        const int columns = Design::LegendColumns(sheet.Width);
+        for (int listed = columns; listed < paints + columns; listed += columns) {
+            choices.push_back(
+                {sheet,
+                 {Design::kMargin + Design::kMarks,
+                  Design::kMargin + Design::kHeading + Design::kMarks,
+                  Design::kMargin + Design::kMarks + Design::LegendHeight(sheet.Width, listed)}});
+        }
     }
     return choices;
+}
+
+PlanRect InPixels(const PlanRect& part, double mmPerPixel) {
+    return {part.Left / mmPerPixel, part.Top / mmPerPixel, part.Right / mmPerPixel,
+            part.Bottom / mmPerPixel};
+}
+
+bool HoldsItsLists(const PagePlan& pages, const PaintedRegions& regions, double mmPerPixel) {
+    constexpr double kRounding = 1e-6;
+    const double room =
+        pages.Frame.Bottom - PlanPageDesign::kMargin - PlanPageDesign::kMarks + kRounding;
+    return std::ranges::all_of(pages.Tiles, [&](const PageTile& tile) {
+        const auto paints = PaintsWithin(regions, InPixels(tile.Own, mmPerPixel));
+        return PlanPageDesign::LegendHeight(pages.Sheet.Width, static_cast<int>(paints.size())) <=
+               room;
+    });
+}
+
+// Paper that is printed anyway may as well carry larger symbols.
+double Growth(const PagePlan& pages) {
+    const double largest = std::min(RoomToGrow(pages), kLargestSymbolMm / kLegibleSymbolMm);
+    const double width = std::floor(pages.Canvas.Width * largest / kRoundMm) * kRoundMm;
+    return std::max(1.0, width / pages.Canvas.Width);
+}
+
+void LayOutPages(PrintPlan& plan, const PlanSettings& settings, const WorkState& state,
+                 const Surface& picture) {
+    const SizeMm canvas{picture.Width() * plan.MmPerPixel, picture.Height() * plan.MmPerPixel};
+    plan.Pages = PlanPages(canvas, ChoicesFor(settings.Sheet, state.PaintCount),
+                           [&plan](const PagePlan& pages) {
+                               return HoldsItsLists(pages, plan.Regions, plan.MmPerPixel);
+                           });
+    if (settings.CanvasCm == 0) {
+        const double growth = Growth(plan.Pages);
+        plan.Pages = Enlarged(plan.Pages, growth);
+        plan.MmPerPixel *= growth;
+    }
 }
 
 // The first whole pixel of every page behind the first one of a row.
@@ -88,14 +132,14 @@ PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
     plan.Lines = TraceOutlines(plan.Regions.Ids);
     plan.MmPerPixel = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
                                             : LegibleScale(state, plan.Regions, aspects);
-    const SizeMm canvas{picture.Width() * plan.MmPerPixel, picture.Height() * plan.MmPerPixel};
-    plan.Pages = PlanPages(canvas, ChoicesFor(settings.Sheet, state.PaintCount));
+    LayOutPages(plan, settings, state, picture);
     LabelRules rules;
     rules.Aspects = aspects;
+    rules.LegibleHeight = kNibbled * kLegibleSymbolMm / plan.MmPerPixel;
     rules.LargestHeight = kLargestSymbolMm / plan.MmPerPixel;
     rules.LatticeStep = kLatticeMm / plan.MmPerPixel;
-    rules.PageColumns = CutsInPixels(canvas.Width, plan.Pages.Across, plan.MmPerPixel);
-    rules.PageRows = CutsInPixels(canvas.Height, plan.Pages.Down, plan.MmPerPixel);
+    rules.PageColumns = CutsInPixels(plan.Pages.Canvas.Width, plan.Pages.Across, plan.MmPerPixel);
+    rules.PageRows = CutsInPixels(plan.Pages.Canvas.Height, plan.Pages.Down, plan.MmPerPixel);
     plan.Labels = PlaceLabels(plan.Regions, rules);
     return plan;
 }

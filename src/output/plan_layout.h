@@ -13,7 +13,7 @@ namespace vendrel {
 /// What a painter chooses for the printed plan.
 struct PlanSettings {
     Paper Sheet = Paper::A4;
-    double CanvasCm = 0;  // width of the finished canvas; 0: as large as legible symbols need
+    double CanvasCm = 0;  // width of the finished canvas; 0: chosen by MakePrintPlan
 };
 
 /// Width of a canvas that anybody would paint, in centimetres.
@@ -22,12 +22,14 @@ inline constexpr double kLargestCanvasCm = 300;
 
 /// Height of the smallest symbol when the canvas may be as large as it likes, in millimetres.
 inline constexpr double kLegibleSymbolMm = 2;
+/// A symbol larger than this wastes paint.
+inline constexpr double kLargestSymbolMm = 3;
 
 /// Where things stand on a page of the plan, in millimetres.
 struct PlanPageDesign {
     static constexpr double kMargin = 8;  // what printers cannot reach
     static constexpr double kHeading = 14;
-    static constexpr double kMarks = 6;  // crop marks around the picture
+    static constexpr double kMarks = 5;  // crop marks around the picture
     static constexpr double kLegendColumn = 46;
     static constexpr double kLegendRow = 4.3;
 
@@ -45,8 +47,9 @@ struct PrintPlan {
 };
 
 /// Lays out the painted picture for printing; `aspects` are those of the symbols as they will be
-/// drawn. Throws Error for an unpainted picture, more paints than symbols or a canvas outside
-/// kSmallestCanvasCm..kLargestCanvasCm.
+/// drawn. Without a canvas asked for it takes the fewest pages on which symbols can be read, and
+/// then the largest canvas that those pages hold. Throws Error for an unpainted picture, more
+/// paints than symbols or a canvas outside kSmallestCanvasCm..kLargestCanvasCm.
 [[nodiscard]] PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
                                       const SymbolAspects& aspects);
 

@@ -28,7 +28,9 @@ void ExpectExactCover(const PagePlan& plan) {
         EXPECT_EQ(tile.Own.Right, last ? plan.Canvas.Width : at(tile.Column + 1, tile.Row).Left);
         EXPECT_EQ(tile.Own.Bottom, lowest ? plan.Canvas.Height : at(tile.Column, tile.Row + 1).Top);
         EXPECT_EQ(tile.Shown.Right, last ? tile.Own.Right : tile.Own.Right + kOverlapMm);
-        EXPECT_EQ(tile.Shown.Top, tile.Row == 0 ? 0 : tile.Own.Top - kOverlapMm);
+        EXPECT_EQ(tile.Shown.Bottom, lowest ? tile.Own.Bottom : tile.Own.Bottom + kOverlapMm);
+        EXPECT_EQ(tile.Shown.Left, tile.Own.Left);
+        EXPECT_EQ(tile.Shown.Top, tile.Own.Top);
     }
 }
 
@@ -46,6 +48,26 @@ TEST(PageTiling, CoversEveryCanvasExactlyAndFitsThePaper) {
     }
 }
 
+TEST(PageTiling, GrowsAsFarAsItsPagesReach) {
+    for (const SizeMm canvas : {SizeMm{100, 80}, SizeMm{533, 400}, SizeMm{200, 900}}) {
+        const PagePlan plan = PlanPages(canvas, kA4);
+        const double room = RoomToGrow(plan);
+        const PagePlan grown = Enlarged(plan, room);
+        ExpectExactCover(grown);
+        EXPECT_EQ(PlanPages(Enlarged(plan, room * 0.999).Canvas, kA4).Tiles.size(),
+                  plan.Tiles.size());
+        const PaperChoice same{plan.Sheet, plan.Frame};
+        EXPECT_GT(PlanPages(Enlarged(plan, room * 1.001).Canvas, {same}).Tiles.size(),
+                  plan.Tiles.size());
+    }
+}
+
+TEST(PageTiling, TakesNoFrameThatDoesNotHoldItsLists) {
+    const auto roomBelow = [](const PagePlan& plan) { return plan.Frame.Bottom > 50; };
+    EXPECT_EQ(PlanPages({267, 150}, kA4, roomBelow).Sheet, (SizeMm{210, 297}));
+    EXPECT_THROW((void)PlanPages({267, 150}, kA4, [](const PagePlan&) { return false; }), Error);
+}
+
 TEST(PageTiling, TurnsThePaperForFewerPages) {
     EXPECT_EQ(PlanPages({180, 217}, kA4).Sheet, (SizeMm{210, 297}));
     const PagePlan wide = PlanPages({267, 150}, kA4);
@@ -60,7 +82,7 @@ TEST(PageTiling, NamesPagesByRowAndColumn) {
 }
 
 TEST(PageTiling, RefusesPaperWithoutRoom) {
-    EXPECT_THROW((void)PlanPages({100, 100}, {{{210, 297}, {15, 20, 250}}}), Error);
+    EXPECT_THROW((void)PlanPages({100, 100}, {{{210, 297}, {15, 20, 255}}}), Error);
 }
 
 TEST(PageTiling, ListsThePaintsOfAPage) {

@@ -11,6 +11,7 @@
 #include "cleanup/easel.h"
 #include "output/inscribed_boxes.h"
 #include "output/label_placement.h"
+#include "output/mark_places.h"
 #include "output/outlines.h"
 #include "output/painted_regions.h"
 #include "support/error.h"
@@ -132,6 +133,8 @@ TEST(Outlines, PagesTogetherShowEveryBorder) {
         }
     }
     EXPECT_DOUBLE_EQ(length, static_cast<double>(PlainUnits(ids).size()));
+    // A part that was reckoned in millimetres may end a hair before the picture does.
+    EXPECT_EQ(ClipLines(lines, {1e-12, 1e-12, 12 - 1e-12, 10 - 1e-12}).size(), lines.size());
 }
 
 TEST(InscribedBoxes, AreTheRoomiestThereAre) {
@@ -154,7 +157,7 @@ TEST(InscribedBoxes, AreTheRoomiestThereAre) {
                 }
             }
         }
-        const auto boxes = FindRoomiestBoxes(ids, {}, [](int) { return kAspect; });
+        const auto boxes = FindRoomiestBoxes(regions, [](int) { return kAspect; });
         ASSERT_EQ(boxes.size(), regions.List.size());
         for (const InscribedBox& box : boxes) {
             EXPECT_DOUBLE_EQ(box.Height, plain[box.Region]);
@@ -203,6 +206,42 @@ TEST(Labels, LargeRegionsRepeatTheirsAndEveryPageShowsOne) {
     ASSERT_EQ(labels.size(), 2U);
     EXPECT_EQ(labels[0].Centre, (PlanPoint{50, 30}));
     EXPECT_LT(labels[1].Centre.X, 45);
+}
+
+TEST(Labels, StandInEveryPieceOfAPageAndBesideItsCuts) {
+    // A horseshoe whose legs the cut leaves on the lower page, each a piece of its own.
+    PixelGrid horseshoe(59, 39);
+    std::ranges::fill(horseshoe.All(), 2);
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 60; ++x) {
+            horseshoe(x, y) = y >= 12 && x >= 14 && x < 46 ? 1 : 2;
+        }
+    }
+    const PaintedRegions regions = FindRegions(horseshoe, 1);
+    LabelRules rules = Rules(6, 0);
+    rules.PageRows = {20};
+    std::vector<std::pair<bool, bool>> legs;  // of the horseshoe's symbols: below the cut, left
+    for (const PlanLabel& label : PlaceLabels(regions, rules)) {
+        EXPECT_GE(std::abs(label.Centre.Y - 20), label.Height / 2);
+        if (regions.List[static_cast<std::size_t>(label.Region)].Paint == 2) {
+            legs.emplace_back(label.Centre.Y > 20, label.Centre.X < 30);
+        }
+    }
+    EXPECT_THAT(legs, testing::UnorderedElementsAre(std::pair(false, true), std::pair(true, true),
+                                                    std::pair(true, false)));
+}
+
+TEST(RoundMarks, StandWhereTheyCoverNoSymbol) {
+    const CutLine cut{{50, 0}, {50, 100}};
+    EXPECT_THAT(PlaceMarks(cut, 2, {}), ElementsAre(PlanPoint{50, 20}, PlanPoint{50, 80}));
+    const std::vector<PlanRect> symbols = {{49, 18, 52, 21}, {10, 79, 20, 81}, {51, 78, 53, 90}};
+    const auto marks = PlaceMarks(cut, 2, symbols);
+    EXPECT_NEAR(marks[0].Y, 23, 0.51);
+    EXPECT_NEAR(marks[1].Y, 76, 0.51);
+    // Where all is taken they still stand in their halves.
+    const auto crowded = PlaceMarks(cut, 2, std::vector<PlanRect>{{40, -5, 60, 105}});
+    EXPECT_LT(crowded[0].Y, 50);
+    EXPECT_GT(crowded[1].Y, 50);
 }
 
 TEST(Labels, KnowHowLargeASymbolFitsIntoALoneStipple) {

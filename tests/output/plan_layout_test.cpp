@@ -27,10 +27,14 @@ class PlannedPicture : public testing::Test {
     SymbolAspects aspects_{};
 };
 
-TEST_F(PlannedPicture, IsAsLargeAsSymbolsOfTwoMillimetresNeed) {
+TEST_F(PlannedPicture, FillsThePagesThatSymbolsOfTwoMillimetresNeed) {
     const PrintPlan plan = Plan({});
     const auto smallest = std::ranges::min_element(plan.Labels, {}, &PlanLabel::Height);
-    EXPECT_NEAR(smallest->Height * plan.MmPerPixel, kLegibleSymbolMm, 1e-9);
+    EXPECT_GE(smallest->Height * plan.MmPerPixel, kLegibleSymbolMm);
+    EXPECT_LE(smallest->Height * plan.MmPerPixel, kLargestSymbolMm);
+    EXPECT_EQ(plan.Pages.Tiles.size(), 1U);
+    EXPECT_EQ(std::fmod(plan.Pages.Canvas.Width, 5), 0);  // millimetres
+    EXPECT_GE(RoomToGrow(plan.Pages), 1);
     EXPECT_DOUBLE_EQ(plan.Pages.Canvas.Width, 36 * plan.MmPerPixel);
     EXPECT_EQ(plan.Regions.List.size(), 5U);
 }
