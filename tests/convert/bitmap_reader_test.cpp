@@ -154,7 +154,8 @@ TEST_F(BitmapReader, RefusesWhatIsNoPictureItKnows) {
         cases.emplace_back(file.Make(), problem);
     }
     for (const auto& [bytes, problem] : cases) {
-        EXPECT_THAT([&] { (void)ReadBitmap(folder_.Write("bad.bmp", bytes)); },
+        const auto file = folder_.Write("bad.bmp", bytes);
+        EXPECT_THAT([&] { (void)ReadBitmap(file); },
                     ThrowsMessage<Error>(AllOf(HasSubstr("bad.bmp"), HasSubstr(problem))));
     }
     EXPECT_THROW((void)ReadBitmap(folder_ / "absent.bmp"), FileError);

@@ -146,7 +146,8 @@ TEST_F(PhotoImport, LeavesThingsAsTheyWereWhenThePhotoIsBroken) {
     };
     for (const auto& [name, bytes] : broken) {
         bench_.Files.Write(std::string("pictures/") + name, bytes);
-        EXPECT_THAT([&] { (void)Load(name); }, ThrowsMessage<Error>(HasSubstr(name)));
+        EXPECT_THAT([this, photo = name] { (void)Load(photo); },
+                    ThrowsMessage<Error>(HasSubstr(name)));
         EXPECT_EQ(frames_.WorkFrame.Picture, before);
         EXPECT_EQ(state_.BmpWidth, 200);
         EXPECT_EQ(state_.PictureHeight, 11040);

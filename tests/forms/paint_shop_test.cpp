@@ -7,6 +7,7 @@
 
 #include "forms/start_up.h"
 #include "forms/studio.h"
+#include "paints/paints.h"
 #include "support/error.h"
 
 namespace vendrel::test {
@@ -29,13 +30,7 @@ class PaintShopTest : public ::testing::Test {
         }
         studio_.Files.Write("templates/" + name + ".csv", text);
     }
-    [[nodiscard]] std::string Palette() const {
-        std::string names;
-        for (int i = 0; i < studio_.State.PaintCount; ++i) {
-            names += shop_.PaintAt(i)->PaintName + ";";
-        }
-        return names;
-    }
+    [[nodiscard]] std::string Palette() const { return NamesOf(studio_.State); }
 
     Studio studio_;
     PaintShop shop_{studio_.Place};
@@ -50,7 +45,8 @@ TEST_F(PaintShopTest, OpensWithTheSelectedSetsAndTheirPaints) {
     EXPECT_EQ(shown.PaletteCaption, "Vendrel Selected Paints [2]");
     EXPECT_EQ(shown.Swatches.Size, 17);
     EXPECT_EQ(studio_.State.SwatchSize, 17);
-    EXPECT_EQ(Palette(), "Red;Dark Red;");
+    EXPECT_EQ(Palette(), "Red Dark Red");
+    EXPECT_EQ(shop_.PaintAt(1)->PaintName, "Dark Red");
     EXPECT_EQ(shop_.PaintAt(2), nullptr);
     EXPECT_FALSE(shown.TransferEnabled) << "nothing is clicked yet";
 }
@@ -60,11 +56,11 @@ TEST_F(PaintShopTest, TransferAddsAndRemovesSetsAndRewritesTheFile) {
     const auto clickSelected = &PaintShop::SelectedPaintsList_Click;
     shop_.Form_Load();
     for (const auto& [click, entry, file, paints] :
-         {std::tuple{clickSet, 2, "Reds\r\nRest\r\n", "Red;Dark Red;Blue;White;"},
-          {clickSet, 1, "Reds\r\nGreens\r\nRest\r\n", "Red;Dark Red;Green;Blue;White;"},
-          {clickSet, 1, "Reds\r\nGreens\r\nRest\r\n", "Red;Dark Red;Green;Blue;White;"},
-          {clickSelected, 0, "Greens\r\nRest\r\n", "Green;Blue;White;"},
-          {clickSelected, 1, "Greens\r\n", "Green;"}}) {
+         {std::tuple{clickSet, 2, "Reds\r\nRest\r\n", "Red Dark Red Blue White"},
+          {clickSet, 1, "Reds\r\nGreens\r\nRest\r\n", "Red Dark Red Green Blue White"},
+          {clickSet, 1, "Reds\r\nGreens\r\nRest\r\n", "Red Dark Red Green Blue White"},
+          {clickSelected, 0, "Greens\r\nRest\r\n", "Green Blue White"},
+          {clickSelected, 1, "Greens\r\n", "Green"}}) {
         (shop_.*click)(entry);
         EXPECT_EQ(shop_.Controls().TransferCaption, click == clickSet ? ">>" : "<<");
         studio_.Files.Write("Data/paintlist.txt", "stale");
@@ -88,7 +84,7 @@ TEST_F(PaintShopTest, WithoutASelectedSetTheListSaysSoAndOneCanBeAdded) {
     EXPECT_FALSE(shop_.Controls().TransferEnabled);
     shop_.MfgList_Click(1);
     shop_.Transfer_Click();
-    EXPECT_EQ(Palette(), "Green;");
+    EXPECT_EQ(Palette(), "Green");
 }
 
 TEST_F(PaintShopTest, ATemplateLowersTheFinalPaintsUntilSetsAreChosenAgain) {
@@ -117,7 +113,7 @@ TEST_F(PaintShopTest, ATemplateLowersTheFinalPaintsUntilSetsAreChosenAgain) {
     shop_.MfgSelected_Click();
     EXPECT_EQ(studio_.State.FinalColors, 32);
     EXPECT_FALSE(studio_.State.TemplateMode);
-    EXPECT_EQ(Palette(), "Red;Dark Red;");
+    EXPECT_EQ(Palette(), "Red Dark Red");
 }
 
 TEST_F(PaintShopTest, DoneKeepsTheTemplateForTheNextTime) {
@@ -154,7 +150,7 @@ TEST_F(PaintShopTest, TheLastTemplateIsProposedBesideTheSets) {
     studio_.State.LastTemplate = "B";
     shop_.Form_Load();
     EXPECT_EQ(shop_.Controls().TemplateIndex, 1);
-    EXPECT_EQ(Palette(), "Red;Dark Red;");
+    EXPECT_EQ(Palette(), "Red Dark Red");
 }
 
 }  // namespace

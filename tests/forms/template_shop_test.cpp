@@ -4,6 +4,7 @@
 
 #include "forms/main_form.h"
 #include "forms/small_photo.h"
+#include "paints/paints.h"
 #include "paints/template_file.h"
 #include "support/error.h"
 
@@ -12,14 +13,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-std::vector<std::string> Names(const std::vector<PaintColor>& paints) {
-    std::vector<std::string> names;
-    for (std::size_t i = 1; i < paints.size(); ++i) {
-        names.push_back(paints[i].PaintName);
-    }
-    return names;
-}
 
 struct Shop : test::SmallPhoto {
     Shop() { Form.Form_Load(); }
@@ -45,7 +38,7 @@ TEST(TemplateShop, KeepsPaintsInTheOrderGivenAndOnce) {
     EXPECT_TRUE(shop.Form.AddPaint_Click(3));
     EXPECT_FALSE(shop.Form.AddPaint_Click(2));
     shop.Form.MovePaint_Click(3, 1);
-    EXPECT_THAT(Names(shop.Form.Controls().Paints), ElementsAre("Green", "Red", "Ochre, dark"));
+    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Green Red Ochre, dark");
     shop.Form.MovePaint_Click(1, 99);
     shop.Form.RemovePaint_Click(1);
     EXPECT_EQ(shop.Files.Read("templates/Sea.csv"),
@@ -58,7 +51,7 @@ TEST(TemplateShop, RenamesDuplicatesAndDeletesWhatThePaintShopUses) {
     shop.Form.AddTemplate_Click("Sea");
     shop.Form.AddPaint_Click(2);
     shop.Form.DuplicateTemplate_Click("Sky");
-    EXPECT_THAT(Names(shop.Form.Controls().Paints), ElementsAre("Ochre, dark"));
+    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Ochre, dark");
     shop.State.SelectedTemplate = "Sky";
     shop.State.TemplateMode = true;
     shop.State.MfgSelected = false;
@@ -87,7 +80,7 @@ TEST(TemplateShop, NeverOverwritesWhatIsNoTemplateWithoutAsking) {
     shop.Form.AddPaint_Click(1);
     EXPECT_EQ(shop.Files.Read("templates/list.csv"), "eggs\r\nmilk\r\n");
     shop.Form.AddPaint_Click(1);
-    EXPECT_THAT(Names(ReadTemplate(shop.Files / "templates/list.csv")), ElementsAre("Red"));
+    EXPECT_EQ(test::NamesOf(ReadTemplate(shop.Files / "templates/list.csv")), "Red");
 }
 
 TEST(TemplateShop, FindsPaintsByTextSetAndNearness) {
@@ -107,7 +100,7 @@ TEST(TemplateShop, FillsFromThePhotoAndLeavesTheWorkAlone) {
     const Surface picture = shop.Frames.WorkFrame.Picture;
     shop.Form.AddTemplate_Click("Photo");
     shop.Form.FillFromPhoto_Click();
-    EXPECT_THAT(Names(shop.Form.Controls().Paints), ElementsAre("Red", "Green"));
+    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Red Green");
     EXPECT_EQ(shop.State.PaintColors, before.PaintColors);
     EXPECT_EQ(shop.State.Stipples, before.Stipples);
     EXPECT_EQ(shop.State.CellMarks, before.CellMarks);

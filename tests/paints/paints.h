@@ -1,6 +1,7 @@
 #pragma once
 
 #include <random>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -44,13 +45,16 @@ inline std::vector<std::string> GridOf(const Grid<StippleCell>& stipples) {
     return rows;
 }
 
-/// Names of the palette's paints in order, joined by blanks.
-inline std::string NamesOf(const WorkState& state) {
+/// Names of the paints behind the empty entry 0 in order, joined by blanks.
+inline std::string NamesOf(std::span<const PaintColor> paints) {
     std::string names;
-    for (int i = 1; i <= state.PaintCount; ++i) {
-        names += (i > 1 ? " " : "") + state.PaintColors[static_cast<std::size_t>(i)].PaintName;
+    for (const PaintColor& paint : paints.subspan(1)) {
+        names += (names.empty() ? "" : " ") + paint.PaintName;
     }
     return names;
+}
+inline std::string NamesOf(const WorkState& state) {
+    return NamesOf(std::span(state.PaintColors).first(static_cast<unsigned>(state.PaintCount) + 1));
 }
 
 /// Paints with channels that are multiples of `step`: a large step makes many ties.
