@@ -146,8 +146,8 @@ TEST_F(PhotoImport, LeavesThingsAsTheyWereWhenThePhotoIsBroken) {
     };
     for (const auto& [name, bytes] : broken) {
         bench_.Files.Write(std::string("pictures/") + name, bytes);
-        EXPECT_THAT([this, photo = name] { (void)Load(photo); },
-                    ThrowsMessage<Error>(HasSubstr(name)));
+        const auto load = [this, photo = name] { (void)Load(photo); };
+        EXPECT_THAT(load, ThrowsMessage<Error>(HasSubstr(name)));
         EXPECT_EQ(frames_.WorkFrame.Picture, before);
         EXPECT_EQ(state_.BmpWidth, 200);
         EXPECT_EQ(state_.PictureHeight, 11040);
