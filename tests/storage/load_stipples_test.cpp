@@ -28,6 +28,7 @@ class LoadStipples : public testing::Test {
 TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
     Save("2,2,1,32\r\n" + paints_ + "7,2,5,5\r\n8,1,13,5\r\n");
     bench_.State.CellMarks(1, 1).Visited = true;
+    bench_.State.CellsAcross = bench_.State.CellsDown = 0;
     LoadStipples_Click(bench_.Place);
     const WorkState& state = bench_.State;
     EXPECT_EQ(state.PaintCount, 2);
@@ -36,6 +37,8 @@ TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
     EXPECT_EQ(state.FoundColors, state.PaintColors);
     EXPECT_EQ(state.FoundCount, 2);
     EXPECT_EQ(state.FinalColors, 32);
+    EXPECT_EQ(state.CellsAcross, 2);
+    EXPECT_EQ(state.CellsDown, 1);
     EXPECT_EQ(state.Stipples(1, 1), (StippleCell{2, 5, 5, 7}));
     EXPECT_EQ(state.CellMarks, Grid<CellMark>(2, 1));
     EXPECT_TRUE(bench_.MainMenu[MenuId::PaintItNow].Enabled);
