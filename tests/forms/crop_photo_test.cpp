@@ -98,7 +98,7 @@ TEST_F(CropPhotoTest, MouseAndArrowKeysMoveAndResize) {
     crop_.Photo_MouseMove(start.Left + start.Width / 2, start.Top + start.Height / 2);
     crop_.Photo_MouseUp();
     const CropRect half = Frame();
-    EXPECT_NEAR(half.Width, start.Width / 2, 10);
+    EXPECT_NEAR(half.Width, start.Width / 2.0, 10);
     EXPECT_EQ(half.Left, start.Left);
     EXPECT_EQ(half.Top, start.Top);
     EXPECT_LT(Stretch(half.Width, half.Height), kMaxCropStretch);

@@ -133,16 +133,16 @@ TEST(CellNumbering, AgreesWithTheNumberingByHand) {
     for (int round = 0; round < 60; ++round) {
         SCOPED_TRACE(round);
         const int size = round % 3 == 0 ? 8 : round % 3 == 1 ? 6 : 4;
-        const int paints = 1 + round % 4;
-        Painted painted(size, 1 + round % 5, 1 + round % 4, paints);
+        Painted painted(size, 1 + round % 5, 1 + round % 4, 1 + round % 4);
         // Coarse blobs and fine specks alike; paint 0 is what the brush never reached.
         Grid<MapPixel>& map = painted.State.PixelMap;
         const int grain = 1 + round % 7;
         for (int y = 1; y <= map.Down(); ++y) {
             for (int x = 1; x <= map.Across(); ++x) {
                 const bool again = x % grain != 0 && x > 1 && random() % 8 != 0;
-                map(x, y).ColorIndex = again ? map(x - 1, y - y % grain).ColorIndex
-                                             : static_cast<int>(random() % (paints + 1U));
+                map(x, y).ColorIndex =
+                    again ? map(x - 1, y - y % grain).ColorIndex
+                          : static_cast<int>(random() % 5) % (painted.State.PaintCount + 1);
             }
         }
         ExpectSameAsByHand(painted);
