@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "convert/photo_decoder.h"
-#include "output/exporter.h"
+#include "plan/exporter.h"
 #include "support/program_folder.h"
 
 namespace vendrel {

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "output/plan_layout.h"
+#include "plan/plan_layout.h"
 #include "shell/workplace.h"
 
 namespace vendrel {

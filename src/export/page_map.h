@@ -3,7 +3,7 @@
 #include <QtCore/QRectF>
 #include <QtGui/QPainter>
 
-#include "output/page_tiling.h"
+#include "plan/page_tiling.h"
 
 namespace vendrel {
 

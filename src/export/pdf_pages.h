@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "export/print_fonts.h"
-#include "output/plan_layout.h"
+#include "plan/plan_layout.h"
 #include "shell/workplace.h"
 
 namespace vendrel {

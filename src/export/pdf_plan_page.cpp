@@ -7,7 +7,7 @@
 #include "export/page_map.h"
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
-#include "output/mark_places.h"
+#include "plan/mark_places.h"
 
 namespace vendrel {
 namespace {

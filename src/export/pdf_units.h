@@ -4,7 +4,7 @@
 #include <QtCore/QString>
 #include <QtGui/QPainter>
 
-#include "output/outlines.h"
+#include "plan/outlines.h"
 
 namespace vendrel {
 

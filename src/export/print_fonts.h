@@ -7,8 +7,8 @@
 #include <QtGui/QPainter>
 #include <array>
 
-#include "output/label_placement.h"
 #include "output/symbol_set.h"
+#include "plan/label_placement.h"
 
 namespace vendrel {
 

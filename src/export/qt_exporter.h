@@ -1,7 +1,7 @@
 #pragma once
 
 #include "export/gui_application.h"
-#include "output/exporter.h"
+#include "plan/exporter.h"
 
 namespace vendrel {
 

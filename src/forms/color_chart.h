@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "output/chart_contents.h"
-#include "output/exporter.h"
+#include "plan/exporter.h"
 #include "shell/workplace.h"
 
 namespace vendrel {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "output/exporter.h"
+#include "plan/exporter.h"
 #include "shell/workplace.h"
 
 namespace vendrel {

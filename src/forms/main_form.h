@@ -6,7 +6,7 @@
 
 #include "convert/photo_decoder.h"
 #include "forms/file_import.h"
-#include "output/exporter.h"
+#include "plan/exporter.h"
 #include "shell/menu.h"
 #include "shell/workplace.h"
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "convert/crop.h"
-#include "output/plan_layout.h"
+#include "plan/plan_layout.h"
 #include "shell/menu.h"
 #include "support/twips.h"
 

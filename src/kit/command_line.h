@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "convert/photo_decoder.h"
-#include "output/exporter.h"
+#include "plan/exporter.h"
 #include "support/program_folder.h"
 
 namespace vendrel {

@@ -5,7 +5,7 @@
 #include "kit/arguments.h"
 #include "kit/kit_photos.h"
 #include "kit/kit_report.h"
-#include "output/exporter.h"
+#include "plan/exporter.h"
 #include "shell/workplace.h"
 
 namespace vendrel {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "output/painted_regions.h"
+#include "plan/painted_regions.h"
 
 namespace vendrel {
 

@@ -1,4 +1,4 @@
-#include "output/mark_places.h"
+#include "plan/mark_places.h"
 
 #include <algorithm>
 #include <cmath>

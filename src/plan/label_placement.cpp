@@ -1,4 +1,4 @@
-#include "output/label_placement.h"
+#include "plan/label_placement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "drawing/brush.h"
-#include "output/inscribed_boxes.h"
-#include "output/region_pieces.h"
+#include "plan/inscribed_boxes.h"
+#include "plan/region_pieces.h"
 
 namespace vendrel {
 namespace {

@@ -1,4 +1,4 @@
-#include "output/page_tiling.h"
+#include "plan/page_tiling.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

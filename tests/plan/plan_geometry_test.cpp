@@ -9,11 +9,11 @@
 #include <string_view>
 
 #include "cleanup/easel.h"
-#include "output/inscribed_boxes.h"
-#include "output/label_placement.h"
-#include "output/mark_places.h"
-#include "output/outlines.h"
-#include "output/painted_regions.h"
+#include "plan/inscribed_boxes.h"
+#include "plan/label_placement.h"
+#include "plan/mark_places.h"
+#include "plan/outlines.h"
+#include "plan/painted_regions.h"
 #include "support/error.h"
 
 namespace vendrel {

@@ -3,9 +3,9 @@
 #include <array>
 #include <vector>
 
-#include "output/outlines.h"
-#include "output/painted_regions.h"
 #include "output/symbol_set.h"
+#include "plan/outlines.h"
+#include "plan/painted_regions.h"
 
 namespace vendrel {
 

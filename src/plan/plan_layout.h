@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "output/label_placement.h"
-#include "output/outlines.h"
-#include "output/page_tiling.h"
-#include "output/painted_regions.h"
+#include "plan/label_placement.h"
+#include "plan/outlines.h"
+#include "plan/page_tiling.h"
+#include "plan/painted_regions.h"
 #include "shell/workplace.h"
 
 namespace vendrel {

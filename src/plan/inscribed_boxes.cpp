@@ -1,4 +1,4 @@
-#include "output/inscribed_boxes.h"
+#include "plan/inscribed_boxes.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "output/region_pieces.h"
+#include "plan/region_pieces.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "output/painted_regions.h"
+#include "plan/painted_regions.h"
 
 namespace vendrel {
 

@@ -1,4 +1,4 @@
-#include "output/painted_regions.h"
+#include "plan/painted_regions.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include <span>
 #include <vector>
 
-#include "output/painted_regions.h"
+#include "plan/painted_regions.h"
 
 namespace vendrel {
 

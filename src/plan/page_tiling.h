@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "output/outlines.h"
+#include "plan/outlines.h"
 
 namespace vendrel {
 

@@ -1,4 +1,4 @@
-#include "output/outlines.h"
+#include "plan/outlines.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include <span>
 #include <vector>
 
-#include "output/outlines.h"
+#include "plan/outlines.h"
 
 namespace vendrel {
 

@@ -1,4 +1,4 @@
-#include "output/plan_layout.h"
+#include "plan/plan_layout.h"
 
 #include <gtest/gtest.h>
 
