@@ -1,8 +1,21 @@
 #include "export/gui_application.h"
 
+#include <QtCore/QtGlobal>
 #include <QtGui/QGuiApplication>
+#include <cstdio>
 
 namespace vendrel {
+namespace {
+
+// The toolkit remarks on whatever it misses of a desktop. Who makes kits on a server has none, and
+// wants to hear of errors alone.
+void PassErrors(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+    }
+}
+
+}  // namespace
 
 GuiApplication::GuiApplication() {
     static int argc = 1;
@@ -10,6 +23,7 @@ GuiApplication::GuiApplication() {
     static char* argv[] = {name, nullptr};
     if (QGuiApplication::instance() == nullptr) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(PassErrors);
         application_ = std::make_unique<QGuiApplication>(argc, argv);
     }
 }
