@@ -37,7 +37,7 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
     DrawChartPage(painter, kit);
     writer.newPage();
     DrawMapPage(painter, kit);
-    writer.setPageLayout(LayoutOf(kit.Plan.Pages.Sheet));
+    writer.setPageLayout(LayoutOf(kit.Plan.Pages.Paper.Sheet));
     for (const PageTile& tile : kit.Plan.Pages.Tiles) {
         writer.newPage();
         DrawPlanPage(painter, kit, tile);

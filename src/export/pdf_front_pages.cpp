@@ -31,13 +31,20 @@ QString Centimetres(const SizeMm& size) {
         .arg(size.Height / 10, 0, 'f', 1);
 }
 
+double SmallestLabelMm(const PrintPlan& plan) {
+    const auto smallest = std::ranges::min_element(plan.Labels, {}, &PlanLabel::Height);
+    return smallest->Height * plan.MmPerPixel;
+}
+
 QString KitSummary(const KitPages& kit) {
     const WorkState& state = kit.Place.State;
-    return QString("%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4")
+    return QString(
+               "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm")
         .arg(state.PaintCount)
         .arg(Centimetres(kit.Plan.Pages.Canvas))
         .arg(kit.Plan.Pages.Tiles.size())
-        .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages");
+        .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
+        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1);
 }
 
 struct CoverPlaces {
@@ -46,17 +53,18 @@ struct CoverPlaces {
 };
 
 // Wide pictures stand above one another, upright ones side by side: either way the painting is the
-// larger one, and the page is filled.
+// larger one.
 CoverPlaces PlacesOn(const QRectF& room, const Surface& painting, const Surface& photo) {
     constexpr double kCaption = 8;
     constexpr double kGap = 8;
     constexpr double kPaintingsPart = 0.62;
+    constexpr double kUprightsPart = 0.72;
     CoverPlaces places;
     const bool upright = painting.Height() > painting.Width();
     const QSizeF all(room.width(), room.height() - Mm(kCaption));
     if (upright) {
         places.Painting = {room.topLeft(),
-                           Fitted(painting, {all.width() * kPaintingsPart, all.height()})};
+                           Fitted(painting, {all.width() * kUprightsPart, all.height()})};
         const double left = places.Painting.right() + Mm(kGap);
         places.Photo = {QPointF(left, room.top()),
                         Fitted(photo, {room.right() - left, all.height()})};
@@ -82,7 +90,8 @@ void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) 
 const char* const kSteps[] = {
     "Print all pages at their actual size (100 %), never fitted to the paper.",
     "Measure the ruler below: it must be exactly 5 cm long.",
-    "Where a page has crop marks, cut off its left or its top margin along them. The strips beyond "
+    "Where a page has crop marks, cut off its left and its top margin along them. The strips "
+    "beyond "
     "the dashed blue lines on the right and below stay on: the next pages are glued over them.",
     "Lay the cut edge of the next page on the dashed line, so that the halves of the round marks "
     "meet, and glue page to page, row by row, as the map shows.",

@@ -24,7 +24,7 @@ constexpr double kBorderMm = 0.13;
 class PlanPage {
   public:
     PlanPage(QPainter& painter, const KitPages& kit, const PageTile& tile)
-        : painter_(painter), kit_(kit), tile_(tile), sheet_(kit.Plan.Pages.Sheet) {
+        : painter_(painter), kit_(kit), tile_(tile), sheet_(kit.Plan.Pages.Paper.Sheet) {
         const double shown = tile.Shown.Right - tile.Shown.Left;
         offset_ = {(sheet_.Width - shown) / 2 - tile.Shown.Left,
                    Design::kMargin + Design::kHeading + Design::kMarks - tile.Shown.Top};

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <functional>
 #include <utility>
 
 #include "drawing/brush.h"
@@ -43,24 +44,51 @@ class Placement {
         }
     }
 
-    // Every piece that a page shows of a region has a symbol of its own, if one can be read there
-    // and none stands close by across the cut, where the two would run into one another.
+    // Every piece that a page shows of a region has a symbol of its own, if one can be read there,
+    // and not so close to one across the cut that the two run into one another.
     void PlaceOnPages() {
         const RegionPieces cut = CutIntoPieces(regions_.Ids, {rules_.PageColumns, rules_.PageRows});
         const std::vector<PlanLabel> labels = LabelsOf(cut);
         KeepOffTheCuts(labels);
-        for (std::size_t piece = 0; piece < labels.size(); ++piece) {
-            const PlanLabel& label = labels[piece];
+        std::vector<bool> has(labels.size());
+        for (const std::vector<PlanLabel>& ofRegion : placed_) {
+            has[PieceUnder(cut, ofRegion.front())] = true;
+        }
+        OfferToPieces(cut, labels, has);
+        OfferToPieces(cut, PlacesElsewhere(), has);
+    }
+
+    void OfferToPieces(const RegionPieces& cut, const std::vector<PlanLabel>& offers,
+                       std::vector<bool>& has) {
+        for (const PlanLabel& label : offers) {
             std::vector<PlanLabel>& others = OthersOf(label);
-            const bool legible =
-                label.Height >= std::min(others.front().Height * kAsGood, rules_.LegibleHeight);
-            if (legible && std::ranges::none_of(others, [&](const PlanLabel& other) {
-                    return PieceUnder(cut, other) == static_cast<int>(piece) ||
-                           IsClose(label, other);
-                })) {
+            const double smallest = std::min(others.front().Height * kAsGood, rules_.LegibleHeight);
+            const std::size_t piece = PieceUnder(cut, label);
+            if (!has[piece] && label.Height >= smallest &&
+                std::ranges::none_of(
+                    others, [&label](const PlanLabel& other) { return IsClose(label, other); })) {
                 others.push_back(label);
+                has[piece] = true;
             }
         }
+    }
+
+    // The roomiest places of smaller pieces, for those whose own best place is taken: the tallest
+    // symbols first.
+    [[nodiscard]] std::vector<PlanLabel> PlacesElsewhere() const {
+        constexpr double kStep = 4;  // symbols
+        const double step = std::max(1.0, kStep * rules_.LegibleHeight);
+        const auto both = [](std::vector<int> cuts, const std::vector<int>& lattice) {
+            cuts.insert(cuts.end(), lattice.begin(), lattice.end());
+            std::ranges::sort(cuts);
+            return cuts;
+        };
+        const std::vector<int> columns =
+            both(rules_.PageColumns, Lattice(step, regions_.Ids.Across()));
+        const std::vector<int> rows = both(rules_.PageRows, Lattice(step, regions_.Ids.Down()));
+        std::vector<PlanLabel> places = LabelsOf(CutIntoPieces(regions_.Ids, {columns, rows}));
+        std::ranges::stable_sort(places, std::greater<>(), &PlanLabel::Height);
+        return places;
     }
 
     // A symbol on a cut would be trimmed in half; one a little smaller beside it is better.
@@ -77,8 +105,8 @@ class Placement {
         if (rules_.LatticeStep < 1) {
             return;
         }
-        const std::vector<int> columns = Lattice(regions_.Ids.Across());
-        const std::vector<int> rows = Lattice(regions_.Ids.Down());
+        const std::vector<int> columns = Lattice(rules_.LatticeStep, regions_.Ids.Across());
+        const std::vector<int> rows = Lattice(rules_.LatticeStep, regions_.Ids.Down());
         for (const PlanLabel& label : LabelsOf(CutIntoPieces(regions_.Ids, {columns, rows}))) {
             std::vector<PlanLabel>& others = OthersOf(label);
             if (label.Height >= others.front().Height * kAsGood && !IsOnCut(label) &&
@@ -89,10 +117,10 @@ class Placement {
             }
         }
     }
-    [[nodiscard]] std::vector<int> Lattice(int last) const {
+    static std::vector<int> Lattice(double step, int last) {
         std::vector<int> cuts;
-        for (int i = 1; i * rules_.LatticeStep <= last; ++i) {
-            cuts.push_back(static_cast<int>(std::lround(i * rules_.LatticeStep)));
+        for (int i = 1; i * step <= last; ++i) {
+            cuts.push_back(static_cast<int>(std::lround(i * step)));
         }
         return cuts;
     }
@@ -110,8 +138,9 @@ class Placement {
         return labels;
     }
 
-    static int PieceUnder(const RegionPieces& cut, const PlanLabel& label) {
-        return cut.Pieces.Ids(static_cast<int>(label.Centre.X), static_cast<int>(label.Centre.Y));
+    static std::size_t PieceUnder(const RegionPieces& cut, const PlanLabel& label) {
+        return static_cast<std::size_t>(
+            cut.Pieces.Ids(static_cast<int>(label.Centre.X), static_cast<int>(label.Centre.Y)));
     }
     static double Distance(const PlanLabel& one, const PlanLabel& other) {
         return std::hypot(one.Centre.X - other.Centre.X, one.Centre.Y - other.Centre.Y);
@@ -154,14 +183,14 @@ std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const LabelRul
 }
 
 bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own, const PlanRect& shown) {
-    const auto [x, y] = label.Centre;
-    if (x >= own.Left && x <= own.Right && y >= own.Top && y <= own.Bottom) {
-        return true;
-    }
     const double reachX = label.Height * aspect / 2;
     const double reachY = label.Height / 2;
-    return x - reachX >= shown.Left && x + reachX <= shown.Right && y - reachY >= shown.Top &&
-           y + reachY <= shown.Bottom;
+    const PlanRect box{label.Centre.X - reachX, label.Centre.Y - reachY, label.Centre.X + reachX,
+                       label.Centre.Y + reachY};
+    const bool meetsOwn = box.Left < own.Right && box.Right > own.Left && box.Top < own.Bottom &&
+                          box.Bottom > own.Top;
+    return meetsOwn || (box.Left >= shown.Left && box.Right <= shown.Right &&
+                        box.Top >= shown.Top && box.Bottom <= shown.Bottom);
 }
 
 double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects) {

@@ -35,8 +35,8 @@ struct LabelRules {
 [[nodiscard]] std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions,
                                                  const LabelRules& rules);
 
-/// Whether a page draws a label: its middle lies in the page's own share, or all of it in what the
-/// page shows. So every label is on some page. Both parts in picture pixels.
+/// Whether a page draws a label: some of it lies in the page's own share, so that the halves of a
+/// symbol on a cut meet, or all of it in what the page shows. Both parts in picture pixels.
 [[nodiscard]] bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own,
                              const PlanRect& shown);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "output/symbol_set.h"
@@ -14,65 +15,129 @@ namespace {
 // Too little of a picture to be worth a page.
 constexpr double kSmallestShare = 20;
 
-// How many equal shares of `length` fit when all but the last show the overlap too.
-int SharesOf(double length, double room) {
-    if (length <= room) {
-        return 1;
+constexpr double kRounding = 1e-9;
+
+// Where the shares of a length begin and, at last, where it ends.
+using Cuts = std::vector<double>;
+
+SizeMm RoomOn(const PaperChoice& paper) {
+    return {paper.Sheet.Width - 2 * paper.Frame.Side,
+            paper.Sheet.Height - paper.Frame.Top - paper.Frame.Bottom};
+}
+
+// Stipples larger than the smallest share have to bear a cut.
+Cuts CutInto(int shares, double length, const StippleRuler& stipples) {
+    Cuts cuts{0};
+    for (int i = 1; i < shares; ++i) {
+        const double at = length * i / shares;
+        const bool snaps = stipples.Step > 0 && stipples.Step < kSmallestShare;
+        cuts.push_back(snaps ? stipples.First +
+                                   std::round((at - stipples.First) / stipples.Step) * stipples.Step
+                             : at);
     }
-    return static_cast<int>(std::ceil(length / (room - kOverlapMm)));
+    cuts.push_back(length);
+    return cuts;
 }
 
-SizeMm RoomOn(const SizeMm& sheet, const PageFrame& frame) {
-    return {sheet.Width - 2 * frame.Side, sheet.Height - frame.Top - frame.Bottom};
+double OverlapBehind(std::size_t share, const Cuts& cuts) {
+    return share + 2 < cuts.size() ? kOverlapMm : 0;
 }
 
-double LongestOf(int shares, double room) {
-    return shares == 1 ? room : shares * (room - kOverlapMm);
-}
-
-// Where share i of n begins; the same figure ends share i - 1, so nothing gapes.
-double CutAt(double length, int i, int n) {
-    return i == n ? length : length * i / n;
-}
-
-PageTile TileAt(const PagePlan& plan, int column, int row) {
-    const PlanRect own{CutAt(plan.Canvas.Width, column, plan.Across),
-                       CutAt(plan.Canvas.Height, row, plan.Down),
-                       CutAt(plan.Canvas.Width, column + 1, plan.Across),
-                       CutAt(plan.Canvas.Height, row + 1, plan.Down)};
-    const PlanRect shown{own.Left, own.Top,
-                         column + 1 < plan.Across ? own.Right + kOverlapMm : own.Right,
-                         row + 1 < plan.Down ? own.Bottom + kOverlapMm : own.Bottom};
-    return {column, row, own, shown};
-}
-
-void CutTiles(PagePlan& plan) {
-    plan.Tiles.clear();
-    for (int row = 0; row < plan.Down; ++row) {
-        for (int column = 0; column < plan.Across; ++column) {
-            plan.Tiles.push_back(TileAt(plan, column, row));
+bool Fit(const Cuts& cuts, double room) {
+    for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
+        if (cuts[i + 1] - cuts[i] + OverlapBehind(i, cuts) > room + kRounding) {
+            return false;
         }
     }
+    return true;
 }
 
-std::optional<PagePlan> TryChoice(const SizeMm& canvas, const PaperChoice& choice) {
-    const SizeMm room = RoomOn(choice.Sheet, choice.Frame);
-    if (std::min(room.Width, room.Height) < kSmallestShare + kOverlapMm) {
-        return std::nullopt;
+// Cuts into the fewest shares, at least `shares`, that fit the room; none when they would be too
+// small to be worth a page.
+std::optional<Cuts> FewestShares(int shares, double length, double room,
+                                 const StippleRuler& stipples) {
+    for (; shares == 1 || length / shares >= kSmallestShare; ++shares) {
+        Cuts cuts = CutInto(shares, length, stipples);
+        if (Fit(cuts, room)) {
+            return cuts;
+        }
     }
-    PagePlan plan{choice.Sheet,
-                  choice.Frame,
-                  canvas,
-                  SharesOf(canvas.Width, room.Width),
-                  SharesOf(canvas.Height, room.Height),
+    return std::nullopt;
+}
+
+PagePlan TilesOf(const CanvasToCut& canvas, const PaperChoice& paper, const Cuts& columns,
+                 const Cuts& rows) {
+    PagePlan plan{paper,
+                  canvas.Size,
+                  static_cast<int>(columns.size()) - 1,
+                  static_cast<int>(rows.size()) - 1,
                   {}};
-    CutTiles(plan);
+    for (std::size_t row = 0; row + 1 < rows.size(); ++row) {
+        for (std::size_t column = 0; column + 1 < columns.size(); ++column) {
+            const PlanRect own{columns[column], rows[row], columns[column + 1], rows[row + 1]};
+            const PlanRect shown{own.Left, own.Top, own.Right + OverlapBehind(column, columns),
+                                 own.Bottom + OverlapBehind(row, rows)};
+            plan.Tiles.push_back({static_cast<int>(column), static_cast<int>(row), own, shown,
+                                  canvas.List ? canvas.List(paper, own) : 0});
+        }
+    }
     return plan;
+}
+
+bool HoldsItsLists(const PagePlan& plan) {
+    const double room = RoomOn(plan.Paper).Height + kRounding;
+    return std::ranges::all_of(plan.Tiles, [room](const PageTile& tile) {
+        return tile.Shown.Bottom - tile.Shown.Top + tile.ListHeight <= room;
+    });
+}
+
+// With that many columns: as few rows as leave room for the lists.
+std::optional<PagePlan> TryColumns(const CanvasToCut& canvas, const PaperChoice& paper,
+                                   const Cuts& columns) {
+    for (int shares = 1;; ++shares) {
+        const std::optional<Cuts> rows =
+            FewestShares(shares, canvas.Size.Height, RoomOn(paper).Height, canvas.Stipples);
+        if (!rows) {
+            return std::nullopt;
+        }
+        PagePlan plan = TilesOf(canvas, paper, columns, *rows);
+        if (HoldsItsLists(plan)) {
+            return plan;
+        }
+        shares = static_cast<int>(rows->size()) - 1;
+    }
 }
 
 bool IsBetter(const PagePlan& plan, const PagePlan& other) {
     return plan.Tiles.size() != other.Tiles.size() ? plan.Tiles.size() < other.Tiles.size()
                                                    : RoomToGrow(plan) > RoomToGrow(other);
+}
+
+// One column more than needed may list so much less that a row is saved.
+std::optional<PagePlan> TryPaper(const CanvasToCut& canvas, const PaperChoice& paper) {
+    const SizeMm room = RoomOn(paper);
+    if (std::min(room.Width, room.Height) < kSmallestShare + kOverlapMm) {
+        return std::nullopt;
+    }
+    std::optional<PagePlan> best;
+    int shares = 1;
+    for (int tries = 0; tries < 2; ++tries) {
+        const std::optional<Cuts> columns =
+            FewestShares(shares, canvas.Size.Width, room.Width, canvas.Stipples);
+        if (!columns) {
+            break;
+        }
+        std::optional<PagePlan> plan = TryColumns(canvas, paper, *columns);
+        if (plan && (!best || IsBetter(*plan, *best))) {
+            best = std::move(plan);
+        }
+        shares = static_cast<int>(columns->size());
+    }
+    return best;
+}
+
+PlanRect Times(const PlanRect& rect, double times) {
+    return {rect.Left * times, rect.Top * times, rect.Right * times, rect.Bottom * times};
 }
 
 }  // namespace
@@ -98,12 +163,11 @@ std::string PageTile::Name() const {
     return row + std::to_string(Column + 1);
 }
 
-PagePlan PlanPages(const SizeMm& canvas, const std::vector<PaperChoice>& choices,
-                   const PlanCheck& holds) {
+PagePlan PlanPages(const CanvasToCut& canvas, const std::vector<PaperChoice>& choices) {
     std::optional<PagePlan> best;
-    for (const PaperChoice& choice : choices) {
-        std::optional<PagePlan> plan = TryChoice(canvas, choice);
-        if (plan && (!best || IsBetter(*plan, *best)) && (!holds || holds(*plan))) {
+    for (const PaperChoice& paper : choices) {
+        std::optional<PagePlan> plan = TryPaper(canvas, paper);
+        if (plan && (!best || IsBetter(*plan, *best))) {
             best = std::move(plan);
         }
     }
@@ -116,23 +180,39 @@ PagePlan PlanPages(const SizeMm& canvas, const std::vector<PaperChoice>& choices
 }
 
 double RoomToGrow(const PagePlan& plan) {
-    const SizeMm room = RoomOn(plan.Sheet, plan.Frame);
-    return std::min(LongestOf(plan.Across, room.Width) / plan.Canvas.Width,
-                    LongestOf(plan.Down, room.Height) / plan.Canvas.Height);
+    const SizeMm room = RoomOn(plan.Paper);
+    double times = std::numeric_limits<double>::infinity();
+    for (const PageTile& tile : plan.Tiles) {
+        const double across = room.Width - (tile.Shown.Right - tile.Own.Right);
+        const double down = room.Height - tile.ListHeight - (tile.Shown.Bottom - tile.Own.Bottom);
+        times = std::min({times, across / (tile.Own.Right - tile.Own.Left),
+                          down / (tile.Own.Bottom - tile.Own.Top)});
+    }
+    return times;
 }
 
 PagePlan Enlarged(const PagePlan& plan, double times) {
     PagePlan larger = plan;
     larger.Canvas = {plan.Canvas.Width * times, plan.Canvas.Height * times};
-    CutTiles(larger);
+    for (PageTile& tile : larger.Tiles) {
+        const double right = tile.Shown.Right - tile.Own.Right;
+        const double below = tile.Shown.Bottom - tile.Own.Bottom;
+        tile.Own = Times(tile.Own, times);
+        tile.Shown = {tile.Own.Left, tile.Own.Top, tile.Own.Right + right, tile.Own.Bottom + below};
+    }
     return larger;
 }
 
 std::vector<int> PaintsWithin(const PaintedRegions& regions, const PlanRect& part) {
-    const int left = std::max(0, static_cast<int>(std::floor(part.Left)));
-    const int top = std::max(0, static_cast<int>(std::floor(part.Top)));
-    const int right = std::min(regions.Ids.Across() + 1, static_cast<int>(std::ceil(part.Right)));
-    const int bottom = std::min(regions.Ids.Down() + 1, static_cast<int>(std::ceil(part.Bottom)));
+    constexpr double kHair = 1e-6;  // what a part reckoned in millimetres may be off
+    const auto first = [](double at) { return std::max(0, int(std::floor(at + kHair))); };
+    const auto end = [](double at, int last) {
+        return std::min(last + 1, int(std::ceil(at - kHair)));
+    };
+    const int left = first(part.Left);
+    const int top = first(part.Top);
+    const int right = end(part.Right, regions.Ids.Across());
+    const int bottom = end(part.Bottom, regions.Ids.Down());
     std::array<bool, kSymbolCount + 1> found{};
     for (int y = top; y < bottom; ++y) {
         for (int x = left; x < right; ++x) {

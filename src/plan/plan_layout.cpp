@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "output/cell_numbering.h"
 #include "support/error.h"
@@ -45,38 +46,18 @@ double ScaleOf(const PlanSettings& settings, const Surface& picture) {
     return settings.CanvasCm * 10 / picture.Width();
 }
 
-// The shorter the list of paints may be, the more of the paper is left for the picture.
-std::vector<PaperChoice> ChoicesFor(Paper paper, int paints) {
+std::vector<PaperChoice> ChoicesFor(Paper paper) {
     using Design = PlanPageDesign;
+    const PageFrame frame{Design::kMargin + Design::kMarks,
+                          Design::kMargin + Design::kHeading + Design::kMarks,
+                          Design::kMargin + Design::kMarks};
     const SizeMm upright = SizeOf(paper);
-    std::vector<PaperChoice> choices;
-    for (const SizeMm sheet : {upright, SizeMm{upright.Height, upright.Width}}) {
-        const int columns = Design::LegendColumns(sheet.Width);
-        for (int listed = columns; listed < paints + columns; listed += columns) {
-            choices.push_back(
-                {sheet,
-                 {Design::kMargin + Design::kMarks,
-                  Design::kMargin + Design::kHeading + Design::kMarks,
-                  Design::kMargin + Design::kMarks + Design::LegendHeight(sheet.Width, listed)}});
-        }
-    }
-    return choices;
+    return {{upright, frame}, {{upright.Height, upright.Width}, frame}};
 }
 
 PlanRect InPixels(const PlanRect& part, double mmPerPixel) {
     return {part.Left / mmPerPixel, part.Top / mmPerPixel, part.Right / mmPerPixel,
             part.Bottom / mmPerPixel};
-}
-
-bool HoldsItsLists(const PagePlan& pages, const PaintedRegions& regions, double mmPerPixel) {
-    constexpr double kRounding = 1e-6;
-    const double room =
-        pages.Frame.Bottom - PlanPageDesign::kMargin - PlanPageDesign::kMarks + kRounding;
-    return std::ranges::all_of(pages.Tiles, [&](const PageTile& tile) {
-        const auto paints = PaintsWithin(regions, InPixels(tile.Own, mmPerPixel));
-        return PlanPageDesign::LegendHeight(pages.Sheet.Width, static_cast<int>(paints.size())) <=
-               room;
-    });
 }
 
 // Paper that is printed anyway may as well carry larger symbols.
@@ -88,11 +69,15 @@ double Growth(const PagePlan& pages) {
 
 void LayOutPages(PrintPlan& plan, const PlanSettings& settings, const WorkState& state,
                  const Surface& picture) {
-    const SizeMm canvas{picture.Width() * plan.MmPerPixel, picture.Height() * plan.MmPerPixel};
-    plan.Pages = PlanPages(canvas, ChoicesFor(settings.Sheet, state.PaintCount),
-                           [&plan](const PagePlan& pages) {
-                               return HoldsItsLists(pages, plan.Regions, plan.MmPerPixel);
-                           });
+    const double mm = plan.MmPerPixel;
+    const auto listHeight = [&plan, mm](const PaperChoice& paper, const PlanRect& own) {
+        const auto paints = PaintsWithin(plan.Regions, InPixels(own, mm));
+        return PlanPageDesign::LegendHeight(paper.Sheet.Width, static_cast<int>(paints.size()));
+    };
+    plan.Pages = PlanPages({{picture.Width() * mm, picture.Height() * mm},
+                            {mm, state.StippleSize * mm},  // pixel 0 is before the first stipple
+                            listHeight},
+                           ChoicesFor(settings.Sheet));
     if (settings.CanvasCm == 0) {
         const double growth = Growth(plan.Pages);
         plan.Pages = Enlarged(plan.Pages, growth);
@@ -100,11 +85,25 @@ void LayOutPages(PrintPlan& plan, const PlanSettings& settings, const WorkState&
     }
 }
 
-// The first whole pixel of every page behind the first one of a row.
-std::vector<int> CutsInPixels(double canvasMm, int shares, double mmPerPixel) {
-    std::vector<int> cuts;
-    for (int i = 1; i < shares; ++i) {
-        cuts.push_back(static_cast<int>(std::ceil(canvasMm * i / shares / mmPerPixel)));
+// The first whole pixel behind every cut.
+struct CutPixels {
+    std::vector<int> Columns;
+    std::vector<int> Rows;
+};
+
+CutPixels CutsInPixels(const PrintPlan& plan) {
+    constexpr double kRounding = 1e-6;
+    const auto pixelAt = [&plan](double at) {
+        return static_cast<int>(std::ceil(at / plan.MmPerPixel - kRounding));
+    };
+    CutPixels cuts;
+    for (const PageTile& tile : plan.Pages.Tiles) {
+        if (tile.Row == 0 && tile.Column > 0) {
+            cuts.Columns.push_back(pixelAt(tile.Own.Left));
+        }
+        if (tile.Column == 0 && tile.Row > 0) {
+            cuts.Rows.push_back(pixelAt(tile.Own.Top));
+        }
     }
     return cuts;
 }
@@ -138,8 +137,9 @@ PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
     rules.LegibleHeight = kNibbled * kLegibleSymbolMm / plan.MmPerPixel;
     rules.LargestHeight = kLargestSymbolMm / plan.MmPerPixel;
     rules.LatticeStep = kLatticeMm / plan.MmPerPixel;
-    rules.PageColumns = CutsInPixels(plan.Pages.Canvas.Width, plan.Pages.Across, plan.MmPerPixel);
-    rules.PageRows = CutsInPixels(plan.Pages.Canvas.Height, plan.Pages.Down, plan.MmPerPixel);
+    CutPixels cuts = CutsInPixels(plan);
+    rules.PageColumns = std::move(cuts.Columns);
+    rules.PageRows = std::move(cuts.Rows);
     plan.Labels = PlaceLabels(plan.Regions, rules);
     return plan;
 }

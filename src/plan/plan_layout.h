@@ -27,7 +27,7 @@ inline constexpr double kLargestSymbolMm = 3;
 
 /// Where things stand on a page of the plan, in millimetres.
 struct PlanPageDesign {
-    static constexpr double kMargin = 8;  // what printers cannot reach
+    static constexpr double kMargin = 7;  // what printers cannot reach
     static constexpr double kHeading = 14;
     static constexpr double kMarks = 5;  // crop marks around the picture
     static constexpr double kLegendColumn = 46;

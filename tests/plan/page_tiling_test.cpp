@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "support/error.h"
 
@@ -12,7 +13,13 @@ namespace {
 
 using testing::ElementsAre;
 
-const std::vector<PaperChoice> kA4 = {{{210, 297}, {15, 20, 60}}, {{297, 210}, {15, 20, 40}}};
+constexpr double kList = 40;
+
+CanvasToCut Canvas(SizeMm size, StippleRuler stipples = {}) {
+    return {size, stipples, [](const PaperChoice&, const PlanRect&) { return kList; }};
+}
+
+const std::vector<PaperChoice> kA4 = {{{210, 297}, {15, 20, 20}}, {{297, 210}, {15, 20, 20}}};
 
 // Every share begins where the one before it ends, first and last at the canvas's edges.
 void ExpectExactCover(const PagePlan& plan) {
@@ -35,43 +42,59 @@ void ExpectExactCover(const PagePlan& plan) {
 }
 
 TEST(PageTiling, CoversEveryCanvasExactlyAndFitsThePaper) {
-    for (const SizeMm canvas : {SizeMm{100, 80}, SizeMm{180, 217}, SizeMm{180.01, 217.01},
-                                SizeMm{812.7, 609.3}, SizeMm{50, 2900}, SizeMm{1000.0 / 3, 333}}) {
-        const PagePlan plan = PlanPages(canvas, kA4);
-        ExpectExactCover(plan);
-        const PageFrame& frame = plan.Sheet == kA4[0].Sheet ? kA4[0].Frame : kA4[1].Frame;
-        for (const PageTile& tile : plan.Tiles) {
-            EXPECT_LE(tile.Shown.Right - tile.Shown.Left, plan.Sheet.Width - 2 * frame.Side + 1e-9);
-            EXPECT_LE(tile.Shown.Bottom - tile.Shown.Top,
-                      plan.Sheet.Height - frame.Top - frame.Bottom + 1e-9);
+    for (const StippleRuler stipples : {StippleRuler{}, StippleRuler{0.4, 3.2}}) {
+        for (const SizeMm size :
+             {SizeMm{100, 80}, SizeMm{180, 217}, SizeMm{180.01, 217.01}, SizeMm{812.7, 609.3},
+              SizeMm{50, 2900}, SizeMm{1000.0 / 3, 333}}) {
+            const PagePlan plan = PlanPages(Canvas(size, stipples), kA4);
+            ExpectExactCover(plan);
+            const PaperChoice& paper = plan.Paper;
+            for (const PageTile& tile : plan.Tiles) {
+                EXPECT_LE(tile.Shown.Right - tile.Shown.Left, paper.Sheet.Width - 30 + 1e-6);
+                EXPECT_LE(tile.Shown.Bottom - tile.Shown.Top,
+                          paper.Sheet.Height - 40 - kList + 1e-6);
+                const double stipple = (tile.Own.Left - stipples.First) / stipples.Step;
+                EXPECT_TRUE(stipples.Step == 0 || tile.Column == 0 ||
+                            std::abs(stipple - std::round(stipple)) < 1e-6);
+            }
         }
     }
 }
 
 TEST(PageTiling, GrowsAsFarAsItsPagesReach) {
-    for (const SizeMm canvas : {SizeMm{100, 80}, SizeMm{533, 400}, SizeMm{200, 900}}) {
-        const PagePlan plan = PlanPages(canvas, kA4);
+    for (const SizeMm size : {SizeMm{100, 80}, SizeMm{533, 400}, SizeMm{200, 900}}) {
+        const PagePlan plan = PlanPages(Canvas(size), kA4);
         const double room = RoomToGrow(plan);
         const PagePlan grown = Enlarged(plan, room);
         ExpectExactCover(grown);
-        EXPECT_EQ(PlanPages(Enlarged(plan, room * 0.999).Canvas, kA4).Tiles.size(),
-                  plan.Tiles.size());
-        const PaperChoice same{plan.Sheet, plan.Frame};
-        EXPECT_GT(PlanPages(Enlarged(plan, room * 1.001).Canvas, {same}).Tiles.size(),
-                  plan.Tiles.size());
+        const auto pages = [&](double times) {
+            return PlanPages(Canvas(Enlarged(plan, times).Canvas), {plan.Paper}).Tiles.size();
+        };
+        EXPECT_EQ(pages(room * 0.999), plan.Tiles.size());
+        EXPECT_GT(pages(room * 1.001), plan.Tiles.size());
     }
 }
 
-TEST(PageTiling, TakesNoFrameThatDoesNotHoldItsLists) {
-    const auto roomBelow = [](const PagePlan& plan) { return plan.Frame.Bottom > 50; };
-    EXPECT_EQ(PlanPages({267, 150}, kA4, roomBelow).Sheet, (SizeMm{210, 297}));
-    EXPECT_THROW((void)PlanPages({267, 150}, kA4, [](const PagePlan&) { return false; }), Error);
+TEST(PageTiling, GivesEveryPageTheRoomItsOwnListNeeds) {
+    // Two shares of 170: the upper one with its overlap leaves 82 for a list, the lower one 87.
+    const auto pages = [](double upper, double lower) {
+        return PlanPages({{180, 340},
+                          {},
+                          [=](const PaperChoice&, const PlanRect& own) {
+                              return own.Top == 0 ? upper : lower;
+                          }},
+                         {kA4[0]})
+            .Tiles.size();
+    };
+    EXPECT_EQ(pages(82, 87), 2U);
+    EXPECT_EQ(pages(82.1, 0), 3U);
+    EXPECT_EQ(pages(0, 87.1), 3U);
 }
 
 TEST(PageTiling, TurnsThePaperForFewerPages) {
-    EXPECT_EQ(PlanPages({180, 217}, kA4).Sheet, (SizeMm{210, 297}));
-    const PagePlan wide = PlanPages({267, 150}, kA4);
-    EXPECT_EQ(wide.Sheet, (SizeMm{297, 210}));
+    EXPECT_EQ(PlanPages(Canvas({180, 217}), kA4).Paper.Sheet, (SizeMm{210, 297}));
+    const PagePlan wide = PlanPages(Canvas({267, 130}), kA4);
+    EXPECT_EQ(wide.Paper.Sheet, (SizeMm{297, 210}));
     EXPECT_EQ(wide.Tiles.size(), 1U);
 }
 
@@ -82,7 +105,11 @@ TEST(PageTiling, NamesPagesByRowAndColumn) {
 }
 
 TEST(PageTiling, RefusesPaperWithoutRoom) {
-    EXPECT_THROW((void)PlanPages({100, 100}, {{{210, 297}, {15, 20, 255}}}), Error);
+    EXPECT_THROW((void)PlanPages(Canvas({100, 100}), {{{210, 297}, {15, 20, 255}}}), Error);
+    // A list that leaves less than a strip of the picture beside it.
+    EXPECT_THROW(
+        (void)PlanPages({{100, 100}, {}, [](const auto&, const auto&) { return 300; }}, kA4),
+        Error);
 }
 
 TEST(PageTiling, ListsThePaintsOfAPage) {
