@@ -23,7 +23,8 @@ const std::vector<PaperChoice> kA4 = {{{210, 297}, {15, 20, 20}}, {{297, 210}, {
 
 // Every share begins where the one before it ends, first and last at the canvas's edges.
 void ExpectExactCover(const PagePlan& plan) {
-    ASSERT_EQ(plan.Tiles.size(), static_cast<std::size_t>(plan.Across * plan.Down));
+    ASSERT_EQ(plan.Tiles.size(),
+              static_cast<std::size_t>(plan.Across) * static_cast<std::size_t>(plan.Down));
     for (const PageTile& tile : plan.Tiles) {
         const auto at = [&plan](int column, int row) -> const PlanRect& {
             return plan.Tiles[static_cast<std::size_t>(row * plan.Across + column)].Own;
