@@ -23,6 +23,8 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kLeadBytes = 26;  // a bitmap's, up to and with its height
 constexpr const char* kBitmapEnding = ".bmp";
+// Names of results are longer, and a disk takes 255 bytes.
+constexpr std::size_t kLongestStem = 150;
 
 bool HasBitmapEnding(const fs::path& file) {
     return SameIgnoringCase(file.extension().string(), kBitmapEnding);
@@ -125,6 +127,14 @@ std::string PictureStem(const fs::path& photo) {
         stem.pop_back();
     }
     std::ranges::replace(stem, '.', '-');
+    if (stem.size() > kLongestStem) {
+        // Not within a character of several bytes.
+        std::size_t end = kLongestStem;
+        while (end > 0 && (static_cast<unsigned char>(stem[end]) & 0xC0) == 0x80) {
+            --end;
+        }
+        stem.resize(end);
+    }
     return stem.empty() ? "Photo" : stem;
 }
 

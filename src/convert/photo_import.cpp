@@ -20,6 +20,16 @@ Surface ReadScaled(BitmapFile& file, int width, int height) {
 
 }  // namespace
 
+void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const ScreenSize& screen,
+                     int stippleSize) {
+    if (!ComputeWorkingSize(photo, screen, stippleSize).HoldsStipples()) {
+        throw FileError(file, "its shape of " + std::to_string(photo.Width) + " x " +
+                                  std::to_string(photo.Height) +
+                                  " pixels leaves no whole stipple on this screen. Choose a "
+                                  "larger photo or crop it to a less extreme shape.");
+    }
+}
+
 std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSize& screen,
                                int stippleSize) {
     if (ReadBitmapSize(file) == BitmapSize{}) {
@@ -27,12 +37,7 @@ std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSi
     }
     BitmapFile bitmap(file);
     Photo photo{bitmap.Size(), ComputeWorkingSize(bitmap.Size(), screen, stippleSize), {}};
-    if (!photo.Working.HoldsStipples()) {
-        throw FileError(file, "its shape of " + std::to_string(photo.Bmp.Width) + " x " +
-                                  std::to_string(photo.Bmp.Height) +
-                                  " pixels leaves no whole stipple on this screen. Choose a "
-                                  "larger photo or crop it to a less extreme shape.");
-    }
+    RequireStipples(file, photo.Bmp, screen, stippleSize);
     photo.Picture = ReadScaled(bitmap, photo.Working.Width / screen.Twips.X,
                                photo.Working.Height / screen.Twips.Y);
     return photo;

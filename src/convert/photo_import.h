@@ -21,6 +21,10 @@ struct Photo {
 /// Whether a photo is there now; Nothing for a file whose header gives it 0 x 0 pixels.
 enum class [[nodiscard]] PhotoLoad{Loaded, Nothing};
 
+/// Throws FileError when a photo's shape leaves no whole stipple on the screen. Sides at least 1.
+void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const ScreenSize& screen,
+                     int stippleSize);
+
 /// Reads a photo for a screen and a stipple size, row by row. Nothing for 0 x 0 pixels. Throws
 /// FileError or FormatError, also when no whole stipple fits its shape, and OverflowError.
 [[nodiscard]] std::optional<Photo> ReadPhoto(const std::filesystem::path& file,

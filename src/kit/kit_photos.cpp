@@ -4,6 +4,7 @@
 
 #include "convert/bitmap_reader.h"
 #include "convert/foreign_photo.h"
+#include "convert/photo_import.h"
 #include "forms/photo_intake.h"
 #include "kit/photo_lookup.h"
 #include "support/error.h"
@@ -13,15 +14,19 @@ namespace vendrel {
 
 std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
                               const std::filesystem::path& photo) {
+    // A file that cannot become a kit must not even reach the Pictures folder, nor take a name.
+    const CropTarget target{place.Screen.Screen(), place.State.StippleSize};
     const bool decode = NeedsDecoder(photo);
+    const BitmapSize size = decode ? decoder_.Size(photo) : BitmapFile(photo).Size();
+    if (size.Width > 0 && size.Height > 0) {
+        RequireStipples(photo, options.Crop == CropPart::Whole ? size : LargestCrop(size, target),
+                        target.Screen, target.StippleSize);
+    }
     if (!decode) {
-        // A file that is no whole bitmap must not even reach the Pictures folder, nor take a name.
-        (void)BitmapFile(photo);
         Claim(photo, PictureNameOf(photo));
     }
     const std::string taken = decode ? Decode(place, photo) : TakeIntoPictures(place.Folder, photo);
-    const std::string picture = CropInPictures(
-        place.Folder, taken, {place.Screen.Screen(), place.State.StippleSize}, options.Crop);
+    const std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
     // Decoded photos and crops are numbered where their name is taken: it is known only now.
     if (decode || picture != taken) {
         Claim(photo, PictureNameOf(picture));
