@@ -1,17 +1,19 @@
 #include "export/photo_reader.h"
 
-#include <QFile>
 #include <QImageReader>
 #include <QTransform>
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
 #include <future>
 #include <string_view>
 #include <utility>
 
+#include "convert/bitmap_input.h"
 #include "export/counted_bytes.h"
+#include "export/decoder_complaints.h"
 #include "export/photo_structure.h"
 #include "export/qt_image.h"
 #include "support/error.h"
@@ -24,26 +26,20 @@ namespace fs = std::filesystem;
 // Other things the toolkit could read (icons, drawings) are no photos, and some need a display.
 constexpr std::array<std::string_view, 8> kEndings = {"bmp", "gif", "jpeg", "jpg",
                                                       "png", "tif", "tiff", "webp"};
-constexpr qint64 kMaxFileBytes = qint64{1} << 30;
+constexpr std::uint64_t kMaxFileBytes = std::uint64_t{1} << 30;
 // Decoders that shrink while they read hold little more than the result; the others hold all.
 constexpr qint64 kMaxShrinkablePixels = 300'000'000;
 constexpr qint64 kMaxPixels = 100'000'000;
 constexpr int kAllocationLimit = 1024;  // MiB, 100 megapixels of 8 bytes with room to spare
 
+// Not by the toolkit, which takes no names from old disks that are no valid UTF-8.
 QByteArray ReadBytes(const fs::path& photo) {
-    QFile file(QFile::decodeName(photo.c_str()));
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw FileError(photo, "cannot be opened (" + file.errorString().toStdString() +
-                                   "). Check the name and that you may read it.");
-    }
-    if (file.size() > kMaxFileBytes) {
+    BitmapInput file(photo);
+    if (file.Size() > kMaxFileBytes) {
         throw FormatError(photo, 0, "is larger than 1 GB. Save the photo as JPEG.");
     }
-    QByteArray bytes = file.readAll();
-    if (bytes.size() < file.size()) {
-        throw FileError(photo, "cannot be read to its end (" + file.errorString().toStdString() +
-                                   "). Copy it to this computer again.");
-    }
+    QByteArray bytes(static_cast<qsizetype>(file.Size()), Qt::Uninitialized);
+    file.Read({reinterpret_cast<std::uint8_t*>(bytes.data()), file.Size()});
     return bytes;
 }
 
@@ -102,7 +98,7 @@ class OpenPhoto {
     }
 
     [[nodiscard]] BitmapSize UprightSize() const {
-        const QSize size = reader_.size();
+        const QSize size = StoredSize();
         if (transformation_.testFlag(QImageIOHandler::TransformationRotate90)) {
             return {size.height(), size.width()};
         }
@@ -114,8 +110,9 @@ class OpenPhoto {
             ThrowBroken();
         }
         ShrinkLargePhoto();
+        const DecoderComplaints complaints;
         QImage image = progress ? ReadWatched(progress) : reader_.read();
-        if (image.isNull()) {
+        if (image.isNull() || complaints.Damaged()) {
             ThrowBroken();
         }
         return ToSurface(Upright(std::move(image), transformation_));
@@ -125,13 +122,30 @@ class OpenPhoto {
     // The decoder that was chosen, or "" when it refuses the file at second sight.
     [[nodiscard]] std::string Format() const { return reader_.format().toStdString(); }
 
-    void CheckSize() const {
+    // A bitmap whose rows are stored from the top is given a negative height.
+    [[nodiscard]] QSize StoredSize() const {
         const QSize size = reader_.size();
+        return {std::abs(size.width()), std::abs(size.height())};
+    }
+
+    // Only a JPEG decoder never holds the whole.
+    [[nodiscard]] qint64 MostPixels() const {
+        if (Format() == "jpeg" || Format() == "jpg") {
+            return kMaxShrinkablePixels;
+        }
+        const qint64 pixelBytes =
+            std::max(4, QImage::toPixelFormat(reader_.imageFormat()).bitsPerPixel() / 8);
+        const bool shrinks = reader_.supportsOption(QImageIOHandler::ScaledSize);
+        return std::min(shrinks ? kMaxShrinkablePixels : kMaxPixels,
+                        (qint64{kAllocationLimit} << 20) / pixelBytes);
+    }
+
+    void CheckSize() const {
+        const QSize size = StoredSize();
         if (size.isEmpty()) {
             ThrowBroken();
         }
-        const bool shrinks = reader_.supportsOption(QImageIOHandler::ScaledSize);
-        const qint64 limit = shrinks ? kMaxShrinkablePixels : kMaxPixels;
+        const qint64 limit = MostPixels();
         if (qint64{size.width()} * size.height() > limit) {
             throw FormatError(file_, 0,
                               "is too large: " + std::to_string(size.width()) + " x " +
@@ -150,7 +164,7 @@ class OpenPhoto {
     // By powers of two: a JPEG decoder does those while it reads, without ever holding the whole.
     void ShrinkLargePhoto() {
         QImageReader::setAllocationLimit(kAllocationLimit);
-        const QSize size = reader_.size();
+        const QSize size = StoredSize();
         int divisor = 1;
         while (std::max(size.width(), size.height()) / divisor > kMaxPhotoSide) {
             divisor *= 2;

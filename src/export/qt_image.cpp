@@ -19,14 +19,15 @@ bool IsNear(QRgb a, QRgb b) {
            std::abs(qBlue(a) - qBlue(b)) <= kRounding;
 }
 
-// Primaries written down with five digits are not recognized as sRGB's, but behave like them.
+// Primaries written down with five digits are not recognized as sRGB's, but behave like them. Asked
+// with muted colors: full ones of a wider space are cut off at sRGB's own and look the same.
 bool HasSrgbPrimaries(const QColorSpace& space) {
     const QColorTransform toSrgb = space.withTransferFunction(QColorSpace::TransferFunction::SRgb)
                                        .transformationToColorSpace(QColorSpace(QColorSpace::SRgb));
-    constexpr std::array<QRgb, 4> kCorners = {qRgb(255, 0, 0), qRgb(0, 255, 0), qRgb(0, 0, 255),
-                                              qRgb(255, 255, 255)};
-    return std::ranges::all_of(
-        kCorners, [&toSrgb](QRgb corner) { return IsNear(toSrgb.map(corner), corner); });
+    constexpr std::array<QRgb, 4> kMuted = {qRgb(200, 100, 100), qRgb(100, 200, 100),
+                                            qRgb(100, 100, 200), qRgb(255, 255, 255)};
+    return std::ranges::all_of(kMuted,
+                               [&toSrgb](QRgb color) { return IsNear(toSrgb.map(color), color); });
 }
 
 // Many programs note sRGB as "gamma 2.2, sRGB primaries". Taking that at its word would shift the

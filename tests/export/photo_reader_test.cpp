@@ -234,7 +234,13 @@ TEST_F(PhotoReaderTest, BringsColorsToSrgb) {
                   Rgb(128, 128, 128))
             << format;
     }
+    image.fill(qRgb(100, 160, 90));
+    image.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
+    const Color wide = Decode(Encoded(image, "png")).Get(0, 0);
+    EXPECT_LT(RedOf(wide), 75);  // greener and purer than the bare figures say
+    EXPECT_GE(GreenOf(wide), 160);
     // sRGB in the words of many programs: nothing to do.
+    image.fill(qRgb(55, 55, 55));
     image.setColorSpace(QColorSpace(QColorSpace::Primaries::SRgb, 2.2F));
     EXPECT_EQ(Decode(Encoded(image, "png")).Get(0, 0), Rgb(55, 55, 55));
 }
@@ -276,6 +282,20 @@ TEST_F(PhotoReaderTest, RefusesPhotosThatAreCutShort) {
     for (const std::size_t length : {12U, 30U, 40U}) {
         EXPECT_THAT(Refusal(TwoFrameGif().substr(0, length)), HasSubstr("cut short")) << length;
     }
+}
+
+TEST_F(PhotoReaderTest, RefusesAJpegThatIsDamagedInItsMiddle) {
+    std::string jpeg = Encoded(Quadrants("RGBW", 320, 240), "jpeg");
+    std::fill_n(jpeg.begin() + static_cast<std::ptrdiff_t>(jpeg.size() / 2), 300, '\0');
+    EXPECT_THAT(Refusal(jpeg), HasSubstr("is damaged"));
+}
+
+TEST_F(PhotoReaderTest, ReadsBitmapsStoredFromTheTop) {
+    std::string bitmap = Encoded(Quadrants("RGBW", 16, 8), "bmp");
+    bitmap.replace(22, 4, Number(static_cast<std::uint32_t>(-8), 4, false));
+    const auto file = files_.Write("down.bmp", bitmap);
+    EXPECT_EQ(reader_.Size(file), (BitmapSize{16, 8}));
+    EXPECT_EQ(QuadrantsOf(reader_.Decode(file, {})), "BWRG");
 }
 
 TEST_F(PhotoReaderTest, AcceptsWhatTelephonesPutBehindThePicture) {

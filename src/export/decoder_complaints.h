@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+namespace vendrel {
+
+/// Listens, while it lives, to what decoders say of a picture. A JPEG that is damaged in its middle
+/// is decoded all the same, with nonsense from there on; the decoder only remarks on it.
+class DecoderComplaints {
+  public:
+    DecoderComplaints();
+    ~DecoderComplaints();
+    DecoderComplaints(const DecoderComplaints&) = delete;
+    DecoderComplaints& operator=(const DecoderComplaints&) = delete;
+
+    /// Whether one of them spoils the picture.
+    [[nodiscard]] bool Damaged() const;
+
+  private:
+    QtMessageHandler before_;
+};
+
+}  // namespace vendrel
