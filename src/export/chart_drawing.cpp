@@ -57,6 +57,15 @@ void DrawColumnHeads(QPainter& painter) {
     DrawElided(painter, CellOf(kShare, top, kHeadingHeight), Qt::AlignRight, "Share");
 }
 
+// A little smaller rather than cut short: the code at the end is what a painter orders by.
+QFont FittingFont(const QPainter& painter, double width, int size, const QString& text) {
+    constexpr double kSmallest = 0.7;
+    const double needed =
+        QFontMetricsF(TextFont(size), painter.device()).horizontalAdvance(text) / width;
+    return TextFont(needed <= 1 ? size
+                                : static_cast<int>(size * std::max(kSmallest, 0.99 / needed)));
+}
+
 void DrawRow(QPainter& painter, const ColorChart& chart, const ChartRow& row, double top,
              double height) {
     const double pad = height * 0.08;
@@ -68,8 +77,11 @@ void DrawRow(QPainter& painter, const ColorChart& chart, const ChartRow& row, do
     painter.setBrush(Qt::NoBrush);
     painter.setPen(Qt::black);
     chart.DrawSymbol(painter, row.Paint, CellOf(kSymbol, top, height).adjusted(0, pad, 0, -pad));
-    painter.setFont(TextFont(static_cast<int>(std::min(height * 0.62, 46.0))));
-    DrawElided(painter, CellOf(kPaint, top, height), Qt::AlignLeft, ToQt(row.Label));
+    const int size = static_cast<int>(std::min(height * 0.62, 46.0));
+    const QRectF label = CellOf(kPaint, top, height);
+    painter.setFont(FittingFont(painter, label.width(), size, ToQt(row.Label)));
+    DrawElided(painter, label, Qt::AlignLeft, ToQt(row.Label));
+    painter.setFont(TextFont(size));
     DrawElided(painter, CellOf(kStipples, top, height), Qt::AlignRight,
                QString::number(row.Stipples));
     DrawElided(painter, CellOf(kShare, top, height), Qt::AlignRight,

@@ -90,13 +90,15 @@ void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) 
 const char* const kSteps[] = {
     "Print all pages at their actual size (100 %), never fitted to the paper.",
     "Measure the ruler below: it must be exactly 5 cm long.",
-    "Where a page has crop marks, cut off its left and its top margin along them. The strips "
-    "beyond "
-    "the dashed blue lines on the right and below stay on: the next pages are glued over them.",
+    "Where a page has crop marks, cut off the left margin, the top margin or both along them. The "
+    "strips beyond the dashed blue lines on the right and below stay on: the next pages are glued "
+    "over them.",
     "Lay the cut edge of the next page on the dashed line, so that the halves of the round marks "
     "meet, and glue page to page, row by row, as the map shows.",
-    "Glue the plan onto the canvas or board, or trace it, and fill every outline with the paint of "
-    "its symbol. Small letters are underlined, so that c and C stay apart.",
+    "Cut off the outer margins, glue the plan onto the canvas or board, or trace it, and fill "
+    "every "
+    "outline with the paint of its symbol. Small letters are underlined, so that c and C stay "
+    "apart.",
     "Keep the color chart at hand: the lists of paints on the pages vanish under their neighbors.",
 };
 
@@ -151,7 +153,7 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
 void DrawChartPage(QPainter& painter, const KitPages& kit) {
     ColorChart chart = MakeColorChart(kit.Place);
     chart.DrawSymbol = [&kit](QPainter& on, int paint, const QRectF& box) {
-        kit.Symbols.DrawInLine(on, paint, box.center(), std::min(box.height() * 0.6, 34.0));
+        kit.Symbols.DrawInLine(on, paint, box.center(), std::min(box.height() * 0.54, 34.0));
     };
     const double scale =
         std::min(Mm(kit.FrontPaper.Width) / kChartWidth, Mm(kit.FrontPaper.Height) / kChartHeight);

@@ -179,6 +179,12 @@ void PlanPage::DrawLegend() {
     const int rows = (static_cast<int>(paints.size()) + columns - 1) / columns;
     const double width = (sheet_.Width - 2 * Design::kMargin) / columns;
     const double top = sheet_.Height - Design::kMargin - rows * Design::kLegendRow;
+    // The heading goes with the top margin where that is cut off.
+    painter_.setPen(Qt::black);
+    painter_.setFont(TextFont(FontMm(3), Weight::Bold));
+    DrawLineOfText(painter_,
+                   MmRect(Design::kMargin, top - 4.2, sheet_.Width - 2 * Design::kMargin, 4),
+                   Qt::AlignRight, ToQt("Page " + tile_.Name()));
     for (std::size_t i = 0; i < paints.size(); ++i) {
         const int column = static_cast<int>(i) / rows;
         const int row = static_cast<int>(i) % rows;
