@@ -17,8 +17,10 @@ namespace {
 constexpr double kFill = 0.9;
 // A second symbol in a region is welcome when it can be read about as well as the first.
 constexpr double kAsGood = 0.7;
-// Symbols of one region stand this many of their heights apart at least.
+// Symbols that repeat on a page stand this many of their heights apart at least.
 constexpr double kApart = 2;
+// Where a piece's best place is taken others are looked for this often, in legible symbols.
+constexpr double kStepElsewhere = 4;
 
 class Placement {
   public:
@@ -44,10 +46,12 @@ class Placement {
         }
     }
 
-    // Every piece that a page shows of a region has a symbol of its own, if one can be read there,
-    // and not so close to one across the cut that the two run into one another.
+    // Every piece that a page shows of a region has a symbol of its own, if one can be read there:
+    // a page is traced or painted before its neighbor with the symbol across the cut lies beside
+    // it. So has what hangs together by necks alone that look closed in print.
     void PlaceOnPages() {
-        const RegionPieces cut = CutIntoPieces(regions_.Ids, {rules_.PageColumns, rules_.PageRows});
+        const RegionPieces cut =
+            ParedAtNecks(CutIntoPieces(regions_.Ids, {rules_.PageColumns, rules_.PageRows}));
         const std::vector<PlanLabel> labels = LabelsOf(cut);
         KeepOffTheCuts(labels);
         std::vector<bool> has(labels.size());
@@ -55,7 +59,7 @@ class Placement {
             has[PieceUnder(cut, ofRegion.front())] = true;
         }
         OfferToPieces(cut, labels, has);
-        OfferToPieces(cut, PlacesElsewhere(), has);
+        OfferToPieces(cut, LabelsOf(CutWithLattice(kStepElsewhere * rules_.LegibleHeight)), has);
     }
 
     void OfferToPieces(const RegionPieces& cut, const std::vector<PlanLabel>& offers,
@@ -66,29 +70,23 @@ class Placement {
             const std::size_t piece = PieceUnder(cut, label);
             if (!has[piece] && label.Height >= smallest &&
                 std::ranges::none_of(
-                    others, [&label](const PlanLabel& other) { return IsClose(label, other); })) {
+                    others, [&](const PlanLabel& other) { return Overlap(label, other); })) {
                 others.push_back(label);
                 has[piece] = true;
             }
         }
     }
 
-    // The roomiest places of smaller pieces, for those whose own best place is taken: the tallest
-    // symbols first.
-    [[nodiscard]] std::vector<PlanLabel> PlacesElsewhere() const {
-        constexpr double kStep = 4;  // symbols
-        const double step = std::max(1.0, kStep * rules_.LegibleHeight);
-        const auto both = [](std::vector<int> cuts, const std::vector<int>& lattice) {
+    // What pages and a lattice leave of the regions.
+    [[nodiscard]] RegionPieces CutWithLattice(double step) const {
+        const auto both = [step](std::vector<int> cuts, int last) {
+            const std::vector<int> lattice = Lattice(std::max(1.0, step), last);
             cuts.insert(cuts.end(), lattice.begin(), lattice.end());
             std::ranges::sort(cuts);
             return cuts;
         };
-        const std::vector<int> columns =
-            both(rules_.PageColumns, Lattice(step, regions_.Ids.Across()));
-        const std::vector<int> rows = both(rules_.PageRows, Lattice(step, regions_.Ids.Down()));
-        std::vector<PlanLabel> places = LabelsOf(CutIntoPieces(regions_.Ids, {columns, rows}));
-        std::ranges::stable_sort(places, std::greater<>(), &PlanLabel::Height);
-        return places;
+        return CutIntoPieces(regions_.Ids, {both(rules_.PageColumns, regions_.Ids.Across()),
+                                            both(rules_.PageRows, regions_.Ids.Down())});
     }
 
     // A symbol on a cut would be trimmed in half; one a little smaller beside it is better.
@@ -105,13 +103,11 @@ class Placement {
         if (rules_.LatticeStep < 1) {
             return;
         }
-        const std::vector<int> columns = Lattice(rules_.LatticeStep, regions_.Ids.Across());
-        const std::vector<int> rows = Lattice(rules_.LatticeStep, regions_.Ids.Down());
-        for (const PlanLabel& label : LabelsOf(CutIntoPieces(regions_.Ids, {columns, rows}))) {
+        for (const PlanLabel& label : LabelsOf(CutWithLattice(rules_.LatticeStep))) {
             std::vector<PlanLabel>& others = OthersOf(label);
-            if (label.Height >= others.front().Height * kAsGood && !IsOnCut(label) &&
+            if (label.Height >= others.front().Height * kAsGood &&
                 std::ranges::none_of(others, [&](const PlanLabel& other) {
-                    return Distance(label, other) < rules_.LatticeStep / 2 || IsClose(label, other);
+                    return IsOnPageOf(label, other) ? IsClose(label, other) : Overlap(label, other);
                 })) {
                 others.push_back(label);
             }
@@ -125,14 +121,16 @@ class Placement {
         return cuts;
     }
 
-    // The roomiest place of every piece.
+    // The roomiest place of every piece, the roomiest of all first.
     [[nodiscard]] std::vector<PlanLabel> LabelsOf(const RegionPieces& cut) const {
         const auto regionOf = [&cut](int piece) {
             return cut.RegionOf[static_cast<std::size_t>(piece)];
         };
         const auto aspectOf = [&](int piece) { return AspectOf(regionOf(piece)); };
+        std::vector<InscribedBox> boxes = FindRoomiestBoxes(cut.Pieces, aspectOf);
+        std::ranges::stable_sort(boxes, std::greater<>(), &InscribedBox::Height);
         std::vector<PlanLabel> labels;
-        for (const InscribedBox& box : FindRoomiestBoxes(cut.Pieces, aspectOf)) {
+        for (const InscribedBox& box : boxes) {
             labels.push_back(LabelIn(box, regionOf(box.Region)));
         }
         return labels;
@@ -142,11 +140,23 @@ class Placement {
         return static_cast<std::size_t>(
             cut.Pieces.Ids(static_cast<int>(label.Centre.X), static_cast<int>(label.Centre.Y)));
     }
-    static double Distance(const PlanLabel& one, const PlanLabel& other) {
-        return std::hypot(one.Centre.X - other.Centre.X, one.Centre.Y - other.Centre.Y);
+    [[nodiscard]] bool IsClose(const PlanLabel& one, const PlanLabel& other) const {
+        const double apart =
+            std::hypot(one.Centre.X - other.Centre.X, one.Centre.Y - other.Centre.Y);
+        return apart <
+               std::max(rules_.LatticeStep / 2, kApart * std::max(one.Height, other.Height));
     }
-    static bool IsClose(const PlanLabel& one, const PlanLabel& other) {
-        return Distance(one, other) < kApart * std::max(one.Height, other.Height);
+    [[nodiscard]] bool Overlap(const PlanLabel& one, const PlanLabel& other) const {
+        const double heights = (one.Height + other.Height) / 2;
+        return std::abs(one.Centre.X - other.Centre.X) < heights * AspectOf(one.Region) &&
+               std::abs(one.Centre.Y - other.Centre.Y) < heights;
+    }
+    [[nodiscard]] bool IsOnPageOf(const PlanLabel& one, const PlanLabel& other) const {
+        const auto between = [](const std::vector<int>& cuts, double a, double b) {
+            return std::ranges::any_of(cuts, [a, b](int cut) { return (a < cut) != (b < cut); });
+        };
+        return !between(rules_.PageColumns, one.Centre.X, other.Centre.X) &&
+               !between(rules_.PageRows, one.Centre.Y, other.Centre.Y);
     }
     [[nodiscard]] bool IsOnCut(const PlanLabel& label) const {
         const auto meets = [](const std::vector<int>& cuts, double middle, double reach) {

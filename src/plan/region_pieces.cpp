@@ -17,6 +17,17 @@ std::vector<int> SideOfEach(std::span<const int> cuts, int count) {
     return sides;
 }
 
+// Whether a pixel belongs to a square of four of its piece.
+bool IsBroad(const PixelGrid& ids, int x, int y) {
+    const auto isSame = [&](int i, int j) { return ids.Holds(i, j) && ids(i, j) == ids(x, y); };
+    const bool left = isSame(x - 1, y);
+    const bool right = isSame(x + 1, y);
+    const bool above = isSame(x, y - 1);
+    const bool below = isSame(x, y + 1);
+    return (above && left && isSame(x - 1, y - 1)) || (above && right && isSame(x + 1, y - 1)) ||
+           (below && left && isSame(x - 1, y + 1)) || (below && right && isSame(x + 1, y + 1));
+}
+
 }  // namespace
 
 RegionPieces CutIntoPieces(const PixelGrid& ids, const PixelCuts& cuts) {
@@ -37,6 +48,22 @@ RegionPieces CutIntoPieces(const PixelGrid& ids, const PixelCuts& cuts) {
         cut.RegionOf.push_back(piece.Paint / parts);
     }
     return cut;
+}
+
+RegionPieces ParedAtNecks(const RegionPieces& whole) {
+    const PixelGrid& ids = whole.Pieces.Ids;
+    PixelGrid keys(ids.Across(), ids.Down());
+    for (int y = 0; y <= ids.Down(); ++y) {
+        for (int x = 0; x <= ids.Across(); ++x) {
+            keys(x, y) = ids(x, y) * 2 + (IsBroad(ids, x, y) ? 1 : 0);
+        }
+    }
+    RegionPieces pared;
+    pared.Pieces = FindRegions(std::move(keys), 1);
+    for (const Region& piece : pared.Pieces.List) {
+        pared.RegionOf.push_back(whole.RegionOf[static_cast<std::size_t>(piece.Paint / 2)]);
+    }
+    return pared;
 }
 
 }  // namespace vendrel

@@ -22,4 +22,7 @@ struct RegionPieces {
 
 [[nodiscard]] RegionPieces CutIntoPieces(const PixelGrid& ids, const PixelCuts& cuts);
 
+/// The same with necks of a single pixel's width as pieces of their own.
+[[nodiscard]] RegionPieces ParedAtNecks(const RegionPieces& whole);
+
 }  // namespace vendrel

@@ -231,6 +231,30 @@ TEST(Labels, StandInEveryPieceOfAPageAndBesideItsCuts) {
                                                     std::pair(true, false)));
 }
 
+TEST(Labels, StandOnBothSidesOfANarrowNeckAndOfACutHoweverNear) {
+    const PaintedRegions regions = FindRegions(Pixels({"22222222222",  //
+                                                       "21111211112",  //
+                                                       "21111211112",  //
+                                                       "21111111112",  //
+                                                       "21111211112",  //
+                                                       "22222222222"}),
+                                               1);
+    LabelRules rules = Rules(4, 0);
+    rules.LegibleHeight = 2;
+    const auto halvesOfPaint1 = [&] {
+        std::set<bool> halves;
+        for (const PlanLabel& label : PlaceLabels(regions, rules)) {
+            if (regions.List[static_cast<std::size_t>(label.Region)].Paint == 1) {
+                halves.insert(label.Centre.X > 5.5);
+            }
+        }
+        return halves;
+    };
+    EXPECT_EQ(halvesOfPaint1().size(), 2U);
+    rules.PageColumns = {6};
+    EXPECT_EQ(halvesOfPaint1().size(), 2U);
+}
+
 TEST(RoundMarks, StandWhereTheyCoverNoSymbol) {
     const CutLine cut{{50, 0}, {50, 100}};
     EXPECT_THAT(PlaceMarks(cut, 2, {}), ElementsAre(PlanPoint{50, 20}, PlanPoint{50, 80}));
