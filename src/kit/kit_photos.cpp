@@ -26,7 +26,7 @@ std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
         Claim(photo, PictureNameOf(photo));
     }
     const std::string taken = decode ? Decode(place, photo) : TakeIntoPictures(place.Folder, photo);
-    const std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
+    std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
     // Decoded photos and crops are numbered where their name is taken: it is known only now.
     if (decode || picture != taken) {
         Claim(photo, PictureNameOf(picture));

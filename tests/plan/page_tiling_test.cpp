@@ -27,7 +27,8 @@ void ExpectExactCover(const PagePlan& plan) {
               static_cast<std::size_t>(plan.Across) * static_cast<std::size_t>(plan.Down));
     for (const PageTile& tile : plan.Tiles) {
         const auto at = [&plan](int column, int row) -> const PlanRect& {
-            return plan.Tiles[static_cast<std::size_t>(row * plan.Across + column)].Own;
+            const int place = row * plan.Across + column;
+            return plan.Tiles[static_cast<std::size_t>(place)].Own;
         };
         const bool last = tile.Column + 1 == plan.Across;
         const bool lowest = tile.Row + 1 == plan.Down;
