@@ -84,7 +84,7 @@ void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) 
     painter.setFont(TextFont(FontMm(3.5)));
     painter.setPen(kFaint);
     painter.drawText(QRectF(picture.left(), picture.bottom() + Mm(1), picture.width(), Mm(6)),
-                     Qt::AlignLeft | Qt::AlignVCenter, text);
+                     Qt::AlignHCenter | Qt::AlignVCenter, text);
 }
 
 const char* const kSteps[] = {
@@ -99,7 +99,8 @@ const char* const kSteps[] = {
     "every "
     "outline with the paint of its symbol. Small letters are underlined, so that c and C stay "
     "apart.",
-    "Keep the color chart at hand: the lists of paints on the pages vanish under their neighbors.",
+    "Keep the color chart at hand: it has the paints' codes, and the lists on the pages vanish "
+    "under their neighbors.",
 };
 
 // Answers where the text ends.

@@ -25,15 +25,14 @@ class PlanPage {
   public:
     PlanPage(QPainter& painter, const KitPages& kit, const PageTile& tile)
         : painter_(painter), kit_(kit), tile_(tile), sheet_(kit.Plan.Pages.Paper.Sheet) {
-        const double shown = tile.Shown.Right - tile.Shown.Left;
-        offset_ = {(sheet_.Width - shown) / 2 - tile.Shown.Left,
+        offset_ = {Design::kLeft - tile.Shown.Left,
                    Design::kMargin + Design::kHeading + Design::kMarks - tile.Shown.Top};
     }
 
     void Draw() {
         DrawHeading();
-        DrawCuts();
         DrawOutlines();
+        DrawCuts();
         DrawSymbols();
         DrawCropMarks();
         DrawLegend();
@@ -78,17 +77,18 @@ QString PlanPage::PageCount() const {
 
 void PlanPage::DrawHeading() {
     const double top = Design::kMargin;
-    const double left = Design::kMargin;
+    const double left = Design::kLeft;
+    const double right = sheet_.Width - Design::kMargin;
     painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(4.4), Weight::Bold));
-    const double room = sheet_.Width - 2 * left - 60 - 30;
+    const double room = right - left - 60 - 30;
     DrawLineOfText(painter_, MmRect(left, top, room, 6), Qt::AlignLeft,
                    ToQt("Page " + tile_.Name()) + PageCount());
     painter_.setFont(TextFont(FontMm(3)));
     DrawLineOfText(painter_, MmRect(left, top + 6, room, 5), Qt::AlignLeft, ToQt(kit_.Title()));
-    DrawRuler(painter_, {Mm(sheet_.Width - left - 30 - 58), Mm(top + 5)});
-    (void)DrawPageMap(painter_, kit_.Plan.Pages,
-                      MmRect(sheet_.Width - left - 26, top, 26, Design::kHeading - 1), &tile_);
+    DrawRuler(painter_, {Mm(right - 30 - 58), Mm(top + 5)});
+    (void)DrawPageMap(painter_, kit_.Plan.Pages, MmRect(right - 26, top, 26, Design::kHeading - 1),
+                      &tile_);
 }
 
 void PlanPage::DrawOutlines() {
@@ -120,7 +120,7 @@ void PlanPage::DrawSymbols() {
     }
 }
 
-// Below the symbols, which must stay legible.
+// Below the symbols, which must stay legible, but over the outlines, which run along the cuts.
 void PlanPage::DrawCuts() {
     const PlanRect& own = tile_.Own;
     if (tile_.Column > 0) {
@@ -141,12 +141,13 @@ void PlanPage::DrawCuts() {
 void PlanPage::DrawCut(const CutLine& cut) {
     constexpr double kCircle = 1.5;
     constexpr double kCross = 2.2;
-    QPen dashes(kCutInk, Mm(0.12));
-    dashes.setDashPattern({12, 12});
+    constexpr double kAir = 0.3;
+    QPen dashes(kCutInk, Mm(0.2));
+    dashes.setDashPattern({8, 8});
     painter_.setPen(dashes);
     painter_.drawLine(QLineF(At(cut.From.X, cut.From.Y), At(cut.To.X, cut.To.Y)));
     painter_.setPen(QPen(kCutInk, Mm(0.15)));
-    for (const PlanPoint& mark : PlaceMarks(cut, kCross, kit_.SymbolBoxes)) {
+    for (const PlanPoint& mark : PlaceMarks(cut, kCross + kAir, kit_.SymbolBoxes)) {
         const QPointF at = At(mark.X, mark.Y);
         painter_.drawEllipse(at, Mm(kCircle), Mm(kCircle));
         painter_.drawLine(QLineF(at - QPointF(Mm(kCross), 0), at + QPointF(Mm(kCross), 0)));
@@ -177,24 +178,23 @@ void PlanPage::DrawLegend() {
     const std::vector<int> paints = PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own));
     const int columns = Design::LegendColumns(sheet_.Width);
     const int rows = (static_cast<int>(paints.size()) + columns - 1) / columns;
-    const double width = (sheet_.Width - 2 * Design::kMargin) / columns;
+    const double width = Design::ListWidth(sheet_.Width) / columns;
     const double top = sheet_.Height - Design::kMargin - rows * Design::kLegendRow;
     // The heading goes with the top margin where that is cut off.
     painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(3), Weight::Bold));
-    DrawLineOfText(painter_,
-                   MmRect(Design::kMargin, top - 4.2, sheet_.Width - 2 * Design::kMargin, 4),
+    DrawLineOfText(painter_, MmRect(Design::kLeft, top - 4.2, Design::ListWidth(sheet_.Width), 4),
                    Qt::AlignRight, ToQt("Page " + tile_.Name()));
     for (std::size_t i = 0; i < paints.size(); ++i) {
         const int column = static_cast<int>(i) / rows;
         const int row = static_cast<int>(i) % rows;
-        DrawLegendEntry(paints[i],
-                        MmRect(Design::kMargin + column * width, top + row * Design::kLegendRow,
-                               width, Design::kLegendRow));
+        DrawLegendEntry(
+            paints[i], MmRect(Design::kLeft + column * width, top + row * Design::kLegendRow, width,
+                              Design::kLegendRow));
     }
 }
 
-// The code of a long name is left out: the chart has it, and half a code helps nobody.
+// Names alone: the chart has the codes, and beside long names there is no room for them.
 void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
     const PaintColor& color = kit_.Place.State.PaintColors[static_cast<std::size_t>(paint)];
     const QPointF corner = box.topLeft();
@@ -206,9 +206,7 @@ void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
     kit_.Symbols.DrawInLine(painter_, paint, corner + QPointF(Mm(8.3), box.height() / 2), Mm(2));
     painter_.setFont(TextFont(FontMm(2.6)));
     const QRectF text = box.adjusted(Mm(11), 0, -Mm(1.5), 0);
-    const QString name = ToQt(color.PaintName);
-    const QString full = name + ToQt(" [" + color.PaintCode + "]");
-    DrawLineOfText(painter_, text, Qt::AlignLeft, Fits(painter_, text, full) ? full : name);
+    DrawLineOfText(painter_, text, Qt::AlignLeft, ToQt(color.PaintName));
 }
 
 }  // namespace

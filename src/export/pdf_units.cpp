@@ -4,10 +4,6 @@
 
 namespace vendrel {
 
-bool Fits(const QPainter& painter, const QRectF& box, const QString& text) {
-    return QFontMetricsF(painter.font(), painter.device()).horizontalAdvance(text) <= box.width();
-}
-
 void DrawLineOfText(QPainter& painter, const QRectF& box, int flags, const QString& text) {
     const QFontMetricsF metrics(painter.font(), painter.device());
     painter.drawText(box, flags | Qt::AlignVCenter | Qt::TextSingleLine,

@@ -22,9 +22,6 @@ inline constexpr int kPdfResolution = 2540;  // units to the inch
     return static_cast<int>(Mm(millimetres));
 }
 
-/// Whether one line of text in the painter's font needs no cutting for a box.
-[[nodiscard]] bool Fits(const QPainter& painter, const QRectF& box, const QString& text);
-
 /// One line of text in a box, cut short to fit, in the painter's font.
 void DrawLineOfText(QPainter& painter, const QRectF& box, int flags, const QString& text);
 

@@ -110,8 +110,12 @@ CutPixels CutsInPixels(const PrintPlan& plan) {
 
 }  // namespace
 
+double PlanPageDesign::ListWidth(double paperWidth) {
+    return paperWidth - kLeft - kMargin;
+}
+
 int PlanPageDesign::LegendColumns(double paperWidth) {
-    return static_cast<int>((paperWidth - 2 * kMargin) / kLegendColumn);
+    return static_cast<int>(ListWidth(paperWidth) / kLegendColumn);
 }
 
 double PlanPageDesign::LegendHeight(double paperWidth, int paints) {

@@ -30,9 +30,12 @@ struct PlanPageDesign {
     static constexpr double kMargin = 7;  // what printers cannot reach
     static constexpr double kHeading = 14;
     static constexpr double kMarks = 5;  // crop marks around the picture
+    // The picture, the heading and the list begin where the left margin is cut off.
+    static constexpr double kLeft = kMargin + kMarks;
     static constexpr double kLegendColumn = 46;
     static constexpr double kLegendRow = 4.3;
 
+    [[nodiscard]] static double ListWidth(double paperWidth);
     [[nodiscard]] static int LegendColumns(double paperWidth);
     [[nodiscard]] static double LegendHeight(double paperWidth, int paints);
 };
