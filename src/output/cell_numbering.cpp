@@ -35,35 +35,17 @@ class SheetSink : public NumberSink {
     const WorkState& state_;
 };
 
-// What the walk must know of a pixel, in one byte, for it looks at every pixel five times: its
-// paint, whether an area has claimed it and whether it waits in the queue.
-enum class WalkPixel : std::uint8_t {};
-constexpr unsigned kQueued = 0x80;
-constexpr unsigned kMarked = 0x40;
-constexpr unsigned kPaintMask = 0x3F;
-constexpr int kForeign = 0x3F;  // stands for every index beyond the palette
+constexpr int kForeign = 127;  // stands for every index beyond the palette
 static_assert(kSymbolCount < kForeign);
-
-constexpr int PaintOf(WalkPixel pixel) {
-    return static_cast<int>(static_cast<unsigned>(pixel) & kPaintMask);
-}
-constexpr bool Has(WalkPixel pixel, unsigned flags) {
-    return (static_cast<unsigned>(pixel) & flags) != 0;
-}
-constexpr WalkPixel With(WalkPixel pixel, unsigned flags) {
-    return static_cast<WalkPixel>(static_cast<unsigned>(pixel) | flags);
-}
-constexpr WalkPixel Without(WalkPixel pixel, unsigned flags) {
-    return static_cast<WalkPixel>(static_cast<unsigned>(pixel) & ~flags);
-}
 
 class Numbering {
   public:
-    Numbering(const Workplace& place, Surface& picture, NumberSink& sink)
+    /// A null picture is not recoloured, a null sink not drawn on.
+    Numbering(const Workplace& place, Surface* picture, NumberSink* sink)
         : place_(place),
           state_(place.State),
           picture_(picture),
-          sink_(&picture == &place.Frames.WorkFrame.Picture ? &sink : nullptr),
+          sink_(sink),
           finder_(place.State, place.Screen.Screen().Twips),
           period_(SymbolPeriod(place.State.StippleSize)) {}
 
@@ -76,8 +58,9 @@ class Numbering {
     void MarkOneNumber(CellPos seed);
     void AddSeedNeighbours(CellPos seed);
     void AddNeighbours(int x, int y);
-    void AddToNumberCells(bool inside, int x, int y, WalkPixel& pixel);
+    void AddToNumberCells(int x, int y, NumberMark& mark);
     void Claim(int x, int y);
+    void Recolour(int x, int y, Color color);
     void Stamp(CellPos at);
     void DrawBorder(int x, int y);
     [[nodiscard]] int CountBorderDots() const;
@@ -85,11 +68,10 @@ class Numbering {
 
     const Workplace& place_;
     WorkState& state_;
-    Surface& picture_;
-    NumberSink* sink_;  // null when only the picture is recoloured
+    Surface* picture_;
+    NumberSink* sink_;
     StippleFinder finder_;
     int period_;
-    Grid<WalkPixel> pixels_;
     PositionRing queue_;                       // flag: the pixel is the area's own
     std::vector<std::vector<CellPos>> seeds_;  // per paint, in row-major order
     NumberingCounts counts_;
@@ -110,7 +92,6 @@ void Numbering::SizeGrids() {
     }
     state_.NumberGrid = Grid<NumberPixel>(state_.NumberWidth, state_.NumberHeight);
     state_.NumberMarks = Grid<NumberMark>(state_.NumberWidth, state_.NumberHeight);
-    pixels_ = Grid<WalkPixel>(state_.NumberWidth + 1, state_.NumberHeight + 1);
     seeds_.assign(static_cast<std::size_t>(state_.PaintCount) + 1, {});
     const TwipsPerPixel twips = place_.Screen.Screen().Twips;
     for (int y = 1; y <= state_.NumberHeight; ++y) {
@@ -124,14 +105,15 @@ void Numbering::SizeGrids() {
 void Numbering::FillRow(int y, TwipsPerPixel twips) {
     const std::span<const MapPixel> from = state_.PixelMap.Row(y);
     const std::span<NumberPixel> to = state_.NumberGrid.Row(y);
-    const std::span<WalkPixel> walk = pixels_.Row(y);
+    const std::span<NumberMark> marks = state_.NumberMarks.Row(y);
     int before = 0;
     for (int x = 1; x <= state_.NumberWidth; ++x) {
         const int paint = from[static_cast<std::size_t>(x)].ColorIndex;
         NumberPixel& pixel = to[static_cast<std::size_t>(x)];
         pixel.ColorIndex = static_cast<std::int16_t>(paint);
         const bool known = paint >= 0 && paint <= state_.PaintCount;
-        walk[static_cast<std::size_t>(x)] = static_cast<WalkPixel>(known ? paint : kForeign);
+        marks[static_cast<std::size_t>(x)].ColorIndex =
+            static_cast<std::uint8_t>(known ? paint : kForeign) & 0x7F;
         pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
         pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
         if ((paint != before || x == state_.NumberWidth) && paint > 0 && known) {
@@ -162,7 +144,7 @@ void Numbering::ReMarkCells(int paint) {
     paint_ = paint;
     color_ = ColorOf(state_.PaintColors[static_cast<std::size_t>(paint)]);
     for (const CellPos seed : seeds_[static_cast<std::size_t>(paint)]) {
-        if (!Has(pixels_(seed.X, seed.Y), kMarked)) {
+        if (!state_.NumberMarks(seed.X, seed.Y).Marked) {
             area_ = static_cast<std::int16_t>(state_.NextAreaNumber);
             Claim(seed.X, seed.Y);
             MarkOneNumber(seed);
@@ -194,10 +176,16 @@ void Numbering::MarkOneNumber(CellPos seed) {
 }
 
 void Numbering::Claim(int x, int y) {
-    WalkPixel& pixel = pixels_(x, y);
-    pixel = With(pixel, kMarked);
-    state_.NumberMarks(x, y) = {area_, true};
-    picture_.Set(x, y, color_);
+    NumberMark& mark = state_.NumberMarks(x, y);
+    mark.AreaNumber = area_;
+    mark.Marked = true;
+    Recolour(x, y, color_);
+}
+
+void Numbering::Recolour(int x, int y, Color color) {
+    if (picture_ != nullptr) {
+        picture_->Set(x, y, color);
+    }
 }
 
 // Unlike the walk's own steps a seed looks at its neighbours wherever they are, only not beyond
@@ -210,10 +198,10 @@ void Numbering::AddSeedNeighbours(CellPos seed) {
         if (at.X > state_.NumberWidth || at.Y > state_.NumberHeight) {
             continue;
         }
-        WalkPixel& pixel = pixels_(at.X, at.Y);
-        const bool own = PaintOf(pixel) == paint_;
-        if (!own || !Has(pixel, kMarked)) {
-            pixel = With(pixel, kQueued);
+        NumberMark& mark = state_.NumberMarks(at.X, at.Y);
+        const bool own = mark.ColorIndex == paint_;
+        if (!own || !mark.Marked) {
+            mark.Queued = true;
             queue_.PushIf(true, at.X, at.Y, own);
         }
     }
@@ -222,18 +210,26 @@ void Numbering::AddSeedNeighbours(CellPos seed) {
 // The last column and row are left out on purpose: no step to the right or down enters them.
 void Numbering::AddNeighbours(int x, int y) {
     queue_.Reserve(4);
-    WalkPixel* const pixel = &pixels_(x, y);
-    const std::ptrdiff_t row = pixels_.Stride();
-    AddToNumberCells(y - 1 > 0, x, y - 1, pixel[-row]);
-    AddToNumberCells(x + 1 < state_.NumberWidth, x + 1, y, pixel[1]);
-    AddToNumberCells(y + 1 < state_.NumberHeight, x, y + 1, pixel[row]);
-    AddToNumberCells(x - 1 >= 1, x - 1, y, pixel[-1]);
+    NumberMark* const mark = &state_.NumberMarks(x, y);
+    const std::ptrdiff_t row = state_.NumberMarks.Stride();
+    if (y - 1 > 0) {
+        AddToNumberCells(x, y - 1, mark[-row]);
+    }
+    if (x + 1 < state_.NumberWidth) {
+        AddToNumberCells(x + 1, y, mark[1]);
+    }
+    if (y + 1 < state_.NumberHeight) {
+        AddToNumberCells(x, y + 1, mark[row]);
+    }
+    if (x - 1 >= 1) {
+        AddToNumberCells(x - 1, y, mark[-1]);
+    }
 }
 
-void Numbering::AddToNumberCells(bool inside, int x, int y, WalkPixel& pixel) {
-    const bool wanted = inside & !Has(pixel, kMarked | kQueued);
-    pixel = With(pixel, wanted ? kQueued : 0);
-    queue_.PushIf(wanted, x, y, PaintOf(pixel) == paint_);
+void Numbering::AddToNumberCells(int x, int y, NumberMark& mark) {
+    const bool wanted = !mark.Marked & !mark.Queued;
+    mark.Queued = mark.Queued | wanted;
+    queue_.PushIf(wanted, x, y, mark.ColorIndex == paint_);
 }
 
 void Numbering::Stamp(CellPos at) {
@@ -247,11 +243,11 @@ void Numbering::Stamp(CellPos at) {
 }
 
 void Numbering::DrawBorder(int x, int y) {
-    pixels_(x, y) = Without(pixels_(x, y), kQueued);
+    state_.NumberMarks(x, y).Queued = false;
     if (sink_ != nullptr) {
         sink_->Dot({x, y});
     }
-    picture_.Set(x, y, state_.EdgeColor);
+    Recolour(x, y, state_.EdgeColor);
     NumberPixel& pixel = state_.NumberGrid(x, y);
     pixel.IsBorder = true;
     pixel.AreaNumber = area_;
@@ -294,7 +290,13 @@ NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture) {
 
 NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture, NumberSink& sink) {
     RequireSymbols(place.State);
-    return Numbering(place, picture, sink).Run();
+    const bool isWorkFrame = &picture == &place.Frames.WorkFrame.Picture;
+    return Numbering(place, &picture, isWorkFrame ? &sink : nullptr).Run();
+}
+
+NumberingCounts NumberUnseen(const Workplace& place, NumberSink& sink) {
+    RequireSymbols(place.State);
+    return Numbering(place, nullptr, &sink).Run();
 }
 
 }  // namespace vendrel

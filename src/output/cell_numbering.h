@@ -37,6 +37,9 @@ class NumberSink {
 NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture);
 NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture, NumberSink& sink);
 
+/// The same drawn into `sink` with the work area's picture left as it is.
+NumberingCounts NumberUnseen(const Workplace& place, NumberSink& sink);
+
 /// Throws Error when the palette holds more paints than there are symbols.
 void RequireSymbols(const WorkState& state);
 

@@ -79,10 +79,13 @@ struct NumberPixel {
     bool operator==(const NumberPixel&) const = default;
 };
 
-/// Visit mark of the numbering.
+/// Visit mark of the numbering, with all that its walk must know of a pixel in four bytes: it looks
+/// at every pixel five times, each time in another row.
 struct NumberMark {
     std::int16_t AreaNumber = 0;  // the area the pixel belongs to
     bool Marked = false;
+    bool Queued : 1 = false;          // waits in the queue, or did before it was marked
+    std::uint8_t ColorIndex : 7 = 0;  // the paint of the pixel; 127 for all beyond the palette
 
     bool operator==(const NumberMark&) const = default;
 };

@@ -65,6 +65,7 @@ TEST(Sheet, RefusedOneLeavesPictureAndFiles) {
     EXPECT_THROW(PrintAll_Click(kit.Place), Error);
     kit.State.PaintCount = 9;
     kit.State.SymbolGlyphs.clear();  // fails at the first stamp
+    kit.Screen.IsWatched = true;
     EXPECT_THROW(PrintAll_Click(kit.Place), Error);
     EXPECT_EQ(kit.Frames.WorkFrame.Picture, painting);
     EXPECT_FALSE(kit.Program.Exists("Results"));
@@ -105,6 +106,7 @@ TEST(Sheets, AreTheSameBytesInAnyOrderAndCompany) {
     const auto first = std::array{read("Painting"), read("PBS"), read("Symbol Reference")};
     EXPECT_TRUE(kit.State.SheetDC.Empty());
     std::filesystem::remove_all(kit.Files / "Results");
+    kit.Screen.IsWatched = true;  // and sees the numbering
     SaveReference_Click(kit.Place);
     EXPECT_FALSE(kit.Program.Exists("Results/Lady Easy PBS.BMP"));
     PrintAll_Click(kit.Place);
