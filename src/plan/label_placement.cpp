@@ -130,6 +130,7 @@ class Placement {
         std::vector<InscribedBox> boxes = FindRoomiestBoxes(cut.Pieces, aspectOf);
         std::ranges::stable_sort(boxes, std::greater<>(), &InscribedBox::Height);
         std::vector<PlanLabel> labels;
+        labels.reserve(boxes.size());
         for (const InscribedBox& box : boxes) {
             labels.push_back(LabelIn(box, regionOf(box.Region)));
         }
