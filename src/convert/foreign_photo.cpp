@@ -80,11 +80,12 @@ bool SameBytes(const fs::path& a, const fs::path& b) {
     return first && second && std::equal(Bytes(first), Bytes(), Bytes(second), Bytes());
 }
 
-// A picture written into the folder but without its name yet; gone unless it is named.
+// A picture written into the folder but without its name yet; gone unless it is named. Its stem
+// shows, as a full disk is reported under this name.
 class Arrival {
   public:
-    Arrival(const fs::path& pictures, const Surface& picture)
-        : file_(pictures / (".arriving-" + std::to_string(std::random_device()()))) {
+    Arrival(const fs::path& pictures, const std::string& stem, const Surface& picture)
+        : file_(pictures / (stem + ".arriving-" + std::to_string(std::random_device()()))) {
         WriteBitmap(file_, picture);
     }
     ~Arrival() {
@@ -141,7 +142,7 @@ std::string PictureStem(const fs::path& photo) {
 std::string KeepPicture(const ProgramFolder& folder, const std::string& stem,
                         const Surface& picture) {
     const fs::path pictures = folder.Path("Pictures");
-    const Arrival arrival(pictures, picture);
+    const Arrival arrival(pictures, stem, picture);
     const std::set<std::string> taken = NamesInUse(pictures);
     for (int number = 1;; ++number) {
         const std::string name = stem + (number == 1 ? "" : " " + std::to_string(number));
