@@ -5,7 +5,6 @@
 
 #include "convert/bitmap_reader.h"
 #include "convert/bitmap_writer.h"
-#include "convert/dib_section.h"
 #include "convert/photo_import.h"
 #include "convert/scaling.h"
 
@@ -77,19 +76,6 @@ void Write(benchmark::State& state) {
     CountPixels(state);
 }
 
-void WriteImage(benchmark::State& state) {
-    cDIBSection image;
-    if (!image.CreateFromPicture(
-            Photo(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))))) {
-        state.SkipWithError("no memory");
-    }
-    const PhotoFile file(1, 1);
-    for ([[maybe_unused]] const auto step : state) {
-        WriteBitmap(file.Path(), image);
-    }
-    CountPixels(state);
-}
-
 // The working size, a phone's photo, sixteen megapixels: time per pixel must not grow.
 void Sizes(benchmark::internal::Benchmark* sizes) {
     sizes->Args({960, 720})->Args({2048, 1536})->Args({4608, 3456})->Unit(benchmark::kMillisecond);
@@ -99,7 +85,6 @@ BENCHMARK(ReadAll)->Apply(Sizes);
 BENCHMARK(Import)->Apply(Sizes)->Args({320, 240});
 BENCHMARK(Scale)->Apply(Sizes)->Args({320, 240});
 BENCHMARK(Write)->Apply(Sizes);
-BENCHMARK(WriteImage)->Apply(Sizes)->Args({3840, 2880});
 
 }  // namespace
 }  // namespace vendrel

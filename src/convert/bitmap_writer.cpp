@@ -7,8 +7,8 @@
 #include <span>
 #include <vector>
 
+#include "convert/dib_section.h"
 #include "support/error.h"
-#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -50,46 +50,34 @@ void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
     }
 }
 
-[[noreturn]] void RefuseEmpty(const std::filesystem::path& file) {
-    throw FileError(file, "there is no picture to save yet. Load a photo first.");
-}
-
 }  // namespace
+
+BitmapStream::BitmapStream(const std::filesystem::path& file, int width, int height,
+                           int pixelsPerMetre)
+    : file_(file) {
+    const Header header = MakeHeader(MakeInfoHeader(width, height), pixelsPerMetre);
+    file_.Write(std::as_bytes(std::span(header)));
+}
 
 void WriteBitmap(const std::filesystem::path& file, const Surface& picture, int pixelsPerMetre) {
     if (picture.Empty()) {
-        RefuseEmpty(file);
+        throw FileError(file, "there is no picture to save yet. Load a photo first.");
     }
     const BitmapInfoHeader info = MakeInfoHeader(picture.Width(), picture.Height());
     const std::size_t rowBytes = info.SizeImage / static_cast<std::size_t>(picture.Height());
     const std::size_t rowsPerBlock = std::max<std::size_t>(1, kBlockBytes / rowBytes);
     std::vector<std::uint8_t> block(rowsPerBlock * rowBytes);
-    WholeFile whole(file);
-    const Header header = MakeHeader(info, pixelsPerMetre);
-    whole.Write(std::as_bytes(std::span(header)));
+    BitmapStream stream(file, picture.Width(), picture.Height(), pixelsPerMetre);
     std::size_t used = 0;
     for (int y = picture.Height() - 1; y >= 0; --y) {
         PackRow(picture.Row(y), block.data() + used);
         used += rowBytes;
         if (used == block.size() || y == 0) {
-            whole.Write(std::as_bytes(std::span(block).first(used)));
+            stream.Write(std::span(block).first(used));
             used = 0;
         }
     }
-    whole.Commit();
-}
-
-void WriteBitmap(const std::filesystem::path& file, const cDIBSection& picture,
-                 int pixelsPerMetre) {
-    if (picture.hDib() == nullptr) {
-        RefuseEmpty(file);
-    }
-    const BitmapInfoHeader& info = *picture.hDib();
-    WholeFile whole(file);
-    const Header header = MakeHeader(info, pixelsPerMetre);
-    whole.Write(std::as_bytes(std::span(header)));
-    whole.Write(std::as_bytes(std::span(picture.DIBSectionBitsPtr(), info.SizeImage)));
-    whole.Commit();
+    stream.Commit();
 }
 
 }  // namespace vendrel

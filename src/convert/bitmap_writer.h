@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <span>
 
-#include "convert/dib_section.h"
 #include "support/surface.h"
+#include "support/whole_file.h"
 
 namespace vendrel {
 
@@ -14,7 +16,19 @@ inline constexpr int kPixelsPerMetre = 5500;
 /// there whole or not at all. Throws FileError, OverflowError when the picture outgrows the format.
 void WriteBitmap(const std::filesystem::path& file, const Surface& picture,
                  int pixelsPerMetre = kPixelsPerMetre);
-void WriteBitmap(const std::filesystem::path& file, const cDIBSection& picture,
+
+/// The same file written in parts, for a picture not worth holding as a whole. Without Commit the
+/// file stays as it was.
+class BitmapStream {
+  public:
+    BitmapStream(const std::filesystem::path& file, int width, int height,
                  int pixelsPerMetre = kPixelsPerMetre);
+    /// The next rows, the lowest of the picture first, as a cDIBSection of its width holds them.
+    void Write(std::span<const std::uint8_t> rows) { file_.Write(std::as_bytes(rows)); }
+    void Commit() { file_.Commit(); }
+
+  private:
+    WholeFile file_;
+};
 
 }  // namespace vendrel

@@ -67,12 +67,12 @@ BitmapInfoHeader MakeInfoHeader(int width, int height) {
     return header;
 }
 
-bool cDIBSection::Create(int width, int height, std::uint8_t fill) {
+bool cDIBSection::Create(int width, int height) {
     ClearUp();
     if (!CreateDIB(width, height)) {
         return false;
     }
-    std::fill_n(bits_.get(), header_.SizeImage, fill);
+    Cls();
     return true;
 }
 

@@ -42,10 +42,9 @@ enum class ClipboardFormat { Bitmap, Dib };
 /// filled up to a multiple of four bytes, the lowest row first. Empty until created.
 class cDIBSection {
   public:
-    /// An image with every byte at `fill`, black, in place of the one held. False, and empty, when
-    /// a side is below 1 or memory is short; OverflowError when width x BytesPerScanLine outgrows
-    /// 31 bits.
-    [[nodiscard]] bool Create(int width, int height, std::uint8_t fill = 0);
+    /// A black image in place of the one held. False, and empty, when a side is below 1 or memory
+    /// is short; OverflowError when width x BytesPerScanLine outgrows 31 bits.
+    [[nodiscard]] bool Create(int width, int height);
     /// The same at the picture's size and with its pixels.
     [[nodiscard]] bool CreateFromPicture(const Surface& picture);
     /// Gives the image back; harmless on an empty object.

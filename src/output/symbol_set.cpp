@@ -94,13 +94,17 @@ void SetupBMPSymbols(const Workplace& place) {
     FillSymbolCodes(place.State);
 }
 
-void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, CellPos at) {
+const SymbolGlyph& GlyphOf(const WorkState& state, int symbol) {
     if (symbol < 0 || symbol > kSymbolCount ||
         static_cast<std::size_t>(symbol) >= state.SymbolGlyphs.size()) {
         throw Error("There is no symbol " + std::to_string(symbol) +
                     ": a sheet can show 50 paints. Reduce the final paints to 50 or fewer.");
     }
-    const SymbolGlyph& glyph = state.SymbolGlyphs[static_cast<std::size_t>(symbol)];
+    return state.SymbolGlyphs[static_cast<std::size_t>(symbol)];
+}
+
+void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, CellPos at) {
+    const SymbolGlyph& glyph = GlyphOf(state, symbol);
     for (std::size_t i = 1; i <= static_cast<std::size_t>(glyph.PointCount); ++i) {
         state.SheetDC.Set(OnSheet(cellSize, at.X, glyph.Points[i].X),
                           OnSheet(cellSize, at.Y, glyph.Points[i].Y), color);

@@ -21,6 +21,9 @@ static_assert(kSymbolCharacters.size() == kSymbolCount);
 /// Reads the glyphs of `Data/Symbols.txt` and fills SymbolCodes. Throws FileError and FormatError.
 void SetupBMPSymbols(const Workplace& place);
 
+/// The glyph of a symbol. Throws Error for a symbol outside 0..50 or while no glyphs are read.
+[[nodiscard]] const SymbolGlyph& GlyphOf(const WorkState& state, int symbol);
+
 /// Stamps a symbol's pixels onto SheetDC, its origin at sheet pixel (cellSize * column,
 /// cellSize * row); pixels outside are not drawn. Throws Error for a symbol outside 0..50 and
 /// OverflowError for a sheet position beyond 16 bits.

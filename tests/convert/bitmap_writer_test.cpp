@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "convert/bitmap_reader.h"
+#include "convert/dib_section.h"
 #include "support/error.h"
 #include "support/pictures.h"
 #include "support/temp_folder.h"
@@ -23,7 +24,10 @@ TEST(BitmapWriter, WritesTheBytesThatEveryProgramReads) {
 
     cDIBSection image;
     ASSERT_TRUE(image.CreateFromPicture(picture));
-    WriteBitmap(folder / "image.BMP", image);
+    BitmapStream stream(folder / "image.BMP", 1, 2);
+    stream.Write({image.DIBSectionBitsPtr(), 4});
+    stream.Write({image.DIBSectionBitsPtr() + 4, 4});
+    stream.Commit();
     EXPECT_EQ(folder.Read("image.BMP"), golden);
 }
 
@@ -40,7 +44,7 @@ TEST(BitmapWriter, RefusesNothingAndLeavesTheOldFile) {
     const test::TempFolder folder;
     const auto file = folder.Write("x.bmp", "old");
     EXPECT_THROW(WriteBitmap(file, Surface()), FileError);
-    EXPECT_THROW(WriteBitmap(file, cDIBSection()), FileError);
+    { const BitmapStream forgotten(file, 1, 1); }
     EXPECT_EQ(folder.Read("x.bmp"), "old");
 }
 

@@ -2,9 +2,13 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <random>
+
 #include "cleanup/easel.h"
 #include "cleanup/paint_pass.h"
 #include "convert/bitmap_reader.h"
+#include "convert/dib_section.h"
 #include "output/painting_writer.h"
 #include "output/symbol_set.h"
 #include "support/error.h"
@@ -52,6 +56,30 @@ TEST(Sheet, ShowsDotsAndSymbolsOnWhite) {
     // Symbol 2 stands in the middle stipple, around (13 - 2, 13 - 2) times 2.
     for (const GlyphPoint p : std::span(kit.State.SymbolGlyphs[2].Points).subspan(1)) {
         EXPECT_EQ(sheet.Get(22 + p.X, 22 + p.Y), Rgb(125, 125, 125)) << p.X << ' ' << p.Y;
+    }
+}
+
+// A sheet of several strips, against the walk drawing dot for dot and symbol for symbol.
+TEST(Sheet, IsWhatTheWalkDrawsInItsOrder) {
+    for (const int stippleSize : {8, 6, 4}) {
+        std::mt19937 random(static_cast<unsigned>(stippleSize));
+        std::vector<std::string> rows(400 / static_cast<unsigned>(stippleSize),
+                                      std::string(90, '1'));
+        for (std::string& row : rows) {
+            std::ranges::generate(row, [&random] { return "111223"[random() % 6]; });
+        }
+        test::Easel kit(stippleSize, rows);
+        SetupBMPSymbols(kit.Place);
+        PaintAllCells(kit.Place);
+        const Surface drawn = ReadBitmap(WriteSheet(kit.Place).File);
+
+        cDIBSection whole;
+        ASSERT_TRUE(whole.CreateFromPicture(Surface(drawn.Width(), drawn.Height(), kWhite)));
+        kit.State.SheetDC = whole.hdc();
+        SetupCellNumbers(kit.Place, kit.Frames.WorkFrame.Picture);
+        Surface expected(drawn.Width(), drawn.Height());
+        whole.PaintPicture(expected);
+        EXPECT_EQ(drawn, expected) << stippleSize;
     }
 }
 

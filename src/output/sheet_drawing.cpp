@@ -1,0 +1,152 @@
+#include "output/sheet_drawing.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "convert/bitmap_writer.h"
+#include "convert/dib_section.h"
+#include "output/symbol_set.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+constexpr int kStripBytes = 512 * 1024;  // fits the processor's second cache
+
+// Draws the picture rows of one strip, each SheetCellSize sheet rows high.
+class StripPainter {
+  public:
+    StripPainter(WorkState& state, const SheetRecord& record, const SheetColors& colors);
+    ~StripPainter() { state_.SheetDC = {}; }
+    StripPainter(const StripPainter&) = delete;
+    StripPainter& operator=(const StripPainter&) = delete;
+
+    /// Draws `strip`, whose uppermost picture row is `first`.
+    void Draw(cDIBSection& strip, int first);
+
+  private:
+    // Sheet rows that a symbol reaches, the last excluded.
+    struct Reach {
+        int Top = 0;
+        int Bottom = 0;
+    };
+
+    void LayGround(cDIBSection& strip, int first) const;
+    void DrawDots(int first, int rows) const;
+    void DrawSymbol(std::size_t index, int first) const;
+
+    WorkState& state_;
+    const SheetRecord& record_;
+    const SheetColors& colors_;
+    int scale_;
+    std::vector<Reach> reaches_;  // per recorded symbol
+};
+
+StripPainter::StripPainter(WorkState& state, const SheetRecord& record, const SheetColors& colors)
+    : state_(state), record_(record), colors_(colors), scale_(state.SheetCellSize) {
+    for (const SheetRecord::Symbol& symbol : record.Symbols()) {
+        Reach& reach = reaches_.emplace_back();
+        for (const GlyphPoint& point : std::span(GlyphOf(state, symbol.Paint).Points).subspan(1)) {
+            reach.Top = std::min(reach.Top, point.Y);
+            reach.Bottom = std::max(reach.Bottom, point.Y + 1);
+        }
+        reach.Top += scale_ * symbol.At.Y;
+        reach.Bottom += scale_ * symbol.At.Y;
+    }
+}
+
+void StripPainter::Draw(cDIBSection& strip, int first) {
+    LayGround(strip, first);
+    state_.SheetDC = strip.hdc();
+    DrawDots(first, strip.Height() / scale_);
+    const int top = scale_ * first;
+    for (std::size_t i = 0; i < reaches_.size(); ++i) {
+        if (reaches_[i].Bottom > top && reaches_[i].Top < top + strip.Height()) {
+            DrawSymbol(i, first);
+        }
+    }
+}
+
+void StripPainter::LayGround(cDIBSection& strip, int first) const {
+    std::uint8_t* to = strip.DIBSectionBitsPtr();
+    if (colors_.Ground == nullptr) {
+        std::fill_n(to, strip.hDib()->SizeImage, std::uint8_t{255});
+        return;
+    }
+    const auto rowBytes = static_cast<std::size_t>(strip.BytesPerScanLine());
+    for (int y = first + strip.Height() / scale_ - 1; y >= first; --y) {
+        std::uint8_t* const row = to;
+        for (const Color color : colors_.Ground->Row(y)) {
+            for (int i = 0; i < scale_; ++i) {
+                *to++ = static_cast<std::uint8_t>(BlueOf(color));
+                *to++ = static_cast<std::uint8_t>(GreenOf(color));
+                *to++ = static_cast<std::uint8_t>(RedOf(color));
+            }
+        }
+        to = row + rowBytes;
+        for (int i = 1; i < scale_; ++i, to += rowBytes) {
+            std::copy_n(row, rowBytes, to);
+        }
+    }
+}
+
+void StripPainter::DrawDots(int first, int rows) const {
+    for (int y = 0; y < rows; ++y) {
+        int x = 0;
+        for (const int dot : record_.Dots(first + y)) {
+            if (dot != 0) {
+                state_.SheetDC.Set(x, scale_ * y, state_.BorderColor);
+            }
+            x += scale_;
+        }
+    }
+}
+
+// All dots are there already, so those that came after the symbol are put back on top of it.
+void StripPainter::DrawSymbol(std::size_t index, int first) const {
+    const auto& [paint, at] = record_.Symbols()[index];
+    Number2CDIB(state_, paint, scale_, colors_.Inks[static_cast<std::size_t>(paint)],
+                {at.X, at.Y - first});
+    for (const GlyphPoint& point : std::span(GlyphOf(state_, paint).Points).subspan(1)) {
+        if (point.X % scale_ == 0 && point.Y % scale_ == 0) {
+            const CellPos pixel{at.X + point.X / scale_, at.Y + point.Y / scale_};
+            if (record_.DottedAfter(index, pixel)) {
+                state_.SheetDC.Set(scale_ * pixel.X, scale_ * (pixel.Y - first),
+                                   state_.BorderColor);
+            }
+        }
+    }
+}
+
+void CreateStrip(cDIBSection& strip, int width, int height) {
+    if (!strip.Create(width, height)) {
+        throw Error("There is not enough memory for a sheet " + std::to_string(width) +
+                    " pixels wide. Close other programs and try again.");
+    }
+}
+
+}  // namespace
+
+void WriteDrawing(const std::filesystem::path& file, WorkState& state, const SheetRecord& record,
+                  const SheetColors& colors) {
+    const int scale = state.SheetCellSize;
+    const int width = record.Width() * scale;
+    StripPainter painter(state, record, colors);
+    BitmapStream stream(file, width, record.Height() * scale);
+    const int rows = std::max(1, kStripBytes / (3 * width * scale));
+    cDIBSection strip;
+    for (int bottom = record.Height(); bottom > 0; bottom -= rows) {
+        const int first = std::max(0, bottom - rows);
+        if (strip.Height() != (bottom - first) * scale) {
+            CreateStrip(strip, width, (bottom - first) * scale);
+        }
+        painter.Draw(strip, first);
+        stream.Write({strip.DIBSectionBitsPtr(), strip.hDib()->SizeImage});
+    }
+    stream.Commit();
+}
+
+}  // namespace vendrel

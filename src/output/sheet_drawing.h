@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "output/sheet_record.h"
+#include "shell/work_state.h"
+#include "support/color.h"
+#include "support/surface.h"
+
+namespace vendrel {
+
+/// How a recorded numbering is put on paper.
+struct SheetColors {
+    const Surface* Ground = nullptr;  // every pixel of it becomes a square; null: white paper
+    std::vector<Color> Inks;          // of the symbols, per paint
+};
+
+/// Draws a recorded numbering at SheetCellSize sheet pixels per picture pixel and saves it as a
+/// bitmap. It is drawn and saved strip by strip, since a whole sheet can take 33 megabytes.
+/// Throws Error for a paint without symbol, FileError, OverflowError.
+void WriteDrawing(const std::filesystem::path& file, WorkState& state, const SheetRecord& record,
+                  const SheetColors& colors);
+
+}  // namespace vendrel

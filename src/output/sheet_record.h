@@ -1,0 +1,50 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "output/cell_numbering.h"
+#include "support/cell_pos.h"
+#include "support/grid.h"
+
+namespace vendrel {
+
+/// A numbering written down to be drawn later: the walk dots a border several times and at random,
+/// but paper is filled fastest once and row by row.
+class SheetRecord final : public NumberSink {
+  public:
+    struct Symbol {
+        int Paint = 0;
+        CellPos At;  // picture position
+    };
+
+    /// Of a picture of that many pixels.
+    SheetRecord(int width, int height) : dots_(width, height) {}
+
+    void Dot(CellPos at) override { dots_(at.X, at.Y) = now_; }
+    void Stamp(int paint, CellPos at) override {
+        symbols_.push_back({paint, at});
+        ++now_;
+    }
+
+    [[nodiscard]] int Width() const { return dots_.Across(); }
+    [[nodiscard]] int Height() const { return dots_.Down(); }
+    /// The symbols in the order in which they were stamped.
+    [[nodiscard]] std::span<const Symbol> Symbols() const { return symbols_; }
+    /// Per pixel of row y one more than the symbols stamped before its last dot; 0 where none is.
+    [[nodiscard]] std::span<const int> Dots(int y) const {
+        return dots_.Row(y).first(static_cast<std::size_t>(Width()));
+    }
+    /// Whether a pixel was dotted after the symbol of that index was stamped; false outside.
+    [[nodiscard]] bool DottedAfter(std::size_t symbol, CellPos at) const {
+        return at.X >= 0 && at.Y >= 0 && at.X < Width() && at.Y < Height() &&
+               dots_(at.X, at.Y) > static_cast<int>(symbol) + 1;
+    }
+
+  private:
+    Grid<int> dots_;
+    std::vector<Symbol> symbols_;
+    int now_ = 1;
+};
+
+}  // namespace vendrel
