@@ -58,7 +58,7 @@ class Numbering {
     void MarkOneNumber(CellPos seed);
     void AddSeedNeighbours(CellPos seed);
     void AddNeighbours(int x, int y);
-    void AddToNumberCells(int x, int y, NumberMark& mark);
+    void AddToNumberCells(PositionRing::Tail& tail, int x, int y, NumberMark& mark) const;
     void Claim(int x, int y);
     void Recolour(int x, int y, Color color);
     void Stamp(CellPos at);
@@ -193,7 +193,7 @@ void Numbering::Recolour(int x, int y, Color color) {
 void Numbering::AddSeedNeighbours(CellPos seed) {
     const std::array<CellPos, 4> around = {
         {{seed.X, seed.Y - 1}, {seed.X + 1, seed.Y}, {seed.X, seed.Y + 1}, {seed.X - 1, seed.Y}}};
-    queue_.Reserve(around.size());
+    PositionRing::Tail tail(queue_, around.size());
     for (const CellPos at : around) {
         if (at.X > state_.NumberWidth || at.Y > state_.NumberHeight) {
             continue;
@@ -202,34 +202,34 @@ void Numbering::AddSeedNeighbours(CellPos seed) {
         const bool own = mark.ColorIndex == paint_;
         if (!own || !mark.Marked) {
             mark.Queued = true;
-            queue_.PushIf(true, at.X, at.Y, own);
+            tail.PushIf(true, at.X, at.Y, own);
         }
     }
 }
 
 // The last column and row are left out on purpose: no step to the right or down enters them.
 void Numbering::AddNeighbours(int x, int y) {
-    queue_.Reserve(4);
+    PositionRing::Tail tail(queue_, 4);
     NumberMark* const mark = &state_.NumberMarks(x, y);
     const std::ptrdiff_t row = state_.NumberMarks.Stride();
     if (y - 1 > 0) {
-        AddToNumberCells(x, y - 1, mark[-row]);
+        AddToNumberCells(tail, x, y - 1, mark[-row]);
     }
     if (x + 1 < state_.NumberWidth) {
-        AddToNumberCells(x + 1, y, mark[1]);
+        AddToNumberCells(tail, x + 1, y, mark[1]);
     }
     if (y + 1 < state_.NumberHeight) {
-        AddToNumberCells(x, y + 1, mark[row]);
+        AddToNumberCells(tail, x, y + 1, mark[row]);
     }
     if (x - 1 >= 1) {
-        AddToNumberCells(x - 1, y, mark[-1]);
+        AddToNumberCells(tail, x - 1, y, mark[-1]);
     }
 }
 
-void Numbering::AddToNumberCells(int x, int y, NumberMark& mark) {
+void Numbering::AddToNumberCells(PositionRing::Tail& tail, int x, int y, NumberMark& mark) const {
     const bool wanted = !mark.Marked & !mark.Queued;
     mark.Queued = mark.Queued | wanted;
-    queue_.PushIf(wanted, x, y, mark.ColorIndex == paint_);
+    tail.PushIf(wanted, x, y, mark.ColorIndex == paint_);
 }
 
 void Numbering::Stamp(CellPos at) {

@@ -23,8 +23,7 @@ class CellQueue {
         std::uint8_t& queued = queued_[At(pos)];
         const bool wanted = queued == 0;
         queued = 1;
-        ring_.Reserve(1);
-        ring_.PushIf(wanted, pos.X, pos.Y);
+        PositionRing::Tail(ring_, 1).PushIf(wanted, pos.X, pos.Y);
         return wanted;
     }
     [[nodiscard]] bool Empty() const { return ring_.Empty(); }

@@ -36,18 +36,36 @@ class PositionRing {
     [[nodiscard]] Entry Front() const { return ring_[first_ & mask_]; }
     /// Takes the front; the list must not be empty.
     Entry Pop() { return ring_[first_++ & mask_]; }
-    /// Makes room for `more` positions.
-    void Reserve(std::size_t more) {
-        if (end_ - first_ + more > ring_.size()) {
-            Grow();
+
+    /// The open end of the list, held in registers while a few positions are appended.
+    class Tail {
+      public:
+        /// Makes room for `most` positions, wanted or not.
+        Tail(PositionRing& list, std::size_t most) : list_(list) {
+            if (list.Size() + most > list.ring_.size()) {
+                list.Grow();
+            }
+            ring_ = list.ring_.data();
+            mask_ = list.mask_;
+            end_ = list.end_;
         }
-    }
-    /// Appends a position, if `wanted`. There must be room for it either way.
-    void PushIf(bool wanted, int x, int y, bool flag = false) {
-        assert(x >= 0 && x <= 0xFFFF && y >= 0 && y <= 0x7FFF);
-        ring_[end_ & mask_] = {x, y, flag};
-        end_ += wanted ? 1 : 0;
-    }
+        ~Tail() { list_.end_ = end_; }
+        Tail(const Tail&) = delete;
+        Tail& operator=(const Tail&) = delete;
+
+        /// Appends a position, if `wanted`.
+        void PushIf(bool wanted, int x, int y, bool flag = false) {
+            assert(x >= 0 && x <= 0xFFFF && y >= 0 && y <= 0x7FFF);
+            ring_[end_ & mask_] = {x, y, flag};
+            end_ += wanted ? 1 : 0;
+        }
+
+      private:
+        PositionRing& list_;
+        Entry* ring_;
+        std::size_t mask_;
+        std::size_t end_;
+    };
 
   private:
     void Grow();
