@@ -2,12 +2,14 @@
 
 #include <QtGui/QImage>
 #include <algorithm>
+#include <span>
 
 #include "convert/bitmap_writer.h"
 #include "export/chart_drawing.h"
 #include "export/print_fonts.h"
 #include "export/qt_image.h"
 #include "output/result_files.h"
+#include "output/symbol_set.h"
 
 namespace vendrel {
 namespace {
@@ -18,12 +20,11 @@ constexpr QRect kGlyphFrame(-2, -3, 10, 15);
 constexpr double kMiddleRow = 3.5;
 
 // Whole squares, so that the enlarged symbol has the very shape that the sheet shows.
-void DrawGlyph(QPainter& painter, const SymbolGlyph& glyph, const QRectF& box) {
+void DrawGlyph(QPainter& painter, std::span<const GlyphPoint> ink, const QRectF& box) {
     const int scale = std::max(1, static_cast<int>(box.height()) / kGlyphFrame.height());
     const int left = static_cast<int>(box.center().x()) - scale * kGlyphFrame.width() / 2;
     const int top = static_cast<int>(box.center().y() - scale * kMiddleRow);  // of row 0
-    for (int i = 1; i <= glyph.PointCount; ++i) {
-        const GlyphPoint& point = glyph.Points[static_cast<std::size_t>(i)];
+    for (const GlyphPoint& point : ink) {
         painter.fillRect(left + scale * (point.X - kGlyphFrame.left()), top + scale * point.Y,
                          scale, scale, Qt::black);
     }
@@ -32,7 +33,7 @@ void DrawGlyph(QPainter& painter, const SymbolGlyph& glyph, const QRectF& box) {
 QImage DrawChartImage(const Workplace& place) {
     ColorChart chart = MakeColorChart(place);
     chart.DrawSymbol = [&place](QPainter& painter, int paint, const QRectF& box) {
-        DrawGlyph(painter, place.State.SymbolGlyphs.at(static_cast<std::size_t>(paint)), box);
+        DrawGlyph(painter, InkOf(place.State, paint), box);
     };
     QImage image(kChartWidth, kChartHeight, QImage::Format_RGB32);
     image.fill(Qt::white);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 
 #include "convert/bitmap_writer.h"
@@ -47,14 +46,12 @@ class StripPainter {
 
 StripPainter::StripPainter(WorkState& state, const SheetRecord& record, const SheetColors& colors)
     : state_(state), record_(record), colors_(colors), scale_(state.SheetCellSize) {
-    for (const SheetRecord::Symbol& symbol : record.Symbols()) {
-        Reach& reach = reaches_.emplace_back();
-        for (const GlyphPoint& point : std::span(GlyphOf(state, symbol.Paint).Points).subspan(1)) {
-            reach.Top = std::min(reach.Top, point.Y);
-            reach.Bottom = std::max(reach.Bottom, point.Y + 1);
+    for (const auto& [paint, at] : record.Symbols()) {
+        Reach& reach = reaches_.emplace_back(scale_ * at.Y, scale_ * at.Y);
+        for (const GlyphPoint& point : InkOf(state, paint)) {
+            const int row = OnSheet(scale_, at.Y, point.Y);  // a strip counts its rows anew
+            reach = {std::min(reach.Top, row), std::max(reach.Bottom, row + 1)};
         }
-        reach.Top += scale_ * symbol.At.Y;
-        reach.Bottom += scale_ * symbol.At.Y;
     }
 }
 
@@ -81,9 +78,8 @@ void StripPainter::LayGround(cDIBSection& strip, int first) const {
         std::uint8_t* const row = to;
         for (const Color color : colors_.Ground->Row(y)) {
             for (int i = 0; i < scale_; ++i) {
-                *to++ = static_cast<std::uint8_t>(BlueOf(color));
-                *to++ = static_cast<std::uint8_t>(GreenOf(color));
-                *to++ = static_cast<std::uint8_t>(RedOf(color));
+                StoreBgr(color, to);
+                to += 3;
             }
         }
         to = row + rowBytes;
@@ -110,7 +106,7 @@ void StripPainter::DrawSymbol(std::size_t index, int first) const {
     const auto& [paint, at] = record_.Symbols()[index];
     Number2CDIB(state_, paint, scale_, colors_.Inks[static_cast<std::size_t>(paint)],
                 {at.X, at.Y - first});
-    for (const GlyphPoint& point : std::span(GlyphOf(state_, paint).Points).subspan(1)) {
+    for (const GlyphPoint& point : InkOf(state_, paint)) {
         if (point.X % scale_ == 0 && point.Y % scale_ == 0) {
             const CellPos pixel{at.X + point.X / scale_, at.Y + point.Y / scale_};
             if (record_.DottedAfter(index, pixel)) {

@@ -44,15 +44,6 @@ void FillSymbolCodes(WorkState& state) {
     }
 }
 
-int OnSheet(int cellSize, int position, int offset) {
-    const int at = cellSize * position + offset;
-    if (at < kMin || at > kMax) {
-        throw OverflowError("The sheet is too large for its symbols (" + std::to_string(at) +
-                            " pixels). Try a smaller photo.");
-    }
-    return at;
-}
-
 void AppendGlyph(std::string& text, const SymbolGlyph& glyph) {
     text += ' ' + std::to_string(glyph.Points.size() - 1) + "\r\n";
     for (std::size_t i = 1; i < glyph.Points.size(); ++i) {
@@ -94,20 +85,30 @@ void SetupBMPSymbols(const Workplace& place) {
     FillSymbolCodes(place.State);
 }
 
-const SymbolGlyph& GlyphOf(const WorkState& state, int symbol) {
+std::span<const GlyphPoint> InkOf(const WorkState& state, int symbol) {
     if (symbol < 0 || symbol > kSymbolCount ||
         static_cast<std::size_t>(symbol) >= state.SymbolGlyphs.size()) {
         throw Error("There is no symbol " + std::to_string(symbol) +
                     ": a sheet can show 50 paints. Reduce the final paints to 50 or fewer.");
     }
-    return state.SymbolGlyphs[static_cast<std::size_t>(symbol)];
+    const SymbolGlyph& glyph = state.SymbolGlyphs[static_cast<std::size_t>(symbol)];
+    const std::span points(glyph.Points);
+    return points.last(static_cast<std::size_t>(glyph.PointCount));
+}
+
+int OnSheet(int cellSize, int position, int offset) {
+    const int at = cellSize * position + offset;
+    if (at < kMin || at > kMax) {
+        throw OverflowError("The sheet is too large for its symbols (" + std::to_string(at) +
+                            " pixels). Try a smaller photo.");
+    }
+    return at;
 }
 
 void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, CellPos at) {
-    const SymbolGlyph& glyph = GlyphOf(state, symbol);
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(glyph.PointCount); ++i) {
-        state.SheetDC.Set(OnSheet(cellSize, at.X, glyph.Points[i].X),
-                          OnSheet(cellSize, at.Y, glyph.Points[i].Y), color);
+    for (const GlyphPoint& point : InkOf(state, symbol)) {
+        state.SheetDC.Set(OnSheet(cellSize, at.X, point.X), OnSheet(cellSize, at.Y, point.Y),
+                          color);
     }
 }
 

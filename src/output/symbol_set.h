@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string_view>
 
 #include "shell/work_state.h"
@@ -21,8 +22,11 @@ static_assert(kSymbolCharacters.size() == kSymbolCount);
 /// Reads the glyphs of `Data/Symbols.txt` and fills SymbolCodes. Throws FileError and FormatError.
 void SetupBMPSymbols(const Workplace& place);
 
-/// The glyph of a symbol. Throws Error for a symbol outside 0..50 or while no glyphs are read.
-[[nodiscard]] const SymbolGlyph& GlyphOf(const WorkState& state, int symbol);
+/// The pixels of a symbol's ink. Throws Error for a symbol outside 0..50 or while none are read.
+[[nodiscard]] std::span<const GlyphPoint> InkOf(const WorkState& state, int symbol);
+
+/// cellSize * position + offset, in sheet pixels. Throws OverflowError beyond 16 bits.
+[[nodiscard]] int OnSheet(int cellSize, int position, int offset);
 
 /// Stamps a symbol's pixels onto SheetDC, its origin at sheet pixel (cellSize * column,
 /// cellSize * row); pixels outside are not drawn. Throws Error for a symbol outside 0..50 and

@@ -27,4 +27,11 @@ inline constexpr Color kWhite = 0xFFFFFF;
     return (color >> 16) & 255;
 }
 
+/// Writes the three bytes of a pixel as bitmaps hold it: blue, green, red.
+inline void StoreBgr(Color color, std::uint8_t* bytes) {
+    bytes[0] = static_cast<std::uint8_t>(BlueOf(color));
+    bytes[1] = static_cast<std::uint8_t>(GreenOf(color));
+    bytes[2] = static_cast<std::uint8_t>(RedOf(color));
+}
+
 }  // namespace vendrel

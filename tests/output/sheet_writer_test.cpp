@@ -54,7 +54,7 @@ TEST(Sheet, ShowsDotsAndSymbolsOnWhite) {
     EXPECT_LE(dots, saved.Counts.BorderDots);  // symbols may cover some
     EXPECT_GT(dots, 20);
     // Symbol 2 stands in the middle stipple, around (13 - 2, 13 - 2) times 2.
-    for (const GlyphPoint p : std::span(kit.State.SymbolGlyphs[2].Points).subspan(1)) {
+    for (const GlyphPoint p : InkOf(kit.State, 2)) {
         EXPECT_EQ(sheet.Get(22 + p.X, 22 + p.Y), Rgb(125, 125, 125)) << p.X << ' ' << p.Y;
     }
 }
@@ -98,6 +98,22 @@ TEST(Sheet, RefusedOneLeavesPictureAndFiles) {
     EXPECT_EQ(kit.Frames.WorkFrame.Picture, painting);
     EXPECT_FALSE(kit.Program.Exists("Results"));
     EXPECT_EQ(kit.Screen.LastPointer, Pointer::Normal);
+}
+
+TEST(Sheet, IsRefusedWhereSymbolsStandBeyondSixteenBits) {
+    for (const unsigned rows : {2047U, 2060U}) {
+        std::vector<std::string> grid(rows, "1111");
+        grid.back() = "2222";  // its symbol stands in the last row
+        test::Easel kit(4, grid);
+        SetupBMPSymbols(kit.Place);
+        PaintAllCells(kit.Place);
+        if (rows == 2060) {
+            EXPECT_THROW(WriteSheet(kit.Place), OverflowError);
+            EXPECT_FALSE(kit.Program.Exists("Results"));
+        } else {
+            EXPECT_EQ(ReadBitmapSize(WriteSheet(kit.Place).File).Height, 4 * 4 * 2047);
+        }
+    }
 }
 
 TEST(Reference, ShowsTheSheetsDotsAndSymbolsOnTheEnlargedPainting) {
