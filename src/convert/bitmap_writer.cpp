@@ -43,9 +43,7 @@ Header MakeHeader(const BitmapInfoHeader& info, int pixelsPerMetre) {
 
 void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
     for (const Color color : row) {
-        bytes[0] = static_cast<std::uint8_t>(BlueOf(color));
-        bytes[1] = static_cast<std::uint8_t>(GreenOf(color));
-        bytes[2] = static_cast<std::uint8_t>(RedOf(color));
+        StoreBgr(color, bytes);
         bytes += 3;
     }
 }

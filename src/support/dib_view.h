@@ -33,10 +33,7 @@ class DibView {
         if (!Holds(x, y)) {
             return;
         }
-        std::uint8_t* p = At(x, y);
-        p[0] = static_cast<std::uint8_t>(BlueOf(color));
-        p[1] = static_cast<std::uint8_t>(GreenOf(color));
-        p[2] = static_cast<std::uint8_t>(RedOf(color));
+        StoreBgr(color, At(x, y));
     }
 
   private:
