@@ -33,12 +33,11 @@ void Listen(QtMsgType type, const QMessageLogContext& context, const QString& te
 
 DecoderComplaints::DecoderComplaints() {
     damaged = false;
-    before_ = qInstallMessageHandler(Listen);
-    others = before_;
+    others = qInstallMessageHandler(Listen);
 }
 
 DecoderComplaints::~DecoderComplaints() {
-    qInstallMessageHandler(before_);
+    qInstallMessageHandler(others);
 }
 
 bool DecoderComplaints::Damaged() const {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
-
 namespace vendrel {
 
 /// Listens, while it lives, to what decoders say of a picture. A JPEG that is damaged in its middle
@@ -15,9 +13,6 @@ class DecoderComplaints {
 
     /// Whether one of them spoils the picture.
     [[nodiscard]] bool Damaged() const;
-
-  private:
-    QtMessageHandler before_;
 };
 
 }  // namespace vendrel
