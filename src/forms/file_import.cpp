@@ -164,10 +164,8 @@ void FileImport::ChooseCrop(const std::string& pictureFile) {
 }
 
 std::string FileImport::TakeIn(const fs::path& photo) {
-    if (NeedsDecoder(photo)) {
-        // Before it takes a name in Pictures.
-        RequireStipples(photo, decoder_.Size(photo), place_.Screen.Screen(),
-                        place_.State.StippleSize);
+    if (!IsInPictures(place_.Folder, photo)) {
+        RequirePaintable(photo, decoder_, TargetOf(place_));
     }
     const ReadingShown reading(place_.Screen);
     return TakeIntoPictures(place_.Folder, photo, decoder_, reading.Progress());

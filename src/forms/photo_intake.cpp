@@ -9,6 +9,7 @@
 
 #include "convert/bitmap_reader.h"
 #include "convert/foreign_photo.h"
+#include "convert/photo_import.h"
 #include "support/error.h"
 #include "support/whole_file.h"
 
@@ -55,12 +56,33 @@ void Copy(const fs::path& from, const fs::path& to) {
     out.Commit();
 }
 
+fs::path TargetIn(const ProgramFolder& folder, const fs::path& photo) {
+    return folder.Path("Pictures/" + photo.filename().string());
+}
+
+bool IsAt(const fs::path& photo, const fs::path& target) {
+    std::error_code ignored;
+    return fs::equivalent(photo, target, ignored);
+}
+
 }  // namespace
 
+void RequirePaintable(const fs::path& photo, const PhotoDecoder& decoder, const CropTarget& target,
+                      CropPart part) {
+    const BitmapSize size = NeedsDecoder(photo) ? decoder.Size(photo) : BitmapFile(photo).Size();
+    if (size.Width > 0 && size.Height > 0) {
+        RequireStipples(photo, part == CropPart::Whole ? size : LargestCrop(size, target),
+                        target.Screen, target.StippleSize);
+    }
+}
+
+bool IsInPictures(const ProgramFolder& folder, const fs::path& photo) {
+    return IsAt(photo, TargetIn(folder, photo)) && !NeedsDecoder(photo);
+}
+
 std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo) {
-    const fs::path target = folder.Path("Pictures/" + photo.filename().string());
-    std::error_code ignored;
-    if (fs::equivalent(photo, target, ignored)) {
+    const fs::path target = TargetIn(folder, photo);
+    if (IsAt(photo, target)) {
         return target.filename().string();
     }
     if (!fs::is_regular_file(photo)) {

@@ -9,6 +9,15 @@
 
 namespace vendrel {
 
+/// Throws FileError when the shape of a photo, or of the part to be kept of it, leaves no whole
+/// stipple, and FormatError when it is no photo at all: such a file should not take a name in
+/// Pictures. One of no pixels passes.
+void RequirePaintable(const std::filesystem::path& photo, const PhotoDecoder& decoder,
+                      const CropTarget& target, CropPart part = CropPart::Whole);
+
+/// Whether a photo is a bitmap of the Pictures folder, where it can be used as it is.
+[[nodiscard]] bool IsInPictures(const ProgramFolder& folder, const std::filesystem::path& photo);
+
 /// Makes a photo one of the Pictures folder and gives its file name there. A photo from elsewhere
 /// is copied; one that is there already is taken as it is. Throws FileError when a different photo
 /// of that name is there, or when copying fails.

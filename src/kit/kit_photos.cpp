@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
-#include "convert/bitmap_reader.h"
 #include "convert/foreign_photo.h"
-#include "convert/photo_import.h"
 #include "forms/photo_intake.h"
+#include "forms/photo_look.h"
 #include "kit/photo_lookup.h"
 #include "support/error.h"
 #include "support/letter_case.h"
@@ -14,14 +13,9 @@ namespace vendrel {
 
 std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
                               const std::filesystem::path& photo) {
-    // A file that cannot become a kit must not even reach the Pictures folder, nor take a name.
-    const CropTarget target{place.Screen.Screen(), place.State.StippleSize};
+    const CropTarget target = TargetOf(place);
+    RequirePaintable(photo, decoder_, target, options.Crop);
     const bool decode = NeedsDecoder(photo);
-    const BitmapSize size = decode ? decoder_.Size(photo) : BitmapFile(photo).Size();
-    if (size.Width > 0 && size.Height > 0) {
-        RequireStipples(photo, options.Crop == CropPart::Whole ? size : LargestCrop(size, target),
-                        target.Screen, target.StippleSize);
-    }
     if (!decode) {
         Claim(photo, PictureNameOf(photo));
     }

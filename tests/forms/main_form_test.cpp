@@ -216,6 +216,13 @@ TEST_F(MainFormTest, APhotoThatCannotBeReadLeavesTheOldOne) {
         EXPECT_TRUE(studio_.State.PictureLoaded);
         EXPECT_TRUE(studio_.Frames.WorkFrame.Visible);
     }
+    studio_.Files.Write("Album/broken too.bmp", "BM, but no more");
+    WriteBitmap(studio_.Files / "Album/thin.bmp", Surface(3, 4000));
+    for (const char* name : {"broken too.bmp", "thin.bmp"}) {
+        EXPECT_THROW(form_.Chooser().TakePhoto(studio_.Files / "Album" / name), Error) << name;
+        EXPECT_EQ(studio_.State.PictureName, "four");
+        EXPECT_FALSE(studio_.Program.Exists("Pictures/" + std::string(name)));
+    }
 }
 
 TEST_F(MainFormTest, TheChooserShowsFoldersPreviewsAndTakesPhotosFromElsewhere) {
