@@ -319,11 +319,5 @@ TEST_F(PhotoReaderTest, RefusesPhotosTooLargeForMemory) {
     EXPECT_THAT(Refusal(bitmap), HasSubstr("too large: 12000 x 12000 pixels"));
 }
 
-TEST(QtImage, SurfaceAndImageHoldTheSamePixels) {
-    Surface surface(3, 2, kRed);
-    surface.Set(2, 1, Rgb(1, 2, 3));
-    EXPECT_EQ(ToSurface(ToImage(surface)), surface);
-}
-
 }  // namespace
 }  // namespace vendrel

@@ -12,7 +12,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 Arguments Parse(std::initializer_list<std::string_view> words) {
     return ParseArguments({words.begin(), words.size()});
@@ -23,20 +22,11 @@ TEST(Arguments, APhotoAloneGetsTheDefaults) {
     ASSERT_EQ(arguments.What, Command::Kit);
     const KitOptions& kit = arguments.Kit;
     EXPECT_THAT(kit.Photos, ElementsAre("lady.bmp"));
-    EXPECT_EQ(kit.Folder, ".");
-    EXPECT_EQ(kit.Difficulty, MenuId::EasySet);
     EXPECT_EQ(kit.FinalPaints, 50);
-    EXPECT_FALSE(kit.SamplePixel);
-    EXPECT_THAT(kit.Sets, IsEmpty());
-    EXPECT_FALSE(kit.Template.has_value());
     EXPECT_EQ(kit.Screen.Width, 1920 * 15);
     EXPECT_EQ(kit.Screen.Height, 1080 * 15);
-    EXPECT_TRUE(kit.Outputs.Sheet && kit.Outputs.Painting && kit.Outputs.Grid);
-    EXPECT_TRUE(kit.Outputs.Reference && kit.Outputs.Chart);
-    EXPECT_FALSE(kit.Outputs.Pdf || kit.Outputs.ByName);
     EXPECT_EQ(kit.Plan.Sheet, Paper::A4);
     EXPECT_EQ(kit.Plan.CanvasCm, 0);
-    EXPECT_FALSE(kit.FromGrid || kit.ReplaceGrid || kit.Json || kit.Quiet);
 }
 
 TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {

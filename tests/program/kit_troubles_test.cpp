@@ -39,17 +39,6 @@ TEST(KitTroubles, PhotosThatWouldShareTheirFilesAreRefusedFromTheSecondOn) {
     EXPECT_THAT(studio.Names("Pictures"), UnorderedElementsAre("a.b.bmp"));
 }
 
-TEST(KitTroubles, APhotoNeverReplacesAnotherInPictures) {
-    Studio studio;
-    studio.AddPhoto("ball.bmp");
-    studio.AddPhoto("Pictures/ball.bmp", 30);
-    const std::string kept = studio.Files.Read("Pictures/ball.bmp");
-    EXPECT_EQ(studio.Kit({studio.Path("ball.bmp")}), 1);
-    EXPECT_THAT(studio.Err, HasSubstr("different photo"));
-    EXPECT_TRUE(studio.Files.Read("Pictures/ball.bmp") == kept);
-    EXPECT_THAT(studio.Names("Results"), IsEmpty());
-}
-
 TEST(KitTroubles, BrokenDataIsNamedAndNothingIsWritten) {
     struct Case {
         const char* File;

@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "shell/recorder.h"
 #include "support/error.h"
+#include "support/temp_folder.h"
 #include "support/text_file.h"
 
 namespace vendrel {
@@ -92,22 +92,6 @@ TEST(StippleFile, NamesTheLineThatIsBroken) {
         EXPECT_THAT(read, testing::ThrowsMessage<FormatError>(
                               testing::AllOf(HasSubstr("a-Easy.stp"), HasSubstr(broken.Expected))));
     }
-}
-
-TEST(StippleFile, IsNamedAfterPhotoAndCheckedDifficulty) {
-    test::Bench bench;
-    bench.State.PictureName = "my";
-    for (const auto& [difficulty, name] : {std::pair{MenuId::EasySet, "my-Easy.stp"},
-                                           {MenuId::MediumSet, "my-Medium.stp"},
-                                           {MenuId::HardSet, "my-Difficult.stp"}}) {
-        for (const MenuId id : {MenuId::EasySet, MenuId::MediumSet, MenuId::HardSet}) {
-            bench.MainMenu[id].Checked = id == difficulty;
-        }
-        EXPECT_EQ(StippleFilePath(bench.Place).filename(), name);
-        EXPECT_FALSE(StippleFileExists(bench.Place));
-    }
-    bench.Files.Write("saved stipples/my-difficult.stp", "");
-    EXPECT_TRUE(StippleFileExists(bench.Place));
 }
 
 }  // namespace

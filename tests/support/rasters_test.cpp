@@ -4,7 +4,6 @@
 
 #include "support/cell_queue.h"
 #include "support/dib_view.h"
-#include "support/grid.h"
 #include "support/surface.h"
 
 namespace vendrel {
@@ -50,16 +49,6 @@ TEST(CellQueue, KeepsOrderAndHoldsAPositionOnce) {
     EXPECT_TRUE(queue.Push({0, 0}));  // taken out before, so it may wait again
     CellQueue edge(3, 2);
     EXPECT_TRUE(edge.Push({4, 3}));
-}
-
-TEST(Grid, KeepsAnEmptyRowAndColumnZero) {
-    Grid<int> grid(3, 2);
-    grid(3, 2) = 7;
-    EXPECT_EQ(grid.All().size(), 12U);
-    EXPECT_EQ(grid.Row(2)[3], 7);
-    EXPECT_TRUE(grid.Holds(0, 0));
-    EXPECT_FALSE(grid.Holds(4, 0));
-    EXPECT_FALSE(Grid<int>().Holds(0, 0));
 }
 
 }  // namespace
