@@ -47,11 +47,12 @@ class StripPainter {
 StripPainter::StripPainter(WorkState& state, const SheetRecord& record, const SheetColors& colors)
     : state_(state), record_(record), colors_(colors), scale_(state.SheetCellSize) {
     for (const auto& [paint, at] : record.Symbols()) {
-        Reach& reach = reaches_.emplace_back(scale_ * at.Y, scale_ * at.Y);
+        Reach reach{scale_ * at.Y, scale_ * at.Y};
         for (const GlyphPoint& point : InkOf(state, paint)) {
             const int row = OnSheet(scale_, at.Y, point.Y);  // a strip counts its rows anew
             reach = {std::min(reach.Top, row), std::max(reach.Bottom, row + 1)};
         }
+        reaches_.push_back(reach);
     }
 }
 

@@ -65,7 +65,7 @@ TEST(KitFiles, FiguresOfTheJsonAgreeWithTheFiles) {
                                std::to_string(down) + ",16");
     EXPECT_EQ(lines.size(), static_cast<std::size_t>(1 + kept + across * down));
     std::set<std::string> areas;
-    for (std::size_t i = static_cast<std::size_t>(1 + kept); i < lines.size(); ++i) {
+    for (std::size_t i = static_cast<std::size_t>(kept) + 1; i < lines.size(); ++i) {
         areas.insert(lines[i].substr(0, lines[i].find(',')));
     }
     EXPECT_EQ(static_cast<int>(areas.size()), Figure(json, "paints", "areas"));
@@ -120,7 +120,7 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
 
     // The first stipple by hand in another paint, as a text editor would do it.
     auto lines = SplitLines(made);
-    const auto first = static_cast<std::size_t>(1 + std::stoi(lines[0]));
+    const auto first = static_cast<std::size_t>(std::stoi(lines[0])) + 1;
     const std::string paint = lines[first].starts_with("1,1,") ? "2" : "1";
     lines[first] = "1," + paint + ",5,5";
     std::string edited;
