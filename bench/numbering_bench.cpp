@@ -27,8 +27,7 @@ class PaintedBench {
   public:
     explicit PaintedBench(int stippleSize) : bench(VENDREL_SOURCE_DIR) {
         WorkState& state = bench.State;
-        state.StippleSize = stippleSize;
-        state.HalfStipple = stippleSize / 2;
+        SizeStipples(state, stippleSize);
         state.CellsAcross = 960 / stippleSize;
         state.CellsDown = 720 / stippleSize;
         state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);

@@ -5,19 +5,6 @@
 namespace vendrel {
 namespace {
 
-int FewestOwnPixels(int stippleSize) {
-    switch (stippleSize) {
-        case 8:
-            return 44;
-        case 6:
-            return 24;
-        case 4:
-            return 12;
-        default:
-            return 0;
-    }
-}
-
 int CountPixels(const Surface& picture, int left, int top, int size, Color color) {
     int count = 0;
     for (int y = top; y < top + size; ++y) {
@@ -33,7 +20,7 @@ int CountPixels(const Surface& picture, int left, int top, int size, Color color
 void FixSmallSpots(const Workplace& place) {
     const WorkState& state = place.State;
     const int size = state.StippleSize;
-    const int fewest = FewestOwnPixels(size);
+    const int fewest = TraitsOf(state.Chosen.Level).FewestOwnPixels;
     for (int y = 1; y <= state.Stipples.Down(); ++y) {
         for (int x = 1; x <= state.Stipples.Across(); ++x) {
             const StippleCell& cell = state.Stipples(x, y);

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "convert/photo_import.h"
-#include "support/rounding.h"
 
 namespace vendrel {
 
@@ -15,19 +14,9 @@ void SetStippleSize(Workplace& place, int size) {
     if (!state.PicturePath.empty()) {
         photo = ReadPhoto(state.PicturePath, place.Screen.Screen(), size);
     }
-    state.StippleSize = size;
-    state.HalfStipple = RoundHalfEven(size / 2.0);
-    SetStippleCheck(state);
+    SizeStipples(state, size);
     if (photo) {
         ShowPhoto(place, std::move(*photo));
-    }
-}
-
-void SetStippleCheck(WorkState& state) {
-    if (state.StippleSize == 4 || state.StippleSize == 6) {
-        state.StippleCheck = 3;
-    } else if (state.StippleSize == 8) {
-        state.StippleCheck = 4;
     }
 }
 

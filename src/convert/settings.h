@@ -8,9 +8,6 @@ namespace vendrel {
 /// it. Throws as LoadNewPicture does; the old size and photo stay then.
 void SetStippleSize(Workplace& place, int size);
 
-/// `StippleCheck` is 3 for stipples of 4 or 6 pixels, 4 for 8; other sizes leave it as it was.
-void SetStippleCheck(WorkState& state);
-
 /// Empties `PixelMap` and fits it to the work picture: 0..width, 0..height in pixels.
 void ResizePixelMap(Workplace& place);
 

@@ -82,7 +82,7 @@ void FillBlock(Workplace& place, const StippleCell& cell) {
 void ConvertRow(Workplace& place, FoundPaints& found, int j) {
     WorkState& state = place.State;
     const Surface& photo = place.Frames.WorkFrame.Picture;
-    const bool sampling = place.MainMenu[MenuId::SamplePixel].Checked;
+    const bool sampling = state.Chosen.Sample == Sampling::Pixel;
     const bool watched = place.Screen.Watched();
     const int size = state.StippleSize;
     const int half = state.HalfStipple;

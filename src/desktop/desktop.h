@@ -25,7 +25,7 @@ class Desktop {
     WorkState state_;
     Surfaces frames_;
     Menu menu_;
-    QtUi ui_{menu_};
+    QtUi ui_{state_.Chosen};
     Workplace place_{state_, frames_, menu_, ui_, folder_};
     QtExporter exporter_;
     PhotoReader reader_;

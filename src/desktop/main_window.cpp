@@ -34,7 +34,7 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
       form_(form),
       ui_(ui),
       edge_(this),
-      actions_(new MenuActions(place.MainMenu, *menuBar())),
+      actions_(new MenuActions(place.MainMenu, place.State.Chosen, *menuBar())),
       pages_(new QStackedWidget),
       workPage_(new QScrollArea),
       workFrame_(new PictureView(place.Frames.WorkFrame.Picture, PictureFit::Pixels)),

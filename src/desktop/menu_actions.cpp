@@ -85,7 +85,8 @@ bool IsMenu(const Menu& menu, MenuId id) {
 
 }  // namespace
 
-MenuActions::MenuActions(const Menu& menu, QMenuBar& bar) : QObject(&bar), menu_(menu), bar_(bar) {
+MenuActions::MenuActions(const Menu& menu, const Settings& settings, QMenuBar& bar)
+    : QObject(&bar), menu_(menu), settings_(settings), bar_(bar) {
     for (const MenuEntry& entry : menu_.Entries()) {
         actions_[At(entry.Id)] = MakeAction(entry);
     }
@@ -115,7 +116,7 @@ void MenuActions::Mirror() {
     for (const MenuEntry& entry : menu_.Entries()) {
         QAction* action = actions_[At(entry.Id)];
         action->setEnabled(entry.Enabled);
-        action->setChecked(action->isCheckable() && entry.Checked);
+        action->setChecked(action->isCheckable() && IsChecked(settings_, entry.Id));
     }
 }
 

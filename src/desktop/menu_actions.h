@@ -14,7 +14,7 @@ class MenuActions : public QObject {
     Q_OBJECT
 
   public:
-    MenuActions(const Menu& menu, QMenuBar& bar);
+    MenuActions(const Menu& menu, const Settings& settings, QMenuBar& bar);
 
     /// Takes over what is enabled and checked.
     void Mirror();
@@ -26,6 +26,7 @@ class MenuActions : public QObject {
     [[nodiscard]] QAction* MakeAction(const MenuEntry& entry);
 
     const Menu& menu_;
+    const Settings& settings_;
     QMenuBar& bar_;
     std::array<QAction*, kMenuEntryCount> actions_{};
     std::array<QMenu*, kMenuEntryCount> menus_{};

@@ -81,7 +81,7 @@ void QtUi::Pump() {
 }
 
 bool QtUi::Watched() const {
-    return menu_[MenuId::WatchItPaint].Checked && !pace_.Ended();
+    return settings_.WatchItPaint && !pace_.Ended();
 }
 
 void QtUi::ShowStep(int done, int total) {

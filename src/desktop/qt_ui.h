@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "desktop/show_pace.h"
-#include "shell/menu.h"
+#include "shell/settings.h"
 #include "shell/ui.h"
 
 namespace vendrel {
@@ -30,7 +30,7 @@ class QtUi : public Ui {
         QWidget* Window = nullptr;
     };
 
-    explicit QtUi(const Menu& menu) : menu_(menu) {}
+    explicit QtUi(const Settings& settings) : settings_(settings) {}
     void Attach(Host host) { host_ = std::move(host); }
 
     void SetCaption(std::string_view caption) override;
@@ -63,7 +63,7 @@ class QtUi : public Ui {
     /// Messages stand over the tool window that is open, if any.
     [[nodiscard]] QWidget* MessageParent() const;
 
-    const Menu& menu_;
+    const Settings& settings_;
     Host host_;
     WorkDisplay display_;
     ShowPace pace_;

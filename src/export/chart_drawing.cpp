@@ -94,7 +94,7 @@ ColorChart MakeColorChart(const Workplace& place) {
     RequireSymbols(place.State);
     ColorChart chart;
     chart.Rows = FillChart(place.State);
-    const std::string word(DifficultyWord(place.MainMenu));
+    const std::string word(DifficultyWord(place.State));
     chart.Title = ToQt(PrintedName(place.State));
     chart.Subtitle = QString("Color chart  \u2022  %1  \u2022  %2 %3")
                          .arg(ToQt(word))

@@ -122,7 +122,7 @@ double DrawSteps(QPainter& painter, double top, double width) {
 }  // namespace
 
 std::string KitPages::Title() const {
-    return PrintedName(Place.State) + ", " + std::string(DifficultyWord(Place.MainMenu));
+    return PrintedName(Place.State) + ", " + std::string(DifficultyWord(Place.State));
 }
 
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {

@@ -167,10 +167,10 @@ void ColorMatcher::CancelButton_Click() {
 
 std::string ColorMatcher::SaveTemplate_Click() {
     RequireGrid(place_.State);
-    const std::string name = FreeTemplateName(
-        place_, CleanTemplateName(place_.State.PictureName + " " +
-                                  std::string(DifficultyWord(place_.MainMenu)) + " " +
-                                  std::to_string(rows_.size() - 1) + " Paints"));
+    const std::string name =
+        FreeTemplateName(place_, CleanTemplateName(place_.State.PictureName + " " +
+                                                   std::string(DifficultyWord(place_.State)) + " " +
+                                                   std::to_string(rows_.size() - 1) + " Paints"));
     WriteTemplate(TemplatePath(place_, name), Palette());
     return name;
 }

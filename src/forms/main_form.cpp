@@ -204,38 +204,34 @@ void MainForm::Saved(const fs::path& file) {
 }
 
 void MainForm::EasySet_Click() {
-    SetDifficulty(EasySet, 8);
+    SetDifficulty(vendrel::Difficulty::Easy);
 }
 
 void MainForm::MediumSet_Click() {
-    SetDifficulty(MediumSet, 6);
+    SetDifficulty(vendrel::Difficulty::Medium);
 }
 
 void MainForm::HardSet_Click() {
-    SetDifficulty(HardSet, 4);
+    SetDifficulty(vendrel::Difficulty::Difficult);
 }
 
-void MainForm::SetDifficulty(MenuId level, int stippleSize) {
+void MainForm::SetDifficulty(vendrel::Difficulty level) {
     place_.MainMenu[LoadBMP].Enabled = true;
-    if (!place_.MainMenu[level].Checked) {
-        Replace([&] { TakeDifficulty(level, stippleSize); });
+    if (place_.State.Chosen.Level != level) {
+        Replace([&] { TakeDifficulty(level); });
     }
 }
 
-void MainForm::TakeDifficulty(MenuId level, int stippleSize) {
+void MainForm::TakeDifficulty(vendrel::Difficulty level) {
     WorkState& state = place_.State;
-    Menu& menu = place_.MainMenu;
     // First, as a photo that is gone by now must leave the old difficulty as it is.
-    SetStippleSize(place_, stippleSize);
-    for (const MenuId entry : {EasySet, MediumSet, HardSet}) {
-        menu[entry].Checked = entry == level;
-    }
+    SetStippleSize(place_, TraitsOf(level).StippleSize);
     state.StipplesShown = false;
     ResizePixelMap(place_);
     if (!state.PictureLoaded) {
         return;
     }
-    SetupMenuItems(menu, 2);
+    SetupMenuItems(place_.MainMenu, 2);
     RefreshPhotoImage(place_);
     RestorePaintColors(place_);
     CheckSavedStipples(place_);
@@ -261,7 +257,7 @@ void MainForm::SetFinalPaints(int finalColors) {
     Replace([&] {
         const BusyPointer busy(place_.Screen);
         place_.State.FinalColors = finalColors;
-        SetColorChecks(place_.MainMenu, finalColors);
+        SetColorChecks(place_.State.Chosen, finalColors);
         RefreshPhotoImage(place_);
         SetupMenuItems(place_.MainMenu, 2);
         RestorePaintColors(place_);
@@ -289,20 +285,15 @@ void MainForm::NextBestColors_Click() {
 
 void MainForm::AveragePixel_Click() {
     Replace([this] {
-        Menu& menu = place_.MainMenu;
-        menu[AveragePixel].Checked = !menu[AveragePixel].Checked;
-        menu[SamplePixel].Checked = !menu[AveragePixel].Checked;
+        Sampling& sample = place_.State.Chosen.Sample;
+        sample = sample == Sampling::Average ? Sampling::Pixel : Sampling::Average;
         SampleMethodChanged();
     });
 }
 
 // No mirror image of averaging: sampling is switched on by unchecking averaging alone.
 void MainForm::SamplePixel_Click() {
-    Replace([this] {
-        Menu& menu = place_.MainMenu;
-        menu[AveragePixel].Checked = !menu[SamplePixel].Checked;
-        SampleMethodChanged();
-    });
+    Replace([this] { SampleMethodChanged(); });
 }
 
 void MainForm::SampleMethodChanged() {
@@ -313,8 +304,7 @@ void MainForm::SampleMethodChanged() {
 }
 
 void MainForm::WatchItPaint_Click() {
-    MenuEntry& entry = place_.MainMenu[WatchItPaint];
-    entry.Checked = !entry.Checked;
+    place_.State.Chosen.WatchItPaint = !place_.State.Chosen.WatchItPaint;
 }
 
 void MainForm::ShowAbout_Click() {

@@ -78,8 +78,8 @@ class MainForm {
     void ShowSample();
     /// A step that costs the grid: asks first, and gives unsaved work up once it succeeded.
     void Replace(const std::function<void()>& step);
-    void SetDifficulty(MenuId level, int stippleSize);
-    void TakeDifficulty(MenuId level, int stippleSize);
+    void SetDifficulty(Difficulty level);
+    void TakeDifficulty(Difficulty level);
     void SetFinalPaints(int finalColors);
     void SampleMethodChanged();
     void Saved(const std::filesystem::path& file);

@@ -142,7 +142,7 @@ void PaintShop::MfgSelected_Click() {
     state.TemplateMode = false;
     state.TemplateLoaded = false;
     // The template may have asked for fewer paints than the menu says.
-    state.FinalColors = WantedFinalColors(place_.MainMenu);
+    state.FinalColors = state.Chosen.FinalPaints;
     ShowPalette();
 }
 

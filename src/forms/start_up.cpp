@@ -48,8 +48,7 @@ void PrepareSettings(Workplace& place) {
     state.SymbolCodes.fill(0);
     state.TemplateMode = false;
     state.PaintingDone = false;
-    menu[MenuId::AveragePixel].Checked = true;
-    menu[MenuId::SamplePixel].Checked = false;
+    state.Chosen.Sample = Sampling::Average;
     SetupBMPSymbols(place);
     state.EdgeColor = Rgb(0, 255, 0);
     state.BorderColor = Rgb(0, 0, 0);
@@ -57,13 +56,12 @@ void PrepareSettings(Workplace& place) {
     state.CleanLevel = 8;
     SetupMenuItems(menu, 1);
     menu[MenuId::NextBestColors].Enabled = false;
-    menu[MenuId::EasySet].Checked = true;
     menu[MenuId::PaintItNow].Enabled = false;
     menu[MenuId::ColorPickerSelect].Enabled = false;
     menu[MenuId::PrintAll].Enabled = false;
-    SetStippleSize(place, 8);
+    SetStippleSize(place, TraitsOf(Difficulty::Easy).StippleSize);
     state.FinalColors = 50;
-    SetColorChecks(menu, state.FinalColors);
+    SetColorChecks(state.Chosen, state.FinalColors);
 }
 
 bool PrepareFolders(Workplace& place) {

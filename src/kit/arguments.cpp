@@ -123,32 +123,28 @@ class Words {
     return number;
 }
 
-MenuId ToDifficulty(std::string_view value) {
-    if (value == "easy") {
-        return MenuId::EasySet;
-    }
-    if (value == "medium") {
-        return MenuId::MediumSet;
-    }
-    if (value == "difficult") {
-        return MenuId::HardSet;
+Difficulty ToDifficulty(std::string_view value) {
+    for (const DifficultyTraits& traits : kDifficulties) {
+        if (value == traits.Option) {
+            return traits.Level;
+        }
     }
     RefuseValue("--difficulty", value, "easy, medium or difficult");
 }
 
 int ToFinalPaints(std::string_view value) {
     const int paints = ToInt(value).value_or(0);
-    if (paints != 16 && paints != 32 && paints != 40 && paints != 50) {
+    if (std::ranges::find(kFinalPaints, paints) == kFinalPaints.end()) {
         RefuseValue("--final-paints", value, "16, 32, 40 or 50");
     }
     return paints;
 }
 
-bool ToSamplePixel(std::string_view value) {
+Sampling ToSampling(std::string_view value) {
     if (value != "average" && value != "pixel") {
         RefuseValue("--sample", value, "average or pixel");
     }
-    return value == "pixel";
+    return value == "pixel" ? Sampling::Pixel : Sampling::Average;
 }
 
 ScreenSize ToScreen(std::string_view value) {
@@ -266,11 +262,11 @@ void TakeKitOption(Words& words, KitOptions& kit) {
     if (option == "--folder") {
         kit.Folder = words.Value();
     } else if (option == "--difficulty") {
-        kit.Difficulty = ToDifficulty(words.Value());
+        kit.Chosen.Level = ToDifficulty(words.Value());
     } else if (option == "--final-paints") {
-        kit.FinalPaints = ToFinalPaints(words.Value());
+        kit.Chosen.FinalPaints = ToFinalPaints(words.Value());
     } else if (option == "--sample") {
-        kit.SamplePixel = ToSamplePixel(words.Value());
+        kit.Chosen.Sample = ToSampling(words.Value());
     } else if (option == "--sets") {
         kit.Sets.emplace_back(words.Value());
     } else if (option == "--template") {

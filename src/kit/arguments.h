@@ -9,7 +9,7 @@
 
 #include "convert/crop.h"
 #include "plan/plan_layout.h"
-#include "shell/menu.h"
+#include "shell/settings.h"
 #include "support/twips.h"
 
 namespace vendrel {
@@ -29,9 +29,7 @@ struct KitOutputs {
 struct KitOptions {
     std::vector<std::string> Photos;
     std::filesystem::path Folder = ".";
-    MenuId Difficulty = MenuId::EasySet;
-    int FinalPaints = 50;
-    bool SamplePixel = false;
+    Settings Chosen;
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
     CropPart Crop = CropPart::Whole;

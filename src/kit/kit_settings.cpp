@@ -11,13 +11,6 @@
 namespace vendrel {
 namespace {
 
-void SetDifficulty(Workplace& place, MenuId chosen) {
-    for (const MenuId level : {MenuId::EasySet, MenuId::MediumSet, MenuId::HardSet}) {
-        place.MainMenu[level].Checked = level == chosen;
-    }
-    SetStippleSize(place, chosen == MenuId::EasySet ? 8 : chosen == MenuId::MediumSet ? 6 : 4);
-}
-
 [[noreturn]] void RefuseSet(const WorkState& state, const std::string& name) {
     std::string sets;
     for (const PaintSet& set : state.PaintSets) {
@@ -61,11 +54,9 @@ void SelectTemplate(Workplace& place, const std::string& name) {
 }  // namespace
 
 void ApplySettings(Workplace& place, const KitOptions& options) {
-    SetDifficulty(place, options.Difficulty);
-    place.MainMenu[MenuId::AveragePixel].Checked = !options.SamplePixel;
-    place.MainMenu[MenuId::SamplePixel].Checked = options.SamplePixel;
-    place.State.FinalColors = options.FinalPaints;
-    SetColorChecks(place.MainMenu, options.FinalPaints);
+    SetStippleSize(place, TraitsOf(options.Chosen.Level).StippleSize);
+    place.State.Chosen = options.Chosen;
+    place.State.FinalColors = options.Chosen.FinalPaints;
     if (options.Template) {
         SelectTemplate(place, *options.Template);
     } else if (!options.Sets.empty()) {

@@ -131,7 +131,7 @@ void FillFigures(const Workplace& place, KitReport& report) {
     const TwipsPerPixel twips = place.Screen.Screen().Twips;
     report.Name = state.PictureName;
     report.Picture = fs::path(state.PicturePath).lexically_normal().string();
-    report.Difficulty = DifficultyWord(place.MainMenu);
+    report.Difficulty = DifficultyWord(state);
     report.PhotoSize = {state.BmpWidth, state.BmpHeight};
     report.WorkingSize = {state.PictureWidth / twips.X, state.PictureHeight / twips.Y};
     report.CellsAcross = state.CellsAcross;

@@ -13,11 +13,6 @@
 namespace vendrel {
 namespace {
 
-// Pixels walked between two symbols of an area: smaller stipples make longer, thinner areas.
-int SymbolPeriod(int stippleSize) {
-    return stippleSize == 4 ? 1000 : stippleSize == 6 ? 800 : 600;
-}
-
 // Draws onto the sheet, where a picture pixel takes SheetCellSize pixels each way.
 class SheetSink : public NumberSink {
   public:
@@ -47,7 +42,7 @@ class Numbering {
           picture_(picture),
           sink_(sink),
           finder_(place.State, place.Screen.Screen().Twips),
-          period_(SymbolPeriod(place.State.StippleSize)) {}
+          period_(TraitsOf(place.State.Chosen.Level).SymbolPeriod) {}
 
     NumberingCounts Run();
 

@@ -6,7 +6,7 @@ namespace vendrel {
 
 std::filesystem::path ResultFile(const Workplace& place, std::string_view kind) {
     return place.Folder.Path("Results/" + place.State.PictureName + " " +
-                             std::string(DifficultyWord(place.MainMenu)) + " " + std::string(kind) +
+                             std::string(DifficultyWord(place.State)) + " " + std::string(kind) +
                              ".BMP");
 }
 

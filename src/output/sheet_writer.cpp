@@ -56,7 +56,7 @@ SavedSheets WriteSheets(const Workplace& place, const SheetKinds& kinds) {
     if (painting.Empty()) {
         throw Error("There is no painted picture to number. Load a photo and paint it first.");
     }
-    state.SheetCellSize = SheetCellSizeFor(state.StippleSize);
+    state.SheetCellSize = TraitsOf(state.Chosen.Level).SheetCellSize;
     SheetRecord record(painting.Width(), painting.Height());
     SavedSheets saved;
     saved.Counts = Number(place, record);

@@ -7,11 +7,6 @@
 
 namespace vendrel {
 
-/// Sheet pixels per picture pixel: small stipples need a larger sheet for their symbols.
-[[nodiscard]] constexpr int SheetCellSizeFor(int stippleSize) {
-    return stippleSize == 8 ? 2 : stippleSize == 6 ? 3 : 4;
-}
-
 /// Which pictures a numbering draws.
 struct SheetKinds {
     bool Sheet = true;

@@ -7,8 +7,8 @@
 
 namespace vendrel {
 
-int SetMaxFinalColors(const Menu& menu, int n) {
-    return std::min(WantedFinalColors(menu), n);
+int SetMaxFinalColors(const Settings& chosen, int n) {
+    return std::min(chosen.FinalPaints, n);
 }
 
 void RestorePaintColors(Workplace& place) {

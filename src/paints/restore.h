@@ -7,7 +7,7 @@ namespace vendrel {
 
 /// The number of final paints for a palette of `n`: as many as the menu asks for (0 with nothing
 /// checked), but never more than there are.
-[[nodiscard]] int SetMaxFinalColors(const Menu& menu, int n);
+[[nodiscard]] int SetMaxFinalColors(const Settings& chosen, int n);
 
 /// Rebuilds the palette from the paint shop's choice: the selected paint sets or the selected
 /// template. Throws when the template cannot be read.

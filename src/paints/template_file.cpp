@@ -83,7 +83,7 @@ bool LoadTemplateColors(Workplace& place, std::string_view name) {
                                  "The Selected Template Has NO Paints Assigned!");
         return false;
     }
-    state.FinalColors = SetMaxFinalColors(place.MainMenu, state.PaintCount);
+    state.FinalColors = SetMaxFinalColors(state.Chosen, state.PaintCount);
     return true;
 }
 

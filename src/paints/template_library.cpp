@@ -112,7 +112,7 @@ void DeleteTemplate(Workplace& place, std::string_view name) {
         state.TemplateMode = false;
         state.TemplateLoaded = false;
         state.MfgSelected = true;
-        state.FinalColors = WantedFinalColors(place.MainMenu);
+        state.FinalColors = state.Chosen.FinalPaints;
     }
 }
 

@@ -112,10 +112,6 @@ int CellAt(int pixel, int stippleSize, int count) {
 
 }  // namespace
 
-int SmallestStipple(int stippleSize) {
-    return stippleSize == 4 ? 12 : stippleSize == 6 ? 24 : 44;
-}
-
 PixelGrid PaintPerPixel(const WorkState& state, int width, int height) {
     if (state.PixelMap.Across() < width || state.PixelMap.Down() < height ||
         state.CellsAcross < 1 || state.CellsDown < 1) {

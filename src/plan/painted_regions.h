@@ -32,7 +32,4 @@ struct PaintedRegions {
 /// longest edge with.
 [[nodiscard]] PaintedRegions FindRegions(PixelGrid paints, int smallest);
 
-/// Fewest pixels that still count as a stipple of that size: what the clean-up lets stand.
-[[nodiscard]] int SmallestStipple(int stippleSize);
-
 }  // namespace vendrel

@@ -131,7 +131,7 @@ PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
     RequireSymbols(state);
     PrintPlan plan;
     plan.Regions = FindRegions(PaintPerPixel(state, picture.Width(), picture.Height()),
-                               SmallestStipple(state.StippleSize));
+                               TraitsOf(state.Chosen.Level).FewestOwnPixels);
     plan.Lines = TraceOutlines(plan.Regions.Ids);
     plan.MmPerPixel = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
                                             : LegibleScale(state, plan.Regions, aspects);

@@ -37,7 +37,7 @@ constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {SampleMethod, "SampleMethod", "Color Sample Method", TemplateMenu},
     {AveragePixel, "AveragePixel", "Pixel Averaging", SampleMethod},
     {SamplePixel, "SamplePixel", "Pixel Sampleing", SampleMethod},
-    {WatchItPaint, "WatchItPaint", "Watch It Paint", TemplateMenu, true, true},
+    {WatchItPaint, "WatchItPaint", "Watch It Paint", TemplateMenu},
     {ShowAbout, "ShowAbout", "About", kMenuBar},
     {EndItAll, "EndItAll", "Exit", kMenuBar},
 }};
@@ -66,31 +66,31 @@ void SetupMenuItems(Menu& menu, int stage) {
     menu[PrintMenu].Enabled = stage == 4;
 }
 
-void SetColorChecks(Menu& menu, int finalColors) {
-    menu[Set16Colors].Checked = finalColors == 16;
-    menu[Set32Colors].Checked = finalColors == 32;
-    menu[Set40Colors].Checked = finalColors == 40;
-    menu[Set50Colors].Checked = finalColors == 50;
-}
-
-std::string_view DifficultyWord(const Menu& menu) {
-    if (menu[EasySet].Checked) {
-        return "Easy";
+bool IsChecked(const Settings& settings, MenuId entry) {
+    switch (entry) {
+        case EasySet:
+            return settings.Level == vendrel::Difficulty::Easy;
+        case MediumSet:
+            return settings.Level == vendrel::Difficulty::Medium;
+        case HardSet:
+            return settings.Level == vendrel::Difficulty::Difficult;
+        case Set16Colors:
+            return settings.FinalPaints == 16;
+        case Set32Colors:
+            return settings.FinalPaints == 32;
+        case Set40Colors:
+            return settings.FinalPaints == 40;
+        case Set50Colors:
+            return settings.FinalPaints == 50;
+        case AveragePixel:
+            return settings.Sample == Sampling::Average;
+        case SamplePixel:
+            return settings.Sample == Sampling::Pixel;
+        case WatchItPaint:
+            return settings.WatchItPaint;
+        default:
+            return false;
     }
-    return menu[MediumSet].Checked ? "Medium" : "Difficult";
-}
-
-int WantedFinalColors(const Menu& menu) {
-    if (menu[Set16Colors].Checked) {
-        return 16;
-    }
-    if (menu[Set32Colors].Checked) {
-        return 32;
-    }
-    if (menu[Set40Colors].Checked) {
-        return 40;
-    }
-    return menu[Set50Colors].Checked ? 50 : 0;
 }
 
 }  // namespace vendrel

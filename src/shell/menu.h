@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "shell/settings.h"
+
 namespace vendrel {
 
 /// The entries of the main menu, in menu order.
@@ -52,7 +54,6 @@ struct MenuEntry {
     std::string_view Caption;
     MenuId Parent;
     bool Enabled = true;
-    bool Checked = false;
 };
 
 /// The main menu as data; the window mirrors it.
@@ -76,13 +77,7 @@ class Menu {
 /// 3 stipples made, 4 painted, 5 everything off. Entries a stage does not name stay as they were.
 void SetupMenuItems(Menu& menu, int stage);
 
-/// Checks exactly the final-paints entry equal to `finalColors` (16, 32, 40 or 50).
-void SetColorChecks(Menu& menu, int finalColors);
-
-/// "Easy", "Medium" or "Difficult" after the checked difficulty: the word in file names.
-[[nodiscard]] std::string_view DifficultyWord(const Menu& menu);
-
-/// The final paints wanted after the checked entry: 16, 32, 40 or 50; 0 when none is checked.
-[[nodiscard]] int WantedFinalColors(const Menu& menu);
+/// Whether an entry shows a mark: the settings that are chosen do, all others never.
+[[nodiscard]] bool IsChecked(const Settings& settings, MenuId entry);
 
 }  // namespace vendrel

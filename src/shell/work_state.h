@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "shell/records.h"
+#include "shell/work_settings.h"
 #include "support/cell_queue.h"
 #include "support/color.h"
 #include "support/dib_view.h"
@@ -15,7 +16,7 @@ namespace vendrel {
 
 /// What every procedure and form reads and writes, from start-up to exit. Lists and grids keep an
 /// empty element 0. Colours are packed, sizes in pixels or twips as named.
-struct WorkState {
+struct WorkState : WorkSettings {
     // The catalogue and its ranges: never changed after loading.
     std::vector<PaintColor> MasterColors{1};
     int MasterCount = 0;
@@ -38,17 +39,6 @@ struct WorkState {
     std::string SelectedTemplate;
     std::string LastTemplate;
     int SwatchSize = 0;  // pixels
-
-    // Settings.
-    int StippleSize = 8;  // pixels: 8 Easy, 6 Medium, 4 Difficult
-    int HalfStipple = 4;
-    int StippleCheck = 4;
-    int FinalColors = 50;
-    bool KeepAllColors = false;
-    int CleanLevel = 8;
-    Color EdgeColor = Rgb(0, 255, 0);
-    Color BorderColor = Rgb(0, 0, 0);
-    Color SymbolColor = Rgb(125, 125, 125);
 
     // The photo.
     std::string PicturesFolder;

@@ -90,7 +90,7 @@ void LoadStipples_Click(Workplace& place) {
     TellOtherSize(place, path, header);
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;
-    SetColorChecks(place.MainMenu, place.State.FinalColors);
+    SetColorChecks(place.State.Chosen, place.State.FinalColors);
     EraseToColor(place, kBlack);
     DrawStipplePicture(place);
 }

@@ -92,7 +92,7 @@ std::vector<int> CountCells(const SavedGrid& saved) {
 
 std::filesystem::path StippleFilePath(const Workplace& place) {
     return place.Folder.Path("Saved Stipples/" + place.State.PictureName + "-" +
-                             std::string(DifficultyWord(place.MainMenu)) + ".stp");
+                             std::string(DifficultyWord(place.State)) + ".stp");
 }
 
 bool StippleFileExists(const Workplace& place) {

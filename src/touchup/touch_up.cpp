@@ -45,7 +45,7 @@ TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
     }
     opening_ = {state.FoundColors, state.FoundCount, {},
                 state.CellsAcross, state.CellsDown,  state.FinalColors};
-    wantedAtOpening_ = WantedFinalColors(place_.MainMenu);
+    wantedAtOpening_ = state.Chosen.FinalPaints;
     unsavedAtOpening_ = state.HasUnsavedWork;
     // The file of work that was only accepted is still in use, not left over.
     recoveryOffered_ = !state.HasUnsavedWork && RecoveryExists(place_);
@@ -149,7 +149,7 @@ CellRect TouchUp::AfterStep(CellRect dirty) {
 // load or a recovery brings another count.
 void TouchUp::ShowFinalColors() {
     const int finalColors = place_.State.FinalColors;
-    SetColorChecks(place_.MainMenu,
+    SetColorChecks(place_.State.Chosen,
                    finalColors == opening_.FinalColors ? wantedAtOpening_ : finalColors);
 }
 

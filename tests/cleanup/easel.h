@@ -13,8 +13,7 @@ namespace vendrel::test {
 struct Easel : Bench {
     Easel(int size, const std::vector<std::string>& rows, int paints = 9)
         : Bench(VENDREL_SOURCE_DIR) {
-        State.StippleSize = size;
-        State.HalfStipple = size / 2;
+        SizeStipples(State, size);
         State.PictureName = "Lady";
         Lay(rows, paints);
     }

@@ -18,8 +18,7 @@ using test::Paint;
 class Conversion : public test::Bench {
   public:
     Conversion(int stippleSize, int across, int down, Color color = kWhite) {
-        State.StippleSize = stippleSize;
-        State.HalfStipple = stippleSize / 2;
+        SizeStipples(State, stippleSize);
         State.PictureWidth = across * stippleSize * 15;
         State.PictureHeight = down * stippleSize * 15;
         State.PictureName = "Lady";
@@ -48,7 +47,7 @@ TEST(Stipples, TakeTheirColourFromTheirOwnPixels) {
     // One stipple: pixel row and column 0 belong to none, (5, 5) is the centre.
     for (const bool sampling : {false, true}) {
         Conversion bench(8, 1, 1, Rgb(200, 200, 200));
-        bench.MainMenu[MenuId::SamplePixel].Checked = sampling;
+        bench.State.Chosen.Sample = sampling ? Sampling::Pixel : Sampling::Average;
         bench.Photo().FillRect(1, 1, 8, 8, Rgb(100, 100, 100));
         bench.Photo().Set(5, 5, Rgb(2, 2, 2));
         test::UsePaints(bench.State, {Paint(2, 2, 2, "centre"), Paint(98, 98, 98, "average"),
@@ -68,7 +67,7 @@ TEST(Stipples, TakeTheirColourFromTheirOwnPixels) {
 std::vector<std::string> PlainConversion(const Conversion& bench, const Surface& photo,
                                          std::vector<PaintColor>& found) {
     const int size = bench.State.StippleSize;
-    const bool sampling = bench.MainMenu[MenuId::SamplePixel].Checked;
+    const bool sampling = bench.State.Chosen.Sample == Sampling::Pixel;
     found.assign(1, {});
     std::vector<std::string> rows;
     for (int y = 1; y <= photo.Height(); y += size) {
@@ -95,7 +94,7 @@ TEST(Stipples, AreMatchedAsOneByOneAndLookTheSameUnwatched) {
     std::mt19937 random(5);
     for (int round = 0; round < 24; ++round) {
         Conversion bench(4 + 2 * (round % 3), 7, 5);
-        bench.MainMenu[MenuId::SamplePixel].Checked = round % 2 == 0;
+        bench.State.Chosen.Sample = round % 2 == 0 ? Sampling::Pixel : Sampling::Average;
         bench.State.KeepAllColors = round % 4 < 2;
         bench.State.FinalColors = 3;
         bench.Photo() =

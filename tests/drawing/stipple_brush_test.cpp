@@ -15,8 +15,7 @@ constexpr Color kInk = Rgb(9, 8, 7);
 
 struct Easel : test::Bench {
     Easel(int width, int height, int size) {
-        State.StippleSize = size;
-        State.HalfStipple = size / 2;
+        SizeStipples(State, size);
         Frames.WorkFrame.Picture = Surface(width, height);
         State.PixelMap = Grid<MapPixel>(width, height);
         State.PaintColors.push_back({9, 8, 7, "", "", "", 0});

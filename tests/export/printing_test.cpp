@@ -28,7 +28,6 @@ class Printing : public testing::Test {
         std::stringstream bytes;
         bytes << symbols.rdbuf();
         easel_.Files.Write("Data/Symbols.txt", bytes.str());
-        easel_.MainMenu[MenuId::EasySet].Checked = true;
         SetupBMPSymbols(easel_.Place);
         PaintAllCells(easel_.Place);
     }

@@ -24,7 +24,9 @@ class MainFormTest : public ::testing::Test {
   protected:
     MainFormTest() { form_.Form_Load(); }
     [[nodiscard]] bool On(MenuId entry) const { return studio_.MainMenu[entry].Enabled; }
-    [[nodiscard]] bool Checked(MenuId entry) const { return studio_.MainMenu[entry].Checked; }
+    [[nodiscard]] bool Checked(MenuId entry) const {
+        return IsChecked(studio_.State.Chosen, entry);
+    }
     void LoadPhoto(const char* name = "four.bmp") {
         form_.Click(LoadBMP);
         ClickPhoto(form_.Chooser(), name);
@@ -125,10 +127,9 @@ TEST_F(MainFormTest, SampleMethodsAreNoMirrorImages) {
          {std::tuple{true, false, AveragePixel, false, true},
           {false, true, AveragePixel, true, false},
           {true, false, SamplePixel, true, false},
-          {false, true, SamplePixel, false, true},
-          {false, false, SamplePixel, true, false}}) {
-        studio_.MainMenu[AveragePixel].Checked = averaging;
-        studio_.MainMenu[SamplePixel].Checked = sampling;
+          {false, true, SamplePixel, false, true}}) {
+        studio_.State.Chosen.Sample = sampling ? Sampling::Pixel : Sampling::Average;
+        ASSERT_EQ(Checked(AveragePixel), averaging);
         form_.Click(click);
         EXPECT_EQ(Checked(AveragePixel), thenAveraging);
         EXPECT_EQ(Checked(SamplePixel), thenSampling);

@@ -91,7 +91,7 @@ TEST_F(PaintShopTest, ATemplateLowersTheFinalPaintsUntilSetsAreChosenAgain) {
     WriteTemplateOf("Empty", 0);
     WriteTemplateOf("Twelve", 12);
     studio_.State.FinalColors = 32;
-    SetColorChecks(studio_.MainMenu, 32);
+    SetColorChecks(studio_.State.Chosen, 32);
     shop_.Form_Load();
     shop_.UseTemplate_Click();
     EXPECT_TRUE(studio_.State.TemplateMode);

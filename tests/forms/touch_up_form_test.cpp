@@ -281,11 +281,11 @@ TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {
          {LoadStipples, StartupPaintShop, ChangeToStipples, MediumSet, HardSet, Set16Colors,
           Set50Colors, RunTemplateShop, AveragePixel, SamplePixel, EndItAll}) {
         const auto name = studio_.MainMenu[entry].Name;
-        const bool checked = studio_.MainMenu[entry].Checked;
+        const bool checked = IsChecked(studio_.State.Chosen, entry);
         studio_.Screen.Answers = {false};
         main_.Click(entry);
         EXPECT_THAT(studio_.Screen.Answers, IsEmpty()) << name;
-        EXPECT_EQ(studio_.MainMenu[entry].Checked, checked) << name;
+        EXPECT_EQ(IsChecked(studio_.State.Chosen, entry), checked) << name;
         EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty()) << name;
     }
     main_.Click(LoadBMP);

@@ -22,7 +22,7 @@ TEST(Arguments, APhotoAloneGetsTheDefaults) {
     ASSERT_EQ(arguments.What, Command::Kit);
     const KitOptions& kit = arguments.Kit;
     EXPECT_THAT(kit.Photos, ElementsAre("lady.bmp"));
-    EXPECT_EQ(kit.FinalPaints, 50);
+    EXPECT_EQ(kit.Chosen.FinalPaints, 50);
     EXPECT_EQ(kit.Screen.Width, 1920 * 15);
     EXPECT_EQ(kit.Screen.Height, 1080 * 15);
     EXPECT_EQ(kit.Plan.Sheet, Paper::A4);
@@ -43,9 +43,9 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
                                   "--",           "--odd.bmp"})
                                .Kit;
     EXPECT_EQ(kit.Folder, "here");
-    EXPECT_EQ(kit.Difficulty, MenuId::HardSet);
-    EXPECT_EQ(kit.FinalPaints, 16);
-    EXPECT_TRUE(kit.SamplePixel);
+    EXPECT_EQ(kit.Chosen.Level, Difficulty::Difficult);
+    EXPECT_EQ(kit.Chosen.FinalPaints, 16);
+    EXPECT_EQ(kit.Chosen.Sample, Sampling::Pixel);
     EXPECT_THAT(kit.Sets, ElementsAre("Oils, Fine", "Greys"));
     EXPECT_EQ(kit.Screen.Height, 600 * 15);
     EXPECT_TRUE(!kit.Outputs.Sheet && kit.Outputs.Painting && kit.Outputs.Grid);

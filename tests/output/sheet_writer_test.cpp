@@ -18,9 +18,7 @@ namespace {
 
 // Three by three stipples, the middle one of another paint, painted as the program paints.
 struct PaintedKit : test::Easel {
-    explicit PaintedKit(int stippleSize = 8, MenuId difficulty = MenuId::EasySet)
-        : Easel(stippleSize, {"111", "121", "111"}) {
-        MainMenu[difficulty].Checked = true;
+    explicit PaintedKit(int stippleSize = 8) : Easel(stippleSize, {"111", "121", "111"}) {
         SetupBMPSymbols(Place);
         PaintAllCells(Place);
     }

@@ -32,11 +32,10 @@ TEST(TemplateFile, RefusesADoubleQuoteAndKeepsTheOldFile) {
 }
 
 TEST(TemplateFile, BecomesThePaletteAndLowersTheFinalPaints) {
-    for (const auto& [paints, wanted, finalColors] : {std::tuple{12, MenuId::Set32Colors, 12},
-                                                      {33, MenuId::Set32Colors, 32},
-                                                      {60, MenuId::EasySet, 0}}) {
+    for (const auto& [paints, wanted, finalColors] :
+         {std::tuple{12, 32, 12}, {33, 32, 32}, {60, 0, 0}}) {
         test::Bench bench;
-        bench.MainMenu[wanted].Checked = true;
+        bench.State.Chosen.FinalPaints = wanted;
         WriteTemplate(TemplatePath(bench.Place, "T"),
                       std::vector<PaintColor>(static_cast<std::size_t>(paints) + 1));
         EXPECT_TRUE(LoadTemplateColors(bench.Place, "T"));

@@ -51,20 +51,25 @@ TEST(Menu, EntriesStandAtTheirIds) {
     EXPECT_EQ(menu[SamplePixel].Caption, "Pixel Sampleing");
 }
 
-TEST(Menu, WordAndPaintsFollowTheChecks) {
-    Menu menu;
-    EXPECT_EQ(WantedFinalColors(menu), 0);
-    EXPECT_EQ(DifficultyWord(menu), "Difficult");  // nothing checked
-    menu[MediumSet].Checked = true;
-    EXPECT_EQ(DifficultyWord(menu), "Medium");
-    menu[EasySet].Checked = true;
-    EXPECT_EQ(DifficultyWord(menu), "Easy");
+TEST(Menu, TheChosenSettingsAloneAreChecked) {
+    const auto checked = [](const Settings& settings) {
+        std::string names;
+        const Menu menu;
+        for (const MenuEntry& entry : menu.Entries()) {
+            names += IsChecked(settings, entry.Id) ? std::string(entry.Name) + " " : "";
+        }
+        return names;
+    };
+    Settings settings;
+    EXPECT_EQ(checked(settings), "EasySet Set50Colors AveragePixel WatchItPaint ");
+    settings = {vendrel::Difficulty::Difficult, 0, Sampling::Pixel, false};
+    EXPECT_EQ(checked(settings), "HardSet SamplePixel ");
     for (const int n : {16, 32, 40, 50}) {
-        SetColorChecks(menu, n);
-        EXPECT_EQ(WantedFinalColors(menu), n);
+        SetColorChecks(settings, n);
+        EXPECT_EQ(settings.FinalPaints, n);
     }
-    SetColorChecks(menu, 12);
-    EXPECT_EQ(WantedFinalColors(menu), 0);
+    SetColorChecks(settings, 12);
+    EXPECT_EQ(settings.FinalPaints, 0);
 }
 
 }  // namespace

@@ -14,7 +14,6 @@ using testing::HasSubstr;
 class LoadStipples : public testing::Test {
   protected:
     LoadStipples() {
-        bench_.MainMenu[MenuId::EasySet].Checked = true;
         SetupMenuItems(bench_.MainMenu, 2);
         bench_.MainMenu[MenuId::NextBestColors].Enabled = false;
     }
@@ -43,7 +42,7 @@ TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
     EXPECT_EQ(state.CellMarks, Grid<CellMark>(2, 1));
     EXPECT_TRUE(bench_.MainMenu[MenuId::PaintItNow].Enabled);
     EXPECT_TRUE(bench_.MainMenu[MenuId::NextBestColors].Enabled);
-    EXPECT_EQ(WantedFinalColors(bench_.MainMenu), 32);
+    EXPECT_EQ(bench_.State.Chosen.FinalPaints, 32);
     EXPECT_TRUE(bench_.Screen.Messages.empty());
     const Surface& picture = bench_.Frames.WorkFrame.Picture;
     EXPECT_EQ(picture.Get(5, 5), Rgb(4, 5, 6));
@@ -82,7 +81,7 @@ TEST_F(LoadStipples, IsOfferedWhileAFileIsThere) {
     Save("");
     CheckSavedStipples(bench_.Place);
     EXPECT_TRUE(bench_.MainMenu[MenuId::LoadStipples].Enabled);
-    bench_.MainMenu[MenuId::EasySet].Checked = false;
+    bench_.State.Chosen.Level = Difficulty::Difficult;
     CheckSavedStipples(bench_.Place);
     EXPECT_FALSE(bench_.MainMenu[MenuId::LoadStipples].Enabled);
 }

@@ -11,8 +11,7 @@ using Rows = std::vector<std::string>;
 /// A workplace with a converted grid and paints named "Paint 1" and so on, at Easy.
 struct KitBench : Easel {
     explicit KitBench(const Rows& rows, int paints = 9) : Easel(8, rows, paints) {
-        MainMenu[MenuId::EasySet].Checked = true;
-        SetColorChecks(MainMenu, State.FinalColors);
+        SetColorChecks(State.Chosen, State.FinalColors);
     }
 
     [[nodiscard]] Rows Edited() const { return GridOf(State.EditStipples); }

@@ -115,10 +115,10 @@ TEST(Cancelling, PutsTheKitBackAsItWas) {
     TouchUp editor(bench.Place);
     EXPECT_EQ(editor.LoadIt_Click(), (CellRect{1, 1, 3, 2}));
     EXPECT_EQ(bench.State.CellsAcross, 2) << "the file's own size";
-    EXPECT_TRUE(bench.MainMenu[MenuId::Set16Colors].Checked);
+    EXPECT_TRUE(IsChecked(bench.State.Chosen, MenuId::Set16Colors));
     EXPECT_THAT([&] { editor.Accept(); }, ThrowsMessage<Error>(HasSubstr("3 x 2 stipples")));
     editor.Cancel();
-    EXPECT_TRUE(bench.MainMenu[MenuId::Set50Colors].Checked);
+    EXPECT_TRUE(IsChecked(bench.State.Chosen, MenuId::Set50Colors));
     EXPECT_EQ(bench.State.FinalColors, 50);
     EXPECT_EQ(GridOf(bench.State.Stipples), (Rows{"123", "123"}));
     EXPECT_FALSE(bench.State.HasUnsavedWork);
@@ -128,7 +128,7 @@ TEST(Loading, BringsGridPaintsAndFinalPaintsAsOneStep) {
     KitBench bench({"12", "12"}, 2);
     bench.Files.Write(kSaved, "1,2,2,16\r\n" + kRed + kFourReds);
     bench.State.FinalColors = 12;  // a template of twelve paints, while the menu asks for fifty
-    const auto checked = [&] { return WantedFinalColors(bench.MainMenu); };
+    const auto checked = [&] { return bench.State.Chosen.FinalPaints; };
     TouchUp editor(bench.Place);
     editor.Fill({1, 1}, 2);
     editor.Undo();
