@@ -1,6 +1,8 @@
 #include "kit/arguments.h"
 
+#include <CLI/CLI.hpp>  // here alone: it takes seconds to compile
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <utility>
 
@@ -23,90 +25,64 @@ constexpr std::string_view kHelp =
 Try: vendrel kit PBNLady.bmp
 )";
 
-constexpr std::string_view kKitHelp =
+constexpr const char* kKitHead =
     R"(vendrel kit PHOTO... makes a paint-by-symbol kit of each photo.
 
 PHOTO is a path to a photo or the name of one in Pictures. JPEG, PNG, WebP, TIFF
 and GIF photos are kept in Pictures as .bmp (not in builds without windows).
-
-  --folder DIR               works in DIR instead of the folder it is started in
-  --difficulty LEVEL         easy (default), medium or difficult
-  --final-paints N           16, 32, 40 or 50 (default) paints at most
-  --sample METHOD            average (default) or pixel
-  --sets NAME                allows this paint set; may be repeated
-  --template NAME            allows the paints of templates/NAME.csv
-  --screen WIDTHxHEIGHT      sizes the picture for this screen (default 1920x1080)
-  --crop [PART]              instead of stretching the photo, cuts off what does not
-                             fit the sheet; keeps the centre (default) or the top
-  --outputs LIST             of sheet,reference,painting,chart,grid,pdf (default
-                             all but pdf)
-  --paper SIZE               prints the pdf on A4 (default), Letter or A3
-  --canvas WIDTHcm           prints the pdf for a canvas this wide, as in 60cm;
-                             auto (default) fills the pages that legible
-                             symbols need
-  --from-grid                takes the saved grid instead of converting the photo
-  --replace-grid             writes over a saved grid that differs
-  --json                     prints one JSON object per photo
-  --quiet                    prints nothing but errors
-
-Without --sets and --template the paints are those of Data/paintlist.txt.
-Pictures and pdf files go to Results, grids to "Saved Stipples".
 )";
 
-// The words of a command line, taken one by one. "--name=value" and "--name value" are the same.
-class Words {
-  public:
-    explicit Words(std::span<const std::string_view> words) : words_(words) {}
+constexpr const char* kKitFoot =
+    R"(Without --sets and --template the paints are those of Data/paintlist.txt.
+Pictures and pdf files go to Results, grids to "Saved Stipples".)";
 
-    bool Next() {
-        if (at_ == words_.size()) {
-            return false;
+// What "vendrel kit --help" prints: the head, the options in two columns, the foot.
+class KitHelp : public CLI::Formatter {
+  public:
+    KitHelp() { column_width(kDescriptionColumn); }
+
+    std::string make_help(const CLI::App* app, std::string /*name*/,
+                          CLI::AppFormatMode /*mode*/) const override {
+        std::string text = app->get_description() + "\n";
+        for (const CLI::Option* option :
+             app->get_options([](const CLI::Option* o) { return !o->get_description().empty(); })) {
+            text += make_option(option, false);
         }
-        word_ = words_[at_++];
-        value_.reset();
-        const bool isOption = !onlyPhotos_ && word_.starts_with("--");
-        if (const auto equals = word_.find('='); isOption && equals != word_.npos) {
-            value_ = word_.substr(equals + 1);
-            word_ = word_.substr(0, equals);
-        }
-        if (isOption && word_ == "--") {
-            onlyPhotos_ = true;
-            return Next();
-        }
-        return true;
-    }
-    [[nodiscard]] std::string_view Word() const { return word_; }
-    [[nodiscard]] bool IsOption() const {
-        return !onlyPhotos_ && word_.size() > 1 && word_.front() == '-';
-    }
-    /// Takes the next word when it is this one: a value that may be left out.
-    bool TakeIfNext(std::string_view word) {
-        const bool isNext = at_ < words_.size() && words_[at_] == word;
-        at_ += isNext ? 1 : 0;
-        return isNext;
-    }
-    [[nodiscard]] bool HasOwnValue() const { return value_.has_value(); }
-    /// The value of the option just taken.
-    [[nodiscard]] std::string_view Value() {
-        if (!value_) {
-            if (at_ == words_.size()) {
-                throw UsageError(std::string(word_) + " needs a value behind it.");
-            }
-            value_ = words_[at_++];
-        }
-        if (value_->empty()) {
-            throw UsageError(std::string(word_) + " needs a value that is not empty.");
-        }
-        return *value_;
+        return text + "\n" + make_footer(app);
     }
 
   private:
-    std::span<const std::string_view> words_;
-    std::size_t at_ = 0;
-    std::string_view word_;
-    std::optional<std::string_view> value_;
-    bool onlyPhotos_ = false;
+    static constexpr std::size_t kDescriptionColumn = 29;
 };
+
+template <typename Value>
+struct Choice {
+    std::string_view Word;
+    Value Meaning;
+};
+
+constexpr auto kLevels = [] {
+    std::array<Choice<Difficulty>, kDifficulties.size()> levels{};
+    std::ranges::transform(kDifficulties, levels.begin(), [](const DifficultyTraits& traits) {
+        return Choice<Difficulty>{traits.Option, traits.Level};
+    });
+    return levels;
+}();
+constexpr auto kPaintCounts =
+    std::to_array<Choice<int>>({{"16", 16}, {"32", 32}, {"40", 40}, {"50", 50}});
+constexpr auto kSampleMethods =
+    std::to_array<Choice<Sampling>>({{"average", Sampling::Average}, {"pixel", Sampling::Pixel}});
+constexpr auto kPapers =
+    std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
+constexpr auto kCropParts =
+    std::to_array<Choice<CropPart>>({{"center", CropPart::Centre}, {"top", CropPart::Top}});
+constexpr auto kOutputs =
+    std::to_array<Choice<bool KitOutputs::*>>({{"sheet", &KitOutputs::Sheet},
+                                               {"reference", &KitOutputs::Reference},
+                                               {"painting", &KitOutputs::Painting},
+                                               {"chart", &KitOutputs::Chart},
+                                               {"grid", &KitOutputs::Grid},
+                                               {"pdf", &KitOutputs::Pdf}});
 
 [[noreturn]] void RefuseValue(std::string_view option, std::string_view value,
                               std::string_view choices) {
@@ -114,61 +90,56 @@ class Words {
                      std::string(choices) + ".");
 }
 
-[[nodiscard]] std::optional<int> ToInt(std::string_view text) {
+// "easy, medium or difficult"
+template <typename Choices>
+std::string Listed(const Choices& choices, std::string_view last) {
+    std::string list;
+    for (const auto& choice : choices) {
+        list += list.empty() ? "" : &choice == &choices.back() ? last : ", ";
+        list += choice.Word;
+    }
+    return list;
+}
+
+template <typename Choices>
+const auto* FindChoice(const Choices& choices, std::string_view word) {
+    const auto found = std::ranges::find_if(
+        choices, [word](const auto& choice) { return SameIgnoringCase(choice.Word, word); });
+    return found == choices.end() ? nullptr : &found->Meaning;
+}
+
+template <typename Choices>
+auto Chosen(std::string_view option, std::string_view value, const Choices& choices) {
+    const auto* const choice = FindChoice(choices, value);
+    if (choice == nullptr) {
+        RefuseValue(option, value, Listed(choices, " or "));
+    }
+    return *choice;
+}
+
+// Some spell it so.
+std::string_view American(std::string_view part) {
+    return part == "centre" ? "center" : part;
+}
+
+[[nodiscard]] int ToInt(std::string_view text) {
     int number = 0;
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (failure != std::errc{} || end != text.data() + text.size()) {
-        return std::nullopt;
-    }
-    return number;
+    return failure == std::errc{} && end == text.data() + text.size() ? number : 0;
 }
 
-Difficulty ToDifficulty(std::string_view value) {
-    for (const DifficultyTraits& traits : kDifficulties) {
-        if (value == traits.Option) {
-            return traits.Level;
-        }
-    }
-    RefuseValue("--difficulty", value, "easy, medium or difficult");
-}
-
-int ToFinalPaints(std::string_view value) {
-    const int paints = ToInt(value).value_or(0);
-    if (std::ranges::find(kFinalPaints, paints) == kFinalPaints.end()) {
-        RefuseValue("--final-paints", value, "16, 32, 40 or 50");
-    }
-    return paints;
-}
-
-Sampling ToSampling(std::string_view value) {
-    if (value != "average" && value != "pixel") {
-        RefuseValue("--sample", value, "average or pixel");
-    }
-    return value == "pixel" ? Sampling::Pixel : Sampling::Average;
-}
-
-ScreenSize ToScreen(std::string_view value) {
+ScreenSize ToScreen(const std::string& option, std::string_view value) {
     constexpr int kLargest = 32767;
     const auto cross = std::min(value.find('x'), value.size());
-    const int width = ToInt(value.substr(0, cross)).value_or(0);
-    const int height = cross < value.size() ? ToInt(value.substr(cross + 1)).value_or(0) : 0;
+    const int width = ToInt(value.substr(0, cross));
+    const int height = cross < value.size() ? ToInt(value.substr(cross + 1)) : 0;
     if (std::min(width, height) < 1 || std::max(width, height) > kLargest) {
-        RefuseValue("--screen", value, "WIDTHxHEIGHT in pixels, as in 1920x1080");
+        RefuseValue(option, value, "WIDTHxHEIGHT in pixels, as in 1920x1080");
     }
     return ScreenSize::FromPixels(width, height);
 }
 
-bool* OutputNamed(KitOutputs& outputs, std::string_view name) {
-    return name == "sheet"       ? &outputs.Sheet
-           : name == "reference" ? &outputs.Reference
-           : name == "painting"  ? &outputs.Painting
-           : name == "chart"     ? &outputs.Chart
-           : name == "grid"      ? &outputs.Grid
-           : name == "pdf"       ? &outputs.Pdf
-                                 : nullptr;
-}
-
-KitOutputs ToOutputs(std::string_view value) {
+KitOutputs ToOutputs(const std::string& option, const std::string& value) {
     KitOutputs outputs{.Sheet = false,
                        .Reference = false,
                        .Painting = false,
@@ -176,33 +147,19 @@ KitOutputs ToOutputs(std::string_view value) {
                        .Grid = false,
                        .Pdf = false,
                        .ByName = true};
-    while (!value.empty()) {
-        const auto comma = std::min(value.find(','), value.size());
-        const std::string_view name = value.substr(0, comma);
-        bool* const output = OutputNamed(outputs, name);
+    for (const std::string& name : CLI::detail::split(value, ',')) {
+        const auto* const output = FindChoice(kOutputs, name);
         if (output == nullptr) {
-            RefuseValue("--outputs", name,
-                        "from sheet, reference, painting, chart, grid and pdf, with commas "
-                        "between");
+            RefuseValue(option, name,
+                        "from " + Listed(kOutputs, " and ") + ", with commas between");
         }
-        *output = true;
-        value.remove_prefix(std::min(comma + 1, value.size()));
+        outputs.** output = true;
     }
     return outputs;
 }
 
-Paper ToPaper(std::string_view value) {
-    for (const auto& [name, paper] :
-         {std::pair{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}}) {
-        if (SameIgnoringCase(value, name)) {
-            return paper;
-        }
-    }
-    RefuseValue("--paper", value, "A4, Letter or A3");
-}
-
 // "60cm" or "60.5", within what can be painted; "auto" is 0.
-double ToCanvasCm(std::string_view value) {
+double ToCanvasCm(const std::string& option, std::string_view value) {
     if (value == "auto") {
         return 0;
     }
@@ -213,90 +170,198 @@ double ToCanvasCm(std::string_view value) {
         std::from_chars(number.data(), number.data() + number.size(), width);
     if (failure != std::errc() || end != number.data() + number.size() ||
         !(width >= kSmallestCanvasCm && width <= kLargestCanvasCm)) {
-        RefuseValue("--canvas", value, "a width from 10cm to 300cm, or auto");
+        RefuseValue(option, value, "a width from 10cm to 300cm, or auto");
     }
     return width;
 }
 
-CropPart ToCropPart(Words& words) {
-    if (!words.HasOwnValue()) {
-        if (words.TakeIfNext("top")) {
-            return CropPart::Top;
+struct OptionText {
+    std::string Name;
+    std::string Value;  // as the help calls it
+    std::string Does;   // nothing: left out of the help
+};
+
+// An option with one value, handed to `take` with the option's name; the last one given counts.
+template <typename Take>
+void AddValue(CLI::App& app, const OptionText& text, Take take) {
+    const auto takeEach = [name = text.Name, take](const CLI::results_t& values) {
+        for (const std::string& value : values) {
+            if (value.empty()) {
+                throw UsageError(name + " needs a value that is not empty.");
+            }
+            take(name, value);
         }
-        words.TakeIfNext("centre");
-        return CropPart::Centre;
-    }
-    if (words.Value() != "centre" && words.Value() != "top") {
-        RefuseValue("--crop", words.Value(), "centre or top");
-    }
-    return words.Value() == "top" ? CropPart::Top : CropPart::Centre;
+        return true;
+    };
+    app.add_option(text.Name, takeEach, text.Does)->option_text(text.Value)->take_all();
 }
 
-// Options that take no value; answers whether this was one.
-bool TakeSwitch(Words& words, KitOptions& kit) {
-    bool* const target = words.Word() == "--json"           ? &kit.Json
-                         : words.Word() == "--quiet"        ? &kit.Quiet
-                         : words.Word() == "--from-grid"    ? &kit.FromGrid
-                         : words.Word() == "--replace-grid" ? &kit.ReplaceGrid
-                                                            : nullptr;
-    if (target == nullptr) {
-        return false;
-    }
-    if (words.HasOwnValue()) {
-        throw UsageError(std::string(words.Word()) + " takes no value.");
-    }
-    *target = true;
-    return true;
+template <typename Choices, typename Value>
+void AddChoice(CLI::App& app, const OptionText& text, const Choices& choices, Value& target) {
+    AddValue(app, text, [&](const std::string& option, const std::string& value) {
+        target = Chosen(option, value, choices);
+    });
 }
 
-[[noreturn]] void RefuseOption(std::string_view option, std::string_view help) {
-    throw UsageError("There is no option " + std::string(option) + ". \"" + std::string(help) +
-                     "\" lists them.");
+template <typename Text>
+void AddText(CLI::App& app, const OptionText& text, Text& target) {
+    AddValue(app, text,
+             [&target](const std::string&, const std::string& value) { target = value; });
 }
 
-void TakeKitOption(Words& words, KitOptions& kit) {
-    const std::string_view option = words.Word();
-    if (TakeSwitch(words, kit)) {
+void AddSwitch(CLI::App& app, const OptionText& text, bool& target) {
+    app.add_flag(text.Name, target, text.Does)->disable_flag_override();
+}
+
+void AddHelp(CLI::App& app) {
+    app.set_help_flag();  // the library's own would look at wrong values first
+    app.add_flag_callback("-h,--help", [] { throw CLI::CallForHelp(); })->trigger_on_parse();
+}
+
+void AddPaintOptions(CLI::App& app, KitOptions& kit) {
+    AddText(app, {"--folder", "DIR", "works in DIR instead of the folder it is started in"},
+            kit.Folder);
+    AddChoice(app, {"--difficulty", "LEVEL", "easy (default), medium or difficult"}, kLevels,
+              kit.Chosen.Level);
+    AddChoice(app, {"--final-paints", "N", "16, 32, 40 or 50 (default) paints at most"},
+              kPaintCounts, kit.Chosen.FinalPaints);
+    AddChoice(app, {"--sample", "METHOD", "average (default) or pixel"}, kSampleMethods,
+              kit.Chosen.Sample);
+    AddValue(app, {"--sets", "NAME", "allows this paint set; may be repeated"},
+             [&kit](const std::string&, const std::string& set) { kit.Sets.push_back(set); });
+    AddText(app, {"--template", "NAME", "allows the paints of templates/NAME.csv"}, kit.Template);
+}
+
+void AddPictureOptions(CLI::App& app, KitOptions& kit) {
+    AddValue(app,
+             {"--screen", "WIDTHxHEIGHT", "sizes the picture for this screen (default 1920x1080)"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Screen = ToScreen(option, value);
+             });
+    AddValue(app,
+             {"--crop", "[PART]",
+              "instead of stretching the photo, cuts off what does not\n"
+              "fit the sheet; keeps the center (default) or the top"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Crop = Chosen(option, American(value), kCropParts);
+             });
+}
+
+void AddOutputOptions(CLI::App& app, KitOptions& kit) {
+    AddValue(app,
+             {"--outputs", "LIST",
+              "of " +
+                  CLI::detail::join(kOutputs,
+                                    [](const auto& output) { return std::string(output.Word); }) +
+                  " (default\nall but pdf)"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Outputs = ToOutputs(option, value);
+             });
+    AddChoice(app, {"--paper", "SIZE", "prints the pdf on A4 (default), Letter or A3"}, kPapers,
+              kit.Plan.Sheet);
+    AddValue(app,
+             {"--canvas", "WIDTHcm",
+              "prints the pdf for a canvas this wide, as in 60cm;\n"
+              "auto (default) fills the pages that legible\nsymbols need"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Plan.CanvasCm = ToCanvasCm(option, value);
+             });
+}
+
+void AddRunOptions(CLI::App& app, KitOptions& kit) {
+    AddSwitch(app, {"--from-grid", "", "takes the saved grid instead of converting the photo"},
+              kit.FromGrid);
+    AddSwitch(app, {"--replace-grid", "", "writes over a saved grid that differs"},
+              kit.ReplaceGrid);
+    AddSwitch(app, {"--json", "", "prints one JSON object per photo"}, kit.Json);
+    AddSwitch(app, {"--quiet", "", "prints nothing but errors"}, kit.Quiet);
+}
+
+void AddKit(CLI::App& app, KitOptions& kit) {
+    AddPaintOptions(app, kit);
+    AddPictureOptions(app, kit);
+    AddOutputOptions(app, kit);
+    AddRunOptions(app, kit);
+    app.add_option("PHOTO", kit.Photos);
+}
+
+// A part behind --crop belongs to it; any other word there is a photo.
+std::string CropWord(std::span<const std::string_view>& rest) {
+    std::string_view part = kCropParts.front().Word;
+    if (!rest.empty() && FindChoice(kCropParts, American(rest.front())) != nullptr) {
+        part = rest.front();
+        rest = rest.subspan(1);
+    }
+    return "--crop=" + std::string(part);
+}
+
+// What the library would take for something else: "--json=" and "--folder=" without a value.
+void CheckValueInside(const CLI::App& app, std::string_view word) {
+    const auto equals = word.find('=');
+    if (!word.starts_with("--") || equals == word.npos) {
         return;
     }
-    if (option == "--folder") {
-        kit.Folder = words.Value();
-    } else if (option == "--difficulty") {
-        kit.Chosen.Level = ToDifficulty(words.Value());
-    } else if (option == "--final-paints") {
-        kit.Chosen.FinalPaints = ToFinalPaints(words.Value());
-    } else if (option == "--sample") {
-        kit.Chosen.Sample = ToSampling(words.Value());
-    } else if (option == "--sets") {
-        kit.Sets.emplace_back(words.Value());
-    } else if (option == "--template") {
-        kit.Template = words.Value();
-    } else if (option == "--crop") {
-        kit.Crop = ToCropPart(words);
-    } else if (option == "--screen") {
-        kit.Screen = ToScreen(words.Value());
-    } else if (option == "--outputs") {
-        kit.Outputs = ToOutputs(words.Value());
-    } else if (option == "--paper") {
-        kit.Plan.Sheet = ToPaper(words.Value());
-    } else if (option == "--canvas") {
-        kit.Plan.CanvasCm = ToCanvasCm(words.Value());
-    } else {
-        RefuseOption(option, "vendrel kit --help");
+    const std::string name(word.substr(0, equals));
+    const CLI::Option* const option = app.get_option_no_throw(name);
+    if (option != nullptr && option->get_disable_flag_override()) {
+        throw UsageError(name + " takes no value.");
+    }
+    if (option != nullptr && equals + 1 == word.size()) {
+        throw UsageError(name + " needs a value that is not empty.");
     }
 }
 
-Arguments ParseKit(Words& words) {
+// The words as the library wants them: the last one first.
+std::vector<std::string> Prepared(const CLI::App& app, std::span<const std::string_view> words) {
+    std::vector<std::string> prepared;
+    while (!words.empty() && words.front() != "--") {
+        const std::string_view word = words.front();
+        words = words.subspan(1);
+        CheckValueInside(app, word);
+        prepared.push_back(word == "--crop" ? CropWord(words) : std::string(word));
+    }
+    prepared.insert(prepared.end(), words.begin(), words.end());
+    std::ranges::reverse(prepared);
+    return prepared;
+}
+
+[[noreturn]] void RefuseWord(const std::string& word, const std::string& help) {
+    if (word.starts_with('-')) {
+        throw UsageError("There is no option " + word.substr(0, word.find('=')) + ". \"" + help +
+                         "\" lists them.");
+    }
+    throw UsageError("\"" + word + "\" is nothing that Vendrel does. \"" + help +
+                     "\" lists what it does.");
+}
+
+// Answers whether the words ask for help instead.
+bool AsksForHelp(CLI::App& app, std::span<const std::string_view> words, const std::string& help) {
+    AddHelp(app);
+    app.allow_extras();
+    try {
+        app.parse(Prepared(app, words));
+    } catch (const CLI::CallForHelp&) {
+        return true;
+    } catch (const CLI::ArgumentMismatch&) {
+        throw UsageError(std::string(words.back()) + " needs a value behind it.");
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(error.what());
+    }
+    for (const std::string& word : app.remaining()) {
+        if (word != "--") {
+            RefuseWord(word, help);
+        }
+    }
+    return false;
+}
+
+Arguments ParseKit(std::span<const std::string_view> words) {
     Arguments arguments{Command::Kit, {}, {}};
     KitOptions& kit = arguments.Kit;
-    while (words.Next()) {
-        if (!words.IsOption()) {
-            kit.Photos.emplace_back(words.Word());
-        } else if (words.Word() == "--help" || words.Word() == "-h") {
-            return {Command::KitHelp, {}, {}};
-        } else {
-            TakeKitOption(words, kit);
-        }
+    CLI::App app;
+    AddKit(app, kit);
+    if (AsksForHelp(app, words, "vendrel kit --help")) {
+        return {Command::KitHelp, {}, {}};
     }
     if (kit.Photos.empty()) {
         throw UsageError("Name at least one photo, as in \"vendrel kit PBNLady.bmp\".");
@@ -307,55 +372,49 @@ Arguments ParseKit(Words& words) {
     return arguments;
 }
 
-// The commands whose one option is the folder; the words begin at the option.
-Arguments ParseFolder(Command command, Words& words) {
+// The commands whose one option is the folder.
+Arguments ParseFolder(Command command, std::span<const std::string_view> words) {
     Arguments arguments{command, {}, "."};
-    do {
-        if (words.Word() == "--help" || words.Word() == "-h") {
-            return {Command::Help, {}, {}};
-        }
-        if (words.Word() != "--folder") {
-            RefuseOption(words.Word(), "vendrel --help");
-        }
-        arguments.Folder = words.Value();
-    } while (words.Next());
-    return arguments;
+    bool version = false;
+    CLI::App app;
+    AddText(app, {"--folder", "DIR", ""}, arguments.Folder);
+    if (command == Command::Window) {
+        AddSwitch(app, {"--version", "", ""}, version);
+    }
+    if (AsksForHelp(app, words, "vendrel --help")) {
+        return {Command::Help, {}, {}};
+    }
+    return version ? Arguments{Command::Version, {}, {}} : arguments;
 }
 
 }  // namespace
 
-Arguments ParseArguments(std::span<const std::string_view> given) {
-    Words words(given);
-    if (!words.Next()) {
-        return {};
-    }
-    const std::string_view command = words.Word();
+Arguments ParseArguments(std::span<const std::string_view> words) {
+    const std::string_view command = words.empty() ? "" : words.front();
     if (command == "kit") {
-        return ParseKit(words);
+        return ParseKit(words.subspan(1));
     }
     if (command == "symbols") {
-        return words.Next() ? ParseFolder(Command::Symbols, words)
-                            : Arguments{Command::Symbols, {}, "."};
+        return ParseFolder(Command::Symbols, words.subspan(1));
     }
-    if (command == "--folder") {
-        return ParseFolder(Command::Window, words);
-    }
-    if (command == "--help" || command == "-h" || command == "help") {
+    if (command == "help") {
         return {Command::Help, {}, {}};
     }
-    if (command == "--version") {
-        return {Command::Version, {}, {}};
-    }
-    throw UsageError("\"" + std::string(command) +
-                     "\" is nothing that Vendrel does. \"vendrel --help\" lists what it does.");
+    return ParseFolder(Command::Window, words);
 }
 
 std::string_view HelpText() {
     return kHelp;
 }
 
-std::string_view KitHelpText() {
-    return kKitHelp;
+std::string KitHelpText() {
+    KitOptions kit;
+    CLI::App app(kKitHead);
+    app.set_help_flag();  // not listed
+    app.footer(kKitFoot);
+    app.formatter(std::make_shared<KitHelp>());
+    AddKit(app, kit);
+    return app.help();
 }
 
 }  // namespace vendrel

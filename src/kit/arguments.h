@@ -54,6 +54,6 @@ struct Arguments {
 [[nodiscard]] Arguments ParseArguments(std::span<const std::string_view> words);
 
 [[nodiscard]] std::string_view HelpText();
-[[nodiscard]] std::string_view KitHelpText();
+[[nodiscard]] std::string KitHelpText();
 
 }  // namespace vendrel

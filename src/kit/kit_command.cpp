@@ -86,7 +86,7 @@ class KitRun {
     void Report(const KitReport& report) {
         ui_.ClearLine();
         if (options_.Json) {
-            around_.Out << JsonOf(report).Text() << std::endl;
+            around_.Out << JsonLineOf(report) << std::endl;
         } else if (!options_.Quiet) {
             around_.Out << SummaryOf(report) << std::flush;
         }
@@ -97,9 +97,7 @@ class KitRun {
         (void)ui_.TakeMessages();
         around_.Err << "vendrel: " << sentence << std::endl;
         if (options_.Json) {
-            JsonObject object;
-            object.Add("photo", word).Add("error", sentence);
-            around_.Out << object.Text() << std::endl;
+            around_.Out << JsonLineOf(word, sentence) << std::endl;
         }
     }
 

@@ -2,19 +2,28 @@
 
 #include <array>
 #include <charconv>
+#include <nlohmann/json.hpp>
 
 #include "convert/working_size.h"
+#include "support/text_file.h"
 
 namespace vendrel {
 namespace {
 
 constexpr std::size_t kLabelWidth = 14;
 
-std::string OneDecimal(double number) {
+using Json = nlohmann::ordered_json;
+
+// Whatever the locale.
+std::string Decimals(double number, int places) {
     std::array<char, 32> text{};
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, 1);
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), number,
+                                   std::chars_format::fixed, places);
     return {text.data(), end.ptr};
+}
+
+std::string OneDecimal(double number) {
+    return Decimals(number, 1);
 }
 
 std::string Times(int across, int down) {
@@ -36,18 +45,66 @@ std::string MillisecondsLine(const KitReport& report) {
     return line + "together " + OneDecimal(total);
 }
 
-JsonObject JsonOf(const BitmapSize& size) {
-    return JsonObject().Add("width", size.Width).Add("height", size.Height);
+Json JsonOf(const BitmapSize& size) {
+    return {{"width", size.Width}, {"height", size.Height}};
 }
 
-JsonObject JsonOf(const NumberingCounts& counts) {
-    JsonObject object;
-    object.Add("areas", counts.Areas)
-        .Add("withoutSymbol", counts.AreasWithoutSymbol)
-        .Add("symbols", counts.Symbols)
-        .Add("outsideStipples", counts.SymbolsAstray)
-        .Add("borderDots", counts.BorderDots);
-    return object;
+Json JsonOf(const NumberingCounts& counts) {
+    return {{"areas", counts.Areas},
+            {"withoutSymbol", counts.AreasWithoutSymbol},
+            {"symbols", counts.Symbols},
+            {"outsideStipples", counts.SymbolsAstray},
+            {"borderDots", counts.BorderDots}};
+}
+
+Json JsonOf(const KitReport& report) {
+    Json json = {{"photo", report.Photo},
+                 {"picture", report.Picture},
+                 {"name", report.Name},
+                 {"difficulty", report.Difficulty},
+                 {"photoSize", JsonOf(report.PhotoSize)},
+                 {"workingSize", JsonOf(report.WorkingSize)},
+                 {"stretchPercent", StretchPercent(report.PhotoSize, report.WorkingSize)},
+                 {"stipples", {{"across", report.CellsAcross}, {"down", report.CellsDown}}}};
+    if (!report.FromGrid) {
+        json["paints"]["matched"] = report.PaintsMatched;
+    }
+    json["paints"]["kept"] = report.PaintsKept;
+    json["areas"] = report.Areas;
+    json["loners"] = report.Loners;
+    if (report.Numbering) {
+        json["numbering"] = JsonOf(*report.Numbering);
+    }
+    json["milliseconds"] = Json::object();
+    for (const auto& [step, number] : report.Milliseconds) {
+        json["milliseconds"][step] = number;
+    }
+    json["files"] = Json::object();
+    for (const auto& [output, file] : report.Files) {
+        json["files"][output] = file;
+    }
+    json["notes"] = report.Notes;
+    return json;
+}
+
+// One line that people read too: spaces behind the commas, two decimals. Bytes that are no UTF-8
+// are taken for Windows-1252.
+std::string LineOf(const Json& json) {
+    if (json.is_string()) {
+        return Json(ToUtf8(json.get_ref<const std::string&>())).dump();
+    }
+    if (json.is_number_float()) {
+        return Decimals(json.get<double>(), 2);
+    }
+    if (!json.is_structured()) {
+        return json.dump();
+    }
+    std::string members;
+    for (const auto& [name, value] : json.items()) {
+        members += (members.empty() ? "" : ", ") +
+                   (json.is_object() ? Json(name).dump() + ": " : "") + LineOf(value);
+    }
+    return json.is_object() ? "{" + members + "}" : "[" + members + "]";
 }
 
 }  // namespace
@@ -85,38 +142,12 @@ std::string SummaryOf(const KitReport& report) {
     return text;
 }
 
-JsonObject JsonOf(const KitReport& report) {
-    JsonObject paints;
-    if (!report.FromGrid) {
-        paints.Add("matched", report.PaintsMatched);
-    }
-    paints.Add("kept", report.PaintsKept);
-    JsonObject object;
-    object.Add("photo", report.Photo)
-        .Add("picture", report.Picture)
-        .Add("name", report.Name)
-        .Add("difficulty", report.Difficulty)
-        .Add("photoSize", JsonOf(report.PhotoSize))
-        .Add("workingSize", JsonOf(report.WorkingSize))
-        .Add("stretchPercent", StretchPercent(report.PhotoSize, report.WorkingSize))
-        .Add("stipples",
-             JsonObject().Add("across", report.CellsAcross).Add("down", report.CellsDown))
-        .Add("paints", paints)
-        .Add("areas", report.Areas)
-        .Add("loners", report.Loners);
-    if (report.Numbering) {
-        object.Add("numbering", JsonOf(*report.Numbering));
-    }
-    JsonObject milliseconds;
-    for (const auto& [step, number] : report.Milliseconds) {
-        milliseconds.Add(step, number);
-    }
-    JsonObject files;
-    for (const auto& [output, file] : report.Files) {
-        files.Add(output, file);
-    }
-    object.Add("milliseconds", milliseconds).Add("files", files).Add("notes", report.Notes);
-    return object;
+std::string JsonLineOf(const KitReport& report) {
+    return LineOf(JsonOf(report));
+}
+
+std::string JsonLineOf(const std::string& photo, const std::string& error) {
+    return LineOf({{"photo", photo}, {"error", error}});
 }
 
 }  // namespace vendrel

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "convert/bitmap_header.h"
-#include "kit/json.h"
 #include "output/cell_numbering.h"
 
 namespace vendrel {
@@ -34,7 +33,9 @@ struct KitReport {
 
 /// Several lines for people.
 [[nodiscard]] std::string SummaryOf(const KitReport& report);
-/// The same figures for programs.
-[[nodiscard]] JsonObject JsonOf(const KitReport& report);
+/// The same figures for programs: one JSON object on one line.
+[[nodiscard]] std::string JsonLineOf(const KitReport& report);
+/// What stands there instead when a photo failed.
+[[nodiscard]] std::string JsonLineOf(const std::string& photo, const std::string& error);
 
 }  // namespace vendrel

@@ -64,9 +64,13 @@ TEST(Arguments, CropTakesAPartOrKeepsTheCentre) {
     EXPECT_EQ(Parse({"kit", "a.bmp"}).Kit.Crop, CropPart::Whole);
     EXPECT_EQ(Parse({"kit", "a.bmp", "--crop", "top"}).Kit.Crop, CropPart::Top);
     EXPECT_EQ(Parse({"kit", "a.bmp", "--crop=top"}).Kit.Crop, CropPart::Top);
-    const Arguments centre = Parse({"kit", "--crop", "centre", "top"});
-    EXPECT_EQ(centre.Kit.Crop, CropPart::Centre);
-    EXPECT_THAT(centre.Kit.Photos, ElementsAre("top"));
+    for (const std::string_view center : {"center", "centre"}) {
+        const Arguments arguments = Parse({"kit", "--crop", center, "top"});
+        EXPECT_EQ(arguments.Kit.Crop, CropPart::Centre);
+        EXPECT_THAT(arguments.Kit.Photos, ElementsAre("top"));
+        EXPECT_EQ(Parse({"kit", "top", "--crop=" + std::string(center)}).Kit.Crop,
+                  CropPart::Centre);
+    }
 }
 
 TEST(Arguments, OtherCommandsAreTold) {
@@ -101,7 +105,7 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--screen", "0x600"}, "WIDTHxHEIGHT"},
         {{"kit", "a.bmp", "--screen", "800x600x2"}, "WIDTHxHEIGHT"},
         {{"kit", "a.bmp", "--outputs", "sheet,poster"}, "\"poster\""},
-        {{"kit", "a.bmp", "--crop=left"}, "centre or top"},
+        {{"kit", "a.bmp", "--crop=left"}, "center or top"},
         {{"kit", "a.bmp", "--paper", "A5"}, "A4, Letter or A3"},
         {{"kit", "a.bmp", "--canvas", "9cm"}, "10cm to 300cm"},
         {{"kit", "a.bmp", "--canvas", "nan"}, "10cm to 300cm"},
