@@ -48,9 +48,15 @@ std::vector<std::string_view> WordsOf(int argc, char** argv) {
 }
 
 int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
+    // A file beyond the allowed size is a failed write, which the painter gets told of.
+    std::signal(SIGXFSZ, SIG_IGN);
     if (!words.empty() && words.front() == "kit") {
         std::signal(SIGINT, AskToStop);
         std::signal(SIGTERM, AskToStop);
+        // What nohup has switched off stays off.
+        if (std::signal(SIGHUP, AskToStop) == SIG_IGN) {
+            std::signal(SIGHUP, SIG_IGN);
+        }
     }
     const fs::path shipped = ShippedFolder();
     Surroundings around{

@@ -51,30 +51,34 @@ void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
 }  // namespace
 
 BitmapStream::BitmapStream(const std::filesystem::path& file, int width, int height,
-                           int pixelsPerMetre)
-    : file_(file) {
+                           int pixelsPerMetre, Lasting lasting)
+    : file_(file, lasting) {
+    if (width < 1 || height < 1) {
+        throw FileError(file, "there is no picture to save yet. Load a photo first.");
+    }
     const Header header = MakeHeader(MakeInfoHeader(width, height), pixelsPerMetre);
     file_.Write(std::as_bytes(std::span(header)));
 }
 
-void WriteBitmap(const std::filesystem::path& file, const Surface& picture, int pixelsPerMetre) {
-    if (picture.Empty()) {
-        throw FileError(file, "there is no picture to save yet. Load a photo first.");
-    }
+void BitmapStream::Write(const Surface& picture) {
     const BitmapInfoHeader info = MakeInfoHeader(picture.Width(), picture.Height());
     const std::size_t rowBytes = info.SizeImage / static_cast<std::size_t>(picture.Height());
     const std::size_t rowsPerBlock = std::max<std::size_t>(1, kBlockBytes / rowBytes);
     std::vector<std::uint8_t> block(rowsPerBlock * rowBytes);
-    BitmapStream stream(file, picture.Width(), picture.Height(), pixelsPerMetre);
     std::size_t used = 0;
     for (int y = picture.Height() - 1; y >= 0; --y) {
         PackRow(picture.Row(y), block.data() + used);
         used += rowBytes;
         if (used == block.size() || y == 0) {
-            stream.Write(std::span(block).first(used));
+            Write(std::span(block).first(used));
             used = 0;
         }
     }
+}
+
+void WriteBitmap(const std::filesystem::path& file, const Surface& picture, int pixelsPerMetre) {
+    BitmapStream stream(file, picture.Width(), picture.Height(), pixelsPerMetre);
+    stream.Write(picture);
     stream.Commit();
 }
 

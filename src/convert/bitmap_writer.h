@@ -22,10 +22,17 @@ void WriteBitmap(const std::filesystem::path& file, const Surface& picture,
 class BitmapStream {
   public:
     BitmapStream(const std::filesystem::path& file, int width, int height,
-                 int pixelsPerMetre = kPixelsPerMetre);
+                 int pixelsPerMetre = kPixelsPerMetre, Lasting lasting = Lasting::Remade);
     /// The next rows, the lowest of the picture first, as a cDIBSection of its width holds them.
     void Write(std::span<const std::uint8_t> rows) { file_.Write(std::as_bytes(rows)); }
+    /// All rows of a picture of its size.
+    void Write(const Surface& picture);
     void Commit() { file_.Commit(); }
+    /// As WholeFile's.
+    [[nodiscard]] bool CommitNew(const std::filesystem::path& name) {
+        return file_.CommitNew(name);
+    }
+    [[nodiscard]] bool Holds(const std::filesystem::path& other) { return file_.Holds(other); }
 
   private:
     WholeFile file_;

@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
-#include <random>
 #include <set>
 #include <span>
 #include <string_view>
@@ -68,47 +65,6 @@ std::set<std::string> NamesInUse(const fs::path& pictures) {
     return names;
 }
 
-bool SameBytes(const fs::path& a, const fs::path& b) {
-    std::error_code failure;
-    if (!fs::is_regular_file(b, failure) ||
-        fs::file_size(a, failure) != fs::file_size(b, failure)) {
-        return false;
-    }
-    using Bytes = std::istreambuf_iterator<char>;
-    std::ifstream first(a, std::ios::binary);
-    std::ifstream second(b, std::ios::binary);
-    return first && second && std::equal(Bytes(first), Bytes(), Bytes(second), Bytes());
-}
-
-// A picture written into the folder but without its name yet; gone unless it is named. Its stem
-// shows, as a full disk is reported under this name.
-class Arrival {
-  public:
-    Arrival(const fs::path& pictures, const std::string& stem, const Surface& picture)
-        : file_(pictures / (stem + ".arriving-" + std::to_string(std::random_device()()))) {
-        WriteBitmap(file_, picture);
-    }
-    ~Arrival() {
-        std::error_code ignored;
-        fs::remove(file_, ignored);
-    }
-    Arrival(const Arrival&) = delete;
-    Arrival& operator=(const Arrival&) = delete;
-
-    [[nodiscard]] bool Equals(const fs::path& other) const { return SameBytes(file_, other); }
-    void Name(const fs::path& target) const {
-        std::error_code failure;
-        fs::rename(file_, target, failure);
-        if (failure) {
-            throw FileError(target, "cannot be written (" + failure.message() +
-                                        "). Check that you may write there.");
-        }
-    }
-
-  private:
-    fs::path file_;
-};
-
 }  // namespace
 
 bool NeedsDecoder(const fs::path& photo) {
@@ -142,16 +98,17 @@ std::string PictureStem(const fs::path& photo) {
 std::string KeepPicture(const ProgramFolder& folder, const std::string& stem,
                         const Surface& picture) {
     const fs::path pictures = folder.Path("Pictures");
-    const Arrival arrival(pictures, stem, picture);
+    BitmapStream arrival(pictures / (stem + kBitmapEnding), picture.Width(), picture.Height(),
+                         kPixelsPerMetre, Lasting::Synced);
+    arrival.Write(picture);
     const std::set<std::string> taken = NamesInUse(pictures);
     for (int number = 1;; ++number) {
         const std::string name = stem + (number == 1 ? "" : " " + std::to_string(number));
         const fs::path target = FindIgnoringCase(pictures, name + kBitmapEnding);
-        if (arrival.Equals(target)) {
-            return target.filename().string();
-        }
-        if (!taken.contains(ToLower(name)) && !fs::exists(target)) {
-            arrival.Name(target);
+        // Another program may take the same photo in between two looks.
+        if (arrival.Holds(target) ||
+            (!taken.contains(ToLower(name)) && arrival.CommitNew(target)) ||
+            arrival.Holds(target)) {
             return target.filename().string();
         }
     }

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <utility>
 
+#include "desktop/end_signals.h"
+
 namespace vendrel {
 
 Desktop::Desktop(ProgramFolder folder) : folder_(std::move(folder)) {}
@@ -30,6 +32,8 @@ int RunDesktop(int& argc, char** argv, const ProgramFolder& folder) {
         return *status;
     }
     QApplication::setQuitOnLastWindowClosed(true);
+    const EndSignals wishes;
+    QObject::connect(&wishes, &EndSignals::Asked, &desktop.Window(), &MainWindow::EndAtOnce);
     return QApplication::exec();
 }
 

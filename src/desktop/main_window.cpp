@@ -233,7 +233,7 @@ bool MainWindow::MayEnd() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    const bool may = MayEnd();
+    const bool may = ending_ || MayEnd();
     const bool working = edge_.Busy();
     event->setAccepted(may && !working);
     if (may && working) {
@@ -265,6 +265,15 @@ bool MainWindow::MayEndSession(Questions questions) {
     } catch (const Error&) {
         return false;  // even telling it is a question
     }
+}
+
+void MainWindow::EndAtOnce() {
+    static_cast<void>(MayEndSession(Questions::Forbidden));
+    ending_ = true;
+    if (edge_.Busy()) {
+        ui_.RequestStop();
+    }
+    QCoreApplication::exit();
 }
 
 void MainWindow::KeepOpenWork() {

@@ -30,6 +30,8 @@ class MainWindow : public QMainWindow {
     /// Makes ready for the end of the session: what an open editor holds is kept first. False when
     /// the program had better stay.
     [[nodiscard]] bool MayEndSession(Questions questions);
+    /// Ends the program without a question, with what an open editor holds kept.
+    void EndAtOnce();
     /// Takes over the state of menu, pictures, captions and open dialogs.
     void Mirror();
 
@@ -66,6 +68,7 @@ class MainWindow : public QMainWindow {
     QLabel* hint_;
     QProgressBar* progress_;
     QSize fitted_;
+    bool ending_ = false;
     std::map<FormId, std::unique_ptr<FormDialog>> dialogs_;
 };
 

@@ -1,6 +1,5 @@
 #include "forms/photo_intake.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <fstream>
@@ -11,6 +10,7 @@
 #include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
 #include "support/error.h"
+#include "support/same_bytes.h"
 #include "support/whole_file.h"
 
 namespace vendrel {
@@ -26,34 +26,16 @@ std::ifstream Open(const fs::path& file) {
     return in;
 }
 
-// In blocks: a photo taken in again is compared on every run.
-bool SameBytes(const fs::path& a, const fs::path& b) {
-    if (fs::file_size(a) != fs::file_size(b)) {
-        return false;
-    }
-    std::ifstream first = Open(a);
-    std::ifstream second = Open(b);
-    std::array<char, 1 << 16> one{};
-    std::array<char, 1 << 16> other{};
-    while (first.read(one.data(), one.size()) || first.gcount() > 0) {
-        second.read(other.data(), first.gcount());
-        if (second.gcount() != first.gcount() ||
-            !std::equal(one.begin(), one.begin() + first.gcount(), other.begin())) {
-            return false;
-        }
-    }
-    return true;
-}
-
-void Copy(const fs::path& from, const fs::path& to) {
+// False when a photo of that name is there, perhaps only since just now.
+bool CopyNew(const fs::path& from, const fs::path& to) {
     std::ifstream in = Open(from);
-    WholeFile out(to);
+    WholeFile out(to, Lasting::Synced);
     std::array<char, 1 << 16> chunk{};
     while (in.read(chunk.data(), chunk.size()) || in.gcount() > 0) {
         const auto count = static_cast<std::size_t>(in.gcount());
         out.Write(std::as_bytes(std::span(chunk).first(count)));
     }
-    out.Commit();
+    return out.CommitNew(to);
 }
 
 fs::path TargetIn(const ProgramFolder& folder, const fs::path& photo) {
@@ -88,9 +70,8 @@ std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo)
     if (!fs::is_regular_file(photo)) {
         throw FileError(photo, "is not there. Choose another photo.");
     }
-    if (!fs::exists(target)) {
-        Copy(photo, target);
-    } else if (!SameBytes(photo, target)) {
+    std::error_code unreadable;
+    if ((fs::exists(target, unreadable) || !CopyNew(photo, target)) && !SameBytes(photo, target)) {
         throw FileError(target, "is a different photo of the same name. Rename one of them.");
     }
     return target.filename().string();

@@ -9,6 +9,8 @@
 #include "paints/catalogue.h"
 #include "paints/paint_list.h"
 #include "support/error.h"
+#include "support/folders.h"
+#include "support/leftovers.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
 
@@ -23,9 +25,7 @@ bool CreateFolder(const Workplace& place, std::string_view name) {
     if (fs::exists(folder)) {
         return false;
     }
-    std::error_code failure;
-    fs::create_directories(folder, failure);
-    if (failure) {
+    if (const std::error_code failure = MakeFolders(folder)) {
         throw FileError(folder, "cannot be created (" + failure.message() +
                                     "). Start the program in a folder you may write to.");
     }
@@ -69,6 +69,9 @@ bool PrepareFolders(Workplace& place) {
         CopyShippedPaintList(place);
     }
     CreateFolder(place, "Results");
+    for (const char* folder : {"Data", "Results", "Pictures", "Saved Stipples", "templates"}) {
+        RemoveLeftovers(place.Folder.Path(folder));
+    }
     return CreateFolder(place, "Pictures");
 }
 

@@ -10,7 +10,7 @@ void PrepareSettings(Workplace& place);
 
 /// Creates the folders that are missing; a new data folder gets the shipped paint list. Answers
 /// whether the pictures folder had to be made, that is, whether the program runs here for the
-/// first time. Throws FileError.
+/// first time. What programs that were killed left half-written is removed. Throws FileError.
 [[nodiscard]] bool PrepareFolders(Workplace& place);
 
 /// Catalogue, paint sets, the saved selection and the first palette. Throws Error.

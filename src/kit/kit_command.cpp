@@ -14,6 +14,7 @@
 #include "kit/terminal_ui.h"
 #include "shell/workplace.h"
 #include "support/error.h"
+#include "support/folders.h"
 
 namespace vendrel {
 namespace {
@@ -54,8 +55,7 @@ class KitRun {
 
   private:
     void MakeFolder() const {
-        std::error_code failure;
-        std::filesystem::create_directories(options_.Folder, failure);
+        const std::error_code failure = MakeFolders(options_.Folder);
         if (!std::filesystem::is_directory(options_.Folder)) {
             throw FileError(options_.Folder, "is no folder and cannot become one (" +
                                                  failure.message() + "). Name another.");

@@ -59,7 +59,7 @@ void SaveGrid(const Workplace& place, bool replace, KitReport& report) {
         return;
     }
     if (!same) {
-        WriteWholeFile(path, text);
+        WriteWholeFile(path, text, Lasting::Synced);
     }
     report.Files.emplace_back("grid", path.lexically_normal().string());
 }

@@ -55,7 +55,7 @@ void SavePaintList(Workplace& place) {
             text += set.Name + "\r\n";
         }
     }
-    WriteWholeFile(place.Folder.Path(kPaintList), text);
+    WriteWholeFile(place.Folder.Path(kPaintList), text, Lasting::Synced);
 }
 
 }  // namespace vendrel

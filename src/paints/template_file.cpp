@@ -8,6 +8,8 @@
 #include "paints/paint_sets.h"
 #include "paints/restore.h"
 #include "support/error.h"
+#include "support/folders.h"
+#include "support/leftovers.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
 
@@ -46,9 +48,7 @@ std::string WithoutEnding(std::string name) {
 }
 
 void MakeFolder(const fs::path& folder) {
-    std::error_code failure;
-    fs::create_directories(folder, failure);
-    if (failure) {
+    if (const std::error_code failure = MakeFolders(folder)) {
         throw FileError(folder, "cannot be created: " + failure.message() +
                                     ". Check the folder's permissions.");
     }
@@ -72,7 +72,7 @@ void WriteTemplate(const fs::path& file, std::span<const PaintColor> paints) {
     for (const PaintColor& paint : listed) {
         text += LineOf(file, paint);
     }
-    WriteWholeFile(file, text);
+    WriteWholeFile(file, text, Lasting::Synced);
 }
 
 bool LoadTemplateColors(Workplace& place, std::string_view name) {
@@ -92,8 +92,9 @@ std::vector<std::string> ListTemplates(Workplace& place) {
     MakeFolder(folder);
     std::vector<std::string> names;
     for (const auto& entry : fs::directory_iterator(folder)) {
-        std::string name = WithoutEnding(entry.path().filename().string());
-        if (entry.is_regular_file() && !name.empty()) {
+        const std::string file = entry.path().filename().string();
+        std::string name = WithoutEnding(file);
+        if (entry.is_regular_file() && !name.empty() && !IsWaitingName(file)) {
             names.push_back(std::move(name));
         }
     }

@@ -6,6 +6,7 @@
 
 #include "paints/template_file.h"
 #include "support/error.h"
+#include "support/folders.h"
 #include "support/letter_case.h"
 
 namespace vendrel {
@@ -84,6 +85,9 @@ void RenameTemplate(Workplace& place, std::string_view from, std::string_view to
     const fs::path file = TemplatePath(place, from);
     std::error_code failure;
     fs::rename(file, file.parent_path() / (std::string(to) + ".csv"), failure);
+    if (!failure) {
+        failure = SyncFolder(file.parent_path());
+    }
     if (failure) {
         throw FileError(file, "cannot be renamed (" + failure.message() +
                                   "). Check that you may write in its folder.");

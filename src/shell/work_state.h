@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "support/color.h"
 #include "support/dib_view.h"
 #include "support/grid.h"
+#include "support/held_file.h"
 
 namespace vendrel {
 
@@ -63,7 +65,8 @@ struct WorkState : WorkSettings {
     bool StipplesMade = false;
     bool StipplesShown = false;
     int WorkStage = 0;
-    bool HasUnsavedWork = false;  // touched up and accepted, but in no saved grid yet
+    bool HasUnsavedWork = false;               // touched up and accepted, but in no saved grid yet
+    std::shared_ptr<const HeldFile> Recovery;  // keeps unsaved work, while this program has any
 
     // The paint pass.
     Grid<MapPixel> PixelMap;  // one per photo pixel, 0..width, 0..height

@@ -119,7 +119,7 @@ std::string FormatStippleFile(const SavedGrid& saved) {
 }
 
 void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved) {
-    WriteWholeFile(path, FormatStippleFile(saved));
+    WriteWholeFile(path, FormatStippleFile(saved), Lasting::Synced);
 }
 
 StippleFileReader::StippleFileReader(std::string_view text, const std::filesystem::path& path)

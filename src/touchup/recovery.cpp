@@ -6,15 +6,32 @@
 
 #include "storage/stipple_file.h"
 #include "support/error.h"
+#include "support/folders.h"
 
 namespace vendrel {
 namespace {
 
-constexpr std::chrono::seconds kRecoveryPause{5};
+namespace fs = std::filesystem;
 
-void Remove(const std::filesystem::path& recovery) {
+constexpr std::chrono::seconds kRecoveryPause{5};
+constexpr int kMostLeft = 9;  // nobody edits a photo in more windows at once
+
+fs::path NumberedPath(const Workplace& place, int number) {
+    return StippleFilePath(place).replace_extension(
+        ".recovery" + (number == 1 ? "" : "-" + std::to_string(number)) + ".stp");
+}
+
+bool IsFile(const fs::path& path) {
+    std::error_code unreadable;
+    return fs::is_regular_file(path, unreadable);
+}
+
+// Offered again after a power cut, it would take the painter back behind the saved grid.
+void Remove(const fs::path& recovery) {
     std::error_code failure;
-    std::filesystem::remove(recovery, failure);
+    if (fs::remove(recovery, failure)) {
+        failure = SyncFolder(recovery.parent_path());
+    }
     if (failure) {
         throw FileError(recovery, "the recovery file cannot be removed (" + failure.message() +
                                       "). Delete it yourself, or it will be offered again.");
@@ -24,29 +41,54 @@ void Remove(const std::filesystem::path& recovery) {
 }  // namespace
 
 std::filesystem::path RecoveryPath(const Workplace& place) {
-    return StippleFilePath(place).replace_extension(".recovery.stp");
+    return place.State.Recovery ? place.State.Recovery->Path() : NumberedPath(place, 1);
 }
 
 bool RecoveryExists(const Workplace& place) {
-    std::error_code unreadable;
-    return std::filesystem::is_regular_file(RecoveryPath(place), unreadable);
+    return IsFile(RecoveryPath(place));
+}
+
+bool HoldLeftRecovery(const Workplace& place) {
+    std::shared_ptr<const HeldFile>& held = place.State.Recovery;
+    held.reset();
+    for (int number = 1; number <= kMostLeft && !held; ++number) {
+        const fs::path path = NumberedPath(place, number);
+        if (IsFile(path)) {
+            held = HeldFile::Hold(path);
+        }
+    }
+    return held != nullptr;
+}
+
+std::filesystem::path HoldRecovery(const Workplace& place) {
+    std::shared_ptr<const HeldFile>& held = place.State.Recovery;
+    // The lock lies beside the file. What keeps the folder from being made is told by the writing.
+    static_cast<void>(MakeFolders(NumberedPath(place, 1).parent_path()));
+    for (int number = 1; !held; ++number) {
+        const fs::path path = NumberedPath(place, number);
+        if (!IsFile(path)) {
+            held = HeldFile::Hold(path);
+        }
+    }
+    return held->Path();
 }
 
 void WriteRecoveryOfGrid(const Workplace& place) {
     const WorkState& state = place.State;
-    WriteStippleFile(RecoveryPath(place), {state.PaintColors, state.Stipples, state.CellsAcross,
+    WriteStippleFile(HoldRecovery(place), {state.PaintColors, state.Stipples, state.CellsAcross,
                                            state.CellsDown, state.FinalColors});
 }
 
 void RemoveRecovery(const Workplace& place) {
-    Remove(RecoveryPath(place));
+    if (place.State.Recovery) {
+        Remove(place.State.Recovery->Path());
+    }
 }
 
 void SetRecoveryAside(const Workplace& place) {
-    const std::filesystem::path file = RecoveryPath(place);
+    const fs::path file = RecoveryPath(place);
     std::error_code failure;
-    std::filesystem::rename(file, StippleFilePath(place).replace_extension(".recovery-old.stp"),
-                            failure);
+    fs::rename(file, file.parent_path() / (file.stem().string() + "-old.stp"), failure);
     if (failure) {
         throw FileError(file, "the recovery file cannot be renamed (" + failure.message() +
                                   "). Check that you may write there.");
@@ -70,7 +112,7 @@ GridReplacement::GridReplacement(const Workplace& place) : place_(place) {
         place_.Screen.Ask("Unsaved Stipples", "The touched-up stipples of " + state.PictureName +
                                                   " are not saved. Go on and lose them?");
     if (allowed_) {
-        unsaved_ = {RecoveryPath(place_), state.PictureName, state.StippleSize, state.Stipples,
+        unsaved_ = {state.Recovery, state.PictureName, state.StippleSize, state.Stipples,
                     state.PaintColors};
     }
 }
@@ -79,6 +121,7 @@ GridReplacement::~GridReplacement() {
     // Marked as unsaved, whatever took its place would be kept over the work's recovery file.
     if (unsaved_ && !StillInKit()) {
         place_.State.HasUnsavedWork = false;
+        place_.State.Recovery.reset();
     }
 }
 
@@ -91,9 +134,12 @@ bool GridReplacement::StillInKit() const {
 
 void GridReplacement::Done() {
     if (unsaved_) {
-        const std::filesystem::path recovery = std::exchange(unsaved_, std::nullopt)->Recovery;
+        const auto recovery = std::exchange(unsaved_, std::nullopt)->Recovery;
         place_.State.HasUnsavedWork = false;
-        Remove(recovery);
+        place_.State.Recovery.reset();
+        if (recovery) {
+            Remove(recovery->Path());
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,13 +14,20 @@ namespace vendrel {
 /// A moment of a clock that never goes back; the caller's clock, since nothing here has one.
 using EditTime = std::chrono::steady_clock::time_point;
 
-/// "Saved Stipples/<PictureName>-<word>.recovery.stp": a stipple file of the editor's unsaved
-/// work on this photo and difficulty, for after a crash. Never taken for the saved grid.
+/// A stipple file of the editor's unsaved work on this photo and difficulty, for after a crash:
+/// "Saved Stipples/<PictureName>-<word>.recovery.stp", or "... .recovery-2.stp" and so on for
+/// programs that edit the same photo at once. Never taken for the saved grid. This is the one held
+/// in State.Recovery, else the first.
 [[nodiscard]] std::filesystem::path RecoveryPath(const Workplace& place);
 [[nodiscard]] bool RecoveryExists(const Workplace& place);
+/// Lets go of what was held and holds a recovery file that a program left behind, if there is one;
+/// that of a living program is none.
+[[nodiscard]] bool HoldLeftRecovery(const Workplace& place);
+/// The file to keep unsaved work in; holds a new one where none is held yet.
+[[nodiscard]] std::filesystem::path HoldRecovery(const Workplace& place);
 /// Keeps the kit's own accepted grid there, whole or not at all. Throws FileError.
 void WriteRecoveryOfGrid(const Workplace& place);
-/// Does nothing when there is none. Throws FileError when it cannot be removed.
+/// Removes the one held, if any. Throws FileError when it cannot be removed.
 void RemoveRecovery(const Workplace& place);
 
 /// Renames a recovery file that could be neither taken nor given up, so that newer work does not
@@ -61,7 +69,7 @@ class GridReplacement {
 
   private:
     struct Work {
-        std::filesystem::path Recovery;
+        std::shared_ptr<const HeldFile> Recovery;
         std::string PictureName;
         int StippleSize = 0;
         Grid<StippleCell> Stipples;

@@ -48,7 +48,7 @@ TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
     wantedAtOpening_ = state.Chosen.FinalPaints;
     unsavedAtOpening_ = state.HasUnsavedWork;
     // The file of work that was only accepted is still in use, not left over.
-    recoveryOffered_ = !state.HasUnsavedWork && RecoveryExists(place_);
+    recoveryOffered_ = !state.HasUnsavedWork && HoldLeftRecovery(place_);
     state.FoundColors = state.PaintColors;
     state.FoundColors.resize(static_cast<std::size_t>(state.PaintCount) + 1);
     state.FoundCount = state.PaintCount;
@@ -275,7 +275,7 @@ void TouchUp::WriteRecovery() {
         return;
     }
     MakeRoomForRecovery();
-    WriteSheet(RecoveryPath(place_), place_.State);
+    WriteSheet(HoldRecovery(place_), place_.State);
     timer_.NoteKept();
 }
 
@@ -290,9 +290,12 @@ void TouchUp::SettleRecovery() {
     if (place_.State.HasUnsavedWork) {
         MakeRoomForRecovery();
         WriteRecoveryOfGrid(place_);
-    } else if (!recoveryOffered_) {
+        return;
+    }
+    if (!recoveryOffered_) {
         RemoveRecovery(place_);
     }
+    place_.State.Recovery.reset();
 }
 
 }  // namespace vendrel

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <barrier>
+#include <functional>
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "convert/bitmap_reader.h"
@@ -31,6 +34,25 @@ TEST_F(ForeignPhotoTest, KeepsEveryPictureOnceAsABitmap) {
     EXPECT_EQ(ReadBitmap(files_ / "Pictures/aunt.bmp"), kRed);
     const std::filesystem::directory_iterator pictures(files_ / "Pictures");
     EXPECT_EQ(std::distance(begin(pictures), end(pictures)), 4);
+}
+
+TEST_F(ForeignPhotoTest, TwoPhotosOfOneNameAtOnceAreBothKept) {
+    for (int pair = 0; pair < 60; ++pair) {
+        const std::string stem = "pair" + std::to_string(pair);
+        const Surface& second = pair % 2 == 0 ? kBlue : kRed;
+        std::string names[2];
+        std::barrier start(2);
+        const auto take = [&](std::size_t at, const Surface& picture) {
+            start.arrive_and_wait();
+            names[at] = KeepPicture(folder_, stem, picture);
+        };
+        std::thread other(take, 1, std::cref(second));
+        take(0, kRed);
+        other.join();
+        EXPECT_EQ(ReadBitmap(files_ / "Pictures" / names[0]), kRed) << names[0];
+        EXPECT_EQ(ReadBitmap(files_ / "Pictures" / names[1]), second) << names[1];
+        EXPECT_EQ(names[0] == names[1], second == kRed);
+    }
 }
 
 TEST_F(ForeignPhotoTest, NeverWritesOverAnotherPhoto) {

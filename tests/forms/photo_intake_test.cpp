@@ -2,14 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <barrier>
+#include <thread>
+
 #include "convert/bitmap_reader.h"
 #include "convert/bitmap_writer.h"
 #include "forms/picture_decoder.h"
+#include "support/error.h"
 #include "support/pictures.h"
 #include "support/temp_folder.h"
 
 namespace vendrel {
 namespace {
+
+namespace fs = std::filesystem;
 
 // Rows of a picture differ.
 test::PictureDecoder DecoderOf(int width, int height) {
@@ -32,6 +38,29 @@ TEST_F(PhotoIntakeTest, DecodesOnlyWhatTheBitmapReaderCannotRead) {
     WriteBitmap(files_ / "uncle.bmp", Surface(4, 3));
     EXPECT_EQ(TakeIntoPictures(folder_, files_ / "uncle.bmp", decoder), "uncle.bmp");
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/uncle.bmp"), (BitmapSize{4, 3}));
+}
+
+TEST_F(PhotoIntakeTest, OfTwoBitmapsOfOneNameAtOnceNoneIsLost) {
+    const fs::path photos[] = {files_.Write("one/a.bmp", std::string(9000, '1')),
+                               files_.Write("two/a.bmp", std::string(9000, '2'))};
+    for (int pair = 0; pair < 60; ++pair) {
+        std::barrier start(2);
+        bool taken[2] = {};
+        const auto take = [&](std::size_t at) {
+            start.arrive_and_wait();
+            try {
+                static_cast<void>(TakeIntoPictures(folder_, photos[at]));
+                taken[at] = true;
+            } catch (const FileError&) {  // told, with the photo where it was
+            }
+        };
+        std::thread other(take, 1);
+        take(0);
+        other.join();
+        ASSERT_NE(taken[0], taken[1]);
+        EXPECT_EQ(files_.Read("program/Pictures/a.bmp")[0], taken[0] ? '1' : '2');
+        fs::remove(files_ / "program/Pictures/a.bmp");
+    }
 }
 
 TEST_F(PhotoIntakeTest, CropsASquarePortraitBesideItself) {

@@ -72,7 +72,8 @@ TEST(TemplateFile, ListsTheFolderWithoutEndings) {
     test::Bench bench;
     EXPECT_TRUE(ListTemplates(bench.Place).empty());
     EXPECT_TRUE(bench.Program.Exists("templates"));
-    for (const char* file : {"Sea.csv", "Autumn day.csv", "notes.text", "aéé.é", "csv"}) {
+    for (const char* file : {"Sea.csv", "Autumn day.csv", "notes.text", "aéé.é", "csv",
+                             "Sea.csv.123.part", ".vendrel-1-2.part"}) {
         bench.Files.Write(std::string("templates/") + file, "");
     }
     bench.Files.Write("templates/Folder.csv/x.csv", "");

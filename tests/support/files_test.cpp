@@ -1,7 +1,13 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <chrono>
 
 #include "support/error.h"
+#include "support/leftovers.h"
 #include "support/program_folder.h"
 #include "support/temp_folder.h"
 #include "support/whole_file.h"
@@ -30,6 +36,27 @@ TEST(WholeFile, KeepsTheOldFileUntilCommit) {
     EXPECT_EQ(FilesIn(folder.Path()), 1U);
 }
 
+TEST(WholeFile, TakesANewNameOnlyWhereNobodyHasIt) {
+    const test::TempFolder folder;
+    folder.Write("a.txt", "theirs");
+    WholeFile file(folder / "a.txt", Lasting::Synced);
+    file.Write("ours");
+    EXPECT_FALSE(file.CommitNew(folder / "a.txt"));
+    EXPECT_FALSE(file.Holds(folder / "a.txt"));
+    folder.Write("c.txt", "ours");
+    EXPECT_TRUE(file.Holds(folder / "c.txt"));
+    EXPECT_TRUE(file.CommitNew(folder / "b.txt"));
+    EXPECT_EQ(folder.Read("a.txt") + folder.Read("b.txt"), "theirsours");
+}
+
+TEST(WholeFile, TakesTheLongestNameAndRefusesALongerOneBeforeItIsWritten) {
+    const test::TempFolder folder;
+    WriteWholeFile(folder / std::string(255, 'a'), "x");
+    EXPECT_EQ(folder.Read(std::string(255, 'a')), "x");
+    EXPECT_THAT([&] { WholeFile(folder / std::string(256, 'a')); },
+                testing::ThrowsMessage<FileError>(testing::HasSubstr("the name is too long")));
+}
+
 TEST(WholeFile, CreatesFoldersAndNamesWhatIsInTheWay) {
     const test::TempFolder folder;
     WriteWholeFile(folder / "new/deep/a.txt", "x");
@@ -42,6 +69,34 @@ TEST(WholeFile, CreatesFoldersAndNamesWhatIsInTheWay) {
     }
     EXPECT_THROW(WriteWholeFile(folder / "new/deep/a.txt/b.txt", "x"), FileError);
     EXPECT_THROW(WriteWholeFile("/dev/full/x", "x"), FileError);
+}
+
+TEST(Leftovers, OfDeadProgramsGoAndThoseOfLivingOnesStay) {
+    const test::TempFolder folder;
+    const fs::path held = folder / NewWaitingName();
+    for (const std::string& name :
+         {std::string("a.csv.123.part"), std::string("a.arriving-123"), NewWaitingName(),
+          LockName("a.stp"), std::string("a.part"), held.filename().string()}) {
+        folder.Write(name, "half");
+        fs::last_write_time(folder / name,
+                            fs::file_time_type::clock::now() - std::chrono::hours(25));
+    }
+    const std::vector<std::string> staying = {"a.arriving-b", "a.bmp", "b.124.part"};
+    for (const std::string& name : staying) {
+        folder.Write(name, "no leftover, or perhaps of a living program");
+    }
+    const int lock = open(held.c_str(), O_RDONLY);
+    ASSERT_EQ(flock(lock, LOCK_EX), 0);
+    RemoveLeftovers(folder.Path());
+    RemoveLeftovers(folder / "missing");
+    EXPECT_TRUE(fs::exists(held) && fs::exists(folder / "a.part"));
+    for (const std::string& name : staying) {
+        EXPECT_TRUE(fs::exists(folder / name)) << name;
+    }
+    EXPECT_EQ(FilesIn(folder.Path()), staying.size() + 2);
+    close(lock);
+    RemoveLeftovers(folder.Path());
+    EXPECT_FALSE(fs::exists(held));
 }
 
 TEST(ProgramFolder, FindsNamesWhateverTheirCase) {

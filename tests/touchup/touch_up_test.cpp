@@ -10,6 +10,7 @@
 
 #include "sheets.h"
 #include "support/error.h"
+#include "support/leftovers.h"
 
 namespace vendrel::test {
 namespace {
@@ -300,6 +301,34 @@ TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
     editor.KeepRecovery(At(1));
     EXPECT_THAT(bench.Files.Read("Saved Stipples/Lady-Easy.recovery-old.stp"), HasSubstr("5,5"));
     EXPECT_THAT(bench.Files.Read(kRecovery), HasSubstr("2,2,2,50"));
+}
+
+TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
+    KitBench first({"12", "12"}, 2);
+    TouchUp editor(first.Place);
+    editor.Fill({1, 1}, 2);
+    editor.KeepRecovery(At(1));
+    const std::string living = first.Files.Read(kRecovery);
+    KitBench second({"12", "12"}, 2);
+    const ProgramFolder shared(first.Files.Path());
+    const Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
+    {
+        TouchUp other(place);
+        EXPECT_FALSE(other.RecoveryOffered());
+        other.Fill({2, 1}, 1);
+        other.KeepRecovery(At(1));
+        EXPECT_EQ(first.Files.Read(kRecovery), living);
+        RemoveLeftovers(first.Files / "Saved Stipples");
+    }
+    editor.Cancel();
+    editor.SettleRecovery();
+    TouchUp again(place);
+    ASSERT_TRUE(again.RecoveryOffered()) << "its own, after its crash";
+    again.TakeRecovery();
+    EXPECT_EQ(second.Edited(), (Rows{"11", "11"}));
+    again.SaveIt_Click();
+    again.SettleRecovery();
+    EXPECT_EQ(std::distance(fs::directory_iterator(first.Files / "Saved Stipples"), {}), 1);
 }
 
 TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
