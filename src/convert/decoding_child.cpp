@@ -174,6 +174,9 @@ Surface DecodingChild::Picture(const ReadProgress& progress) {
             progress(percent_);
         }
     }
+    if (progress) {
+        progress(100);
+    }
     End();
     Surface surface(picture_.Width, picture_.Height);
     const PixelView view(pixels_.Number());

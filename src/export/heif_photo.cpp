@@ -158,7 +158,11 @@ class HeifPhoto final : public PhotoSource {
 }  // namespace
 
 bool IsHeif(PhotoBytes file) {
-    constexpr int kBrands = 4096;
+    constexpr std::size_t kBrands = 4096;
+    constexpr std::size_t kShortest = 12;
+    if (file.size() < kShortest) {
+        return false;
+    }
     const auto answer = heif_check_filetype(
         file.data(), static_cast<int>(std::min<std::size_t>(file.size(), kBrands)));
     return answer == heif_filetype_yes_supported || answer == heif_filetype_maybe;
