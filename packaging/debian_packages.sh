@@ -1,5 +1,11 @@
 # Sourced by ./run and ./check.
-#
+
+# What the program is built from and runs with.
+build_packages=(
+    g++ cmake ninja-build libcli11-dev nlohmann-json3-dev nettle-dev
+    qt6-base-dev qt6-svg-dev qt6-image-formats-plugins libheif-dev fonts-liberation
+)
+
 # install_missing PACKAGE...
 # Installs those of the Debian packages that are not there yet, through sudo unless root. Says in
 # one line what it installs and nothing else, unless that fails.
