@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,8 @@ struct WorkState {
     int MasterCount = 0;
     std::vector<PaintSet> PaintSets{1};
     int PaintSetCount = 0;
+
+    std::set<std::string> WarningsGiven;  // none is given twice
 
     // The working palette.
     std::vector<PaintColor> PaintColors{1};
