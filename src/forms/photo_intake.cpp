@@ -3,13 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <fstream>
+#include <cstdint>
+#include <cstdio>
 #include <span>
 #include <system_error>
 
 #include "convert/bitmap_reader.h"
 #include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/whole_file.h"
 
@@ -18,40 +20,32 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::ifstream Open(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        throw FileError(file, "cannot be read. Choose another photo.");
-    }
-    return in;
+std::span<const char> ReadBlock(const RegularFile& file, std::span<char> block) {
+    return block.first(std::fread(block.data(), 1, block.size(), file.Stream.get()));
 }
 
 // In blocks: a photo taken in again is compared on every run.
 bool SameBytes(const fs::path& a, const fs::path& b) {
-    if (fs::file_size(a) != fs::file_size(b)) {
-        return false;
-    }
-    std::ifstream first = Open(a);
-    std::ifstream second = Open(b);
+    const RegularFile first = OpenRegular(a);
+    const RegularFile second = OpenRegular(b);
     std::array<char, 1 << 16> one{};
     std::array<char, 1 << 16> other{};
-    while (first.read(one.data(), one.size()) || first.gcount() > 0) {
-        second.read(other.data(), first.gcount());
-        if (second.gcount() != first.gcount() ||
-            !std::equal(one.begin(), one.begin() + first.gcount(), other.begin())) {
-            return false;
-        }
+    bool same = first.Size == second.Size;
+    for (std::uint64_t at = 0; same && at < first.Size; at += one.size()) {
+        same = std::ranges::equal(ReadBlock(first, one), ReadBlock(second, other));
     }
-    return true;
+    return same;
 }
 
 void Copy(const fs::path& from, const fs::path& to) {
-    std::ifstream in = Open(from);
+    const RegularFile in = OpenRegular(from);
     WholeFile out(to);
     std::array<char, 1 << 16> chunk{};
-    while (in.read(chunk.data(), chunk.size()) || in.gcount() > 0) {
-        const auto count = static_cast<std::size_t>(in.gcount());
-        out.Write(std::as_bytes(std::span(chunk).first(count)));
+    for (auto block = ReadBlock(in, chunk); !block.empty(); block = ReadBlock(in, chunk)) {
+        out.Write(std::as_bytes(block));
+    }
+    if (std::ferror(in.Stream.get()) != 0) {
+        throw FileError(from, "cannot be read to its end. Check the disk and copy it again.");
     }
     out.Commit();
 }
@@ -76,6 +70,18 @@ void RequirePaintable(const fs::path& photo, const PhotoDecoder& decoder, const 
     }
 }
 
+void RequireResultNames(const fs::path& photo, std::string_view longest) {
+    constexpr std::size_t kLongestName = 255;
+    const std::string name = photo.filename().string();
+    const std::size_t kept = std::min(name.find('.'), name.size());
+    if (kept + longest.size() > kLongestName) {
+        throw FileError(photo, "its name is too long for what is made of it, as in \"..." +
+                                   std::string(longest) + "\". Rename it to at most " +
+                                   std::to_string(kLongestName - longest.size()) +
+                                   " letters before the first dot.");
+    }
+}
+
 bool IsInPictures(const ProgramFolder& folder, const fs::path& photo) {
     return IsAt(photo, TargetIn(folder, photo)) && !NeedsDecoder(photo);
 }
@@ -85,10 +91,10 @@ std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo)
     if (IsAt(photo, target)) {
         return target.filename().string();
     }
-    if (!fs::is_regular_file(photo)) {
+    if (!IsRegularFile(photo)) {
         throw FileError(photo, "is not there. Choose another photo.");
     }
-    if (!fs::exists(target)) {
+    if (!Stands(target)) {
         Copy(photo, target);
     } else if (!SameBytes(photo, target)) {
         throw FileError(target, "is a different photo of the same name. Rename one of them.");
