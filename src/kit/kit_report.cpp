@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "convert/working_size.h"
+#include "kit/printable.h"
 
 namespace vendrel {
 namespace {
@@ -23,7 +24,7 @@ std::string Times(int across, int down) {
 
 void AddLine(std::string& text, std::string label, const std::string& value) {
     label.resize(kLabelWidth, ' ');
-    text += "  " + label + value + "\n";
+    text += "  " + label + Printable(value) + "\n";
 }
 
 std::string MillisecondsLine(const KitReport& report) {
@@ -53,7 +54,7 @@ JsonObject JsonOf(const NumberingCounts& counts) {
 }  // namespace
 
 std::string SummaryOf(const KitReport& report) {
-    std::string text = report.Photo + ", " + report.Difficulty + "\n";
+    std::string text = Printable(report.Photo) + ", " + report.Difficulty + "\n";
     AddLine(text, "picture", report.Picture);
     AddLine(text, "photo", Times(report.PhotoSize.Width, report.PhotoSize.Height) + " pixels");
     AddLine(text, "worked at",
