@@ -27,6 +27,8 @@ class BitmapFile {
     /// True when the file describes its colors by a profile or by primaries of its own; they are
     /// taken as sRGB all the same.
     [[nodiscard]] bool HasOwnColors() const { return header_.HasOwnColors; }
+    /// Reads run lengths through, which the header says nothing about; costs nothing for others.
+    void CheckRuns();
     /// Hands every row to `sink` once, the lowest first.
     void ReadRows(const RowSink& sink);
 

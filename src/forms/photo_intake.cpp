@@ -54,6 +54,13 @@ fs::path TargetIn(const ProgramFolder& folder, const fs::path& photo) {
     return folder.Path("Pictures/" + photo.filename().string());
 }
 
+// A damaged bitmap kept in Pictures would stand in the way of its repaired copy.
+BitmapSize SizeOfSound(const fs::path& bitmap) {
+    BitmapFile file(bitmap);
+    file.CheckRuns();
+    return file.Size();
+}
+
 bool IsAt(const fs::path& photo, const fs::path& target) {
     std::error_code ignored;
     return fs::equivalent(photo, target, ignored);
@@ -63,7 +70,7 @@ bool IsAt(const fs::path& photo, const fs::path& target) {
 
 void RequirePaintable(const fs::path& photo, const PhotoDecoder& decoder, const CropTarget& target,
                       CropPart part) {
-    const BitmapSize size = NeedsDecoder(photo) ? decoder.Size(photo) : BitmapFile(photo).Size();
+    const BitmapSize size = NeedsDecoder(photo) ? decoder.Size(photo) : SizeOfSound(photo);
     if (size.Width > 0 && size.Height > 0) {
         RequireStipples(photo, part == CropPart::Whole ? size : LargestCrop(size, target),
                         target.Screen, target.StippleSize);

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <new>
 
+#include "convert/bmp_bytes.h"
 #include "program/studio.h"
 
 namespace vendrel {
@@ -107,12 +108,17 @@ TEST(KitTroubles, EveryFailureIsASentenceThatNamesThePhoto) {
     studio.Files.Write("gone.jpg", "x");
     studio.Files.Write("a\n\x1b[2J.bmp", "x");
     ASSERT_EQ(mkfifo((studio.Files / "pipe.bmp").c_str(), 0600), 0);
+    test::BmpBytes torn{.Bits = 8, .Compression = 1, .ColorsUsed = 1};
+    torn.Palette = {0};
+    torn.Pixels = {2, 0, 0, 1};
+    studio.Files.Write("torn.bmp", torn.Make());
     const std::string endless(252, 'n');
     studio.AddPhoto(std::string(225, 'n') + ".bmp");
     for (const auto& [photo, sentence] :
          {std::pair{studio.Path("large.jpg"), "large.jpg: there is not enough memory"},
           {studio.Path("gone.jpg"), "gone.jpg: cannot be used (Input/output error)"},
           {studio.Path("pipe.bmp"), "pipe.bmp: is a pipe"},
+          {studio.Path("torn.bmp"), "torn.bmp: is damaged"},
           {studio.Files.Path().string(), "is a folder"},
           {endless + ".bmp", ".bmp: cannot be opened"},
           {studio.Path(std::string(225, 'n') + ".bmp"), "its name is too long"},
@@ -121,6 +127,7 @@ TEST(KitTroubles, EveryFailureIsASentenceThatNamesThePhoto) {
         EXPECT_THAT(studio.Err, HasSubstr(sentence));
         EXPECT_EQ(std::count(studio.Err.begin(), studio.Err.end(), '\n'), 1);
     }
+    EXPECT_THAT(studio.Names("Pictures"), IsEmpty());
     // What fits is made.
     EXPECT_EQ(studio.Kit({studio.Path(std::string(225, 'n') + ".bmp"), "--outputs", "grid"}), 0);
 }
