@@ -12,6 +12,10 @@ namespace {
 
 constexpr std::uint64_t kInfoStart = 14;
 constexpr std::uint64_t kMaskStart = 54;
+constexpr std::uint32_t kShortHeader = 12;  // of old programs: no compression, sides of 16 bits
+constexpr std::size_t kColorSpaceAt = 70;   // of headers of 108 bytes and more
+constexpr std::size_t kPrimariesAt = 74;
+constexpr std::size_t kPrimariesEnd = 122;  // nine coordinates and three gammas
 // Room for the longest header, or the shortest with four masks behind it.
 constexpr std::size_t kLead = kInfoStart + 124;
 constexpr int kMaxSide = 1 << 20;
@@ -43,17 +47,25 @@ Lead ReadLead(BitmapInput& input) {
                           "is not a BMP photo, whatever its name. Choose a BMP photo.");
     }
     const std::uint32_t headerSize = Le32(lead, kInfoStart);
-    if (held >= kInfoStart + 4 && (headerSize < 40 || headerSize > 124)) {
+    const bool known = headerSize == kShortHeader || (headerSize >= 40 && headerSize <= 124);
+    if (held >= kInfoStart + 4 && !known) {
         Refuse(input, "is a BMP of a kind that is not known here (a header of " +
                           std::to_string(headerSize) + " bytes).");
     }
-    if (input.Size() < kInfoStart + headerSize || held < kInfoStart + 40) {
+    if (held < kInfoStart + 4 || input.Size() < kInfoStart + headerSize) {
         throw FormatError(input.File(), 0, "ends within its header. Copy or save the photo again.");
     }
     return lead;
 }
 
+bool IsShort(const Lead& lead) {
+    return Le32(lead, kInfoStart) == kShortHeader;
+}
+
 BitmapSize SizeOf(const Lead& lead) {
+    if (IsShort(lead)) {
+        return {static_cast<int>(Le16(lead, 18)), static_cast<int>(Le16(lead, 20))};
+    }
     return {static_cast<int>(Le32(lead, 18)), static_cast<int>(Le32(lead, 22))};
 }
 
@@ -75,6 +87,10 @@ void CheckSize(const BitmapInput& input, BitmapSize size) {
                           "its header gives it " + Describe(size) +
                               ", more than can be worked on. Save a smaller copy of the photo.");
     }
+}
+
+std::uint32_t CompressionOf(const Lead& lead) {
+    return IsShort(lead) ? 0 : Le32(lead, 30);
 }
 
 BitmapPacking PackingOf(const BitmapInput& input, std::uint32_t compression, int bits) {
@@ -130,28 +146,55 @@ void SetChannels(const BitmapInput& input, const Lead& lead, BitmapHeader& heade
 // Masks stand behind a header of 40 bytes and inside the longer ones.
 std::uint64_t EndOfHeader(const Lead& lead) {
     const std::uint32_t size = Le32(lead, kInfoStart);
-    const std::uint32_t compression = Le32(lead, 30);
+    const std::uint32_t compression = CompressionOf(lead);
     if (size > 40 || (compression != 3 && compression != 6)) {
         return kInfoStart + size;
     }
     return kMaskStart + (compression == 3 ? 12 : 16);
 }
 
-void ReadPalette(BitmapInput& input, const Lead& lead, BitmapHeader& header) {
-    header.Palette.fill(kNoColor);
+// A short header does not say how many colors there are: they fill the room up to the pixels.
+std::uint64_t CountPalette(const BitmapInput& input, const Lead& lead, const BitmapHeader& header) {
     const std::uint64_t start = EndOfHeader(lead);
     const std::uint64_t most = std::uint64_t{1} << header.BitsPerPixel;
+    if (IsShort(lead)) {
+        return std::min(most, (header.PixelOffset - start) / 3);
+    }
     const std::uint64_t named = Le32(lead, 46);
     const std::uint64_t count = named == 0 ? most : named;
     if (start + 4 * count > header.PixelOffset) {
         Refuse(input, "its palette of " + std::to_string(count) + " colours runs into its pixels.");
     }
-    std::vector<std::uint8_t> entries(4 * static_cast<std::size_t>(std::min(count, most)));
-    input.Seek(start);
+    return std::min(count, most);
+}
+
+void ReadPalette(BitmapInput& input, const Lead& lead, BitmapHeader& header) {
+    header.Palette.fill(kNoColor);
+    const std::size_t entryBytes = IsShort(lead) ? 3 : 4;
+    const auto count = static_cast<std::size_t>(CountPalette(input, lead, header));
+    std::vector<std::uint8_t> entries(entryBytes * count);
+    input.Seek(EndOfHeader(lead));
     input.Read(entries);
-    for (std::size_t i = 0; i < entries.size(); i += 4) {
-        header.Palette[i / 4] = Rgb(entries[i + 2], entries[i + 1], entries[i]);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::uint8_t* entry = entries.data() + i * entryBytes;
+        header.Palette[i] = Rgb(entry[2], entry[1], entry[0]);
     }
+}
+
+// A profile in the file or beside it, or primaries of its own; zeros stand where nothing was meant.
+bool HasOwnColors(const Lead& lead) {
+    constexpr std::uint32_t kLinked = 0x4C494E4B;
+    constexpr std::uint32_t kEmbedded = 0x4D424544;
+    const std::uint32_t headerSize = Le32(lead, kInfoStart);
+    if (headerSize < 108) {
+        return false;
+    }
+    const std::uint32_t space = Le32(lead, kColorSpaceAt);
+    if (headerSize == 124 && (space == kLinked || space == kEmbedded)) {
+        return true;
+    }
+    return space == 0 && std::any_of(lead.begin() + kPrimariesAt, lead.begin() + kPrimariesEnd,
+                                     [](std::uint8_t byte) { return byte != 0; });
 }
 
 // Nothing is set aside for pixels before the file is known to hold them.
@@ -186,8 +229,9 @@ BitmapHeader ReadBitmapHeader(BitmapInput& input) {
     BitmapHeader header;
     header.Size = SizeOf(lead);
     CheckSize(input, header.Size);
-    header.BitsPerPixel = static_cast<int>(Le16(lead, 28));
-    header.Packing = PackingOf(input, Le32(lead, 30), header.BitsPerPixel);
+    header.BitsPerPixel = static_cast<int>(Le16(lead, IsShort(lead) ? 24 : 28));
+    header.Packing = PackingOf(input, CompressionOf(lead), header.BitsPerPixel);
+    header.HasOwnColors = HasOwnColors(lead);
     header.PixelOffset = Le32(lead, 10);
     if (header.PixelOffset < EndOfHeader(lead) || header.PixelOffset >= input.Size()) {
         Refuse(input, "its pixels are said to start at byte " + std::to_string(header.PixelOffset) +

@@ -34,6 +34,7 @@ struct BitmapHeader {
     BitmapChannel Green;
     BitmapChannel Blue;
     std::array<Color, 256> Palette{};  // of 1, 4 and 8 bits; kNoColor past its end
+    bool HasOwnColors = false;         // described by a profile or primaries, which are not used
     std::uint64_t PixelOffset = 0;
     std::size_t BytesPerRow = 0;  // as stored, padding included; not for run lengths
 };

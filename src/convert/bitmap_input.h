@@ -3,8 +3,9 @@
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <span>
+
+#include "support/disk.h"
 
 namespace vendrel {
 
@@ -14,13 +15,13 @@ class BitmapInput {
     explicit BitmapInput(std::filesystem::path file);
 
     [[nodiscard]] const std::filesystem::path& File() const { return file_; }
-    [[nodiscard]] std::uint64_t Size() const { return size_; }
+    [[nodiscard]] std::uint64_t Size() const { return opened_.Size; }
 
     void Seek(std::uint64_t offset);
     /// Fills the span; a file that ends before it is full is an error.
     void Read(std::span<std::uint8_t> bytes);
     [[nodiscard]] int ReadByte() {
-        const int byte = std::getc(stream_.get());
+        const int byte = std::getc(opened_.Stream.get());
         if (byte == EOF) {
             FailShort();
         }
@@ -28,14 +29,10 @@ class BitmapInput {
     }
 
   private:
-    struct Closer {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
     [[noreturn]] void FailShort() const;
 
     std::filesystem::path file_;
-    std::uint64_t size_ = 0;
-    std::unique_ptr<std::FILE, Closer> stream_;
+    RegularFile opened_;
 };
 
 }  // namespace vendrel

@@ -38,6 +38,12 @@ void ReadPlainRows(BitmapInput& input, const BitmapHeader& header, const RowSink
 BitmapFile::BitmapFile(const std::filesystem::path& file)
     : input_(file), header_(ReadBitmapHeader(input_)) {}
 
+void BitmapFile::CheckRuns() {
+    if (header_.Packing == BitmapPacking::Rle8 || header_.Packing == BitmapPacking::Rle4) {
+        ReadRows([](int /*y*/, std::span<const Color> /*row*/) {});
+    }
+}
+
 void BitmapFile::ReadRows(const RowSink& sink) {
     if (header_.Packing == BitmapPacking::Rle8 || header_.Packing == BitmapPacking::Rle4) {
         ReadRunRows(input_, header_, sink);

@@ -14,7 +14,8 @@ namespace vendrel {
 using RowSink = std::function<void(int y, std::span<const Color> row)>;
 
 /// A BMP photo read row by row, so that a large one never stands decoded in memory: 1, 4, 8, 16,
-/// 24 or 32 bits, plain, run lengths or bit fields, rows stored bottom-up. Transparency is
+/// 24 or 32 bits, plain, run lengths or bit fields, rows stored bottom-up, with headers of all
+/// times. Transparency is
 /// ignored. Everything throws FileError or FormatError naming the file and what to do.
 class BitmapFile {
   public:
@@ -23,6 +24,11 @@ class BitmapFile {
 
     /// Both sides at least 1.
     [[nodiscard]] BitmapSize Size() const { return header_.Size; }
+    /// True when the file describes its colors by a profile or by primaries of its own; they are
+    /// taken as sRGB all the same.
+    [[nodiscard]] bool HasOwnColors() const { return header_.HasOwnColors; }
+    /// Reads run lengths through, which the header says nothing about; costs nothing for others.
+    void CheckRuns();
     /// Hands every row to `sink` once, the lowest first.
     void ReadRows(const RowSink& sink);
 

@@ -1,6 +1,7 @@
 #include "convert/bitmap_rows.h"
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "support/error.h"
@@ -85,19 +86,25 @@ class RunReader {
                 EndRow();
                 break;
             case 1:
-                SkipRows(header_.Size.Height);
+                SkipRows(header_.Size.Height - y_);
                 break;
-            case 2: {
-                const int right = input_.ReadByte();
-                const int up = input_.ReadByte();
-                const int x = std::min(x_ + right, header_.Size.Width);
-                SkipRows(up);
-                x_ = x;
+            case 2:
+                Move();
                 break;
-            }
             default:
                 Literal(code);
         }
+    }
+
+    // To the very edge is still inside: nothing need be painted there.
+    void Move() {
+        const int x = std::min(x_, header_.Size.Width) + input_.ReadByte();
+        const int up = input_.ReadByte();
+        if (x > header_.Size.Width || y_ + up > header_.Size.Height) {
+            Refuse("point outside the picture");
+        }
+        SkipRows(up);
+        x_ = x;
     }
 
     void Run(int count, int value) {
@@ -123,14 +130,22 @@ class RunReader {
 
     static int NibbleOf(int value, int place) { return place % 2 == 0 ? value >> 4 : value & 15; }
 
-    // Some programs round the last run of a row up to an even count: the excess is dropped.
     void Put(int index) {
         if (x_ < header_.Size.Width) {
             const Color color = header_.Palette[static_cast<std::size_t>(index)];
             seen_ |= color;
             row_[static_cast<std::size_t>(x_)] = color;
-            ++x_;
+        } else if (!nibbles_ || x_ > header_.Size.Width) {
+            Refuse("go on past the end of a row");
         }
+        // Two pixels to a byte: some programs round a row up to whole bytes, and one is dropped.
+        ++x_;
+    }
+
+    [[noreturn]] void Refuse(const std::string& problem) const {
+        throw FormatError(input_.File(), 0,
+                          "is damaged: its run lengths " + problem +
+                              ". Copy the photo again, or save it again as a BMP of 24 bits.");
     }
 
     void EndRow() {
@@ -142,7 +157,7 @@ class RunReader {
     }
 
     void SkipRows(int count) {
-        for (int i = 0; i < count && y_ < header_.Size.Height; ++i) {
+        for (int i = 0; i < count; ++i) {
             EndRow();
         }
     }

@@ -10,6 +10,7 @@
 
 #include "convert/bitmap_input.h"
 #include "convert/bitmap_writer.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 
@@ -43,10 +44,11 @@ bool LooksLikeOtherFormat(std::string_view lead) {
                                [lead](std::string_view start) { return lead.starts_with(start); });
 }
 
-bool IsUnusualBitmap(std::string_view lead) {
+// The short header of old programs has no such place, and its rows go upwards.
+bool IsTopDownBitmap(std::string_view lead) {
     const auto headerSize = static_cast<std::uint8_t>(lead[14]);
     const auto topOfHeight = static_cast<std::uint8_t>(lead[25]);
-    return headerSize == 12 || topOfHeight >= 0x80;
+    return headerSize != 12 && topOfHeight >= 0x80;
 }
 
 std::string BeforeFirstDot(const std::string& name) {
@@ -56,8 +58,7 @@ std::string BeforeFirstDot(const std::string& name) {
 // What is made from a.bmp and a.old.bmp would overwrite one another: both count as "a".
 std::set<std::string> NamesInUse(const fs::path& pictures) {
     std::set<std::string> names;
-    std::error_code missing;
-    for (const auto& entry : fs::directory_iterator(pictures, missing)) {
+    for (const auto& entry : EntriesOf(pictures)) {
         if (HasBitmapEnding(entry.path())) {
             names.insert(ToLower(BeforeFirstDot(entry.path().filename().string())));
         }
@@ -70,7 +71,7 @@ std::set<std::string> NamesInUse(const fs::path& pictures) {
 bool NeedsDecoder(const fs::path& photo) {
     const std::string lead = ReadLead(photo);
     if (lead.starts_with("BM")) {
-        return IsUnusualBitmap(lead);
+        return IsTopDownBitmap(lead);
     }
     // A .bmp with nonsense inside is the bitmap reader's to refuse.
     return LooksLikeOtherFormat(lead) || !HasBitmapEnding(photo);

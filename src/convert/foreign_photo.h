@@ -13,7 +13,7 @@ namespace vendrel {
 inline constexpr const char* kPastedStem = "Pasted picture";
 
 /// True when the workflow's own bitmap reader cannot be meant: another format, or a bitmap stored
-/// from the top down or with the short header of old programs. Throws FileError.
+/// from the top down. Throws FileError.
 [[nodiscard]] bool NeedsDecoder(const std::filesystem::path& photo);
 
 /// The name under which a photo is kept, without an ending: its own, with "-" for every "." inside,

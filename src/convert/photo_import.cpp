@@ -6,6 +6,7 @@
 #include "convert/bitmap_reader.h"
 #include "convert/scaling.h"
 #include "convert/settings.h"
+#include "shell/warnings.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -16,6 +17,14 @@ Surface ReadScaled(BitmapFile& file, int width, int height) {
     RowScaler scaler({from.Width, from.Height, width, height}, RowOrder::BottomUp);
     file.ReadRows([&scaler](int /*y*/, std::span<const Color> row) { scaler.Push(row); });
     return scaler.Take();
+}
+
+// By the name alone: a copy in Pictures is the same photo.
+void WarnOfOwnColors(const Workplace& place, const std::filesystem::path& photo) {
+    WarnOnce(place, photo.filename().string() +
+                        ": its own description of its colors (a profile) is not used; they are "
+                        "taken as sRGB. If they look wrong, convert the photo to sRGB in a picture "
+                        "program.");
 }
 
 }  // namespace
@@ -36,15 +45,27 @@ std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSi
         return std::nullopt;
     }
     BitmapFile bitmap(file);
-    Photo photo{bitmap.Size(), ComputeWorkingSize(bitmap.Size(), screen, stippleSize), {}};
+    Photo photo{bitmap.Size(),
+                ComputeWorkingSize(bitmap.Size(), screen, stippleSize),
+                {},
+                bitmap.HasOwnColors()};
     RequireStipples(file, photo.Bmp, screen, stippleSize);
     photo.Picture = ReadScaled(bitmap, photo.Working.Width / screen.Twips.X,
                                photo.Working.Height / screen.Twips.Y);
     return photo;
 }
 
+void MentionColors(const Workplace& place, const std::filesystem::path& bitmap) {
+    if (BitmapFile(bitmap).HasOwnColors()) {
+        WarnOfOwnColors(place, bitmap);
+    }
+}
+
 void ShowPhoto(Workplace& place, Photo photo) {
     WorkState& state = place.State;
+    if (photo.HasOwnColors) {
+        WarnOfOwnColors(place, state.PicturePath);
+    }
     state.BmpWidth = photo.Bmp.Width;
     state.BmpHeight = photo.Bmp.Height;
     state.AspectWidth = photo.Working.AspectWidth;

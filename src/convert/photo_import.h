@@ -16,6 +16,7 @@ struct Photo {
     BitmapSize Bmp;  // pixels, of the file
     WorkingSize Working;
     Surface Picture;
+    bool HasOwnColors = false;  // described in the file, but taken as sRGB
 };
 
 /// Whether a photo is there now; Nothing for a file whose header gives it 0 x 0 pixels.
@@ -29,6 +30,9 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
 /// FileError or FormatError, also when no whole stipple fits its shape, and OverflowError.
 [[nodiscard]] std::optional<Photo> ReadPhoto(const std::filesystem::path& file,
                                              const ScreenSize& screen, int stippleSize);
+
+/// Warns once that a bitmap's own description of its colors is not used; silent without one.
+void MentionColors(const Workplace& place, const std::filesystem::path& bitmap);
 
 /// Puts a photo that was read into the work area and makes everything fit it.
 void ShowPhoto(Workplace& place, Photo photo);

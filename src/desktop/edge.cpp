@@ -3,10 +3,10 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <exception>
-#include <new>
 
 #include "desktop/text.h"
 #include "shell/ui.h"
+#include "support/error.h"
 
 namespace vendrel {
 
@@ -39,10 +39,8 @@ Outcome Edge::Try(const std::function<void()>& work, QString& message) {
         return Outcome::Done;
     } catch (const Stop&) {
         return Outcome::Ended;
-    } catch (const std::bad_alloc&) {
-        message = tr("There is not enough memory for this. Try a smaller photo.");
     } catch (const std::exception& error) {
-        message = Text(error.what());
+        message = Text(SentenceOf(error));
     }
     return Outcome::Failed;
 }

@@ -12,6 +12,7 @@
 #include "desktop/picture_view.h"
 #include "desktop/surface_image.h"
 #include "desktop/text.h"
+#include "support/disk.h"
 
 namespace vendrel {
 namespace {
@@ -102,8 +103,7 @@ bool QtUi::PutOnClipboard(const Surface& picture) {
 }
 
 void QtUi::ShowFolder(const std::filesystem::path& folder) {
-    QDesktopServices::openUrl(
-        QUrl::fromLocalFile(Text(std::filesystem::absolute(folder).string())));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(Text(FullPath(folder).string())));
 }
 
 ScreenSize QtUi::Screen() const {

@@ -11,6 +11,7 @@
 #include "paints/restore.h"
 #include "shell/menu.h"
 #include "storage/load_stipples.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "touchup/recovery.h"
 
@@ -67,18 +68,17 @@ void FileImport::Form_Load() {
     controls_ = {};
     clicked_.clear();
     controls_.ImportDrive = ListDrives();
-    controls_.DriveIndex = DriveOf(controls_.ImportDrive, fs::absolute(place_.Folder.Root()));
+    controls_.DriveIndex = DriveOf(controls_.ImportDrive, FullPath(place_.Folder.Root()));
 }
 
 void FileImport::ShowFolder(const fs::path& folder) {
-    controls_.Folder = fs::absolute(folder).lexically_normal();
+    controls_.Folder = FullPath(folder);
     controls_.ImportDir = ListFolders(controls_.Folder);
     controls_.ImportFile = ListPhotos(controls_.Folder, decoder_.Endings());
     const auto chosen = std::find(controls_.ImportFile.begin(), controls_.ImportFile.end(),
                                   ChosenPhoto().filename().string());
-    const bool listed =
-        chosen != controls_.ImportFile.end() &&
-        fs::absolute(ChosenPhoto()).lexically_normal().parent_path() == controls_.Folder;
+    const bool listed = chosen != controls_.ImportFile.end() &&
+                        FullPath(ChosenPhoto()).parent_path() == controls_.Folder;
     controls_.FileIndex = listed ? static_cast<int>(chosen - controls_.ImportFile.begin()) : -1;
     if (controls_.Description.empty()) {
         ShowPreview();
@@ -149,6 +149,9 @@ void FileImport::Describe(const fs::path& photo) {
 void FileImport::CropButton_Click() {
     const fs::path photo = ChosenPhoto();
     if (controls_.CropEnabled) {
+        if (!NeedsDecoder(photo)) {
+            MentionColors(place_, photo);
+        }
         crop_.Open(ReadAnyPhoto(place_, photo, decoder_),
                    NeedsDecoder(photo) ? PictureStem(photo) : photo.filename().string(),
                    [this](const std::string& file) { ChooseCrop(file); });
@@ -164,6 +167,9 @@ void FileImport::ChooseCrop(const std::string& pictureFile) {
 }
 
 std::string FileImport::TakeIn(const fs::path& photo) {
+    if (!NeedsDecoder(photo)) {
+        RequireResultNames(photo, kLongestResult);
+    }
     if (!IsInPictures(place_.Folder, photo)) {
         RequirePaintable(photo, decoder_, TargetOf(place_));
     }

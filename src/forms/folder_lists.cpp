@@ -6,6 +6,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "support/disk.h"
+
 namespace vendrel {
 namespace {
 
@@ -30,10 +32,9 @@ template <class Keep>
 std::vector<std::string> NamesIn(const fs::path& folder, Keep keep) {
     std::vector<std::string> names;
     std::error_code failure;
-    fs::directory_iterator entry(folder, failure);
-    for (; !failure && entry != fs::directory_iterator(); entry.increment(failure)) {
-        std::string name = entry->path().filename().string();
-        if (!name.starts_with('.') && keep(*entry)) {
+    for (const fs::directory_entry& entry : EntriesOf(folder, failure)) {
+        std::string name = entry.path().filename().string();
+        if (!name.starts_with('.') && keep(entry)) {
             names.push_back(std::move(name));
         }
     }

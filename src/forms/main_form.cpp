@@ -14,6 +14,7 @@
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
 #include "storage/load_stipples.h"
+#include "support/disk.h"
 #include "touchup/recovery.h"
 
 namespace vendrel {
@@ -64,12 +65,11 @@ void MainForm::Form_Load() {
     place_.MainMenu[LoadBMP].Enabled = true;
     place_.MainMenu[PaintItNow].Enabled = false;
     if (PrepareFolders(place_)) {
-        place_.Screen.ShowMessage(
-            "Vendrel",
-            "First Time Ran.. Pictures Folder Created.\n"
-            "Program Will Exit To Allow You To Place Your .BMP Pictures "
-            "In This Folder.\n" +
-                fs::absolute(place_.Folder.Path("Pictures")).lexically_normal().string());
+        place_.Screen.ShowMessage("Vendrel",
+                                  "First Time Ran.. Pictures Folder Created.\n"
+                                  "Program Will Exit To Allow You To Place Your .BMP Pictures "
+                                  "In This Folder.\n" +
+                                      FullPath(place_.Folder.Path("Pictures")).string());
         throw Stop{};
     }
     PreparePaints(place_);

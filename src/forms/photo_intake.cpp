@@ -2,13 +2,15 @@
 
 #include <array>
 #include <cstddef>
-#include <fstream>
+#include <cstdint>
+#include <cstdio>
 #include <span>
 #include <system_error>
 
 #include "convert/bitmap_reader.h"
 #include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/same_bytes.h"
 #include "support/whole_file.h"
@@ -18,28 +20,33 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::ifstream Open(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        throw FileError(file, "cannot be read. Choose another photo.");
-    }
-    return in;
+std::span<const char> ReadBlock(const RegularFile& file, std::span<char> block) {
+    return block.first(std::fread(block.data(), 1, block.size(), file.Stream.get()));
 }
 
 // False when a photo of that name is there, perhaps only since just now.
 bool CopyNew(const fs::path& from, const fs::path& to) {
-    std::ifstream in = Open(from);
+    const RegularFile in = OpenRegular(from);
     WholeFile out(to, Lasting::Synced);
     std::array<char, 1 << 16> chunk{};
-    while (in.read(chunk.data(), chunk.size()) || in.gcount() > 0) {
-        const auto count = static_cast<std::size_t>(in.gcount());
-        out.Write(std::as_bytes(std::span(chunk).first(count)));
+    for (auto block = ReadBlock(in, chunk); !block.empty(); block = ReadBlock(in, chunk)) {
+        out.Write(std::as_bytes(block));
+    }
+    if (std::ferror(in.Stream.get()) != 0) {
+        throw FileError(from, "cannot be read to its end. Check the disk and copy it again.");
     }
     return out.CommitNew(to);
 }
 
 fs::path TargetIn(const ProgramFolder& folder, const fs::path& photo) {
     return folder.Path("Pictures/" + photo.filename().string());
+}
+
+// A damaged bitmap kept in Pictures would stand in the way of its repaired copy.
+BitmapSize SizeOfSound(const fs::path& bitmap) {
+    BitmapFile file(bitmap);
+    file.CheckRuns();
+    return file.Size();
 }
 
 bool IsAt(const fs::path& photo, const fs::path& target) {
@@ -51,10 +58,22 @@ bool IsAt(const fs::path& photo, const fs::path& target) {
 
 void RequirePaintable(const fs::path& photo, const PhotoDecoder& decoder, const CropTarget& target,
                       CropPart part) {
-    const BitmapSize size = NeedsDecoder(photo) ? decoder.Size(photo) : BitmapFile(photo).Size();
+    const BitmapSize size = NeedsDecoder(photo) ? decoder.Size(photo) : SizeOfSound(photo);
     if (size.Width > 0 && size.Height > 0) {
         RequireStipples(photo, part == CropPart::Whole ? size : LargestCrop(size, target),
                         target.Screen, target.StippleSize);
+    }
+}
+
+void RequireResultNames(const fs::path& photo, std::string_view longest) {
+    constexpr std::size_t kLongestName = 255;
+    const std::string name = photo.filename().string();
+    const std::size_t kept = std::min(name.find('.'), name.size());
+    if (kept + longest.size() > kLongestName) {
+        throw FileError(photo, "its name is too long for what is made of it, as in \"..." +
+                                   std::string(longest) + "\". Rename it to at most " +
+                                   std::to_string(kLongestName - longest.size()) +
+                                   " letters before the first dot.");
     }
 }
 
@@ -67,11 +86,10 @@ std::string TakeIntoPictures(const ProgramFolder& folder, const fs::path& photo)
     if (IsAt(photo, target)) {
         return target.filename().string();
     }
-    if (!fs::is_regular_file(photo)) {
+    if (!IsRegularFile(photo)) {
         throw FileError(photo, "is not there. Choose another photo.");
     }
-    std::error_code unreadable;
-    if ((fs::exists(target, unreadable) || !CopyNew(photo, target)) && !SameBytes(photo, target)) {
+    if ((Stands(target) || !CopyNew(photo, target)) && !SameBytes(photo, target)) {
         throw FileError(target, "is a different photo of the same name. Rename one of them.");
     }
     return target.filename().string();

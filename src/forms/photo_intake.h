@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "convert/crop.h"
 #include "convert/photo_decoder.h"
@@ -14,6 +15,13 @@ namespace vendrel {
 /// Pictures. One of no pixels passes.
 void RequirePaintable(const std::filesystem::path& photo, const PhotoDecoder& decoder,
                       const CropTarget& target, CropPart part = CropPart::Whole);
+
+/// What follows a photo's name in the longest name of a result.
+inline constexpr std::string_view kLongestResult = " Difficult Symbol Reference.BMP";
+
+/// Throws FileError when what is made of a bitmap could not be named: its name up to the first dot
+/// and `longest` behind it must fit on a disk.
+void RequireResultNames(const std::filesystem::path& photo, std::string_view longest);
 
 /// Whether a photo is a bitmap of the Pictures folder, where it can be used as it is.
 [[nodiscard]] bool IsInPictures(const ProgramFolder& folder, const std::filesystem::path& photo);

@@ -8,6 +8,7 @@
 #include "output/symbol_set.h"
 #include "paints/catalogue.h"
 #include "paints/paint_list.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/folders.h"
 #include "support/leftovers.h"
@@ -22,7 +23,7 @@ namespace fs = std::filesystem;
 /// True when the folder had to be created.
 bool CreateFolder(const Workplace& place, std::string_view name) {
     const fs::path folder = place.Folder.Path(name);
-    if (fs::exists(folder)) {
+    if (Stands(folder)) {
         return false;
     }
     if (const std::error_code failure = MakeFolders(folder)) {
@@ -35,7 +36,7 @@ bool CreateFolder(const Workplace& place, std::string_view name) {
 // Without it the first set of the catalogue alone would be chosen, which suits few portraits.
 void CopyShippedPaintList(const Workplace& place) {
     const fs::path shipped = place.Folder.DataFile("Data/paintlist.txt");
-    if (fs::exists(shipped)) {
+    if (Stands(shipped)) {
         WriteWholeFile(place.Folder.Path("Data/paintlist.txt"), ReadTextFile(shipped));
     }
 }

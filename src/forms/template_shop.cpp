@@ -6,12 +6,14 @@
 
 #include "convert/stipple_conversion.h"
 #include "paints/next_best.h"
+#include "paints/paint_fields.h"
 #include "paints/paint_sets.h"
 #include "paints/palette_files.h"
 #include "paints/restore.h"
 #include "paints/template_file.h"
 #include "paints/template_library.h"
 #include "shell/scratch_place.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 #include "support/whole_file.h"
@@ -93,12 +95,12 @@ void TemplateShop::ReadChosen() {
     }
     // Every file of the folder is listed, whatever its ending.
     const std::filesystem::path file = TemplatePath(place_, Chosen());
-    if (!std::filesystem::exists(file)) {
+    if (!Stands(file)) {
         throw FileError(file,
                         "is not there: the file listed is no template, since it does not end in "
                         ".csv. Move it out of the templates folder.");
     }
-    controls_.Paints = ReadTemplate(file);
+    controls_.Paints = ReadPaints(place_, file);
     controls_.ChosenIsTemplate = true;
 }
 

@@ -4,6 +4,7 @@
 
 #include "kit/arguments.h"
 #include "kit/kit_command.h"
+#include "kit/printable.h"
 #include "shell/ui.h"
 #include "support/error.h"
 
@@ -21,7 +22,7 @@ int DrawSymbols(const std::filesystem::path& root, const Surroundings& around) {
         return kFailed;
     }
     const std::filesystem::path file = around.MakeSymbols(ProgramFolder(root, around.Shipped));
-    around.Out << file.lexically_normal().string() << '\n';
+    around.Out << Printable(file.lexically_normal().string()) << '\n';
     return kDone;
 }
 
@@ -54,19 +55,34 @@ int Run(const Arguments& arguments, const Surroundings& around) {
     return kWrongUsage;
 }
 
+// Whoever reads the answer must not take half of it for the whole.
+void RequireTold(const Surroundings& around) {
+    if (!around.Out.flush()) {
+        throw Error(
+            "What there is to say cannot be written to the standard output. Check where it goes; "
+            "the files named so far are made.");
+    }
+}
+
+void Complain(const Surroundings& around, const std::exception& failure) {
+    around.Err << "vendrel: " << Printable(SentenceOf(failure)) << '\n';
+}
+
 }  // namespace
 
 int RunCommandLine(std::span<const std::string_view> words, const Surroundings& around) {
     try {
-        return Run(ParseArguments(words), around);
+        const int status = Run(ParseArguments(words), around);
+        RequireTold(around);
+        return status;
     } catch (const Stop&) {
         around.Err << "vendrel: stopped\n";
         return kStopped;
     } catch (const UsageError& error) {
-        around.Err << "vendrel: " << error.what() << '\n';
+        Complain(around, error);
         return kWrongUsage;
     } catch (const std::exception& error) {
-        around.Err << "vendrel: " << error.what() << '\n';
+        Complain(around, error);
         return kFailed;
     }
 }

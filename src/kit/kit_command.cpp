@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "forms/start_up.h"
 #include "kit/kit_photos.h"
@@ -11,6 +12,7 @@
 #include "kit/kit_settings.h"
 #include "kit/make_kit.h"
 #include "kit/photo_lookup.h"
+#include "kit/printable.h"
 #include "kit/terminal_ui.h"
 #include "shell/workplace.h"
 #include "support/error.h"
@@ -41,6 +43,7 @@ class KitRun {
         PreparePaints(place);
         ApplySettings(place, options_);
         (void)PrepareFolders(place);  // last: a wrong setting leaves nothing behind
+        warnings_ = ui_.TakeMessages();
     }
 
     [[nodiscard]] bool Photo(const std::string& word) {
@@ -48,7 +51,7 @@ class KitRun {
             Report(Make(word));
             return true;
         } catch (const std::exception& error) {
-            ReportFailure(word, error.what());
+            ReportFailure(word, SentenceOf(error, word));
             return false;
         }
     }
@@ -56,7 +59,8 @@ class KitRun {
   private:
     void MakeFolder() const {
         const std::error_code failure = MakeFolders(options_.Folder);
-        if (!std::filesystem::is_directory(options_.Folder)) {
+        std::error_code unseen;
+        if (!std::filesystem::is_directory(options_.Folder, unseen)) {
             throw FileError(options_.Folder, "is no folder and cannot become one (" +
                                                  failure.message() + "). Name another.");
         }
@@ -77,6 +81,7 @@ class KitRun {
         Menu menu = menu_;
         Workplace place{state, frames, menu, ui_, folder_};
         KitReport report = MakeKit(place, options_, photos_, photo, exporter_.get());
+        report.Notes.insert(report.Notes.end(), warnings_.begin(), warnings_.end());
         for (std::string& message : ui_.TakeMessages()) {
             report.Notes.push_back(std::move(message));
         }
@@ -92,10 +97,10 @@ class KitRun {
         }
     }
 
-    void ReportFailure(const std::string& word, const char* sentence) {
+    void ReportFailure(const std::string& word, const std::string& sentence) {
         ui_.ClearLine();
         (void)ui_.TakeMessages();
-        around_.Err << "vendrel: " << sentence << std::endl;
+        around_.Err << "vendrel: " << Printable(sentence) << std::endl;
         if (options_.Json) {
             around_.Out << JsonLineOf(word, sentence) << std::endl;
         }
@@ -111,6 +116,7 @@ class KitRun {
     Surfaces frames_;
     Menu menu_;
     std::unique_ptr<Exporter> exporter_;
+    std::vector<std::string> warnings_;  // of the data that every kit is made with
 };
 
 }  // namespace

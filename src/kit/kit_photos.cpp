@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "convert/foreign_photo.h"
+#include "convert/photo_import.h"
 #include "forms/photo_intake.h"
 #include "forms/photo_look.h"
 #include "kit/photo_lookup.h"
@@ -10,6 +11,29 @@
 #include "support/letter_case.h"
 
 namespace vendrel {
+namespace {
+
+// Of the outputs asked for: what fits is made.
+std::string LongestEnding(const Workplace& place, const KitOptions& options) {
+    const KitOutputs& outputs = options.Outputs;
+    const std::string word(DifficultyWord(place.MainMenu));
+    const std::string crop = options.Crop == CropPart::Whole ? "" : " crop";
+    std::string longest = crop + ".bmp";
+    const auto consider = [&](bool made, const std::string& ending) {
+        if (made && crop.size() + ending.size() > longest.size()) {
+            longest = crop + ending;
+        }
+    };
+    consider(outputs.Sheet, " " + word + " PBS.BMP");
+    consider(outputs.Reference, " " + word + " Symbol Reference.BMP");
+    consider(outputs.Painting, " " + word + " Painting.BMP");
+    consider(outputs.Chart, " " + word + " Color Chart.BMP");
+    consider(outputs.Pdf, " " + word + " Kit.BMP");
+    consider(outputs.Grid, "-" + word + ".stp");
+    return longest;
+}
+
+}  // namespace
 
 std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
                               const std::filesystem::path& photo) {
@@ -17,7 +41,9 @@ std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
     RequirePaintable(photo, decoder_, target, options.Crop);
     const bool decode = NeedsDecoder(photo);
     if (!decode) {
+        RequireResultNames(photo, LongestEnding(place, options));
         Claim(photo, PictureNameOf(photo));
+        MentionColors(place, photo);
     }
     const std::string taken = decode ? Decode(place, photo) : TakeIntoPictures(place.Folder, photo);
     std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);

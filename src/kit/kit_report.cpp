@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "convert/working_size.h"
+#include "kit/printable.h"
 #include "support/text_file.h"
 
 namespace vendrel {
@@ -32,7 +33,7 @@ std::string Times(int across, int down) {
 
 void AddLine(std::string& text, std::string label, const std::string& value) {
     label.resize(kLabelWidth, ' ');
-    text += "  " + label + value + "\n";
+    text += "  " + label + Printable(value) + "\n";
 }
 
 std::string MillisecondsLine(const KitReport& report) {
@@ -110,7 +111,7 @@ std::string LineOf(const Json& json) {
 }  // namespace
 
 std::string SummaryOf(const KitReport& report) {
-    std::string text = report.Photo + ", " + report.Difficulty + "\n";
+    std::string text = Printable(report.Photo) + ", " + report.Difficulty + "\n";
     AddLine(text, "picture", report.Picture);
     AddLine(text, "photo", Times(report.PhotoSize.Width, report.PhotoSize.Height) + " pixels");
     AddLine(text, "worked at",

@@ -13,6 +13,7 @@
 #include "output/sheet_writer.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
@@ -52,8 +53,9 @@ void SaveGrid(const Workplace& place, bool replace, KitReport& report) {
     const fs::path path = StippleFilePath(place);
     const std::string text = FormatStippleFile(
         {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, state.FinalColors});
-    const bool same = fs::exists(path) && ReadTextFile(path) == text;
-    if (!same && fs::exists(path) && !replace) {
+    const bool there = Stands(path);
+    const bool same = there && ReadTextFile(path) == text;
+    if (!same && there && !replace) {
         report.Notes.push_back(path.lexically_normal().string() +
                                " is a different grid and was kept. --replace-grid writes over it.");
         return;

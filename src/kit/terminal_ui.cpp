@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "kit/printable.h"
+
 namespace vendrel {
 namespace {
 
@@ -23,10 +25,12 @@ std::string_view StageOf(std::string_view caption) {
     return caption.substr(0, end);
 }
 
-void TerminalUi::SetCaption(std::string_view caption) {
+void TerminalUi::SetCaption(std::string_view given) {
     if (chatter_ == Chatter::None) {
         return;
     }
+    const std::string shown = Printable(given);
+    const std::string_view caption = shown;
     const bool newStage = StageOf(caption) != StageOf(caption_);
     if (newStage) {
         PrintStage();

@@ -7,15 +7,11 @@
 #include <vector>
 
 #include "paints/paint_fields.h"
-#include "support/text_file.h"
 
 namespace vendrel {
 
 void LoadMasterColors(Workplace& place) {
-    const auto file = place.Folder.DataFile("Data/studiopaint.csv");
-    const std::string text = ReadTextFile(file);
-    FieldReader in(text, file);
-    place.State.MasterColors = ReadPaints(in);
+    place.State.MasterColors = ReadPaints(place, place.Folder.DataFile("Data/studiopaint.csv"));
     place.State.MasterCount = static_cast<int>(place.State.MasterColors.size()) - 1;
 }
 

@@ -1,12 +1,22 @@
 #include "paints/paint_fields.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <map>
+#include <tuple>
+#include <utility>
 
+#include "shell/warnings.h"
 #include "support/counter.h"
+#include "support/field_reader.h"
+#include "support/text_file.h"
 
 namespace vendrel {
+namespace {
 
-std::vector<PaintColor> ReadPaints(FieldReader& in) {
+constexpr std::size_t kMostNamed = 3;
+
+std::vector<PaintColor> ReadCounted(FieldReader& in) {
     const int count = in.ReadInt("the number of paints", 0, kMaxCounter);
     std::vector<PaintColor> paints(static_cast<std::size_t>(count) + 1);
     for (int i = 1; i <= count; ++i) {
@@ -19,6 +29,64 @@ std::vector<PaintColor> ReadPaints(FieldReader& in) {
         paint.PaintName = in.ReadText("a paint's name");
     }
     return paints;
+}
+
+void WarnOfRowsLeft(const FieldReader& in, PaintFile& read) {
+    const auto [first, last] = in.LinesLeft();
+    if (first == 0) {
+        return;
+    }
+    const std::string lines =
+        first == last ? "line " + std::to_string(first) + " was"
+                      : "lines " + std::to_string(first) + " to " + std::to_string(last) + " were";
+    read.Warnings.push_back(
+        in.File().string() + ": " + lines + " not read, as the number in line 1 counts only " +
+        std::to_string(read.Paints.size() - 1) + " paints. Correct that number to have them.");
+}
+
+std::string TitleOf(const PaintColor& paint) {
+    return '"' + paint.Mfg + ": " + paint.PaintName +
+           (paint.PaintCode.empty() ? "" : " (" + paint.PaintCode + ")") + '"';
+}
+
+void WarnOfRepeats(const std::filesystem::path& file, PaintFile& read) {
+    std::map<std::tuple<std::string, std::string, std::string>, int> timesListed;
+    std::string repeats;
+    std::size_t count = 0;
+    for (const PaintColor& paint : read.Paints) {
+        const bool named = !paint.PaintName.empty() || !paint.PaintCode.empty();
+        if (named && ++timesListed[{paint.Mfg, paint.PaintName, paint.PaintCode}] == 2 &&
+            ++count <= kMostNamed) {
+            repeats += (count == 1 ? "" : ", ") + TitleOf(paint);
+        }
+    }
+    if (count > kMostNamed) {
+        repeats += " and " + std::to_string(count - kMostNamed) + " more";
+    }
+    if (count > 0) {
+        read.Warnings.push_back(file.string() + ": lists more than once " + repeats +
+                                ". The first of a set, name and code stands; rename the others or "
+                                "take them out.");
+    }
+}
+
+}  // namespace
+
+PaintFile ReadPaintFile(const std::filesystem::path& file) {
+    const std::string text = ReadTextFile(file);
+    FieldReader in(text, file);
+    PaintFile read{ReadCounted(in), {}};
+    WarnOfRowsLeft(in, read);
+    WarnOfRepeats(file, read);
+    return read;
+}
+
+std::vector<PaintColor> ReadPaints(const Workplace& place, const std::filesystem::path& file) {
+    PaintFile read = ReadPaintFile(file);
+    for (const std::string& warning : read.Warnings) {
+        WarnOnce(place, warning);
+    }
+    return std::move(read.Paints);
 }
 
 }  // namespace vendrel

@@ -1,14 +1,27 @@
 #pragma once
 
+#include <filesystem>
+#include <string>
 #include <vector>
 
 #include "shell/records.h"
-#include "support/field_reader.h"
+#include "shell/workplace.h"
 
 namespace vendrel {
 
+/// The paints of a file, and sentences on what in it the painter may not have meant.
+struct PaintFile {
+    std::vector<PaintColor> Paints;  // entry 0 is empty
+    std::vector<std::string> Warnings;
+};
+
 /// Reads a count of 0..32767 and that many paints of six fields each: red, green, blue, paint
-/// set, code, name. Entry 0 of the result is empty. Throws FormatError.
-[[nodiscard]] std::vector<PaintColor> ReadPaints(FieldReader& in);
+/// set, code, name. Rows beyond the count and paints that are listed twice are warned of. Throws
+/// FileError or FormatError.
+[[nodiscard]] PaintFile ReadPaintFile(const std::filesystem::path& file);
+
+/// The same, warning the painter once.
+[[nodiscard]] std::vector<PaintColor> ReadPaints(const Workplace& place,
+                                                 const std::filesystem::path& file);
 
 }  // namespace vendrel

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "paints/paint_sets.h"
+#include "shell/warnings.h"
+#include "support/disk.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
 
@@ -14,11 +16,24 @@ namespace {
 
 constexpr const char* kPaintList = "data/paintlist.txt";
 
-void Select(WorkState& state, const std::string& name) {
+// False when there is no such set.
+bool Select(WorkState& state, const std::string& name) {
+    bool known = false;
     for (std::size_t i = 1; i < state.PaintSets.size(); ++i) {
         if (state.PaintSets[i].Name == name) {
             state.PaintSets[i].Selected = true;
+            known = true;
         }
+    }
+    return known;
+}
+
+void WarnOfUnknown(const Workplace& place, const std::filesystem::path& file,
+                   const std::string& names) {
+    if (!names.empty()) {
+        WarnOnce(place, file.string() + ": the catalogue has no paint set " + names +
+                            ". It is left out; choose others in the paint shop or correct the "
+                            "name.");
     }
 }
 
@@ -35,16 +50,20 @@ void LoadPaintList(Workplace& place) {
     WorkState& state = place.State;
     SetPalette(state, std::vector<PaintColor>(1));
     const auto file = place.Folder.DataFile(kPaintList);
-    if (!std::filesystem::exists(file)) {
+    if (!Stands(file)) {
         StartPaintList(place);
         return;
     }
     std::vector<PaintColor> paints(1);
+    std::string unknown;
     for (const std::string& line : SplitLines(ReadTextFile(file))) {
-        Select(state, line);
+        if (!Select(state, line) && !line.empty()) {
+            unknown += (unknown.empty() ? "\"" : ", \"") + line + '"';
+        }
         AppendPaintsOf(state, line, paints);
     }
     SetPalette(state, std::move(paints));
+    WarnOfUnknown(place, file, unknown);
 }
 
 void SavePaintList(Workplace& place) {

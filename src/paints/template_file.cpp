@@ -7,10 +7,10 @@
 #include "paints/paint_fields.h"
 #include "paints/paint_sets.h"
 #include "paints/restore.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/folders.h"
 #include "support/leftovers.h"
-#include "support/text_file.h"
 #include "support/whole_file.h"
 
 namespace vendrel {
@@ -61,9 +61,7 @@ fs::path TemplatePath(const Workplace& place, std::string_view name) {
 }
 
 std::vector<PaintColor> ReadTemplate(const fs::path& file) {
-    const std::string text = ReadTextFile(file);
-    FieldReader in(text, file);
-    return ReadPaints(in);
+    return ReadPaintFile(file).Paints;
 }
 
 void WriteTemplate(const fs::path& file, std::span<const PaintColor> paints) {
@@ -77,7 +75,7 @@ void WriteTemplate(const fs::path& file, std::span<const PaintColor> paints) {
 
 bool LoadTemplateColors(Workplace& place, std::string_view name) {
     WorkState& state = place.State;
-    SetPalette(state, ReadTemplate(TemplatePath(place, name)));
+    SetPalette(state, ReadPaints(place, TemplatePath(place, name)));
     if (state.PaintCount == 0) {
         place.Screen.ShowMessage("Unable To Continue",
                                  "The Selected Template Has NO Paints Assigned!");
@@ -91,10 +89,11 @@ std::vector<std::string> ListTemplates(Workplace& place) {
     const fs::path folder = place.Folder.Path("templates");
     MakeFolder(folder);
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder)) {
+    for (const auto& entry : EntriesOf(folder)) {
         const std::string file = entry.path().filename().string();
         std::string name = WithoutEnding(file);
-        if (entry.is_regular_file() && !name.empty() && !IsWaitingName(file)) {
+        std::error_code unreadable;
+        if (entry.is_regular_file(unreadable) && !name.empty() && !IsWaitingName(file)) {
             names.push_back(std::move(name));
         }
     }

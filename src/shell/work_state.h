@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,8 @@ struct WorkState : WorkSettings {
     int MasterCount = 0;
     std::vector<PaintSet> PaintSets{1};
     int PaintSetCount = 0;
+
+    std::set<std::string> WarningsGiven;  // none is given twice
 
     // The working palette.
     std::vector<PaintColor> PaintColors{1};

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "support/counter.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/whole_file.h"
 
@@ -96,7 +97,7 @@ std::filesystem::path StippleFilePath(const Workplace& place) {
 }
 
 bool StippleFileExists(const Workplace& place) {
-    return std::filesystem::is_regular_file(StippleFilePath(place));
+    return IsRegularFile(StippleFilePath(place));
 }
 
 std::string FormatStippleFile(const SavedGrid& saved) {

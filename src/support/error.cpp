@@ -1,5 +1,8 @@
 #include "support/error.h"
 
+#include <new>
+#include <system_error>
+
 namespace vendrel {
 
 FileError::FileError(const std::filesystem::path& file, const std::string& problem)
@@ -7,5 +10,26 @@ FileError::FileError(const std::filesystem::path& file, const std::string& probl
 
 FormatError::FormatError(const std::filesystem::path& file, int line, const std::string& problem)
     : Error(file.string() + (line > 0 ? ", line " + std::to_string(line) : "") + ": " + problem) {}
+
+std::string SentenceOf(const std::exception& failure, const std::string& subject) {
+    const std::string lead = subject.empty() ? "" : subject + ": ";
+    if (dynamic_cast<const Error*>(&failure) != nullptr) {
+        return failure.what();
+    }
+    // A length that no list can have is asked for where memory would be short soon after.
+    if (dynamic_cast<const std::bad_alloc*>(&failure) != nullptr ||
+        dynamic_cast<const std::length_error*>(&failure) != nullptr) {
+        return lead +
+               "there is not enough memory for this. Try a smaller photo, or close other "
+               "programs.";
+    }
+    if (const auto* disk = dynamic_cast<const std::filesystem::filesystem_error*>(&failure)) {
+        const std::filesystem::path& file = disk->path1();
+        return (file.empty() ? lead : file.string() + ": ") + "cannot be used (" +
+               disk->code().message() + "). Check its name, and that you may read and write there.";
+    }
+    return lead + "the program failed (" + failure.what() +
+           "). Nothing was written half; please tell its makers what you did.";
+}
 
 }  // namespace vendrel

@@ -1,10 +1,16 @@
 #pragma once
 
+#include <exception>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
 
 namespace vendrel {
+
+/// What any exception has to say to the user: an Error its own sentence, everything else one about
+/// what the program was doing, as in "aunt.bmp", empty when that is not known.
+[[nodiscard]] std::string SentenceOf(const std::exception& failure,
+                                     const std::string& subject = {});
 
 /// A failure with a sentence for the user: what went wrong and what to do.
 class Error : public std::runtime_error {

@@ -22,11 +22,6 @@ bool EndsField(char c) {
 FieldReader::FieldReader(std::string_view text, std::filesystem::path file)
     : text_(text), file_(std::move(file)) {}
 
-bool FieldReader::AtEnd() const {
-    return std::all_of(text_.begin() + static_cast<std::ptrdiff_t>(at_), text_.end(),
-                       [](char c) { return IsBlank(c) || c == '\r' || c == '\n'; });
-}
-
 void FieldReader::SkipBlanks() {
     while (at_ < text_.size() && IsBlank(text_[at_])) {
         ++at_;
@@ -56,23 +51,51 @@ std::string_view FieldReader::ReadField(const char* what) {
                           std::string("the file ends where ") + what +
                               " was expected. Restore the file or correct its counts.");
     }
-    std::size_t begin = at_;
-    std::size_t end = 0;
     if (text_[at_] == '"') {
-        ++begin;
-        end = std::min(text_.find('"', begin), text_.size());
-        line_ +=
-            static_cast<int>(std::count(text_.begin() + static_cast<std::ptrdiff_t>(begin),
-                                        text_.begin() + static_cast<std::ptrdiff_t>(end), '\n'));
-        at_ = std::min(end + 1, text_.size());
-    } else {
-        while (at_ < text_.size() && !EndsField(text_[at_])) {
-            ++at_;
-        }
-        end = at_;
+        return ReadQuoted(what);
+    }
+    const std::size_t begin = at_;
+    while (at_ < text_.size() && !EndsField(text_[at_])) {
+        ++at_;
+    }
+    const std::string_view field = text_.substr(begin, at_ - begin);
+    SkipSeparator();
+    return field;
+}
+
+// A quote too few or too many moves all fields behind it, so the line it opens in is the one to
+// look at, however many lines were swallowed.
+std::string_view FieldReader::ReadQuoted(const char* what) {
+    const std::size_t begin = at_ + 1;
+    const std::size_t end = text_.find('"', begin);
+    if (end == std::string_view::npos) {
+        throw FormatError(
+            file_, fieldLine_,
+            std::string(what) + " opens with a double quote that nothing closes. Close it.");
+    }
+    const std::string_view field = text_.substr(begin, end - begin);
+    line_ += static_cast<int>(std::ranges::count(field, '\n'));
+    at_ = end + 1;
+    SkipBlanks();
+    if (at_ < text_.size() && !EndsField(text_[at_])) {
+        throw FormatError(file_, fieldLine_,
+                          std::string(what) +
+                              " goes on behind its closing double quote. Correct the quotes of "
+                              "this line.");
     }
     SkipSeparator();
-    return text_.substr(begin, end - begin);
+    return field;
+}
+
+FieldReader::LineRange FieldReader::LinesLeft() const {
+    const auto isBlank = [](char c) { return IsBlank(c) || c == '\r' || c == '\n'; };
+    const std::string_view left = text_.substr(at_);
+    const auto first = std::ranges::find_if_not(left, isBlank);
+    const auto last = std::find_if_not(left.rbegin(), left.rend(), isBlank).base();
+    const auto lineAt = [&](std::string_view::iterator place) {
+        return line_ + static_cast<int>(std::count(left.begin(), place, '\n'));
+    };
+    return first == left.end() ? LineRange{} : LineRange{lineAt(first), lineAt(last)};
 }
 
 std::string FieldReader::ReadText(const char* what) {

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "support/disk.h"
 #include "support/letter_case.h"
 
 namespace vendrel {
@@ -18,7 +19,7 @@ fs::path FindPart(const fs::path& folder, const std::string& part) {
         return folder / part;
     }
     std::string best;
-    for (const auto& entry : fs::directory_iterator(folder, failure)) {
+    for (const auto& entry : EntriesOf(folder, failure)) {
         const std::string name = entry.path().filename().string();
         if (SameIgnoringCase(name, part) && (best.empty() || name < best)) {
             best = name;
@@ -46,15 +47,15 @@ fs::path ProgramFolder::Path(std::string_view relative) const {
 
 fs::path ProgramFolder::DataFile(std::string_view relative) const {
     fs::path own = Path(relative);
-    if (fs::exists(own) || shipped_.empty()) {
+    if (Stands(own) || shipped_.empty()) {
         return own;
     }
     fs::path fallback = FindIgnoringCase(shipped_, relative);
-    return fs::exists(fallback) ? fallback : own;
+    return Stands(fallback) ? fallback : own;
 }
 
 bool ProgramFolder::Exists(std::string_view relative) const {
-    return fs::exists(Path(relative));
+    return Stands(Path(relative));
 }
 
 }  // namespace vendrel

@@ -2,8 +2,9 @@
 
 #include <array>
 #include <cstdint>
-#include <fstream>
+#include <cstdio>
 
+#include "support/disk.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -83,16 +84,9 @@ std::string ToUtf8(std::string_view bytes) {
 }
 
 std::string ReadTextFile(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary | std::ios::ate);
-    const auto size = in ? in.tellg() : std::ifstream::pos_type(-1);
-    if (size < 0 || std::filesystem::is_directory(file)) {
-        throw FileError(
-            file, "cannot be opened for reading. Check that the file exists and may be read.");
-    }
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    in.seekg(0);
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!in) {
+    const RegularFile in = OpenRegular(file);
+    std::string bytes(static_cast<std::size_t>(in.Size), '\0');
+    if (std::fread(bytes.data(), 1, bytes.size(), in.Stream.get()) != bytes.size()) {
         throw FileError(file, "cannot be read to its end. Check the disk and try again.");
     }
     return ToUtf8(bytes);

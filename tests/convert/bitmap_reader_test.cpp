@@ -66,6 +66,15 @@ std::vector<Kind> FlagInEveryKind() {
          {.Bits = 32, .Compression = 6, .HeaderSize = 108, .Masks = reversed, .Pixels = turned}},
         {"8 bit runs, a skip, literals",
          {.Bits = 8, .Compression = 1, .ColorsUsed = 5, .Palette = colors, .Pixels = runs8}},
+        {"24 bits, short header of old programs", {.HeaderSize = 12, .Pixels = bytes24}},
+        {"8 bits, short header and palette",
+         {.Bits = 8, .HeaderSize = 12, .Palette = colors, .Pixels = {4, 0, 2, 0, 1, 2, 3, 0}}},
+        {"8 bit runs to the last row's end and no further",
+         {.Bits = 8,
+          .Compression = 1,
+          .ColorsUsed = 5,
+          .Palette = colors,
+          .Pixels = {1, 4, 1, 0, 0, 2, 0, 0, 1, 2, 0, 0, 0, 3, 1, 2, 3, 0, 0, 0}}},
         {"4 bit runs, rounded up past the row",
          {.Bits = 4, .Compression = 2, .Palette = sixteen, .Pixels = runs4}},
     };
@@ -122,7 +131,9 @@ TEST_F(BitmapReader, RefusesWhatIsNoPictureItKnows) {
         return file;
     };
     const std::pair<BmpBytes, const char*> lies[] = {
-        {{.HeaderSize = 12}, "header of 12 bytes"},
+        {{.HeaderSize = 16}, "header of 16 bytes"},
+        {{.Bits = 8, .HeaderSize = 12, .Palette = {0}, .Pixels = {1, 0, 0, 0}},
+         "missing from its palette"},
         {{.HeaderSize = 125}, "header of 125 bytes"},
         {{.Height = -1}, "top down"},
         {{.Width = 0}, "0 x 1 pixels"},
@@ -142,6 +153,13 @@ TEST_F(BitmapReader, RefusesWhatIsNoPictureItKnows) {
         {indexed(1, 0, {1, 0, 0, 0}), "missing from its palette"},
         {indexed(1, 1, {1, 9, 0, 1}), "missing from its palette"},
         {indexed(1, 1, {1, 0, 0}), "ends in the middle"},
+        {indexed(1, 1, {2, 0, 0, 1}), "past the end of a row"},
+        {indexed(1, 1, {0, 3, 0, 0, 0, 0, 0, 1}), "past the end of a row"},
+        {indexed(1, 1, {1, 0, 1, 0, 0, 1}), "past the end of a row"},
+        {indexed(1, 1, {0, 2, 2, 0, 0, 1}), "outside the picture"},
+        {indexed(1, 1, {0, 2, 0, 2, 0, 1}), "outside the picture"},
+        {{.Bits = 4, .Compression = 2, .ColorsUsed = 1, .Palette = {0}, .Pixels = {3, 0, 0, 1}},
+         "past the end of a row"},
         {{.Width = 9999, .Height = 9999, .Bits = 8, .Compression = 1, .ColorsUsed = 1},
          "the file ends before"},
     };
@@ -160,6 +178,21 @@ TEST_F(BitmapReader, RefusesWhatIsNoPictureItKnows) {
     }
     EXPECT_THROW((void)ReadBitmap(folder_ / "absent.bmp"), FileError);
     EXPECT_THROW((void)ReadBitmap(folder_.Path()), FileError);
+}
+
+TEST_F(BitmapReader, KnowsWhereAFileDescribesColorsOfItsOwn) {
+    for (const auto& [size, space, gamma, own] : {std::tuple{124, 0x4D424544U, 0U, true},
+                                                  {124, 0x4C494E4BU, 0U, true},
+                                                  {124, 0x73524742U, 9U, false},
+                                                  {108, 0x57696E20U, 9U, false},
+                                                  {108, 0U, 9U, true},
+                                                  {108, 0U, 0U, false},
+                                                  {40, 0U, 0U, false}}) {
+        BmpBytes file{.HeaderSize = size};
+        file.Masks = {0, 0, 0, 0, space};  // what follows the first 40 bytes
+        file.Masks.resize(size == 40 ? 0 : 17, gamma);
+        EXPECT_EQ(BitmapFile(Write(file)).HasOwnColors(), own) << size << " " << space;
+    }
 }
 
 TEST_F(BitmapReader, TellsTheHeadersSizeAsItStands) {

@@ -26,6 +26,12 @@ struct BmpBytes {
         const std::size_t masksInside =
             HeaderSize > 40 ? static_cast<std::size_t>(HeaderSize - 40) / 4 : 0;
         std::string info;
+        if (HeaderSize == 12) {
+            Put(info, 12);
+            Put(info, static_cast<std::uint32_t>(Width | Height << 16));
+            Put(info, static_cast<std::uint32_t>(1 | Bits << 16));
+            return Assemble(info, 3);
+        }
         for (const int field :
              {HeaderSize, Width, Height, 1 | Bits << 16, Compression, 0, 0, 0, ColorsUsed, 0}) {
             Put(info, static_cast<std::uint32_t>(field));
@@ -33,8 +39,13 @@ struct BmpBytes {
         for (std::size_t i = 0; i < std::max(masksInside, Masks.size()); ++i) {
             Put(info, i < Masks.size() ? Masks[i] : 0);
         }
+        return Assemble(info, 4);
+    }
+
+  private:
+    [[nodiscard]] std::string Assemble(std::string info, int entryBytes) const {
         for (const std::uint32_t color : Palette) {
-            Put(info, color);
+            Put(info, color, entryBytes);
         }
         std::string file = "BM";
         Put(file, 0);
@@ -48,9 +59,8 @@ struct BmpBytes {
         return file;
     }
 
-  private:
-    static void Put(std::string& bytes, std::uint32_t value) {
-        for (int i = 0; i < 4; ++i) {
+    static void Put(std::string& bytes, std::uint32_t value, int count = 4) {
+        for (int i = 0; i < count; ++i) {
             bytes += static_cast<char>(value >> 8 * i & 255);
         }
     }

@@ -26,7 +26,8 @@ class PaintShopTest : public ::testing::Test {
     void WriteTemplateOf(const std::string& name, int paints) {
         std::string text = " " + std::to_string(paints) + "\r\n";
         for (int i = 1; i <= paints; ++i) {
-            text += std::to_string(i) + ",2,3,\"Mine\",\"M\",\"Paint\"\r\n";
+            text +=
+                std::to_string(i) + ",2,3,\"Mine\",\"M" + std::to_string(i) + "\",\"Paint\"\r\n";
         }
         studio_.Files.Write("templates/" + name + ".csv", text);
     }

@@ -4,6 +4,8 @@
 
 #include <sstream>
 
+#include "kit/printable.h"
+
 namespace vendrel {
 namespace {
 
@@ -50,6 +52,19 @@ TEST(TerminalUi, PeopleGetOneLineThatIsWipedAtTheEnd) {
     EXPECT_THAT(out.str(), Not(HasSubstr("\n")));
     EXPECT_THAT(out.str(), HasSubstr("\r\x1b[KPainting with Oils Ochre [3]"));
     EXPECT_THAT(out.str(), EndsWith("\r\x1b[K"));
+}
+
+TEST(TerminalUi, ControlCharactersAreSpelledOut) {
+    for (const auto& [text, shown] : {std::pair{"a\nb\tc", "a\\nb\\tc"},
+                                      {"\x1b[2J\x7f", "\\x1b[2J\\x7f"},
+                                      {"\xC2\x9B\x9B", "\\xc2\\x9b\\x9b"},
+                                      {"Käthe \xE2\x82\xAC \xE4", "Käthe \xE2\x82\xAC \xE4"}}) {
+        EXPECT_EQ(Printable(text), shown);
+    }
+    std::ostringstream out;
+    TerminalUi ui(out, Chatter::Stages, kScreen);
+    ui.SetCaption("Reading \x1b]0;owned\a.jpg");
+    EXPECT_EQ(out.str(), "Reading \\x1b]0;owned\\x07.jpg\n");
 }
 
 TEST(TerminalUi, QuietMeansNothingButCollectedMessages) {

@@ -40,6 +40,33 @@ TEST(Catalogue, KeepsWhatItHasWhenTheFileIsBroken) {
     EXPECT_THROW(LoadMasterColors(empty.Place), FileError);
 }
 
+TEST(Catalogue, WarnsOfWhatItDoesNotReadOrCannotTellApart) {
+    for (const auto& [text, warning] :
+         {std::pair{"1\n1,2,3,a,b,c\n\n4,5,6,a,b,d\n7,8,9,a,b,e\n", "lines 4 to 5 were not read"},
+          {"0\n1,2,3,a,b,c", "line 2 was not read"},
+          {"2\n1,2,3,Oils,PY43,Ochre\n4,5,6,Oils,PY43,Ochre\n", "\"Oils: Ochre (PY43)\""},
+          {"2\n1,2,3,Oils,PY43,Ochre\n1,2,3,Oils,PY42,Ochre\n \n", nullptr},
+          {"2\n1,2,3,a,,\n1,2,3,a,,\n", nullptr}}) {
+        test::Bench bench;
+        bench.Files.Write("Data/studiopaint.csv", text);
+        LoadMasterColors(bench.Place);
+        LoadMasterColors(bench.Place);
+        ASSERT_EQ(bench.Screen.Messages.size(), warning == nullptr ? 0U : 1U) << text;
+        if (warning != nullptr) {
+            EXPECT_THAT(bench.Screen.Messages[0].second,
+                        testing::AllOf(testing::HasSubstr("studiopaint.csv: "),
+                                       testing::HasSubstr(warning)));
+        }
+    }
+}
+
+TEST(Catalogue, ShipsWithPaintsThatCanAllBeToldApart) {
+    test::Bench bench(VENDREL_SOURCE_DIR);
+    LoadMasterColors(bench.Place);
+    EXPECT_EQ(bench.State.MasterCount, 507);
+    EXPECT_TRUE(bench.Screen.Messages.empty());
+}
+
 TEST(Catalogue, MakesASetOfEveryNameAndOneOfEveryNamelessPaint) {
     test::Bench bench;
     for (const char* mfg : {"Oils", "", "Greys", "Oils", "", "oils"}) {

@@ -45,6 +45,9 @@ TEST_F(PaintChoice, StartsWithThePaintListInTheOrderOfItsLines) {
         EXPECT_EQ(Selected(), sets) << file;
         EXPECT_EQ(test::NamesOf(State), paints) << file;
     }
+    ASSERT_EQ(Bench.Screen.Messages.size(), 1U);
+    EXPECT_THAT(Bench.Screen.Messages[0].second,
+                testing::HasSubstr(R"(no paint set "Nobody's", " oils", "Greys ")"));
 }
 
 TEST_F(PaintChoice, WithoutAListTheFirstSetIsSelectedAndWritten) {

@@ -1,5 +1,10 @@
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
+#include <fstream>
+#include <new>
+
+#include "convert/bmp_bytes.h"
 #include "program/studio.h"
 
 namespace vendrel {
@@ -75,6 +80,85 @@ TEST(KitTroubles, BrokenDataIsNamedAndNothingIsWritten) {
         if (std::string(c.File) != "Results") {
             EXPECT_THAT(studio.Names("Results"), IsEmpty()) << c.Sentence;
         }
+    }
+}
+
+/// Fails every photo in its own way.
+class Thrower final : public PhotoDecoder {
+  public:
+    std::vector<std::string> Endings() const override { return {}; }
+    BitmapSize Size(const std::filesystem::path& photo) const override {
+        if (photo.stem() == "large") {
+            throw std::bad_alloc();
+        }
+        throw std::filesystem::filesystem_error("status", photo,
+                                                std::make_error_code(std::errc::io_error));
+    }
+    Surface Decode(const std::filesystem::path& /*photo*/, const ReadProgress&) const override {
+        return {};
+    }
+};
+
+TEST(KitTroubles, EveryFailureIsASentenceThatNamesThePhoto) {
+    const Thrower thrower;
+    Studio studio;
+    studio.Decoder = &thrower;
+    studio.AddPhoto("ball.bmp");
+    studio.Files.Write("large.jpg", "x");
+    studio.Files.Write("gone.jpg", "x");
+    studio.Files.Write("a\n\x1b[2J.bmp", "x");
+    ASSERT_EQ(mkfifo((studio.Files / "pipe.bmp").c_str(), 0600), 0);
+    test::BmpBytes torn{.Bits = 8, .Compression = 1, .ColorsUsed = 1};
+    torn.Palette = {0};
+    torn.Pixels = {2, 0, 0, 1};
+    studio.Files.Write("torn.bmp", torn.Make());
+    const std::string endless(252, 'n');
+    studio.AddPhoto(std::string(225, 'n') + ".bmp");
+    for (const auto& [photo, sentence] :
+         {std::pair{studio.Path("large.jpg"), "large.jpg: there is not enough memory"},
+          {studio.Path("gone.jpg"), "gone.jpg: cannot be used (Input/output error)"},
+          {studio.Path("pipe.bmp"), "pipe.bmp: is a pipe"},
+          {studio.Path("torn.bmp"), "torn.bmp: is damaged"},
+          {studio.Files.Path().string(), "is a folder"},
+          {endless + ".bmp", ".bmp: cannot be opened"},
+          {studio.Path(std::string(225, 'n') + ".bmp"), "its name is too long"},
+          {studio.Path("a\n\x1b[2J.bmp"), "a\\n\\x1b[2J.bmp: is not a BMP"}}) {
+        EXPECT_EQ(studio.Kit({photo, "--difficulty", "difficult", "--quiet"}), 1);
+        EXPECT_THAT(studio.Err, HasSubstr(sentence));
+        EXPECT_EQ(std::count(studio.Err.begin(), studio.Err.end(), '\n'), 1);
+    }
+    EXPECT_THAT(studio.Names("Pictures"), IsEmpty());
+    // What fits is made.
+    EXPECT_EQ(studio.Kit({studio.Path(std::string(225, 'n') + ".bmp"), "--outputs", "grid"}), 0);
+}
+
+TEST(KitTroubles, DataThatIsOddIsNotedInEveryKit) {
+    Studio studio;
+    studio.AddPhoto("ball.bmp");
+    studio.AddPhoto("other.bmp", 20);
+    studio.Files.Write("Data/paintlist.txt", "Portrait and Earth Tones\r\nChalk\x1b\r\n");
+    EXPECT_EQ(studio.Kit({studio.Path("missing.bmp"), studio.Path("ball.bmp"),
+                          studio.Path("other.bmp"), "--outputs", "painting"}),
+              1);
+    const std::size_t first = studio.Out.find("no paint set \"Chalk\\x1b\"");
+    EXPECT_THAT(studio.Out.substr(std::min(first + 1, studio.Out.size())),
+                HasSubstr("no paint set \"Chalk\\x1b\""));
+}
+
+TEST(KitTroubles, AnAnswerThatCannotBeWrittenIsAFailure) {
+    Studio studio;
+    studio.AddPhoto("ball.bmp");
+    const std::string folder = studio.Files.Path().string();
+    const std::string photo = studio.Path("ball.bmp");
+    for (const std::vector<std::string_view>& words :
+         {std::vector<std::string_view>{"kit", photo, "--folder", folder, "--outputs", "grid"},
+          {"kit", photo, "--folder", folder, "--outputs", "grid", "--json"},
+          {"--version"}}) {
+        std::ofstream full("/dev/full");
+        std::ostringstream err;
+        EXPECT_EQ(RunCommandLine(words, {.Out = full, .Err = err, .Shipped = VENDREL_SOURCE_DIR}),
+                  1);
+        EXPECT_THAT(err.str(), HasSubstr("cannot be written to the standard output"));
     }
 }
 

@@ -18,9 +18,9 @@ TEST(FieldReader, ReadsFieldsWhereverTheLinesEnd) {
     EXPECT_EQ(in.ReadText("t"), "plain text");
     EXPECT_EQ(in.Line(), 2);
     EXPECT_EQ(in.ReadText("t"), "x");
-    EXPECT_FALSE(in.AtEnd());
+    EXPECT_EQ(in.LinesLeft().First, 4);
     EXPECT_EQ(in.ReadInt("n", 0, 9), 7);
-    EXPECT_TRUE(in.AtEnd());
+    EXPECT_EQ(in.LinesLeft().First, 0);
     EXPECT_THROW((void)in.ReadText("t"), FormatError);
 }
 
@@ -35,6 +35,19 @@ TEST(FieldReader, NamesFileLineAndFieldOfABrokenNumber) {
             EXPECT_THAT(error.what(), testing::HasSubstr("paints.csv, line 2: "));
             EXPECT_THAT(error.what(), testing::HasSubstr("red"));
         }
+    }
+}
+
+TEST(FieldReader, RefusesBrokenQuotingInTheLineItBeginsIn) {
+    for (const auto& [text, problem] :
+         {std::pair{"1\n\"Ochre\n2\n", "line 2: a name opens with a double quote"},
+          {"1\n\"Ochre\n2,\"Umber\"\n", "line 2: a name goes on behind"},
+          {"1\n\"6\"\" brush\"", "line 2: a name goes on behind"},
+          {"1\n\"Ochre\" 7\n", "line 2: a name goes on behind"}}) {
+        FieldReader in(text, "paints.csv");
+        (void)in.ReadInt("n", 0, 9);
+        EXPECT_THAT([&] { (void)in.ReadText("a name"); },
+                    testing::ThrowsMessage<FormatError>(testing::HasSubstr(problem)));
     }
 }
 

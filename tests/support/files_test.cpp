@@ -6,6 +6,7 @@
 
 #include <chrono>
 
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/leftovers.h"
 #include "support/program_folder.h"
@@ -112,6 +113,12 @@ TEST(ProgramFolder, FindsNamesWhateverTheirCase) {
     EXPECT_EQ(program.DataFile("Data/none.txt"), folder / "data/none.txt");
     EXPECT_TRUE(program.Exists("DATA"));
     EXPECT_FALSE(program.Exists("Results"));
+    // What cannot be looked at is neither there nor absent.
+    fs::create_symlink("loop", folder / "loop");
+    EXPECT_THROW((void)program.DataFile("loop/x"), FileError);
+    EXPECT_THROW((void)program.Exists(std::string(256, 'x')), FileError);
+    EXPECT_THROW((void)EntriesOf(folder / "data/StudioPaint.CSV"), FileError);
+    EXPECT_TRUE(EntriesOf(folder / "none").empty());
 }
 
 }  // namespace

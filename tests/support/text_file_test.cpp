@@ -1,6 +1,7 @@
 #include "support/text_file.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "support/error.h"
 #include "support/temp_folder.h"
@@ -24,10 +25,19 @@ TEST(TextFile, SplitsBothKindsOfLineEnds) {
     EXPECT_TRUE(SplitLines("").empty());
 }
 
-TEST(TextFile, MissingFileAndFolderAreErrors) {
+TEST(TextFile, RefusesWhatIsNoFileWithoutWaiting) {
     const test::TempFolder folder;
-    EXPECT_THROW((void)ReadTextFile(folder / "none.txt"), FileError);
-    EXPECT_THROW((void)ReadTextFile(folder.Path()), FileError);
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("loop", folder / "loop");
+    for (const auto& [file, problem] : {std::pair{folder / "none.txt", "is not there"},
+                                        {folder.Path(), "is a folder"},
+                                        {folder / "pipe", "is a pipe"},
+                                        {"/dev/null", "is a device"},
+                                        {folder / std::string(256, 'x'), "cannot be opened"},
+                                        {folder / "loop", "cannot be opened"}}) {
+        EXPECT_THAT([&] { (void)ReadTextFile(file); },
+                    testing::ThrowsMessage<FileError>(testing::HasSubstr(problem)));
+    }
 }
 
 }  // namespace
