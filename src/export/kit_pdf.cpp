@@ -51,7 +51,7 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
 std::vector<PlanRect> BoxesOf(const PrintPlan& plan, const SymbolAspects& aspects) {
     std::vector<PlanRect> boxes;
     for (const PlanLabel& label : plan.Labels) {
-        const int paint = plan.Regions.List[static_cast<std::size_t>(label.Region)].Paint;
+        const int paint = plan.Regions[label.Region].Value;
         const double mm = plan.MmPerPixel;
         const double reachX = label.Height * aspects.at(static_cast<std::size_t>(paint)) / 2 * mm;
         const double reachY = label.Height / 2 * mm;
@@ -65,8 +65,8 @@ Surface PaintingOf(const PaintedRegions& regions, const WorkState& state) {
     Surface painting(regions.Ids.Across() + 1, regions.Ids.Down() + 1);
     for (int y = 0; y < painting.Height(); ++y) {
         for (int x = 0; x < painting.Width(); ++x) {
-            const Region& region = regions.List[static_cast<std::size_t>(regions.Ids(x, y))];
-            painting.Set(x, y, ColorOf(state.PaintColors[static_cast<std::size_t>(region.Paint)]));
+            const Region& region = regions[regions.Ids(x, y)];
+            painting.Set(x, y, ColorOf(state.PaintColors[static_cast<std::size_t>(region.Value)]));
         }
     }
     return painting;

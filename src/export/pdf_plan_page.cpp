@@ -112,7 +112,7 @@ void PlanPage::DrawSymbols() {
     const SymbolAspects aspects = kit_.Symbols.Aspects();
     painter_.setPen(kSymbolInk);
     for (const PlanLabel& label : kit_.Plan.Labels) {
-        const int paint = kit_.Plan.Regions.List[static_cast<std::size_t>(label.Region)].Paint;
+        const int paint = kit_.Plan.Regions[label.Region].Value;
         if (IsLabelOn(label, aspects[static_cast<std::size_t>(paint)], own, shown)) {
             kit_.Symbols.Draw(painter_, paint, At(label.Centre),
                               Mm(label.Height * kit_.Plan.MmPerPixel));

@@ -173,7 +173,7 @@ class Placement {
         return placed_[static_cast<std::size_t>(label.Region)];
     }
     [[nodiscard]] double AspectOf(int region) const {
-        const int paint = regions_.List[static_cast<std::size_t>(region)].Paint;
+        const int paint = regions_[region].Value;
         return rules_.Aspects.at(static_cast<std::size_t>(paint));
     }
     [[nodiscard]] PlanLabel LabelIn(const InscribedBox& box, int region) const {
@@ -206,8 +206,7 @@ bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own, const
 
 double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects) {
     const auto aspectOf = [&](int region) {
-        return aspects.at(
-            static_cast<std::size_t>(regions.List[static_cast<std::size_t>(region)].Paint));
+        return aspects.at(static_cast<std::size_t>(regions[region].Value));
     };
     const auto boxes = FindRoomiestBoxes(regions, aspectOf);
     return std::ranges::min_element(boxes, {}, &InscribedBox::Height)->Height * kFill;
@@ -220,10 +219,10 @@ double SymbolHeightInStipple(int stippleSize, double aspect) {
             dot(x + stippleSize / 2, run.Row + stippleSize / 2) = 1;
         }
     }
-    const PaintedRegions regions = FindRegions(std::move(dot), 1);
+    const PaintedRegions regions = FindRegions(dot);
     double tallest = 0;
     for (const InscribedBox& box : FindRoomiestBoxes(regions, [aspect](int) { return aspect; })) {
-        const bool isDot = regions.List[static_cast<std::size_t>(box.Region)].Paint == 1;
+        const bool isDot = regions[box.Region].Value == 1;
         tallest = isDot ? std::max(tallest, box.Height) : tallest;
     }
     return tallest * kFill;

@@ -217,8 +217,7 @@ std::vector<int> PaintsWithin(const PaintedRegions& regions, const PlanRect& par
     for (int y = top; y < bottom; ++y) {
         for (int x = left; x < right; ++x) {
             const int region = regions.Ids(x, y);
-            found.at(static_cast<std::size_t>(
-                regions.List[static_cast<std::size_t>(region)].Paint)) = true;
+            found.at(static_cast<std::size_t>(regions[region].Value)) = true;
         }
     }
     std::vector<int> paints;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "output/cell_numbering.h"
+#include "regions/crumbs.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -130,8 +131,8 @@ PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
     const Surface& picture = place.Frames.WorkFrame.Picture;
     RequireSymbols(state);
     PrintPlan plan;
-    plan.Regions = FindRegions(PaintPerPixel(state, picture.Width(), picture.Height()),
-                               TraitsOf(state.Chosen.Level).FewestOwnPixels);
+    plan.Regions = FindRegionsWithoutCrumbs(PaintPerPixel(state, picture.Width(), picture.Height()),
+                                            TraitsOf(state.Chosen.Level).FewestOwnPixels);
     plan.Lines = TraceOutlines(plan.Regions.Ids);
     plan.MmPerPixel = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
                                             : LegibleScale(state, plan.Regions, aspects);

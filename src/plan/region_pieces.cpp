@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 
 namespace vendrel {
 namespace {
@@ -43,9 +42,9 @@ RegionPieces CutIntoPieces(const PixelGrid& ids, const PixelCuts& cuts) {
         }
     }
     RegionPieces cut;
-    cut.Pieces = FindRegions(std::move(keys), 1);
+    cut.Pieces = FindRegions(keys);
     for (const Region& piece : cut.Pieces.List) {
-        cut.RegionOf.push_back(piece.Paint / parts);
+        cut.RegionOf.push_back(piece.Value / parts);
     }
     return cut;
 }
@@ -59,9 +58,9 @@ RegionPieces ParedAtNecks(const RegionPieces& whole) {
         }
     }
     RegionPieces pared;
-    pared.Pieces = FindRegions(std::move(keys), 1);
+    pared.Pieces = FindRegions(keys);
     for (const Region& piece : pared.Pieces.List) {
-        pared.RegionOf.push_back(whole.RegionOf[static_cast<std::size_t>(piece.Paint / 2)]);
+        pared.RegionOf.push_back(whole.RegionOf[static_cast<std::size_t>(piece.Value / 2)]);
     }
     return pared;
 }

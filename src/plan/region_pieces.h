@@ -16,7 +16,7 @@ struct PixelCuts {
 /// What the cuts leave of the regions: connected pieces, several of one region on one side of a cut
 /// if it winds across.
 struct RegionPieces {
-    PaintedRegions Pieces;      // in their Paint nothing of use
+    PaintedRegions Pieces;      // in their Value nothing of use
     std::vector<int> RegionOf;  // per piece
 };
 

@@ -117,7 +117,7 @@ TEST(PageTiling, RefusesPaperWithoutRoom) {
 TEST(PageTiling, ListsThePaintsOfAPage) {
     PixelGrid paints(3, 0);
     std::ranges::copy(std::vector{7, 7, 2, 5}, paints.All().begin());
-    const PaintedRegions regions = FindRegions(paints, 1);
+    const PaintedRegions regions = FindRegions(paints);
     EXPECT_THAT(PaintsWithin(regions, {0, 0, 2, 1}), ElementsAre(7));
     EXPECT_THAT(PaintsWithin(regions, {0, 0, 2.1, 1}), ElementsAre(2, 7));
     EXPECT_THAT(PaintsWithin(regions, {-3, -3, 99, 99}), ElementsAre(2, 5, 7));

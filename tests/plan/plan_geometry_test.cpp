@@ -2,11 +2,9 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
-#include <initializer_list>
 #include <map>
 #include <random>
 #include <set>
-#include <string_view>
 
 #include "cleanup/easel.h"
 #include "plan/inscribed_boxes.h"
@@ -14,23 +12,15 @@
 #include "plan/mark_places.h"
 #include "plan/outlines.h"
 #include "plan/painted_regions.h"
+#include "regions/crumbs.h"
+#include "regions/values.h"
 #include "support/error.h"
 
 namespace vendrel {
 namespace {
 
+using test::Values;
 using testing::ElementsAre;
-
-PixelGrid Pixels(std::initializer_list<std::string_view> rows) {
-    PixelGrid grid(static_cast<int>(rows.begin()->size()) - 1, static_cast<int>(rows.size()) - 1);
-    auto to = grid.All().begin();
-    for (const std::string_view row : rows) {
-        for (const char paint : row) {
-            *to++ = paint - '0';
-        }
-    }
-    return grid;
-}
 
 PixelGrid RandomPixels(int width, int height, unsigned seed, int paints) {
     std::mt19937 random(seed);
@@ -87,25 +77,13 @@ TEST(PaintedRegions, BarePixelsTakeThePaintOfTheirStipple) {
     test::Easel easel(4, {"12"});
     WorkState& state = easel.State;
     state.PixelMap(5, 1).ColorIndex = 1;
-    EXPECT_EQ(PaintPerPixel(state, 8, 4), Pixels({"11111222", "11111122", "11111222", "11111222"}));
+    EXPECT_EQ(PaintPerPixel(state, 8, 4), Values({"11111222", "11111122", "11111222", "11111222"}));
     state.PixelMap = Grid<MapPixel>();
     EXPECT_THROW((void)PaintPerPixel(state, 8, 4), Error);
 }
 
-TEST(PaintedRegions, CrumbsJoinTheNeighbourWithTheLongestEdge) {
-    const PaintedRegions regions = FindRegions(Pixels({"11122",  //
-                                                       "13422",  //
-                                                       "11122"}),
-                                               3);
-    ASSERT_EQ(regions.List.size(), 2U);
-    EXPECT_EQ(regions.Ids, Pixels({"00011", "00011", "00011"}));
-    EXPECT_EQ(regions.List[0].Pixels, 9);
-    // A picture of nothing but crumbs stays as it is.
-    EXPECT_EQ(FindRegions(Pixels({"12", "21"}), 5).List.size(), 4U);
-}
-
 TEST(Outlines, DrawEveryBorderOnceWithoutNeedlessPoints) {
-    EXPECT_THAT(TraceOutlines(Pixels({"11", "11"})),
+    EXPECT_THAT(TraceOutlines(Values({"11", "11"})),
                 ElementsAre(PlanLine{{0, 0}, {2, 0}, {2, 2}, {0, 2}, {0, 0}}));
     for (unsigned seed = 0; seed < 20; ++seed) {
         const PixelGrid ids = RandomPixels(9, 7, seed, 2 + static_cast<int>(seed % 3));
@@ -140,7 +118,7 @@ TEST(Outlines, PagesTogetherShowEveryBorder) {
 TEST(InscribedBoxes, AreTheRoomiestThereAre) {
     constexpr double kAspect = 0.75;
     for (unsigned seed = 0; seed < 20; ++seed) {
-        const PaintedRegions regions = FindRegions(RandomPixels(11, 9, seed, 2), 1);
+        const PaintedRegions regions = FindRegions(RandomPixels(11, 9, seed, 2));
         const PixelGrid& ids = regions.Ids;
         std::map<int, double> plain;
         for (int top = 0; top <= ids.Down(); ++top) {
@@ -179,7 +157,7 @@ void ExpectInside(const PaintedRegions& regions, const PlanLabel& label, double 
 
 TEST(Labels, EveryRegionHasOneAndEveryOneLiesInsideItsRegion) {
     for (unsigned seed = 0; seed < 10; ++seed) {
-        const PaintedRegions regions = FindRegions(RandomPixels(40, 30, seed, 3), 4);
+        const PaintedRegions regions = FindRegionsWithoutCrumbs(RandomPixels(40, 30, seed, 3), 4);
         LabelRules rules = Rules(6, 10);
         rules.PageColumns = {13, 27};
         rules.PageRows = {16};
@@ -197,7 +175,7 @@ TEST(Labels, EveryRegionHasOneAndEveryOneLiesInsideItsRegion) {
 TEST(Labels, LargeRegionsRepeatTheirsAndEveryPageShowsOne) {
     PixelGrid plain(99, 59);
     std::ranges::fill(plain.All(), 1);
-    const PaintedRegions regions = FindRegions(plain, 1);
+    const PaintedRegions regions = FindRegions(plain);
     EXPECT_EQ(PlaceLabels(regions, Rules(5, 0)).size(), 1U);
     EXPECT_GE(PlaceLabels(regions, Rules(5, 20)).size(), 12U);
     LabelRules pages = Rules(5, 0);
@@ -217,13 +195,13 @@ TEST(Labels, StandInEveryPieceOfAPageAndBesideItsCuts) {
             horseshoe(x, y) = y >= 12 && x >= 14 && x < 46 ? 1 : 2;
         }
     }
-    const PaintedRegions regions = FindRegions(horseshoe, 1);
+    const PaintedRegions regions = FindRegions(horseshoe);
     LabelRules rules = Rules(6, 0);
     rules.PageRows = {20};
     std::vector<std::pair<bool, bool>> legs;  // of the horseshoe's symbols: below the cut, left
     for (const PlanLabel& label : PlaceLabels(regions, rules)) {
         EXPECT_GE(std::abs(label.Centre.Y - 20), label.Height / 2);
-        if (regions.List[static_cast<std::size_t>(label.Region)].Paint == 2) {
+        if (regions[label.Region].Value == 2) {
             legs.emplace_back(label.Centre.Y > 20, label.Centre.X < 30);
         }
     }
@@ -232,19 +210,18 @@ TEST(Labels, StandInEveryPieceOfAPageAndBesideItsCuts) {
 }
 
 TEST(Labels, StandOnBothSidesOfANarrowNeckAndOfACutHoweverNear) {
-    const PaintedRegions regions = FindRegions(Pixels({"22222222222",  //
+    const PaintedRegions regions = FindRegions(Values({"22222222222",  //
                                                        "21111211112",  //
                                                        "21111211112",  //
                                                        "21111111112",  //
                                                        "21111211112",  //
-                                                       "22222222222"}),
-                                               1);
+                                                       "22222222222"}));
     LabelRules rules = Rules(4, 0);
     rules.LegibleHeight = 2;
     const auto halvesOfPaint1 = [&] {
         std::set<bool> halves;
         for (const PlanLabel& label : PlaceLabels(regions, rules)) {
-            if (regions.List[static_cast<std::size_t>(label.Region)].Paint == 1) {
+            if (regions[label.Region].Value == 1) {
                 halves.insert(label.Centre.X > 5.5);
             }
         }

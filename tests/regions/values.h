@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "regions/labelling.h"
+
+namespace vendrel::test {
+
+/// A grid of the digits of `rows`, and of letters from a = 10 on.
+inline ValueGrid Values(const std::vector<std::string_view>& rows) {
+    ValueGrid grid(static_cast<int>(rows[0].size()) - 1, static_cast<int>(rows.size()) - 1);
+    auto to = grid.All().begin();
+    for (const std::string_view row : rows) {
+        for (const char value : row) {
+            *to++ = value >= 'a' ? value - 'a' + 10 : value - '0';
+        }
+    }
+    return grid;
+}
+
+}  // namespace vendrel::test
