@@ -16,7 +16,7 @@ namespace {
 // Of the outputs asked for: what fits is made.
 std::string LongestEnding(const Workplace& place, const KitOptions& options) {
     const KitOutputs& outputs = options.Outputs;
-    const std::string word(DifficultyWord(place.MainMenu));
+    const std::string word(DifficultyWord(place.State));
     const std::string crop = options.Crop == CropPart::Whole ? "" : " crop";
     std::string longest = crop + ".bmp";
     const auto consider = [&](bool made, const std::string& ending) {

@@ -43,7 +43,6 @@ TEST(PowerCut, LeavesTheGridOfAKitAndThePhotoTakenIn) {
 
 TEST(PowerCut, LeavesTouchedUpWorkInTheRecoveryOrTheGridAtEveryMoment) {
     Easel bench(8, {"12", "12"}, 2);
-    bench.MainMenu[MenuId::EasySet].Checked = true;
     const auto grid = bench.Files / "Saved Stipples/Lady-Easy.stp";
     const auto recovery = bench.Files / "Saved Stipples/Lady-Easy.recovery.stp";
     FragileDisk disk(bench.Files.Path());
