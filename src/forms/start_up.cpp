@@ -9,7 +9,6 @@
 #include "paints/catalogue.h"
 #include "paints/paint_list.h"
 #include "support/error.h"
-#include "support/folders.h"
 #include "support/leftovers.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
@@ -25,7 +24,9 @@ bool CreateFolder(const Workplace& place, std::string_view name) {
     if (fs::exists(folder)) {
         return false;
     }
-    if (const std::error_code failure = MakeFolders(folder)) {
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    if (failure) {
         throw FileError(folder, "cannot be created (" + failure.message() +
                                     "). Start the program in a folder you may write to.");
     }
