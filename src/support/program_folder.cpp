@@ -46,15 +46,17 @@ fs::path ProgramFolder::Path(std::string_view relative) const {
 
 fs::path ProgramFolder::DataFile(std::string_view relative) const {
     fs::path own = Path(relative);
-    if (fs::exists(own) || shipped_.empty()) {
+    std::error_code unreadable;
+    if (fs::exists(own, unreadable) || shipped_.empty()) {
         return own;
     }
     fs::path fallback = FindIgnoringCase(shipped_, relative);
-    return fs::exists(fallback) ? fallback : own;
+    return fs::exists(fallback, unreadable) ? fallback : own;
 }
 
 bool ProgramFolder::Exists(std::string_view relative) const {
-    return fs::exists(Path(relative));
+    std::error_code unreadable;
+    return fs::exists(Path(relative), unreadable);
 }
 
 }  // namespace vendrel
