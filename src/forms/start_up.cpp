@@ -10,7 +10,6 @@
 #include "paints/paint_list.h"
 #include "support/disk.h"
 #include "support/error.h"
-#include "support/folders.h"
 #include "support/leftovers.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
@@ -26,7 +25,9 @@ bool CreateFolder(const Workplace& place, std::string_view name) {
     if (Stands(folder)) {
         return false;
     }
-    if (const std::error_code failure = MakeFolders(folder)) {
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    if (failure) {
         throw FileError(folder, "cannot be created (" + failure.message() +
                                     "). Start the program in a folder you may write to.");
     }

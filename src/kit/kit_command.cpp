@@ -58,9 +58,13 @@ class KitRun {
 
   private:
     void MakeFolder() const {
-        const std::error_code failure = MakeFolders(options_.Folder);
-        std::error_code unseen;
-        if (!std::filesystem::is_directory(options_.Folder, unseen)) {
+        const std::filesystem::path oldest = NearestFolder(options_.Folder);
+        std::error_code failure;
+        if (std::filesystem::create_directories(options_.Folder, failure)) {
+            failure = SyncFolders(options_.Folder, oldest);
+        }
+        std::error_code unreadable;
+        if (!std::filesystem::is_directory(options_.Folder, unreadable)) {
             throw FileError(options_.Folder, "is no folder and cannot become one (" +
                                                  failure.message() + "). Name another.");
         }

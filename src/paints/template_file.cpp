@@ -9,7 +9,6 @@
 #include "paints/restore.h"
 #include "support/disk.h"
 #include "support/error.h"
-#include "support/folders.h"
 #include "support/leftovers.h"
 #include "support/whole_file.h"
 
@@ -48,7 +47,9 @@ std::string WithoutEnding(std::string name) {
 }
 
 void MakeFolder(const fs::path& folder) {
-    if (const std::error_code failure = MakeFolders(folder)) {
+    std::error_code failure;
+    fs::create_directories(folder, failure);
+    if (failure) {
         throw FileError(folder, "cannot be created: " + failure.message() +
                                     ". Check the folder's permissions.");
     }

@@ -6,30 +6,30 @@
 #include <cerrno>
 
 namespace vendrel {
-namespace {
 
 namespace fs = std::filesystem;
 
-// "a/b/" is the folder b, and "b" lies in the folder the program was started in.
-fs::path Above(const fs::path& folder) {
+fs::path FolderAbove(const fs::path& folder) {
+    // "a/b/" is the folder b.
     const fs::path named = folder.has_filename() ? folder : folder.parent_path();
     return named.has_parent_path() ? named.parent_path() : ".";
 }
 
-}  // namespace
-
-std::error_code MakeFolders(const fs::path& folder) {
+fs::path NearestFolder(fs::path folder) {
     std::error_code failure;
-    if (fs::is_directory(folder, failure)) {
-        return {};
+    while (!fs::exists(folder, failure) && FolderAbove(folder) != folder) {
+        folder = FolderAbove(folder);
     }
-    const fs::path above = Above(folder);
-    if (above != folder) {
-        if (const std::error_code aboveFailed = MakeFolders(above)) {
-            return aboveFailed;
-        }
+    return folder;
+}
+
+std::error_code SyncFolders(fs::path folder, const fs::path& last) {
+    std::error_code failure = SyncFolder(folder);
+    while (!failure && folder != last && FolderAbove(folder) != folder) {
+        folder = FolderAbove(folder);
+        failure = SyncFolder(folder);
     }
-    return fs::create_directory(folder, failure) ? SyncFolder(above) : failure;
+    return failure;
 }
 
 std::error_code SyncFolder(const fs::path& folder) {

@@ -77,13 +77,16 @@ int RenameToFreeName(const fs::path& from, const fs::path& to) {
 
 WholeFile::WholeFile(fs::path target, Lasting lasting)
     : target_(std::move(target)), lasting_(lasting) {
-    if (const std::error_code failure = MakeFolders(Folder())) {
+    // The program has often made the folder itself just before, so the one above is synced too.
+    oldest_ = NearestFolder(FolderAbove(Folder()));
+    std::error_code failure;
+    fs::create_directories(Folder(), failure);
+    if (failure) {
         throw FileError(target_, "its folder cannot be created (" + failure.message() +
                                      "). Check that you may write there.");
     }
     RequireNameFits(target_, Folder());
-    std::error_code unreadable;
-    if (fs::is_directory(target_, unreadable)) {
+    if (fs::is_directory(target_, failure)) {
         throw FileError(target_, "a folder of that name is in the way. Move or rename it.");
     }
     Open();
@@ -224,7 +227,7 @@ void WholeFile::Settle() {
     if (lasting_ == Lasting::Remade) {
         return;
     }
-    if (const std::error_code failure = SyncFolder(Folder())) {
+    if (const std::error_code failure = SyncFolders(Folder(), oldest_)) {
         errno = failure.value();
         Fail();
     }

@@ -55,6 +55,7 @@ class WholeFile {
 
     std::filesystem::path target_;
     Lasting lasting_;
+    std::filesystem::path oldest_;   // the last folder to sync, upwards
     std::filesystem::path waiting_;  // empty while the file has no name
     std::unique_ptr<std::FILE, Closer> file_;
 };

@@ -62,8 +62,9 @@ bool HoldLeftRecovery(const Workplace& place) {
 
 std::filesystem::path HoldRecovery(const Workplace& place) {
     std::shared_ptr<const HeldFile>& held = place.State.Recovery;
-    // The lock lies beside the file. What keeps the folder from being made is told by the writing.
-    static_cast<void>(MakeFolders(NumberedPath(place, 1).parent_path()));
+    // The lock lies beside the file. What keeps the folder from being made, the writing tells.
+    std::error_code toldLater;
+    fs::create_directories(NumberedPath(place, 1).parent_path(), toldLater);
     for (int number = 1; !held; ++number) {
         const fs::path path = NumberedPath(place, number);
         if (!IsFile(path)) {

@@ -23,13 +23,14 @@ TEST(KitTroubles, OnePhotoThatFailsDoesNotStopTheOthers) {
     const std::string whole = studio.Files.Read("good.bmp");
     studio.Files.Write("cut.bmp", whole.substr(0, whole.size() / 2));
     studio.Files.Write("text.bmp", "this is no bitmap");
-    EXPECT_EQ(
-        studio.Kit({studio.Path("good.bmp"), studio.Path("cut.bmp"), studio.Path("text.bmp"),
-                    "missing.bmp", studio.Path("later.bmp"), "--outputs", "painting", "--json"}),
-        1);
+    EXPECT_EQ(studio.Kit({studio.Path("good.bmp"), studio.Path("cut.bmp"), studio.Path("text.bmp"),
+                          "missing.bmp", std::string(300, 'x') + ".bmp", studio.Path("later.bmp"),
+                          "--outputs", "painting", "--json"}),
+              1);
     EXPECT_THAT(studio.Err, AllOf(HasSubstr("cut.bmp"), HasSubstr("text.bmp"),
-                                  HasSubstr("missing.bmp: there is no such photo")));
-    EXPECT_EQ(std::count(studio.Out.begin(), studio.Out.end(), '\n'), 5);
+                                  HasSubstr("missing.bmp: there is no such photo"),
+                                  HasSubstr("xxx.bmp: there is no such photo")));
+    EXPECT_EQ(std::count(studio.Out.begin(), studio.Out.end(), '\n'), 6);
     EXPECT_THAT(studio.Names("Results"),
                 UnorderedElementsAre("good Easy Painting.BMP", "later Easy Painting.BMP"));
 }
