@@ -30,6 +30,27 @@ TEST(WholeFile, KeepsTheOldFileUntilCommit) {
     EXPECT_EQ(FilesIn(folder.Path()), 1U);
 }
 
+TEST(WholeFile, TakesANewNameOnlyWhereNobodyHasIt) {
+    const test::TempFolder folder;
+    folder.Write("a.txt", "theirs");
+    WholeFile file(folder / "a.txt", Lasting::Synced);
+    file.Write("ours");
+    EXPECT_FALSE(file.CommitNew(folder / "a.txt"));
+    EXPECT_FALSE(file.Holds(folder / "a.txt"));
+    folder.Write("c.txt", "ours");
+    EXPECT_TRUE(file.Holds(folder / "c.txt"));
+    EXPECT_TRUE(file.CommitNew(folder / "b.txt"));
+    EXPECT_EQ(folder.Read("a.txt") + folder.Read("b.txt"), "theirsours");
+}
+
+TEST(WholeFile, TakesTheLongestNameAndRefusesALongerOneBeforeItIsWritten) {
+    const test::TempFolder folder;
+    WriteWholeFile(folder / std::string(255, 'a'), "x");
+    EXPECT_EQ(folder.Read(std::string(255, 'a')), "x");
+    EXPECT_THAT([&] { WholeFile(folder / std::string(256, 'a')); },
+                testing::ThrowsMessage<FileError>(testing::HasSubstr("the name is too long")));
+}
+
 TEST(WholeFile, CreatesFoldersAndNamesWhatIsInTheWay) {
     const test::TempFolder folder;
     WriteWholeFile(folder / "new/deep/a.txt", "x");
