@@ -35,8 +35,7 @@ bool NeedsStudio(std::span<const std::string_view> words) {
     try {
         const Arguments arguments = vendrel::ParseArguments(words);
         return arguments.What == Command::Window || arguments.What == Command::Symbols ||
-               (arguments.What == Command::Kit &&
-                (arguments.Kit.Outputs.Chart || arguments.Kit.Outputs.Pdf)) ||
+               (arguments.What == Command::Kit && arguments.Kit.Outputs.Chosen.NeedsFonts()) ||
                std::ranges::any_of(arguments.Kit.Photos, [&arguments](const std::string& photo) {
                    return NeedsDecoders(arguments.Kit, photo);
                });

@@ -50,22 +50,28 @@ void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
 
 }  // namespace
 
-BitmapStream::BitmapStream(const std::filesystem::path& file, int width, int height,
-                           int pixelsPerMetre)
-    : file_(file) {
+BitmapStream::BitmapStream(const Target& target, int width, int height, int pixelsPerMetre)
+    : file_(target.File), watcher_(target.Watcher) {
     const Header header = MakeHeader(MakeInfoHeader(width, height), pixelsPerMetre);
-    file_.Write(std::as_bytes(std::span(header)));
+    Put(std::as_bytes(std::span(header)));
 }
 
-void WriteBitmap(const std::filesystem::path& file, const Surface& picture, int pixelsPerMetre) {
+void BitmapStream::Put(std::span<const std::byte> bytes) {
+    file_.Write(bytes);
+    if (watcher_ != nullptr) {
+        watcher_->See(bytes);
+    }
+}
+
+void WriteBitmap(const Target& target, const Surface& picture, int pixelsPerMetre) {
     if (picture.Empty()) {
-        throw FileError(file, "there is no picture to save yet. Load a photo first.");
+        throw FileError(target.File, "there is no picture to save yet. Load a photo first.");
     }
     const BitmapInfoHeader info = MakeInfoHeader(picture.Width(), picture.Height());
     const std::size_t rowBytes = info.SizeImage / static_cast<std::size_t>(picture.Height());
     const std::size_t rowsPerBlock = std::max<std::size_t>(1, kBlockBytes / rowBytes);
     std::vector<std::uint8_t> block(rowsPerBlock * rowBytes);
-    BitmapStream stream(file, picture.Width(), picture.Height(), pixelsPerMetre);
+    BitmapStream stream(target, picture.Width(), picture.Height(), pixelsPerMetre);
     std::size_t used = 0;
     for (int y = picture.Height() - 1; y >= 0; --y) {
         PackRow(picture.Row(y), block.data() + used);

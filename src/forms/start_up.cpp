@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "convert/settings.h"
+#include "kitset/settle.h"
 #include "output/symbol_set.h"
 #include "paints/catalogue.h"
 #include "paints/paint_list.h"
@@ -71,6 +72,7 @@ bool PrepareFolders(Workplace& place) {
         CopyShippedPaintList(place);
     }
     CreateFolder(place, "Results");
+    SettleKits(place.Folder);
     return CreateFolder(place, "Pictures");
 }
 

@@ -38,8 +38,8 @@ and GIF photos are kept in Pictures as .bmp (not in builds without windows).
   --screen WIDTHxHEIGHT      sizes the picture for this screen (default 1920x1080)
   --crop [PART]              instead of stretching the photo, cuts off what does not
                              fit the sheet; keeps the centre (default) or the top
-  --outputs LIST             of sheet,reference,painting,chart,grid,pdf (default
-                             all but pdf)
+  --outputs LIST             of @OUTPUTS@
+                             (@DEFAULT@ unless given)
   --paper SIZE               prints the pdf on A4 (default), Letter or A3
   --canvas WIDTHcm           prints the pdf for a canvas this wide, as in 60cm;
                              auto (default) fills the pages that legible
@@ -50,7 +50,8 @@ and GIF photos are kept in Pictures as .bmp (not in builds without windows).
   --quiet                    prints nothing but errors
 
 Without --sets and --template the paints are those of Data/paintlist.txt.
-Pictures and pdf files go to Results, grids to "Saved Stipples".
+Pictures and pdf files go to Results, grids to "Saved Stipples"; the list of a
+kit in Results has their SHA-256 sums.
 )";
 
 // The words of a command line, taken one by one. "--name=value" and "--name value" are the same.
@@ -162,34 +163,17 @@ ScreenSize ToScreen(std::string_view value) {
     return ScreenSize::FromPixels(width, height);
 }
 
-bool* OutputNamed(KitOutputs& outputs, std::string_view name) {
-    return name == "sheet"       ? &outputs.Sheet
-           : name == "reference" ? &outputs.Reference
-           : name == "painting"  ? &outputs.Painting
-           : name == "chart"     ? &outputs.Chart
-           : name == "grid"      ? &outputs.Grid
-           : name == "pdf"       ? &outputs.Pdf
-                                 : nullptr;
-}
-
 KitOutputs ToOutputs(std::string_view value) {
-    KitOutputs outputs{.Sheet = false,
-                       .Reference = false,
-                       .Painting = false,
-                       .Chart = false,
-                       .Grid = false,
-                       .Pdf = false,
-                       .ByName = true};
+    KitOutputs outputs{.Chosen = {}, .ByName = true};
     while (!value.empty()) {
         const auto comma = std::min(value.find(','), value.size());
         const std::string_view name = value.substr(0, comma);
-        bool* const output = OutputNamed(outputs, name);
+        const Output* const output = OutputNamed(name);
         if (output == nullptr) {
             RefuseValue("--outputs", name,
-                        "from sheet, reference, painting, chart, grid and pdf, with commas "
-                        "between");
+                        "from " + OutputWords(", ", IsOutput) + ", with commas between");
         }
-        *output = true;
+        outputs.Chosen.Add(output->Id);
         value.remove_prefix(std::min(comma + 1, value.size()));
     }
     return outputs;
@@ -358,8 +342,13 @@ std::string_view HelpText() {
     return kHelp;
 }
 
-std::string_view KitHelpText() {
-    return kKitHelp;
+std::string KitHelpText() {
+    std::string text(kKitHelp);
+    for (const auto& [name, words] : {std::pair{"@OUTPUTS@", OutputWords(",", IsOutput)},
+                                      {"@DEFAULT@", OutputWords(",", IsByDefault)}}) {
+        text.replace(text.find(name), std::string_view(name).size(), words);
+    }
+    return text;
 }
 
 }  // namespace vendrel

@@ -75,9 +75,13 @@ std::string SummaryOf(const KitReport& report) {
                     " outside a stipple of their paint");
         AddLine(text, "border dots", std::to_string(n.BorderDots));
     }
+    AddLine(text, "mark", report.Mark);
     AddLine(text, "milliseconds", MillisecondsLine(report));
     for (const auto& [output, file] : report.Files) {
         AddLine(text, output, file);
+    }
+    if (!report.List.empty()) {
+        AddLine(text, "kit list", report.List);
     }
     for (const std::string& note : report.Notes) {
         AddLine(text, "note", note);
@@ -96,6 +100,7 @@ JsonObject JsonOf(const KitReport& report) {
         .Add("picture", report.Picture)
         .Add("name", report.Name)
         .Add("difficulty", report.Difficulty)
+        .Add("mark", report.Mark)
         .Add("photoSize", JsonOf(report.PhotoSize))
         .Add("workingSize", JsonOf(report.WorkingSize))
         .Add("stretchPercent", StretchPercent(report.PhotoSize, report.WorkingSize))
@@ -115,7 +120,11 @@ JsonObject JsonOf(const KitReport& report) {
     for (const auto& [output, file] : report.Files) {
         files.Add(output, file);
     }
-    object.Add("milliseconds", milliseconds).Add("files", files).Add("notes", report.Notes);
+    object.Add("milliseconds", milliseconds).Add("files", files);
+    if (!report.List.empty()) {
+        object.Add("kitList", report.List);
+    }
+    object.Add("notes", report.Notes);
     return object;
 }
 

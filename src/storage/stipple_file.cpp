@@ -6,7 +6,6 @@
 
 #include "support/counter.h"
 #include "support/error.h"
-#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -91,8 +90,13 @@ std::vector<int> CountCells(const SavedGrid& saved) {
 }  // namespace
 
 std::filesystem::path StippleFilePath(const Workplace& place) {
-    return place.Folder.Path("Saved Stipples/" + place.State.PictureName + "-" +
-                             std::string(DifficultyWord(place.MainMenu)) + ".stp");
+    return StippleFilePath(place.Folder, place.State.PictureName,
+                           std::string(DifficultyWord(place.MainMenu)));
+}
+
+std::filesystem::path StippleFilePath(const ProgramFolder& folder, const std::string& photo,
+                                      const std::string& difficulty) {
+    return folder.Path("Saved Stipples/" + photo + "-" + difficulty + ".stp");
 }
 
 bool StippleFileExists(const Workplace& place) {
@@ -118,8 +122,9 @@ std::string FormatStippleFile(const SavedGrid& saved) {
     return out;
 }
 
-void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved) {
-    WriteWholeFile(path, FormatStippleFile(saved));
+void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved,
+                      Lasting lasting) {
+    WriteWholeFile(path, FormatStippleFile(saved), lasting);
 }
 
 StippleFileReader::StippleFileReader(std::string_view text, const std::filesystem::path& path)

@@ -26,7 +26,8 @@ TEST(KitTroubles, OnePhotoThatFailsDoesNotStopTheOthers) {
                                   HasSubstr("missing.bmp: there is no such photo")));
     EXPECT_EQ(std::count(studio.Out.begin(), studio.Out.end(), '\n'), 5);
     EXPECT_THAT(studio.Names("Results"),
-                UnorderedElementsAre("good Easy Painting.BMP", "later Easy Painting.BMP"));
+                UnorderedElementsAre("good Easy Painting.BMP", "good Easy Kit.json",
+                                     "later Easy Painting.BMP", "later Easy Kit.json"));
 }
 
 TEST(KitTroubles, PhotosThatWouldShareTheirFilesAreRefusedFromTheSecondOn) {
