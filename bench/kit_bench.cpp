@@ -172,7 +172,7 @@ void Sheet(benchmark::State& run) {
     studio.Convert();
     PaintItNow_Click(studio.Place);
     for ([[maybe_unused]] const auto step : run) {
-        benchmark::DoNotOptimize(WriteSheet(studio.Place));
+        NumberedPainting(studio.Place).WriteSheet(studio.Place.Folder.Path("Results/sheet.BMP"));
     }
 }
 BENCHMARK(Sheet)->Arg(8)->Arg(6)->Arg(4)->Unit(benchmark::kMillisecond);
@@ -183,7 +183,7 @@ void Painting(benchmark::State& run) {
     studio.Convert();
     PaintItNow_Click(studio.Place);
     for ([[maybe_unused]] const auto step : run) {
-        benchmark::DoNotOptimize(PrintWorkform_Click(studio.Place));
+        WritePainting(studio.Place, studio.Place.Folder.Path("Results/painting.BMP"));
     }
 }
 BENCHMARK(Painting)->Unit(benchmark::kMillisecond);

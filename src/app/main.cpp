@@ -24,8 +24,7 @@ bool NeedsStudio(std::span<const std::string_view> words) {
     try {
         const Arguments arguments = vendrel::ParseArguments(words);
         return arguments.What == Command::Window || arguments.What == Command::Symbols ||
-               (arguments.What == Command::Kit &&
-                (arguments.Kit.Outputs.Chart || arguments.Kit.Outputs.Pdf));
+               (arguments.What == Command::Kit && arguments.Kit.Outputs.Chosen.NeedsFonts());
     } catch (const vendrel::UsageError&) {
         return false;  // wrong usage is explained faster
     }

@@ -50,14 +50,21 @@ void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
 
 }  // namespace
 
-BitmapStream::BitmapStream(const std::filesystem::path& file, int width, int height,
-                           int pixelsPerMetre, Lasting lasting)
-    : file_(file, lasting) {
+BitmapStream::BitmapStream(const Target& target, int width, int height, int pixelsPerMetre,
+                           Lasting lasting)
+    : file_(target.File, lasting), watcher_(target.Watcher) {
     if (width < 1 || height < 1) {
-        throw FileError(file, "there is no picture to save yet. Load a photo first.");
+        throw FileError(target.File, "there is no picture to save yet. Load a photo first.");
     }
     const Header header = MakeHeader(MakeInfoHeader(width, height), pixelsPerMetre);
-    file_.Write(std::as_bytes(std::span(header)));
+    Put(std::as_bytes(std::span(header)));
+}
+
+void BitmapStream::Put(std::span<const std::byte> bytes) {
+    file_.Write(bytes);
+    if (watcher_ != nullptr) {
+        watcher_->See(bytes);
+    }
 }
 
 void BitmapStream::Write(const Surface& picture) {

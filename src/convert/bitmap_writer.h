@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <span>
 
 #include "support/surface.h"
+#include "support/target.h"
 #include "support/whole_file.h"
 
 namespace vendrel {
@@ -14,17 +14,17 @@ inline constexpr int kPixelsPerMetre = 5500;
 
 /// Writes a BMP file of 24 bits, uncompressed, rows bottom-up, header of 40 bytes. The file is
 /// there whole or not at all. Throws FileError, OverflowError when the picture outgrows the format.
-void WriteBitmap(const std::filesystem::path& file, const Surface& picture,
+void WriteBitmap(const Target& target, const Surface& picture,
                  int pixelsPerMetre = kPixelsPerMetre);
 
 /// The same file written in parts, for a picture not worth holding as a whole. Without Commit the
 /// file stays as it was.
 class BitmapStream {
   public:
-    BitmapStream(const std::filesystem::path& file, int width, int height,
-                 int pixelsPerMetre = kPixelsPerMetre, Lasting lasting = Lasting::Remade);
+    BitmapStream(const Target& target, int width, int height, int pixelsPerMetre = kPixelsPerMetre,
+                 Lasting lasting = Lasting::Remade);
     /// The next rows, the lowest of the picture first, as a cDIBSection of its width holds them.
-    void Write(std::span<const std::uint8_t> rows) { file_.Write(std::as_bytes(rows)); }
+    void Write(std::span<const std::uint8_t> rows) { Put(std::as_bytes(rows)); }
     /// All rows of a picture of its size.
     void Write(const Surface& picture);
     void Commit() { file_.Commit(); }
@@ -35,7 +35,10 @@ class BitmapStream {
     [[nodiscard]] bool Holds(const std::filesystem::path& other) { return file_.Holds(other); }
 
   private:
+    void Put(std::span<const std::byte> bytes);
+
     WholeFile file_;
+    ByteWatcher* watcher_;
 };
 
 }  // namespace vendrel

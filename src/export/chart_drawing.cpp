@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "export/print_fonts.h"
+#include "kitset/kit_mark.h"
 #include "output/cell_numbering.h"
 
 namespace vendrel {
@@ -96,10 +97,11 @@ ColorChart MakeColorChart(const Workplace& place) {
     chart.Rows = FillChart(place.State);
     const std::string word(DifficultyWord(place.State));
     chart.Title = ToQt(PrintedName(place.State));
-    chart.Subtitle = QString("Color chart  \u2022  %1  \u2022  %2 %3")
+    chart.Subtitle = QString("Color chart  \u2022  %1  \u2022  %2 %3  \u2022  kit %4")
                          .arg(ToQt(word))
                          .arg(chart.Rows.size())
-                         .arg(chart.Rows.size() == 1 ? "paint" : "paints");
+                         .arg(chart.Rows.size() == 1 ? "paint" : "paints")
+                         .arg(ToQt(KitMark(place)));
     return chart;
 }
 

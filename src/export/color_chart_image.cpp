@@ -8,7 +8,6 @@
 #include "export/chart_drawing.h"
 #include "export/print_fonts.h"
 #include "export/qt_image.h"
-#include "output/result_files.h"
 #include "output/symbol_set.h"
 
 namespace vendrel {
@@ -44,10 +43,8 @@ QImage DrawChartImage(const Workplace& place) {
 
 }  // namespace
 
-std::filesystem::path WriteColorChart(const Workplace& place) {
-    std::filesystem::path file = ResultFile(place, "Color Chart");
-    WriteBitmap(file, ToSurface(DrawChartImage(place)), kChartPixelsPerMetre);
-    return file;
+void WriteColorChart(const Workplace& place, const Target& target) {
+    WriteBitmap(target, ToSurface(DrawChartImage(place)), kChartPixelsPerMetre);
 }
 
 }  // namespace vendrel

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <filesystem>
-
 #include "shell/workplace.h"
+#include "support/target.h"
 
 namespace vendrel {
 
@@ -11,6 +10,6 @@ inline constexpr int kChartPixelsPerMetre = 11811;
 
 /// Saves the color chart as a picture of one printed page, with the symbols as the sheet shows
 /// them. The same grid gives the same bytes. Needs a running QGuiApplication.
-std::filesystem::path WriteColorChart(const Workplace& place);
+void WriteColorChart(const Workplace& place, const Target& target);
 
 }  // namespace vendrel

@@ -8,7 +8,6 @@
 
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
-#include "output/result_files.h"
 #include "support/error.h"
 #include "support/whole_file.h"
 
@@ -101,7 +100,8 @@ void FixDate(QByteArray& pdf) {
 
 }  // namespace
 
-std::filesystem::path WriteKitPdf(const Workplace& place, const PlanSettings& settings) {
+void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
+                 const std::filesystem::path& file) {
     place.Screen.SetCaption("Drawing the Plan");
     const PrintSymbols symbols;
     const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
@@ -123,11 +123,8 @@ std::filesystem::path WriteKitPdf(const Workplace& place, const PlanSettings& se
         DrawPages(writer, kit);
     }
     FixDate(pdf);
-    std::filesystem::path file = ResultFile(place, "Kit");
-    file.replace_extension(".pdf");
     place.Screen.SetCaption("Saving File, Please Wait....");
     WriteWholeFile(file, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
-    return file;
 }
 
 }  // namespace vendrel

@@ -7,9 +7,10 @@
 
 namespace vendrel {
 
-/// Saves the whole kit for a printer as "<photo> <difficulty> Kit.pdf": cover, color chart, page
-/// map and the plan, drawn in lines at its real size. The same kit gives the same bytes. Throws
-/// Error and FileError. Needs a running QGuiApplication.
-std::filesystem::path WriteKitPdf(const Workplace& place, const PlanSettings& settings);
+/// Saves the whole kit for a printer: cover, color chart, page map and the plan, drawn in lines at
+/// its real size. The same kit gives the same bytes. Throws Error and FileError. Needs a running
+/// QGuiApplication.
+void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
+                 const std::filesystem::path& file);
 
 }  // namespace vendrel

@@ -8,6 +8,7 @@
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
 #include "export/qt_image.h"
+#include "kitset/kit_mark.h"
 
 namespace vendrel {
 namespace {
@@ -39,12 +40,14 @@ double SmallestLabelMm(const PrintPlan& plan) {
 QString KitSummary(const KitPages& kit) {
     const WorkState& state = kit.Place.State;
     return QString(
-               "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm")
+               "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm  "
+               "\u2022  kit %6")
         .arg(state.PaintCount)
         .arg(Centimetres(kit.Plan.Pages.Canvas))
         .arg(kit.Plan.Pages.Tiles.size())
         .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
-        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1);
+        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1)
+        .arg(ToQt(KitMark(kit.Place)));
 }
 
 struct CoverPlaces {

@@ -2,16 +2,22 @@
 
 #include "export/color_chart_image.h"
 #include "export/kit_pdf.h"
+#include "support/error.h"
 
 namespace vendrel {
 
-std::filesystem::path QtExporter::WriteColorChart(const Workplace& place) const {
-    return vendrel::WriteColorChart(place);
-}
-
-std::filesystem::path QtExporter::WriteKitPdf(const Workplace& place,
-                                              const PlanSettings& settings) const {
-    return vendrel::WriteKitPdf(place, settings);
+void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettings& settings,
+                       const Target& target) const {
+    switch (output) {
+        case OutputId::Chart:
+            WriteColorChart(place, target);
+            return;
+        case OutputId::Pdf:
+            WriteKitPdf(place, settings, target.File);
+            return;
+        default:
+            throw FileError(target.File, "is written without fonts.");
+    }
 }
 
 }  // namespace vendrel

@@ -8,9 +8,8 @@ namespace vendrel {
 /// Writes color charts and printable kits with the toolkit's fonts.
 class QtExporter final : public Exporter {
   public:
-    std::filesystem::path WriteColorChart(const Workplace& place) const override;
-    std::filesystem::path WriteKitPdf(const Workplace& place,
-                                      const PlanSettings& settings) const override;
+    void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
+               const Target& target) const override;
 
   private:
     GuiApplication application_;

@@ -1,6 +1,6 @@
 #include "forms/color_chart.h"
 
-#include "shell/busy_pointer.h"
+#include "forms/kit_saving.h"
 
 namespace vendrel {
 
@@ -15,8 +15,9 @@ void ColorChartForm::Order_Click(ChartOrder order) {
 }
 
 void ColorChartForm::SaveButton_Click() {
-    const BusyPointer busy(place_.Screen);
-    savedFile_ = exporter_.WriteColorChart(place_).lexically_normal().string();
+    KitOrder order{.Outputs = {}, .Fonts = &exporter_, .Plan = {}};
+    order.Outputs.Add(OutputId::Chart);
+    savedFile_ = SaveFromWindow(place_, order).front().lexically_normal().string();
 }
 
 void ColorChartForm::CloseButton_Click() {

@@ -2,18 +2,14 @@
 
 #include <filesystem>
 
-#include "shell/busy_pointer.h"
+#include "forms/kit_saving.h"
 
 namespace vendrel {
 
 void KitPdfForm::SaveButton_Click() {
-    std::filesystem::path file;
-    {
-        const BusyPointer busy(place_.Screen);
-        file = exporter_.WriteKitPdf(place_, settings_);
-        place_.Screen.ReportProgress(0, 0);
-        place_.Screen.SetCaption("Vendrel -" + place_.State.PictureName);
-    }
+    KitOrder order{.Outputs = {}, .Fonts = &exporter_, .Plan = settings_};
+    order.Outputs.Add(OutputId::Pdf);
+    const std::filesystem::path file = SaveFromWindow(place_, order).front();
     place_.Screen.CloseForm(FormId::KitPdf);
     if (place_.Screen.Ask("Save Kit as PDF",
                           "Saved " + file.lexically_normal().string() + ".\n\nOpen the folder?")) {

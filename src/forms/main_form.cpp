@@ -7,10 +7,9 @@
 #include "convert/photo_import.h"
 #include "convert/settings.h"
 #include "convert/stipple_conversion.h"
+#include "forms/kit_saving.h"
 #include "forms/save_everything.h"
 #include "forms/start_up.h"
-#include "output/painting_writer.h"
-#include "output/sheet_writer.h"
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
 #include "storage/load_stipples.h"
@@ -175,11 +174,11 @@ void MainForm::PaintItNow_Click() {
 }
 
 void MainForm::PrintWorkform_Click() {
-    Saved(vendrel::PrintWorkform_Click(place_));
+    Saved(SaveFromWindow(place_, OutputId::Painting));
 }
 
 void MainForm::SaveReference_Click() {
-    Saved(vendrel::SaveReference_Click(place_));
+    Saved(SaveFromWindow(place_, OutputId::Reference));
 }
 
 void MainForm::PrintColorChart_Click() {
@@ -195,12 +194,11 @@ void MainForm::SaveKitPdf_Click() {
 }
 
 void MainForm::PrintAll_Click() {
-    Saved(vendrel::PrintAll_Click(place_).File);
+    Saved(SaveFromWindow(place_, OutputId::Sheet));
 }
 
 void MainForm::Saved(const fs::path& file) {
     lastSaved_ = file.lexically_normal().string();
-    place_.Screen.SetCaption("Vendrel -" + place_.State.PictureName);
 }
 
 void MainForm::EasySet_Click() {

@@ -5,9 +5,9 @@
 
 namespace vendrel {
 
-/// Saves sheet, symbol reference, painting and color chart, then lists the files and offers to
+/// Saves what belongs to everything (see Output) as one set, then lists the files and offers to
 /// open their folder. The painted picture on screen is the same before and after. Throws Error and
-/// FileError; files saved before the failure are whole and stay.
+/// FileError; then what stood in Results stays as it was.
 void SaveEverything(const Workplace& place, const Exporter& exporter);
 
 }  // namespace vendrel

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "convert/settings.h"
+#include "kitset/settle.h"
 #include "output/symbol_set.h"
 #include "paints/catalogue.h"
 #include "paints/paint_list.h"
@@ -74,6 +75,7 @@ bool PrepareFolders(Workplace& place) {
     for (const char* folder : {"Data", "Results", "Pictures", "Saved Stipples", "templates"}) {
         RemoveLeftovers(place.Folder.Path(folder));
     }
+    SettleKits(place.Folder);
     return CreateFolder(place, "Pictures");
 }
 

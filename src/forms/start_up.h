@@ -8,7 +8,8 @@ namespace vendrel {
 /// averaging. Throws Error when the symbols cannot be read.
 void PrepareSettings(Workplace& place);
 
-/// Creates the folders that are missing; a new data folder gets the shipped paint list. Answers
+/// Creates the folders that are missing; a new data folder gets the shipped paint list. Kits that a
+/// killed program left half-saved are finished or taken back. Answers
 /// whether the pictures folder had to be made, that is, whether the program runs here for the
 /// first time. What programs that were killed left half-written is removed. Throws FileError.
 [[nodiscard]] bool PrepareFolders(Workplace& place);

@@ -34,7 +34,8 @@ and GIF photos are kept in Pictures as .bmp (not in builds without windows).
 
 constexpr const char* kKitFoot =
     R"(Without --sets and --template the paints are those of Data/paintlist.txt.
-Pictures and pdf files go to Results, grids to "Saved Stipples".)";
+Pictures and pdf files go to Results, grids to "Saved Stipples"; the list of a
+kit in Results has their SHA-256 sums.)";
 
 // What "vendrel kit --help" prints: the head, the options in two columns, the foot.
 class KitHelp : public CLI::Formatter {
@@ -76,13 +77,6 @@ constexpr auto kPapers =
     std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
 constexpr auto kCropParts =
     std::to_array<Choice<CropPart>>({{"center", CropPart::Centre}, {"top", CropPart::Top}});
-constexpr auto kOutputs =
-    std::to_array<Choice<bool KitOutputs::*>>({{"sheet", &KitOutputs::Sheet},
-                                               {"reference", &KitOutputs::Reference},
-                                               {"painting", &KitOutputs::Painting},
-                                               {"chart", &KitOutputs::Chart},
-                                               {"grid", &KitOutputs::Grid},
-                                               {"pdf", &KitOutputs::Pdf}});
 
 [[noreturn]] void RefuseValue(std::string_view option, std::string_view value,
                               std::string_view choices) {
@@ -140,20 +134,14 @@ ScreenSize ToScreen(const std::string& option, std::string_view value) {
 }
 
 KitOutputs ToOutputs(const std::string& option, const std::string& value) {
-    KitOutputs outputs{.Sheet = false,
-                       .Reference = false,
-                       .Painting = false,
-                       .Chart = false,
-                       .Grid = false,
-                       .Pdf = false,
-                       .ByName = true};
+    KitOutputs outputs{.Chosen = {}, .ByName = true};
     for (const std::string& name : CLI::detail::split(value, ',')) {
-        const auto* const output = FindChoice(kOutputs, name);
+        const Output* const output = OutputNamed(ToLower(name));
         if (output == nullptr) {
             RefuseValue(option, name,
-                        "from " + Listed(kOutputs, " and ") + ", with commas between");
+                        "from " + OutputWords(", ", IsOutput) + ", with commas between");
         }
-        outputs.** output = true;
+        outputs.Chosen.Add(output->Id);
     }
     return outputs;
 }
@@ -250,10 +238,8 @@ void AddPictureOptions(CLI::App& app, KitOptions& kit) {
 void AddOutputOptions(CLI::App& app, KitOptions& kit) {
     AddValue(app,
              {"--outputs", "LIST",
-              "of " +
-                  CLI::detail::join(kOutputs,
-                                    [](const auto& output) { return std::string(output.Word); }) +
-                  " (default\nall but pdf)"},
+              "of " + OutputWords(",", IsOutput) + "\n(" + OutputWords(",", IsByDefault) +
+                  " unless given)"},
              [&kit](const std::string& option, const std::string& value) {
                  kit.Outputs = ToOutputs(option, value);
              });

@@ -8,20 +8,16 @@
 #include <vector>
 
 #include "convert/crop.h"
+#include "kitset/outputs.h"
 #include "plan/plan_layout.h"
 #include "shell/settings.h"
 #include "support/twips.h"
 
 namespace vendrel {
 
-/// What a kit may consist of.
+/// What a kit consists of.
 struct KitOutputs {
-    bool Sheet = true;
-    bool Reference = true;
-    bool Painting = true;
-    bool Chart = true;
-    bool Grid = true;
-    bool Pdf = false;
+    OutputChoice Chosen{IsByDefault};
     bool ByName = false;  // asked for by name, so that each is missed when it cannot be made
 };
 

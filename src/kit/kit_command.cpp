@@ -72,7 +72,7 @@ class KitRun {
 
     // Fonts take a while to load, so only for what needs them.
     void MakeExporter() {
-        if (around_.MakeExporter && (options_.Outputs.Chart || options_.Outputs.Pdf)) {
+        if (around_.MakeExporter && options_.Outputs.Chosen.NeedsFonts()) {
             exporter_ = around_.MakeExporter();
         }
         RequireExporter(options_.Outputs, exporter_.get());

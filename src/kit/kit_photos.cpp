@@ -15,21 +15,15 @@ namespace {
 
 // Of the outputs asked for: what fits is made.
 std::string LongestEnding(const Workplace& place, const KitOptions& options) {
-    const KitOutputs& outputs = options.Outputs;
-    const std::string word(DifficultyWord(place.State));
+    const KitName kit{"", std::string(DifficultyWord(place.State))};
     const std::string crop = options.Crop == CropPart::Whole ? "" : " crop";
     std::string longest = crop + ".bmp";
-    const auto consider = [&](bool made, const std::string& ending) {
-        if (made && crop.size() + ending.size() > longest.size()) {
-            longest = crop + ending;
+    for (const Output& output : AllOutputs()) {
+        const std::string ending = crop + FileOf(output, place.Folder, kit).filename().string();
+        if (options.Outputs.Chosen.Has(output.Id) && ending.size() > longest.size()) {
+            longest = ending;
         }
-    };
-    consider(outputs.Sheet, " " + word + " PBS.BMP");
-    consider(outputs.Reference, " " + word + " Symbol Reference.BMP");
-    consider(outputs.Painting, " " + word + " Painting.BMP");
-    consider(outputs.Chart, " " + word + " Color Chart.BMP");
-    consider(outputs.Pdf, " " + word + " Kit.BMP");
-    consider(outputs.Grid, "-" + word + ".stp");
+    }
     return longest;
 }
 

@@ -63,6 +63,7 @@ Json JsonOf(const KitReport& report) {
                  {"picture", report.Picture},
                  {"name", report.Name},
                  {"difficulty", report.Difficulty},
+                 {"mark", report.Mark},
                  {"photoSize", JsonOf(report.PhotoSize)},
                  {"workingSize", JsonOf(report.WorkingSize)},
                  {"stretchPercent", StretchPercent(report.PhotoSize, report.WorkingSize)},
@@ -83,6 +84,9 @@ Json JsonOf(const KitReport& report) {
     json["files"] = Json::object();
     for (const auto& [output, file] : report.Files) {
         json["files"][output] = file;
+    }
+    if (!report.List.empty()) {
+        json["kitList"] = report.List;
     }
     json["notes"] = report.Notes;
     return json;
@@ -133,9 +137,13 @@ std::string SummaryOf(const KitReport& report) {
                     " outside a stipple of their paint");
         AddLine(text, "border dots", std::to_string(n.BorderDots));
     }
+    AddLine(text, "mark", report.Mark);
     AddLine(text, "milliseconds", MillisecondsLine(report));
     for (const auto& [output, file] : report.Files) {
         AddLine(text, output, file);
+    }
+    if (!report.List.empty()) {
+        AddLine(text, "kit list", report.List);
     }
     for (const std::string& note : report.Notes) {
         AddLine(text, "note", note);

@@ -16,6 +16,7 @@ struct KitReport {
     std::string Picture;  // the bitmap in Pictures that it became
     std::string Name;
     std::string Difficulty;  // the word in file names
+    std::string Mark;        // see KitMark
     BitmapSize PhotoSize;
     BitmapSize WorkingSize;
     int CellsAcross = 0;
@@ -28,6 +29,7 @@ struct KitReport {
     std::optional<NumberingCounts> Numbering;                  // when a sheet was made
     std::vector<std::pair<std::string, double>> Milliseconds;  // per step, in order
     std::vector<std::pair<std::string, std::string>> Files;    // output name and path
+    std::string List;                                          // of the kit; empty without files
     std::vector<std::string> Notes;
 };
 

@@ -9,14 +9,11 @@
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "convert/working_size.h"
-#include "output/painting_writer.h"
-#include "output/sheet_writer.h"
+#include "kitset/save_kit.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
 #include "support/disk.h"
 #include "support/error.h"
-#include "support/text_file.h"
-#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -47,75 +44,45 @@ void TakeSavedGrid(Workplace& place) {
     LoadStipples_Click(place);
 }
 
-// Somebody may have touched up the saved grid, so only --replace-grid writes over a different one.
-void SaveGrid(const Workplace& place, bool replace, KitReport& report) {
-    const WorkState& state = place.State;
-    const fs::path path = StippleFilePath(place);
-    const std::string text = FormatStippleFile(
-        {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, state.FinalColors});
-    const bool there = Stands(path);
-    const bool same = there && ReadTextFile(path) == text;
-    if (!same && there && !replace) {
-        report.Notes.push_back(path.lexically_normal().string() +
-                               " is a different grid and was kept. --replace-grid writes over it.");
-        return;
+// Without fonts a kit is made of the rest, and painting numbers the areas of a grid anew, which
+// nobody asked for in the file it came from.
+OutputChoice Possible(const KitOptions& options, const Exporter* exporter, KitReport& report) {
+    OutputChoice outputs = options.Outputs.Chosen;
+    if (options.FromGrid && !options.ReplaceGrid && !options.Outputs.ByName) {
+        outputs.Remove(OutputId::Grid);
     }
-    if (!same) {
-        WriteWholeFile(path, text, Lasting::Synced);
-    }
-    report.Files.emplace_back("grid", path.lexically_normal().string());
-}
-
-void AddFile(KitReport& report, const char* output, const fs::path& file) {
-    report.Files.emplace_back(output, file.lexically_normal().string());
-}
-
-void WriteNumbered(const Workplace& place, const KitOutputs& outputs, KitReport& report) {
-    const SavedSheets saved =
-        WriteSheets(place, {.Sheet = outputs.Sheet, .Reference = outputs.Reference});
-    report.Numbering = saved.Counts;
-    if (outputs.Sheet) {
-        AddFile(report, "sheet", saved.Sheet);
-    }
-    if (outputs.Reference) {
-        AddFile(report, "reference", saved.Reference);
-    }
-}
-
-void WritePrinted(const Workplace& place, const KitOptions& options, const Exporter* exporter,
-                  KitReport& report) {
-    if (exporter == nullptr) {
-        if (options.Outputs.Chart) {
-            report.Notes.emplace_back(
-                "No color chart: this build has no fonts to draw it with. Build the program with "
-                "Qt to get it.");
+    if (exporter == nullptr && outputs.NeedsFonts()) {
+        report.Notes.emplace_back(
+            "No color chart: this build has no fonts to draw it with. Build the program with Qt "
+            "to get it.");
+        for (const Output& output : AllOutputs()) {
+            if (output.NeedsFonts) {
+                outputs.Remove(output.Id);
+            }
         }
-        return;
     }
-    if (options.Outputs.Chart) {
-        Timed(report, "chart", [&] { AddFile(report, "chart", exporter->WriteColorChart(place)); });
-    }
-    if (options.Outputs.Pdf) {
-        Timed(report, "pdf",
-              [&] { AddFile(report, "pdf", exporter->WriteKitPdf(place, options.Plan)); });
-    }
+    return outputs;
 }
 
-void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* exporter,
+void WriteOutputs(const Workplace& place, const KitOptions& options, const Exporter* exporter,
                   KitReport& report) {
-    const KitOutputs& outputs = options.Outputs;
-    if (outputs.Sheet || outputs.Reference) {
-        Timed(report, "sheet", [&] { WriteNumbered(place, outputs, report); });
+    const SavedKit saved = SaveKit(
+        place, {.Outputs = Possible(options, exporter, report),
+                .Fonts = exporter,
+                .Plan = options.Plan,
+                .Different = options.ReplaceGrid ? DifferentGrid::Replaced : DifferentGrid::Kept,
+                .FromGrid = options.FromGrid});
+    report.Mark = saved.Mark;
+    report.Numbering = saved.Numbering;
+    report.List = saved.List.lexically_normal().string();
+    for (const SavedKit::File& file : saved.Files) {
+        report.Files.emplace_back(OutputOf(file.Output).Word,
+                                  file.Path.lexically_normal().string());
     }
-    if (outputs.Painting) {
-        Timed(report, "painting", [&] { AddFile(report, "painting", PrintWorkform_Click(place)); });
+    for (const auto& [step, took] : saved.Milliseconds) {
+        report.Milliseconds.emplace_back(step, took);
     }
-    // Painting numbers the areas of a grid anew; nobody asked for that in the file it came from.
-    const bool gridIsTheSource = options.FromGrid && !options.ReplaceGrid && !outputs.ByName;
-    if (outputs.Grid && !gridIsTheSource) {
-        Timed(report, "grid", [&] { SaveGrid(place, options.ReplaceGrid, report); });
-    }
-    WritePrinted(place, options, exporter, report);
+    report.Notes.insert(report.Notes.end(), saved.Notes.begin(), saved.Notes.end());
 }
 
 int CountLoners(const WorkState& state) {
@@ -151,7 +118,7 @@ void FillFigures(const Workplace& place, KitReport& report) {
 }  // namespace
 
 void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
-    if (exporter == nullptr && (outputs.Pdf || (outputs.Chart && outputs.ByName))) {
+    if (exporter == nullptr && outputs.ByName && outputs.Chosen.NeedsFonts()) {
         throw Error(
             "This build has no fonts to draw the chart and the pdf with; build it with Qt, or "
             "choose other --outputs.");

@@ -14,8 +14,7 @@ namespace vendrel {
 void RequireExporter(const KitOutputs& outputs, const Exporter* exporter);
 
 /// Makes one kit in a workplace that is set up and has no photo yet. Without an exporter the chart
-/// is left out, and a note says so. Throws Error; outputs written before the failure are whole and
-/// stay.
+/// is left out, and a note says so. Throws Error; then what stood in Results stays as it was.
 [[nodiscard]] KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
                                 const std::filesystem::path& photo, const Exporter* exporter);
 

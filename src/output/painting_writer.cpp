@@ -1,17 +1,12 @@
 #include "output/painting_writer.h"
 
 #include "convert/bitmap_writer.h"
-#include "output/result_files.h"
-#include "shell/busy_pointer.h"
 
 namespace vendrel {
 
-std::filesystem::path PrintWorkform_Click(const Workplace& place) {
-    const BusyPointer busy(place.Screen);
-    std::filesystem::path file = ResultFile(place, "Painting");
+void WritePainting(const Workplace& place, const Target& target) {
     place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteBitmap(file, place.Frames.WorkFrame.Picture);
-    return file;
+    WriteBitmap(target, place.Frames.WorkFrame.Picture);
 }
 
 }  // namespace vendrel

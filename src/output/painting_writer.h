@@ -1,13 +1,11 @@
 #pragma once
 
-#include <filesystem>
-
 #include "shell/workplace.h"
+#include "support/target.h"
 
 namespace vendrel {
 
-/// Saves the work picture exactly as it stands as "Results/<photo> <difficulty> Painting.BMP" and
-/// answers the file's path. Throws FileError.
-std::filesystem::path PrintWorkform_Click(const Workplace& place);
+/// Saves the work picture exactly as it stands. Throws FileError.
+void WritePainting(const Workplace& place, const Target& target);
 
 }  // namespace vendrel

@@ -1,13 +1,14 @@
 #include "output/result_files.h"
 
-#include <string>
-
 namespace vendrel {
 
-std::filesystem::path ResultFile(const Workplace& place, std::string_view kind) {
-    return place.Folder.Path("Results/" + place.State.PictureName + " " +
-                             std::string(DifficultyWord(place.State)) + " " + std::string(kind) +
-                             ".BMP");
+KitName KitNameOf(const Workplace& place) {
+    return {place.State.PictureName, std::string(DifficultyWord(place.State))};
+}
+
+std::filesystem::path ResultFile(const ProgramFolder& folder, const KitName& kit,
+                                 std::string_view kind) {
+    return folder.Path("Results/" + kit.Text() + " " + std::string(kind));
 }
 
 }  // namespace vendrel

@@ -127,12 +127,12 @@ void CreateStrip(cDIBSection& strip, int width, int height) {
 
 }  // namespace
 
-void WriteDrawing(const std::filesystem::path& file, WorkState& state, const SheetRecord& record,
+void WriteDrawing(const Target& target, WorkState& state, const SheetRecord& record,
                   const SheetColors& colors) {
     const int scale = state.SheetCellSize;
     const int width = record.Width() * scale;
     StripPainter painter(state, record, colors);
-    BitmapStream stream(file, width, record.Height() * scale);
+    BitmapStream stream(target, width, record.Height() * scale);
     const int rows = std::max(1, kStripBytes / (3 * width * scale));
     cDIBSection strip;
     for (int bottom = record.Height(); bottom > 0; bottom -= rows) {

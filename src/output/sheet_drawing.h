@@ -1,12 +1,12 @@
 #pragma once
 
-#include <filesystem>
 #include <vector>
 
 #include "output/sheet_record.h"
 #include "shell/work_state.h"
 #include "support/color.h"
 #include "support/surface.h"
+#include "support/target.h"
 
 namespace vendrel {
 
@@ -19,7 +19,7 @@ struct SheetColors {
 /// Draws a recorded numbering at SheetCellSize sheet pixels per picture pixel and saves it as a
 /// bitmap. It is drawn and saved strip by strip, since a whole sheet can take 33 megabytes.
 /// Throws Error for a paint without symbol, FileError, OverflowError.
-void WriteDrawing(const std::filesystem::path& file, WorkState& state, const SheetRecord& record,
+void WriteDrawing(const Target& target, WorkState& state, const SheetRecord& record,
                   const SheetColors& colors);
 
 }  // namespace vendrel

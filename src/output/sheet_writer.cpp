@@ -4,10 +4,7 @@
 #include <vector>
 
 #include "output/contrast.h"
-#include "output/result_files.h"
 #include "output/sheet_drawing.h"
-#include "output/sheet_record.h"
-#include "shell/busy_pointer.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -47,46 +44,37 @@ std::vector<Color> InksOnPaints(const WorkState& state) {
     return inks;
 }
 
-}  // namespace
-
-SavedSheets WriteSheets(const Workplace& place, const SheetKinds& kinds) {
-    WorkState& state = place.State;
+const Surface& PaintingToNumber(const Workplace& place) {
+    RequireSymbols(place.State);
     const Surface& painting = place.Frames.WorkFrame.Picture;
-    RequireSymbols(state);
     if (painting.Empty()) {
         throw Error("There is no painted picture to number. Load a photo and paint it first.");
     }
-    state.SheetCellSize = TraitsOf(state.Chosen.Level).SheetCellSize;
-    SheetRecord record(painting.Width(), painting.Height());
-    SavedSheets saved;
-    saved.Counts = Number(place, record);
+    return painting;
+}
+
+SheetRecord EmptyRecord(const Surface& painting) {
+    return {painting.Width(), painting.Height()};
+}
+
+}  // namespace
+
+NumberedPainting::NumberedPainting(const Workplace& place)
+    : place_(place), record_(EmptyRecord(PaintingToNumber(place))) {
+    place.State.SheetCellSize = TraitsOf(place.State.Chosen.Level).SheetCellSize;
+    counts_ = Number(place, record_);
     place.Screen.SetCaption("Saving File, Please Wait....");
-    if (kinds.Sheet) {
-        saved.Sheet = ResultFile(place, "PBS");
-        const std::vector<Color> inks(state.PaintColors.size(), state.SymbolColor);
-        WriteDrawing(saved.Sheet, state, record, {.Ground = nullptr, .Inks = inks});
-    }
-    if (kinds.Reference) {
-        saved.Reference = ResultFile(place, "Symbol Reference");
-        WriteDrawing(saved.Reference, state, record,
-                     {.Ground = &painting, .Inks = InksOnPaints(state)});
-    }
-    return saved;
 }
 
-SavedSheet WriteSheet(const Workplace& place) {
-    SavedSheets saved = WriteSheets(place, {.Sheet = true, .Reference = false});
-    return {std::move(saved.Sheet), saved.Counts};
+void NumberedPainting::WriteSheet(const Target& target) const {
+    WorkState& state = place_.State;
+    const std::vector<Color> inks(state.PaintColors.size(), state.SymbolColor);
+    WriteDrawing(target, state, record_, {.Ground = nullptr, .Inks = inks});
 }
 
-std::filesystem::path SaveReference_Click(const Workplace& place) {
-    const BusyPointer busy(place.Screen);
-    return WriteSheets(place, {.Sheet = false, .Reference = true}).Reference;
-}
-
-SavedSheet PrintAll_Click(const Workplace& place) {
-    const BusyPointer busy(place.Screen);
-    return WriteSheet(place);
+void NumberedPainting::WriteReference(const Target& target) const {
+    WriteDrawing(target, place_.State, record_,
+                 {.Ground = &place_.Frames.WorkFrame.Picture, .Inks = InksOnPaints(place_.State)});
 }
 
 }  // namespace vendrel

@@ -1,44 +1,30 @@
 #pragma once
 
-#include <filesystem>
-
 #include "output/cell_numbering.h"
+#include "output/sheet_record.h"
 #include "shell/workplace.h"
+#include "support/target.h"
 
 namespace vendrel {
 
-/// Which pictures a numbering draws.
-struct SheetKinds {
-    bool Sheet = true;
-    bool Reference = false;
+/// The painted picture numbered once, to be drawn as sheet and as reference. The work picture
+/// shows the painting again afterwards.
+class NumberedPainting {
+  public:
+    /// Throws Error for more paints than symbols or an unpainted picture, OverflowError.
+    explicit NumberedPainting(const Workplace& place);
+
+    /// Borders and symbols on white. Throws FileError, OverflowError.
+    void WriteSheet(const Target& target) const;
+    /// The same on the enlarged painting, in black or white. Throws FileError, OverflowError.
+    void WriteReference(const Target& target) const;
+
+    [[nodiscard]] const NumberingCounts& Counts() const { return counts_; }
+
+  private:
+    const Workplace& place_;
+    SheetRecord record_;
+    NumberingCounts counts_;
 };
-
-/// The files of one numbering; the path of what was not asked for stays empty.
-struct SavedSheets {
-    std::filesystem::path Sheet;
-    std::filesystem::path Reference;
-    NumberingCounts Counts;
-};
-
-/// Numbers the painted picture once and saves borders and symbols on white as "Results/<photo>
-/// <difficulty> PBS.BMP", and the same on the enlarged painting, in black or white, as "... Symbol
-/// Reference.BMP". The work picture shows the painting again afterwards. Throws Error for more
-/// paints than symbols or an unpainted picture, FileError, OverflowError.
-SavedSheets WriteSheets(const Workplace& place, const SheetKinds& kinds);
-
-/// A sheet that was saved.
-struct SavedSheet {
-    std::filesystem::path File;
-    NumberingCounts Counts;
-};
-
-/// WriteSheets for the sheet alone.
-SavedSheet WriteSheet(const Workplace& place);
-
-/// The menu command: WriteSheet with a busy pointer.
-SavedSheet PrintAll_Click(const Workplace& place);
-
-/// The menu command for the symbol reference, with a busy pointer; answers its path.
-std::filesystem::path SaveReference_Click(const Workplace& place);
 
 }  // namespace vendrel

@@ -1,15 +1,13 @@
 #pragma once
 
-#include <filesystem>
-
+#include "output/output_id.h"
 #include "plan/plan_layout.h"
 #include "shell/workplace.h"
+#include "support/target.h"
 
 namespace vendrel {
 
-/// Writes what needs fonts. Files go to Results, whole or not at all; the painted picture stays as
-/// it is. All operations throw Error for an unpainted picture, more paints than symbols or a
-/// missing font, and FileError.
+/// Writes what needs fonts.
 class Exporter {
   public:
     Exporter() = default;
@@ -17,11 +15,11 @@ class Exporter {
     Exporter& operator=(const Exporter&) = delete;
     virtual ~Exporter() = default;
 
-    /// "<photo> <difficulty> Color Chart.BMP"; answers its path.
-    virtual std::filesystem::path WriteColorChart(const Workplace& place) const = 0;
-    /// "<photo> <difficulty> Kit.pdf"; answers its path.
-    virtual std::filesystem::path WriteKitPdf(const Workplace& place,
-                                              const PlanSettings& settings) const = 0;
+    /// Writes the color chart or the kit's pages to `target`, whole or not at all; the settings are
+    /// those of the pages. The painted picture stays as it is. Throws Error for an unpainted
+    /// picture, more paints than symbols, a missing font or an output that needs none, FileError.
+    virtual void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
+                       const Target& target) const = 0;
 };
 
 }  // namespace vendrel

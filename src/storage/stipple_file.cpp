@@ -7,7 +7,6 @@
 #include "support/counter.h"
 #include "support/disk.h"
 #include "support/error.h"
-#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -92,8 +91,13 @@ std::vector<int> CountCells(const SavedGrid& saved) {
 }  // namespace
 
 std::filesystem::path StippleFilePath(const Workplace& place) {
-    return place.Folder.Path("Saved Stipples/" + place.State.PictureName + "-" +
-                             std::string(DifficultyWord(place.State)) + ".stp");
+    return StippleFilePath(place.Folder, place.State.PictureName,
+                           std::string(DifficultyWord(place.State)));
+}
+
+std::filesystem::path StippleFilePath(const ProgramFolder& folder, const std::string& photo,
+                                      const std::string& difficulty) {
+    return folder.Path("Saved Stipples/" + photo + "-" + difficulty + ".stp");
 }
 
 bool StippleFileExists(const Workplace& place) {
@@ -119,8 +123,8 @@ std::string FormatStippleFile(const SavedGrid& saved) {
     return out;
 }
 
-void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved) {
-    WriteWholeFile(path, FormatStippleFile(saved), Lasting::Synced);
+void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved, Lasting lasting) {
+    WriteWholeFile(path, FormatStippleFile(saved), lasting);
 }
 
 StippleFileReader::StippleFileReader(std::string_view text, const std::filesystem::path& path)

@@ -9,12 +9,17 @@
 #include "shell/workplace.h"
 #include "support/field_reader.h"
 #include "support/grid.h"
+#include "support/whole_file.h"
 
 namespace vendrel {
 
 /// "Saved Stipples/<PictureName>-<Easy|Medium|Difficult>.stp" of the photo and the difficulty
 /// chosen now, existing or not.
 [[nodiscard]] std::filesystem::path StippleFilePath(const Workplace& place);
+/// The same of a photo's name and a difficulty's word.
+[[nodiscard]] std::filesystem::path StippleFilePath(const ProgramFolder& folder,
+                                                    const std::string& photo,
+                                                    const std::string& difficulty);
 [[nodiscard]] bool StippleFileExists(const Workplace& place);
 
 /// What a stipple file keeps. References only, so that an editor's working copies can be saved as
@@ -30,7 +35,8 @@ struct SavedGrid {
 /// The bytes of the file. The paints' CellCount is counted afresh from the cells.
 [[nodiscard]] std::string FormatStippleFile(const SavedGrid& saved);
 /// Replaces `path` whole or not at all; creates its folder. Throws FileError.
-void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved);
+void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved,
+                      Lasting lasting = Lasting::Synced);
 
 /// The first line of a stipple file.
 struct StippleHeader {

@@ -32,10 +32,13 @@ class Printing : public testing::Test {
         PaintAllCells(easel_.Place);
     }
 
-    Surface Chart() const { return ReadBitmap(exporter_.WriteColorChart(easel_.Place)); }
+    Surface Chart() const {
+        exporter_.Write(OutputId::Chart, easel_.Place, {}, easel_.Files / "Results/chart.BMP");
+        return ReadBitmap(easel_.Files / "Results/chart.BMP");
+    }
     std::string Pdf(const PlanSettings& settings) const {
-        return easel_.Files.Read("Results/" +
-                                 exporter_.WriteKitPdf(easel_.Place, settings).filename().string());
+        exporter_.Write(OutputId::Pdf, easel_.Place, settings, easel_.Files / "Results/kit.pdf");
+        return easel_.Files.Read("Results/kit.pdf");
     }
 
     mutable test::Easel easel_;
@@ -54,7 +57,7 @@ TEST_F(Printing, ChartIsAPageOfA4ThatSaysItsResolution) {
     const Surface chart = Chart();
     EXPECT_EQ(chart.Width(), 2480);
     EXPECT_EQ(chart.Height(), 3508);
-    const std::string bytes = easel_.Files.Read("Results/Lady Easy Color Chart.BMP");
+    const std::string bytes = easel_.Files.Read("Results/chart.BMP");
     ASSERT_GT(bytes.size(), 54U);
     for (const std::size_t field : {38U, 42U}) {
         EXPECT_EQ(static_cast<unsigned char>(bytes[field]) +
@@ -63,7 +66,7 @@ TEST_F(Printing, ChartIsAPageOfA4ThatSaysItsResolution) {
     }
     EXPECT_EQ(easel_.State.PaintColors[1].CellCount, 7);
     (void)Chart();
-    EXPECT_EQ(easel_.Files.Read("Results/Lady Easy Color Chart.BMP"), bytes);
+    EXPECT_EQ(easel_.Files.Read("Results/chart.BMP"), bytes);
 }
 
 TEST_F(Printing, ChartCutsLongNamesShortInsteadOfRunningIntoTheFigures) {

@@ -16,18 +16,24 @@
 namespace vendrel {
 namespace {
 
+Surface DrawSheet(test::Easel& kit) {
+    NumberedPainting(kit.Place).WriteSheet(kit.Files / "sheet.BMP");
+    return ReadBitmap(kit.Files / "sheet.BMP");
+}
+
 // Three by three stipples, the middle one of another paint, painted as the program paints.
 struct PaintedKit : test::Easel {
     explicit PaintedKit(int stippleSize = 8) : Easel(stippleSize, {"111", "121", "111"}) {
         SetupBMPSymbols(Place);
         PaintAllCells(Place);
     }
+
+    [[nodiscard]] Surface Sheet() { return DrawSheet(*this); }
 };
 
 TEST(Sheet, ShowsDotsAndSymbolsOnWhite) {
     PaintedKit kit;
-    const SavedSheet saved = WriteSheet(kit.Place);
-    const Surface sheet = ReadBitmap(saved.File);
+    const Surface sheet = kit.Sheet();
     for (int y = 0; y < sheet.Height(); ++y) {
         for (int x = 0; x < sheet.Width(); ++x) {
             const Color color = sheet.Get(x, y);
@@ -53,7 +59,7 @@ TEST(Sheet, IsWhatTheWalkDrawsInItsOrder) {
         test::Easel kit(stippleSize, rows);
         SetupBMPSymbols(kit.Place);
         PaintAllCells(kit.Place);
-        const Surface drawn = ReadBitmap(WriteSheet(kit.Place).File);
+        const Surface drawn = DrawSheet(kit);
         ASSERT_EQ(drawn.Width(), scale * kit.Work().Width());
         ASSERT_EQ(drawn.Height(), scale * kit.Work().Height());
 
@@ -69,19 +75,18 @@ TEST(Sheet, IsWhatTheWalkDrawsInItsOrder) {
 
 TEST(Sheet, RefusedOneLeavesPictureAndFiles) {
     test::Bench bare;
-    EXPECT_THROW(WriteSheet(bare.Place), Error);  // nothing painted
+    EXPECT_THROW(NumberedPainting{bare.Place}, Error);  // nothing painted
     PaintedKit kit;
     const Surface painting = kit.Frames.WorkFrame.Picture;
     kit.State.PaintCount = 51;
     kit.State.PaintColors.resize(52);
-    EXPECT_THROW(PrintAll_Click(kit.Place), Error);
+    EXPECT_THROW(kit.Sheet(), Error);
     kit.State.PaintCount = 9;
     kit.State.SymbolGlyphs.clear();  // fails at the first stamp
     kit.Screen.IsWatched = true;
-    EXPECT_THROW(PrintAll_Click(kit.Place), Error);
+    EXPECT_THROW(kit.Sheet(), Error);
     EXPECT_EQ(kit.Frames.WorkFrame.Picture, painting);
-    EXPECT_FALSE(kit.Program.Exists("Results"));
-    EXPECT_EQ(kit.Screen.LastPointer, Pointer::Normal);
+    EXPECT_FALSE(kit.Program.Exists("sheet.BMP"));
 }
 
 TEST(Sheet, IsRefusedWhereSymbolsStandBeyondSixteenBits) {
@@ -92,10 +97,10 @@ TEST(Sheet, IsRefusedWhereSymbolsStandBeyondSixteenBits) {
         SetupBMPSymbols(kit.Place);
         PaintAllCells(kit.Place);
         if (rows == 2060) {
-            EXPECT_THROW(WriteSheet(kit.Place), OverflowError);
-            EXPECT_FALSE(kit.Program.Exists("Results"));
+            EXPECT_THROW(DrawSheet(kit), OverflowError);
+            EXPECT_FALSE(kit.Program.Exists("sheet.BMP"));
         } else {
-            EXPECT_EQ(ReadBitmapSize(WriteSheet(kit.Place).File).Height, 4 * 4 * 2047);
+            EXPECT_EQ(DrawSheet(kit).Height(), 4 * 4 * 2047);
         }
     }
 }
@@ -103,10 +108,11 @@ TEST(Sheet, IsRefusedWhereSymbolsStandBeyondSixteenBits) {
 TEST(Reference, ShowsTheSheetsDotsAndSymbolsOnTheEnlargedPainting) {
     PaintedKit kit;
     const Surface painting = kit.Frames.WorkFrame.Picture;
-    const SavedSheets saved = WriteSheets(kit.Place, {.Sheet = true, .Reference = true});
-    EXPECT_EQ(saved.Reference, kit.Files / "Results/Lady Easy Symbol Reference.BMP");
-    const Surface sheet = ReadBitmap(saved.Sheet);
-    const Surface reference = ReadBitmap(saved.Reference);
+    const NumberedPainting numbered(kit.Place);
+    numbered.WriteSheet(kit.Files / "sheet.BMP");
+    numbered.WriteReference(kit.Files / "reference.BMP");
+    const Surface sheet = ReadBitmap(kit.Files / "sheet.BMP");
+    const Surface reference = ReadBitmap(kit.Files / "reference.BMP");
     ASSERT_EQ(reference.Width(), sheet.Width());
     ASSERT_EQ(reference.Height(), sheet.Height());
     for (int y = 0; y < sheet.Height(); ++y) {
@@ -121,38 +127,22 @@ TEST(Reference, ShowsTheSheetsDotsAndSymbolsOnTheEnlargedPainting) {
     EXPECT_EQ(kit.Frames.WorkFrame.Picture, painting);
 }
 
-TEST(Sheets, AreTheSameBytesInAnyOrderAndCompany) {
+TEST(Sheets, AreTheSameBytesWhetherSomebodyWatchesOrNot) {
     PaintedKit kit;
-    SetupMenuItems(kit.MainMenu, 4);
-    const auto read = [&kit](const std::string& kind) {
-        return kit.Files.Read("Results/Lady Easy " + kind + ".BMP");
-    };
-    const auto painting = PrintWorkform_Click(kit.Place);
-    EXPECT_EQ(painting, kit.Files / "Results/Lady Easy Painting.BMP");
-    EXPECT_EQ(ReadBitmap(painting), kit.Work());
-    WriteSheets(kit.Place, {.Sheet = true, .Reference = true});
-    const auto first = std::array{read("Painting"), read("PBS"), read("Symbol Reference")};
-    EXPECT_TRUE(kit.State.SheetDC.Empty());
-    std::filesystem::remove_all(kit.Files / "Results");
-    kit.Screen.IsWatched = true;  // and sees the numbering
-    SaveReference_Click(kit.Place);
-    EXPECT_FALSE(kit.Program.Exists("Results/Lady Easy PBS.BMP"));
-    PrintAll_Click(kit.Place);
-    PrintWorkform_Click(kit.Place);
-    EXPECT_EQ((std::array{read("Painting"), read("PBS"), read("Symbol Reference")}), first);
-    EXPECT_TRUE(kit.MainMenu[MenuId::PrintMenu].Enabled);
-    EXPECT_EQ(kit.Screen.LastPointer, Pointer::Normal);
+    const Surface painting = kit.Work();
+    std::vector<std::string> files;
+    for (const bool watched : {false, true}) {
+        kit.Screen.IsWatched = watched;  // and sees the numbering
+        const NumberedPainting numbered(kit.Place);
+        numbered.WriteReference(kit.Files / "reference.BMP");
+        numbered.WriteSheet(kit.Files / "sheet.BMP");
+        WritePainting(kit.Place, kit.Files / "painting.BMP");
+        files.push_back(kit.Files.Read("reference.BMP") + kit.Files.Read("sheet.BMP"));
+        EXPECT_EQ(ReadBitmap(kit.Files / "painting.BMP"), painting);
+        EXPECT_TRUE(kit.State.SheetDC.Empty());
+    }
+    EXPECT_EQ(files[0], files[1]);
     EXPECT_EQ(kit.Screen.Captions.back(), "Saving File, Please Wait....");
-}
-
-TEST(Sheets, AResultsFolderThatCannotBeWrittenIsNamed) {
-    PaintedKit kit;
-    kit.Files.Write("Results", "in the way");
-    EXPECT_THAT(
-        [&] { SaveReference_Click(kit.Place); },
-        testing::ThrowsMessage<FileError>(testing::HasSubstr("Lady Easy Symbol Reference.BMP")));
-    EXPECT_EQ(kit.Files.Read("Results"), "in the way");
-    EXPECT_EQ(kit.Screen.LastPointer, Pointer::Normal);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "convert/bitmap_reader.h"
 #include "program/studio.h"
 #include "support/text_file.h"
+#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -28,10 +29,10 @@ TEST(KitFiles, AKitIsASheetAPaintingAndAGridNamedAfterPhotoAndDifficulty) {
         studio.AddPhoto("ball.one.bmp");
         ASSERT_EQ(studio.Kit({studio.Path("ball.one.bmp"), "--difficulty", level}), 0)
             << studio.Err;
-        EXPECT_THAT(
-            studio.Names("Results"),
-            UnorderedElementsAre("ball " + word + " PBS.BMP", "ball " + word + " Painting.BMP",
-                                 "ball " + word + " Symbol Reference.BMP"));
+        EXPECT_THAT(studio.Names("Results"),
+                    UnorderedElementsAre(
+                        "ball " + word + " PBS.BMP", "ball " + word + " Painting.BMP",
+                        "ball " + word + " Symbol Reference.BMP", "ball " + word + " Kit.json"));
         EXPECT_THAT(studio.Names("Saved Stipples"), UnorderedElementsAre("ball-" + word + ".stp"));
         EXPECT_THAT(studio.Names("Pictures"), UnorderedElementsAre("ball.one.bmp"));
     }
@@ -148,14 +149,12 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
 class NamingExporter final : public Exporter {
   public:
     explicit NamingExporter(std::vector<std::string>& asked) : asked_(asked) {}
-    std::filesystem::path WriteColorChart(const Workplace& /*place*/) const override {
-        asked_.emplace_back("chart");
-        return "chart.file";
-    }
-    std::filesystem::path WriteKitPdf(const Workplace& /*place*/,
-                                      const PlanSettings& settings) const override {
-        asked_.push_back("pdf " + std::to_string(std::lround(settings.CanvasCm)));
-        return "pdf.file";
+    void Write(OutputId output, const Workplace& /*place*/, const PlanSettings& settings,
+               const Target& target) const override {
+        WriteWholeFile(target.File, "drawn");
+        asked_.push_back(output == OutputId::Chart
+                             ? "chart"
+                             : "pdf " + std::to_string(std::lround(settings.CanvasCm)));
     }
 
   private:
@@ -169,7 +168,7 @@ TEST(KitFiles, ChartAndPdfComeFromTheHalfWithFonts) {
     studio.MakeExporter = [&asked] { return std::make_unique<NamingExporter>(asked); };
     EXPECT_EQ(studio.Kit({"ball.bmp"}), 0);
     EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "pdf", "--canvas", "50cm"}), 0);
-    EXPECT_THAT(studio.Out, HasSubstr("pdf.file"));
+    EXPECT_THAT(studio.Out, HasSubstr("ball Easy Kit.pdf"));
     EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "sheet"}), 0);
     EXPECT_THAT(asked, testing::ElementsAre("chart", "pdf 50"));
 }
@@ -195,7 +194,8 @@ TEST(KitFiles, FoldersAndPhotosAreFoundWhateverTheirLetters) {
     EXPECT_THAT(studio.Err, HasSubstr("Paint Shop"));
     std::filesystem::remove(studio.Files / "data/paintlist.txt");
     EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "painting"}), 0) << studio.Err;
-    EXPECT_THAT(studio.Names("RESULTS"), UnorderedElementsAre("Ball Easy Painting.BMP"));
+    EXPECT_THAT(studio.Names("RESULTS"),
+                UnorderedElementsAre("Ball Easy Painting.BMP", "Ball Easy Kit.json"));
     EXPECT_THAT(studio.Names("Pictures"), IsEmpty());
 }
 

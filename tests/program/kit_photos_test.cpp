@@ -42,7 +42,8 @@ TEST_F(KitPhotos, APhotoOfAnotherFormatIsKeptAsABitmap) {
     ASSERT_EQ(studio_.Kit({studio_.Path("my.aunt.jpg"), "--outputs", "painting"}), 0)
         << studio_.Err;
     EXPECT_THAT(studio_.Names("Pictures"), UnorderedElementsAre("my-aunt.bmp"));
-    EXPECT_THAT(studio_.Names("Results"), UnorderedElementsAre("my-aunt Easy Painting.BMP"));
+    EXPECT_THAT(studio_.Names("Results"),
+                UnorderedElementsAre("my-aunt Easy Painting.BMP", "my-aunt Easy Kit.json"));
     EXPECT_THAT(studio_.Err, HasSubstr("Reading my.aunt.jpg\n"));
     EXPECT_THAT(studio_.Out, HasSubstr("--crop top"));
 }
@@ -67,7 +68,8 @@ TEST_F(KitPhotos, DifferentPhotosOfOneNameAreNumberedAndTheSameOneIsRefused) {
               1);
     EXPECT_THAT(studio_.Err, HasSubstr("named \"aunt\" too"));
     EXPECT_THAT(studio_.Names("Results"),
-                UnorderedElementsAre("aunt Easy Painting.BMP", "aunt 2 Easy Painting.BMP"));
+                UnorderedElementsAre("aunt Easy Painting.BMP", "aunt 2 Easy Painting.BMP",
+                                     "aunt Easy Kit.json", "aunt 2 Easy Kit.json"));
 }
 
 TEST_F(KitPhotos, WithoutDecodersOnlyBitmapsAreMade) {

@@ -32,7 +32,8 @@ TEST(KitTroubles, OnePhotoThatFailsDoesNotStopTheOthers) {
                                   HasSubstr("xxx.bmp: there is no such photo")));
     EXPECT_EQ(std::count(studio.Out.begin(), studio.Out.end(), '\n'), 6);
     EXPECT_THAT(studio.Names("Results"),
-                UnorderedElementsAre("good Easy Painting.BMP", "later Easy Painting.BMP"));
+                UnorderedElementsAre("good Easy Painting.BMP", "good Easy Kit.json",
+                                     "later Easy Painting.BMP", "later Easy Kit.json"));
 }
 
 TEST(KitTroubles, PhotosThatWouldShareTheirFilesAreRefusedFromTheSecondOn) {

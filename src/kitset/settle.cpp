@@ -1,0 +1,112 @@
+#include "kitset/settle.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "kitset/kit_list.h"
+#include "kitset/kit_lock.h"
+#include "kitset/outputs.h"
+#include "kitset/sha256.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsThere(const fs::path& file) {
+    std::error_code ignored;
+    return fs::is_regular_file(file, ignored);
+}
+
+// A file of this kit that waits no more has taken its place already, or always stood there.
+bool IsWhole(const KitPaths& paths, const KitList& list, const Output& output) {
+    const ListedFile* const file = list.Find(output.Id);
+    const fs::path waiting = paths.Waiting(output);
+    if (IsThere(waiting)) {
+        return file != nullptr && SumOfFile(waiting) == file->Sum;
+    }
+    return file == nullptr || file->Mark != list.Mark || SumOfFile(paths.File(output)) == file->Sum;
+}
+
+std::optional<KitName> KitWaitingIn(const std::string& name) {
+    const std::size_t gap = name.rfind(' ');
+    if (!name.starts_with(kWaitingStart) || gap < kWaitingStart.size()) {
+        return std::nullopt;
+    }
+    return KitName{name.substr(kWaitingStart.size(), gap - kWaitingStart.size()),
+                   name.substr(gap + 1)};
+}
+
+}  // namespace
+
+std::error_code TakePlaces(const KitPaths& paths) {
+    std::error_code failure;
+    for (const Output& output : AllOutputs()) {
+        const fs::path waiting = paths.Waiting(output);
+        if (IsThere(waiting)) {
+            fs::rename(waiting, paths.File(output), failure);
+        }
+        if (failure) {
+            return failure;
+        }
+    }
+    fs::rename(paths.WaitingList(), paths.List(), failure);
+    return failure;
+}
+
+void ClearWaiting(const KitPaths& paths) {
+    std::error_code ignored;
+    for (const Output& output : AllOutputs()) {
+        const fs::path folder = paths.Waiting(output).parent_path();
+        if (folder != paths.WaitingFolder()) {
+            fs::remove_all(folder, ignored);
+        }
+    }
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(paths.WaitingFolder(), ignored)) {
+        files.push_back(entry.path());
+    }
+    for (const fs::path& file : files) {
+        fs::remove_all(file, ignored);
+    }
+}
+
+void RemoveWaiting(const KitPaths& paths) {
+    ClearWaiting(paths);
+    std::error_code ignored;
+    fs::remove(paths.WaitingFolder(), ignored);
+}
+
+void SettleKit(const KitPaths& paths) {
+    const std::optional<KitList> list = ReadKitList(paths.WaitingList());
+    const bool whole = list && std::ranges::all_of(AllOutputs(), [&](const Output& output) {
+                           return IsWhole(paths, *list, output);
+                       });
+    // What cannot take its place now may at the next start.
+    if (!whole || !TakePlaces(paths)) {
+        ClearWaiting(paths);
+    }
+}
+
+void SettleKits(const ProgramFolder& folder) {
+    std::vector<KitName> kits;
+    std::error_code failure;
+    fs::directory_iterator entry(folder.Path("Results"), failure);
+    for (; !failure && entry != fs::directory_iterator(); entry.increment(failure)) {
+        if (auto kit = KitWaitingIn(entry->path().filename().string())) {
+            kits.push_back(std::move(*kit));
+        }
+    }
+    for (KitName& kit : kits) {
+        const KitPaths paths(folder, std::move(kit));
+        if (const auto lock = KitLock::Try(paths.WaitingFolder())) {
+            SettleKit(paths);
+            std::error_code notEmpty;
+            fs::remove(paths.WaitingFolder(), notEmpty);
+        }
+    }
+}
+
+}  // namespace vendrel

@@ -1,0 +1,73 @@
+#include "kitset/sha256.h"
+
+#include <fcntl.h>
+#include <nettle/sha2.h>
+#include <unistd.h>
+
+#include <vector>
+
+namespace vendrel {
+namespace {
+
+static_assert(std::tuple_size_v<Sha256> == SHA256_DIGEST_SIZE);
+
+constexpr std::size_t kBlockBytes = std::size_t{256} * 1024;  // stays in the second cache
+
+std::string HexOf(const Sha256& sum) {
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    std::string hex;
+    for (const std::uint8_t byte : sum) {
+        hex += kDigits[byte >> 4U];
+        hex += kDigits[byte & 15U];
+    }
+    return hex;
+}
+
+}  // namespace
+
+struct Sha256Stream::Context {
+    sha256_ctx Sums{};
+};
+
+Sha256Stream::Sha256Stream() : context_(std::make_unique<Context>()) {
+    sha256_init(&context_->Sums);
+}
+
+Sha256Stream::~Sha256Stream() = default;
+
+void Sha256Stream::Add(std::span<const std::byte> bytes) {
+    sha256_update(&context_->Sums, bytes.size(),
+                  reinterpret_cast<const std::uint8_t*>(bytes.data()));
+}
+
+std::string Sha256Stream::Hex() {
+    Sha256 sum{};
+    sha256_digest(&context_->Sums, sum.size(), sum.data());
+    return HexOf(sum);
+}
+
+Sha256 Sha256Of(std::string_view bytes) {
+    sha256_ctx context;
+    sha256_init(&context);
+    sha256_update(&context, bytes.size(), reinterpret_cast<const std::uint8_t*>(bytes.data()));
+    Sha256 sum{};
+    sha256_digest(&context, sum.size(), sum.data());
+    return sum;
+}
+
+std::string SumOfFile(const std::filesystem::path& path) {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (file < 0) {
+        return {};
+    }
+    Sha256Stream stream;
+    std::vector<std::byte> block(kBlockBytes);
+    ssize_t got = 0;
+    while ((got = read(file, block.data(), block.size())) > 0) {
+        stream.Add(std::span(block).first(static_cast<std::size_t>(got)));
+    }
+    close(file);
+    return got == 0 ? stream.Hex() : std::string();
+}
+
+}  // namespace vendrel

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace vendrel {
+
+/// What a kit can consist of, in the order in which it is written.
+enum class OutputId { Sheet, Reference, Painting, Chart, Grid, Pdf };
+
+}  // namespace vendrel

@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# Kills the program while it writes kits, two of one photo in turn, and looks at what stands in
+# Results after the next start: each list must agree with its files, and all files must be of one
+# kit, with nothing left waiting.
+#   kill_kits.sh PROGRAM PHOTO KILLS     kills one run after the other
+#   kill_kits.sh PROGRAM PHOTO --pairs N starts both kits at once, N times
+set -euo pipefail
+
+program=$1
+photo=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+name=$(basename "${photo%%.*}")
+
+# make PAINTS [COMMAND]...: writes the kit of so many paints over whatever stands there.
+make() {
+    local paints=$1
+    shift
+    "$@" "$program" kit "$photo" --folder "$work" --final-paints "$paints" --quiet --replace-grid \
+        --outputs sheet,reference,painting,grid
+}
+
+# settle: a start that writes no kit of this name. It fails, as there is no such photo.
+settle() {
+    "$program" kit "no such photo" --folder "$work" --outputs sheet --quiet >/dev/null 2>&1 || true
+}
+
+# fault: says what is wrong in Results.
+fault() {
+    local list="$work/Results/$name Easy Kit.json"
+    [ "$(find "$work/Results" "$work/Saved Stipples" -name '.*' | wc -l)" = 0 ] || echo "leftovers"
+    [ "$(grep -o '"mark":"[^"]*"' "$list" | sort -u | wc -l)" = 1 ] || echo "two marks"
+    [ "$(grep -c '"sha256"' "$list")" = 4 ] || echo "files missing from the list"
+    (cd "$work/Results" && sed -n 's/.*"sha256":"\([^"]*\)","file":"\([^"]*\)".*/\1  \2/p' \
+        "$list" | sha256sum --quiet -c >/dev/null 2>&1) || echo "sums differ"
+}
+
+make 16
+start=$(date +%s%N)
+make 50
+took=$((($(date +%s%N) - start) / 1000))
+faults=0
+killed=0
+count=$3
+[ "$3" = --pairs ] && count=$4
+for ((run = 1; run <= count; ++run)); do
+    if [ "$3" = --pairs ]; then
+        make 16 & first=$!
+        make 50 & second=$!
+        wait $first $second
+    else
+        moment=$(printf '0.%06d' $(((RANDOM * 32768 + RANDOM) % took)))
+        make $((run % 2 ? 16 : 50)) timeout --foreground -s KILL "$moment" || killed=$((killed + 1))
+        settle
+    fi
+    wrong=$(fault)
+    if [ -n "$wrong" ]; then
+        echo "run $run: $wrong"
+        faults=$((faults + 1))
+    fi
+done
+echo "$count runs, $killed killed, $faults times Results was not whole"
+[ $faults = 0 ]
