@@ -51,7 +51,7 @@ std::string BytesOf(const WorkState& state, std::string_view difficulty) {
 }  // namespace
 
 std::string KitMark(const Workplace& place) {
-    const Sha256 sum = Sha256Of(BytesOf(place.State, DifficultyWord(place.MainMenu)));
+    const Sha256 sum = Sha256Of(BytesOf(place.State, DifficultyWord(place.State)));
     std::uint64_t bits = 0;
     for (std::size_t i = 0; i < sizeof bits; ++i) {
         bits = bits << 8U | sum[i];
