@@ -1,19 +1,17 @@
 // The program that painters start. Loading the libraries for fonts and windows takes longer than
 // painting a picture, so whatever needs them is handed on to vendrel-studio, and a plain kit never
-// waits for them.
+// waits for them. Photos that are no bitmaps are read by a vendrel-studio beside it.
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 
 #include "app/program.h"
-#include "convert/foreign_photo.h"
+#include "convert/child_decoder.h"
 #include "kit/arguments.h"
-#include "kit/photo_lookup.h"
 #include "support/error.h"
 
 namespace {
@@ -22,43 +20,39 @@ namespace fs = std::filesystem;
 using vendrel::Arguments;
 using vendrel::Command;
 
-// Some files are no bitmaps in spite of their name. Missing ones are explained faster.
-bool NeedsDecoders(const vendrel::KitOptions& kit, const std::string& word) {
-    try {
-        return vendrel::NeedsDecoder(vendrel::FindPhoto(vendrel::ProgramFolder(kit.Folder), word));
-    } catch (const vendrel::FileError&) {
-        return false;
-    }
-}
-
 bool NeedsStudio(std::span<const std::string_view> words) {
     try {
         const Arguments arguments = vendrel::ParseArguments(words);
         return arguments.What == Command::Window || arguments.What == Command::Symbols ||
                (arguments.What == Command::Kit &&
-                (arguments.Kit.Outputs.Chart || arguments.Kit.Outputs.Pdf)) ||
-               std::ranges::any_of(arguments.Kit.Photos, [&arguments](const std::string& photo) {
-                   return NeedsDecoders(arguments.Kit, photo);
-               });
+                (arguments.Kit.Outputs.Chart || arguments.Kit.Outputs.Pdf));
     } catch (const vendrel::UsageError&) {
         return false;  // wrong usage is explained faster
     }
 }
 
-// Returns only where there is no studio.
-void BecomeStudio(char** argv) {
+// None in a build without fonts and windows.
+std::optional<fs::path> FindStudio() {
     const fs::path own = vendrel::OwnFolder();
     for (const fs::path& studio : {own / "vendrel-studio", own / VENDREL_STUDIO_WAY}) {
-        execv(studio.c_str(), argv);
+        if (access(studio.c_str(), X_OK) == 0) {
+            return studio;
+        }
     }
+    return std::nullopt;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     const auto words = vendrel::WordsOf(argc, argv);
-    if (NeedsStudio(words)) {
-        BecomeStudio(argv);
+    const std::optional<fs::path> studio = FindStudio();
+    if (!studio) {
+        return vendrel::RunProgram(words, {});
     }
-    return vendrel::RunProgram(words, {});
+    if (NeedsStudio(words)) {
+        execv(studio->c_str(), argv);
+    }
+    const vendrel::ChildDecoder decoder(*studio);
+    return vendrel::RunProgram(words, {.Decoder = &decoder});
 }

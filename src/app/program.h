@@ -13,13 +13,13 @@
 
 namespace vendrel {
 
-/// What only the half with fonts and windows can do; empty in the other.
+/// What only the half with fonts and windows can do, by itself or for the other.
 struct QtParts {
     const PhotoDecoder* Decoder = nullptr;
-    std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols;
-    std::function<std::unique_ptr<Exporter>()> MakeExporter;
+    std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols = {};
+    std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
     std::function<int(const std::filesystem::path& folder, const std::filesystem::path& shipped)>
-        OpenWindow;
+        OpenWindow = {};
 };
 
 /// The folder that holds the running program's file.

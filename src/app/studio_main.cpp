@@ -1,21 +1,27 @@
-// The half of the program that needs fonts and windows; vendrel starts it when it does.
+// The half of the program that needs fonts, photo decoders and windows; vendrel starts it when it
+// does.
 
+#include "app/decode_command.h"
 #include "app/program.h"
+#include "convert/child_decoder.h"
 #include "desktop/desktop.h"
-#include "export/photo_reader.h"
 #include "export/qt_exporter.h"
 #include "export/symbol_maker.h"
 
 int main(int argc, char** argv) {
-    const vendrel::PhotoReader reader;
+    const auto words = vendrel::WordsOf(argc, argv);
+    if (words.size() == 1 && words.front() == "--decode") {
+        return vendrel::RunDecodeCommand();
+    }
+    // Not by its path, where another version may lie by now.
+    const vendrel::ChildDecoder decoder("/proc/self/exe");
     const auto openWindow = [&](const std::filesystem::path& folder,
                                 const std::filesystem::path& shipped) {
-        return vendrel::RunDesktop(argc, argv, vendrel::ProgramFolder(folder, shipped));
+        return vendrel::RunDesktop(argc, argv, vendrel::ProgramFolder(folder, shipped), decoder);
     };
     return vendrel::RunProgram(
-        vendrel::WordsOf(argc, argv),
-        {.Decoder = &reader,
-         .MakeSymbols = vendrel::MakeSymbols,
-         .MakeExporter = [] { return std::make_unique<vendrel::QtExporter>(); },
-         .OpenWindow = openWindow});
+        words, {.Decoder = &decoder,
+                .MakeSymbols = vendrel::MakeSymbols,
+                .MakeExporter = [] { return std::make_unique<vendrel::QtExporter>(); },
+                .OpenWindow = openWindow});
 }

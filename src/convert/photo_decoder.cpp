@@ -6,9 +6,10 @@ namespace vendrel {
 namespace {
 
 [[noreturn]] void Refuse(const std::filesystem::path& photo) {
-    throw FormatError(photo, 0,
-                      "JPEG, PNG, WebP, TIFF, GIF and unusual bitmaps need the build with windows; "
-                      "this build reads .bmp only. Save the photo as .bmp.");
+    throw FormatError(
+        photo, 0,
+        "JPEG, PNG, WebP, TIFF, GIF, HEIC, AVIF and unusual bitmaps need the build with "
+        "windows; this build reads .bmp only. Save the photo as .bmp.");
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "convert/bitmap_header.h"
@@ -32,6 +34,10 @@ class PhotoDecoder {
     [[nodiscard]] virtual Surface Decode(const std::filesystem::path& photo,
                                          const ReadProgress& progress) const = 0;
 };
+
+/// The endings that a build with decoders reads.
+inline constexpr std::array<std::string_view, 11> kPhotoEndings = {
+    "avif", "bmp", "gif", "heic", "heif", "jpeg", "jpg", "png", "tif", "tiff", "webp"};
 
 /// The decoder of a build without windows: refuses every photo with a sentence on what to do.
 class NoPhotoDecoder final : public PhotoDecoder {

@@ -5,7 +5,8 @@
 
 namespace vendrel {
 
-Desktop::Desktop(ProgramFolder folder) : folder_(std::move(folder)) {}
+Desktop::Desktop(ProgramFolder folder, const PhotoDecoder* decoder)
+    : folder_(std::move(folder)), form_(place_, &exporter_, decoder) {}
 
 std::optional<int> Desktop::Start() {
     switch (window_.Works().Run([this] { form_.Form_Load(); })) {
@@ -19,13 +20,13 @@ std::optional<int> Desktop::Start() {
     }
 }
 
-int RunDesktop(int& argc, char** argv, const ProgramFolder& folder) {
+int RunDesktop(int& argc, char** argv, const ProgramFolder& folder, const PhotoDecoder& decoder) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vendrel"));
     QApplication::setDesktopFileName(QStringLiteral("vendrel"));
     // A message that is answered before the window opens is not the end.
     QApplication::setQuitOnLastWindowClosed(false);
-    Desktop desktop(folder);
+    Desktop desktop(folder, &decoder);
     if (const std::optional<int> status = desktop.Start()) {
         return *status;
     }

@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "convert/photo_decoder.h"
 #include "desktop/main_window.h"
-#include "export/photo_reader.h"
 #include "export/qt_exporter.h"
 #include "support/program_folder.h"
 
@@ -12,7 +12,8 @@ namespace vendrel {
 /// The program with its window: the work state, its surroundings and the views.
 class Desktop {
   public:
-    explicit Desktop(ProgramFolder folder);
+    /// The decoder must live as long; without one only bitmaps can be chosen.
+    explicit Desktop(ProgramFolder folder, const PhotoDecoder* decoder = nullptr);
 
     /// Starts up and shows the window; the status to end with when the program is over already.
     [[nodiscard]] std::optional<int> Start();
@@ -28,12 +29,12 @@ class Desktop {
     QtUi ui_{menu_};
     Workplace place_{state_, frames_, menu_, ui_, folder_};
     QtExporter exporter_;
-    PhotoReader reader_;
-    MainForm form_{place_, &exporter_, &reader_};
+    MainForm form_;
     MainWindow window_{place_, form_, ui_};
 };
 
 /// Runs the window until it is closed; gives the exit status. argc and argv as main has them.
-[[nodiscard]] int RunDesktop(int& argc, char** argv, const ProgramFolder& folder);
+[[nodiscard]] int RunDesktop(int& argc, char** argv, const ProgramFolder& folder,
+                             const PhotoDecoder& decoder);
 
 }  // namespace vendrel

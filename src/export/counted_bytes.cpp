@@ -11,17 +11,14 @@ CountedBytes::CountedBytes(QByteArray bytes) : bytes_(std::move(bytes)) {
     open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 }
 
-int CountedBytes::Percent() const {
-    return bytes_.isEmpty() ? 100 : static_cast<int>(furthest_ * 100 / bytes_.size());
-}
-
 qint64 CountedBytes::readData(char* data, qint64 maxSize) {
-    if (cancelled_) {
-        return -1;
-    }
     const qint64 count = std::clamp<qint64>(bytes_.size() - pos(), 0, maxSize);
     std::memcpy(data, bytes_.constData() + pos(), static_cast<std::size_t>(count));
-    furthest_ = std::max<qint64>(furthest_, pos() + count);
+    const auto percent = static_cast<int>((pos() + count) * 100 / std::max<qint64>(1, size()));
+    if (percent > percent_ && progress_) {
+        percent_ = percent;
+        progress_(percent);
+    }
     return count;
 }
 

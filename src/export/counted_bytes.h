@@ -2,20 +2,20 @@
 
 #include <QByteArray>
 #include <QIODevice>
-#include <atomic>
+#include <utility>
+
+#include "convert/photo_decoder.h"
 
 namespace vendrel {
 
-/// A file's bytes as a device that knows how far a decoder has come, and that can be shut while
-/// another thread reads from it.
+/// A file's bytes as a device that tells how far a decoder has come: decoders have no way to do so,
+/// but the bytes they took show it.
 class CountedBytes final : public QIODevice {
   public:
     explicit CountedBytes(QByteArray bytes);
 
-    /// 0..100: how much of the bytes was asked for so far.
-    [[nodiscard]] int Percent() const;
-    /// From now on reading fails, so that a decoder gives up at its next request.
-    void Cancel() { cancelled_ = true; }
+    /// Called from now on with how much of the bytes was asked for; must not throw.
+    void Report(ReadProgress progress) { progress_ = std::move(progress); }
 
     [[nodiscard]] qint64 size() const override { return bytes_.size(); }
 
@@ -25,8 +25,8 @@ class CountedBytes final : public QIODevice {
 
   private:
     QByteArray bytes_;
-    std::atomic<qint64> furthest_ = 0;
-    std::atomic<bool> cancelled_ = false;
+    int percent_ = 0;
+    ReadProgress progress_;
 };
 
 }  // namespace vendrel

@@ -3,36 +3,36 @@
 #include <QtCore/QString>
 #include <algorithm>
 #include <array>
-#include <atomic>
 
 namespace vendrel {
 namespace {
 
-// One program decodes one photo at a time, but on a thread of its own.
-std::atomic<bool> damaged = false;
-std::atomic<QtMessageHandler> others = nullptr;
+// A process decodes one photo at a time.
+bool damaged = false;
+bool outOfMemory = false;
+QtMessageHandler others = nullptr;
 
-// Bytes between two parts of a file, of which decoders complain as well, do no harm.
-bool IsDamage(const QString& text) {
-    static constexpr std::array kDamage = {"bad Huffman code", "premature end",
-                                           "bad arithmetic code", "nconsistent progression"};
-    return std::ranges::any_of(kDamage, [&text](const char* phrase) {
+template <std::size_t Count>
+bool HoldsOneOf(const QString& text, const std::array<const char*, Count>& phrases) {
+    return std::ranges::any_of(phrases, [&text](const char* phrase) {
         return text.contains(QLatin1String(phrase), Qt::CaseInsensitive);
     });
 }
 
-void Listen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (IsDamage(text)) {
-        damaged = true;
-    } else if (const QtMessageHandler handler = others) {
-        handler(type, context, text);
-    }
+// Bytes between two parts of a file, of which decoders complain as well, do no harm.
+void Listen(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
+    static constexpr std::array kDamage = {"bad Huffman code", "premature end",
+                                           "bad arithmetic code", "nconsistent progression"};
+    static constexpr std::array kMemory = {"insufficient memory", "out of memory"};
+    damaged = damaged || HoldsOneOf(text, kDamage);
+    outOfMemory = outOfMemory || HoldsOneOf(text, kMemory);
 }
 
 }  // namespace
 
 DecoderComplaints::DecoderComplaints() {
     damaged = false;
+    outOfMemory = false;
     others = qInstallMessageHandler(Listen);
 }
 
@@ -42,6 +42,10 @@ DecoderComplaints::~DecoderComplaints() {
 
 bool DecoderComplaints::Damaged() const {
     return damaged;
+}
+
+bool DecoderComplaints::OutOfMemory() const {
+    return outOfMemory;
 }
 
 }  // namespace vendrel

@@ -2,8 +2,9 @@
 
 namespace vendrel {
 
-/// Listens, while it lives, to what decoders say of a picture. A JPEG that is damaged in its middle
-/// is decoded all the same, with nonsense from there on; the decoder only remarks on it.
+/// Listens, while it lives, to what decoders say of a picture, and keeps it from the terminal. A
+/// JPEG that is damaged in its middle is decoded all the same, with nonsense from there on; the
+/// decoder only remarks on it.
 class DecoderComplaints {
   public:
     DecoderComplaints();
@@ -13,6 +14,8 @@ class DecoderComplaints {
 
     /// Whether one of them spoils the picture.
     [[nodiscard]] bool Damaged() const;
+    /// Whether there was not enough memory for it.
+    [[nodiscard]] bool OutOfMemory() const;
 };
 
 }  // namespace vendrel

@@ -1,222 +1,165 @@
 #include "export/photo_reader.h"
 
-#include <QImageReader>
-#include <QTransform>
+#include <QColorSpace>
 #include <algorithm>
-#include <array>
-#include <chrono>
-#include <cstdint>
-#include <cstdlib>
-#include <future>
-#include <string_view>
 #include <utility>
 
-#include "convert/bitmap_input.h"
-#include "export/counted_bytes.h"
-#include "export/decoder_complaints.h"
-#include "export/photo_structure.h"
+#include "convert/decoding_limits.h"
+#include "export/heif_photo.h"
 #include "export/qt_image.h"
-#include "support/error.h"
+#include "export/qt_photo.h"
 
 namespace vendrel {
 namespace {
 
-namespace fs = std::filesystem;
+// What the libraries and a decoder's tables take stays free.
+constexpr std::size_t kMemory = (kDecodingMegabytes - 48) << 20;
+constexpr std::size_t kMaxPixels = 300'000'000;  // those that shrink have to be read as well
 
-// Other things the toolkit could read (icons, drawings) are no photos, and some need a display.
-constexpr std::array<std::string_view, 8> kEndings = {"bmp", "gif", "jpeg", "jpg",
-                                                      "png", "tif", "tiff", "webp"};
-constexpr std::uint64_t kMaxFileBytes = std::uint64_t{1} << 30;
-// Decoders that shrink while they read hold little more than the result; the others hold all.
-constexpr qint64 kMaxShrinkablePixels = 300'000'000;
-constexpr qint64 kMaxPixels = 100'000'000;
-constexpr int kAllocationLimit = 1024;  // MiB, 100 megapixels of 8 bytes with room to spare
-
-// Not by the toolkit, which takes no names from old disks that are no valid UTF-8.
-QByteArray ReadBytes(const fs::path& photo) {
-    BitmapInput file(photo);
-    if (file.Size() > kMaxFileBytes) {
-        throw FormatError(photo, 0, "is larger than 1 GB. Save the photo as JPEG.");
-    }
-    QByteArray bytes(static_cast<qsizetype>(file.Size()), Qt::Uninitialized);
-    file.Read({reinterpret_cast<std::uint8_t*>(bytes.data()), file.Size()});
-    return bytes;
-}
-
-PhotoBytes BytesOf(const QByteArray& bytes) {
-    return {reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-            static_cast<std::size_t>(bytes.size())};
-}
-
-// How a stored picture is brought upright: mirrored, flipped, then turned a quarter clockwise.
-QImageIOHandler::Transformations TransformationFor(int exifOrientation) {
-    using Handler = QImageIOHandler;
-    static constexpr std::array<Handler::Transformation, 9> kTransformations = {
-        Handler::TransformationNone,     Handler::TransformationNone,
-        Handler::TransformationMirror,   Handler::TransformationRotate180,
-        Handler::TransformationFlip,     Handler::TransformationFlipAndRotate90,
-        Handler::TransformationRotate90, Handler::TransformationMirrorAndRotate90,
-        Handler::TransformationRotate270};
-    return kTransformations[static_cast<std::size_t>(exifOrientation)];
-}
-
-QImage Upright(QImage image, QImageIOHandler::Transformations transformation) {
-    const bool mirror = transformation.testFlag(QImageIOHandler::TransformationMirror);
-    const bool flip = transformation.testFlag(QImageIOHandler::TransformationFlip);
-    if (mirror || flip) {
-        image = std::move(image).mirrored(mirror, flip);
-    }
-    if (transformation.testFlag(QImageIOHandler::TransformationRotate90)) {
-        image = image.transformed(QTransform().rotate(90));
-    }
-    return image;
-}
-
-std::string Listed(const std::vector<std::string>& endings) {
+std::string Listed() {
     std::string list;
-    for (const std::string& ending : endings) {
-        list += (list.empty() ? "" : ", ") + ending;
+    for (const std::string_view ending : kPhotoEndings) {
+        list += (list.empty() ? "" : ", ") + std::string(ending);
     }
     return list;
 }
 
-// One photo file opened for reading: its bytes, and a decoder chosen by their content.
-class OpenPhoto {
+std::unique_ptr<PhotoSource> Open(PhotoBytes file) {
+    if (!QtFormatOf(file).empty()) {
+        return OpenQtPhoto(file);
+    }
+    if (IsHeif(file)) {
+        return OpenHeifPhoto(file);
+    }
+    throw Error("is no photo in a format that can be read here (" + Listed() +
+                "). Open it in a photo program and save it as JPEG or PNG.");
+}
+
+// Where the pixels of a stored picture lie in the upright one.
+class UprightOrder {
   public:
-    OpenPhoto(fs::path file, const std::vector<std::string>& endings)
-        : file_(std::move(file)), bytes_(ReadBytes(file_)), device_(bytes_), reader_(&device_) {
-        reader_.setDecideFormatFromContent(true);
-        const bool known = reader_.canRead() && std::ranges::count(endings, Format()) != 0;
-        if (!known) {
-            throw FormatError(file_, 0,
-                              "is no photo in a format that can be read here (" + Listed(endings) +
-                                  "). Open it in a photo program and save it as JPEG or PNG.");
-        }
-        transformation_ =
-            reader_.transformation() | TransformationFor(ChunkOrientation(BytesOf(bytes_)));
-        CheckSize();
-    }
+    UprightOrder(BitmapSize stored, QImageIOHandler::Transformations turn)
+        : origin_(IndexOf(stored, turn, 0, 0)),
+          stepX_(IndexOf(stored, turn, 1, 0) - origin_),
+          stepY_(IndexOf(stored, turn, 0, 1) - origin_) {}
 
-    [[nodiscard]] BitmapSize UprightSize() const {
-        const QSize size = StoredSize();
-        if (transformation_.testFlag(QImageIOHandler::TransformationRotate90)) {
-            return {size.height(), size.width()};
-        }
-        return {size.width(), size.height()};
-    }
-
-    [[nodiscard]] Surface Decode(const ReadProgress& progress) {
-        if (IsCutShort(BytesOf(bytes_))) {
-            ThrowBroken();
-        }
-        ShrinkLargePhoto();
-        const DecoderComplaints complaints;
-        QImage image = progress ? ReadWatched(progress) : reader_.read();
-        if (image.isNull() || complaints.Damaged()) {
-            ThrowBroken();
-        }
-        return ToSurface(Upright(std::move(image), transformation_));
+    [[nodiscard]] std::size_t At(int x, int y) const {
+        return static_cast<std::size_t>(origin_ + stepX_ * x + stepY_ * y);
     }
 
   private:
-    // The decoder that was chosen, or "" when it refuses the file at second sight.
-    [[nodiscard]] std::string Format() const { return reader_.format().toStdString(); }
-
-    // A bitmap whose rows are stored from the top is given a negative height.
-    [[nodiscard]] QSize StoredSize() const {
-        const QSize size = reader_.size();
-        return {std::abs(size.width()), std::abs(size.height())};
+    static std::ptrdiff_t IndexOf(BitmapSize stored, QImageIOHandler::Transformations turn, int x,
+                                  int y) {
+        using Handler = QImageIOHandler;
+        x = turn.testFlag(Handler::TransformationMirror) ? stored.Width - 1 - x : x;
+        y = turn.testFlag(Handler::TransformationFlip) ? stored.Height - 1 - y : y;
+        return turn.testFlag(Handler::TransformationRotate90)
+                   ? std::ptrdiff_t{x} * stored.Height + stored.Height - 1 - y
+                   : std::ptrdiff_t{y} * stored.Width + x;
     }
 
-    // Only a JPEG decoder never holds the whole.
-    [[nodiscard]] qint64 MostPixels() const {
-        if (Format() == "jpeg" || Format() == "jpg") {
-            return kMaxShrinkablePixels;
-        }
-        const qint64 pixelBytes =
-            std::max(4, QImage::toPixelFormat(reader_.imageFormat()).bitsPerPixel() / 8);
-        const bool shrinks = reader_.supportsOption(QImageIOHandler::ScaledSize);
-        return std::min(shrinks ? kMaxShrinkablePixels : kMaxPixels,
-                        (qint64{kAllocationLimit} << 20) / pixelBytes);
-    }
-
-    void CheckSize() const {
-        const QSize size = StoredSize();
-        if (size.isEmpty()) {
-            ThrowBroken();
-        }
-        const qint64 limit = MostPixels();
-        if (qint64{size.width()} * size.height() > limit) {
-            throw FormatError(file_, 0,
-                              "is too large: " + std::to_string(size.width()) + " x " +
-                                  std::to_string(size.height()) + " pixels, at most " +
-                                  std::to_string(limit / 1'000'000) +
-                                  " million can be read. Save it smaller.");
-        }
-    }
-
-    [[noreturn]] void ThrowBroken() const {
-        throw FormatError(file_, 0,
-                          "is damaged or cut short, so that the picture cannot be read. Copy the "
-                          "photo again from where it came from, or choose another one.");
-    }
-
-    // By powers of two: a JPEG decoder does those while it reads, without ever holding the whole.
-    void ShrinkLargePhoto() {
-        QImageReader::setAllocationLimit(kAllocationLimit);
-        const QSize size = StoredSize();
-        int divisor = 1;
-        while (std::max(size.width(), size.height()) / divisor > kMaxPhotoSide) {
-            divisor *= 2;
-        }
-        if (divisor > 1) {
-            reader_.setScaledSize(
-                {std::max(1, size.width() / divisor), std::max(1, size.height() / divisor)});
-        }
-    }
-
-    // Decoders have no way to report how far they are, but the bytes they took tell.
-    QImage ReadWatched(const ReadProgress& progress) {
-        struct CancelAtEnd {
-            CountedBytes& Device;
-            ~CancelAtEnd() { Device.Cancel(); }
-        };
-        auto reading = std::async(std::launch::async, [this] { return reader_.read(); });
-        // A progress function that throws leaves here: the decoder must not read on to the end.
-        const CancelAtEnd cancel{device_};
-        while (reading.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready) {
-            progress(device_.Percent());
-        }
-        progress(100);
-        return reading.get();
-    }
-
-    fs::path file_;
-    QByteArray bytes_;
-    CountedBytes device_;
-    QImageReader reader_;
-    QImageIOHandler::Transformations transformation_;
+    std::ptrdiff_t origin_;
+    std::ptrdiff_t stepX_;
+    std::ptrdiff_t stepY_;
 };
+
+// Rows of a picture, without a copy.
+QImage Strip(const QImage& image, int top, int rows) {
+    QImage strip(image.constScanLine(top), image.width(), std::min(rows, image.height() - top),
+                 image.bytesPerLine(), image.format());
+    strip.setColorTable(image.colorTable());
+    strip.setColorSpace(image.colorSpace());
+    return strip;
+}
+
+Color MeanOf(const Surface& picture, int left, int top, int side) {
+    if (side == 1) {
+        return picture.Get(left, top);
+    }
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    for (int y = top; y < top + side; ++y) {
+        for (const Color color : picture.Row(y).subspan(static_cast<std::size_t>(left),
+                                                        static_cast<std::size_t>(side))) {
+            red += RedOf(color);
+            green += GreenOf(color);
+            blue += BlueOf(color);
+        }
+    }
+    const int count = side * side;
+    return Rgb((red + count / 2) / count, (green + count / 2) / count, (blue + count / 2) / count);
+}
+
+// Strip by strip: a second whole copy of a large picture in other colors would not fit.
+void Deliver(const QImage& image, int divisor, BitmapSize size, const UprightOrder& order,
+             std::span<Color> pixels) {
+    constexpr int kStripRows = 64;
+    const int rows = std::max(1, kStripRows / divisor);
+    for (int first = 0; first < size.Height; first += rows) {
+        const Surface strip = ToSurface(Strip(image, first * divisor, rows * divisor));
+        const int last = std::min(first + rows, size.Height);
+        for (int y = first; y < last; ++y) {
+            for (int x = 0; x < size.Width; ++x) {
+                pixels[order.At(x, y)] = MeanOf(strip, x * divisor, (y - first) * divisor, divisor);
+            }
+        }
+    }
+}
 
 }  // namespace
 
-std::vector<std::string> PhotoReader::Endings() const {
-    const QList<QByteArray> supported = QImageReader::supportedImageFormats();
-    std::vector<std::string> endings;
-    for (const std::string_view ending : kEndings) {
-        if (supported.contains(QByteArrayView(ending.data(), std::ssize(ending)))) {
-            endings.emplace_back(ending);
-        }
+PhotoReader::PhotoReader(PhotoBytes file) : source_(Open(file)) {
+    const BitmapSize size = source_->Size();
+    while (std::max(size.Width, size.Height) / divisor_ > kMaxPhotoSide) {
+        divisor_ *= 2;
     }
-    return endings;
+    RequireMemory();
 }
 
-BitmapSize PhotoReader::Size(const fs::path& photo) const {
-    return OpenPhoto(photo, Endings()).UprightSize();
+void PhotoReader::RequireMemory() const {
+    const BitmapSize size = source_->Size();
+    const std::size_t pixels =
+        static_cast<std::size_t>(size.Width) * static_cast<std::size_t>(size.Height);
+    const std::size_t memory = source_->MemoryFor(divisor_);
+    if (memory <= kMemory && pixels <= kMaxPixels) {
+        return;
+    }
+    const double share =
+        static_cast<double>(kMemory) / static_cast<double>(std::max(memory, kMemory));
+    const auto most = static_cast<std::size_t>(static_cast<double>(pixels) * share);
+    throw Error("is too large: " + std::to_string(size.Width) + " x " +
+                std::to_string(size.Height) + " pixels, at most " +
+                std::to_string(std::min(most, kMaxPixels) / 1'000'000) +
+                " million of this kind can be read. Save it smaller.");
 }
 
-Surface PhotoReader::Decode(const fs::path& photo, const ReadProgress& progress) const {
-    return OpenPhoto(photo, Endings()).Decode(progress);
+BitmapSize PhotoReader::AsTurned(int divisor) const {
+    const BitmapSize stored = source_->Size();
+    const BitmapSize size{std::max(1, stored.Width / divisor),
+                          std::max(1, stored.Height / divisor)};
+    const bool lying = source_->Turn().testFlag(QImageIOHandler::TransformationRotate90);
+    return lying ? BitmapSize{size.Height, size.Width} : size;
+}
+
+BitmapSize PhotoReader::Size() const {
+    return AsTurned(1);
+}
+
+BitmapSize PhotoReader::PictureSize() const {
+    return AsTurned(divisor_);
+}
+
+void PhotoReader::Read(std::span<Color> pixels, const ReadProgress& progress) {
+    const QImage image = source_->Read(divisor_, progress);
+    const BitmapSize stored = source_->Size();
+    const BitmapSize size{std::max(1, stored.Width / divisor_),
+                          std::max(1, stored.Height / divisor_)};
+    const bool shrunk = image.size() == QSize(size.Width, size.Height);
+    if (!shrunk && image.size() != QSize(stored.Width, stored.Height)) {
+        ThrowDamaged();
+    }
+    Deliver(image, shrunk ? 1 : divisor_, size, UprightOrder(size, source_->Turn()), pixels);
 }
 
 }  // namespace vendrel

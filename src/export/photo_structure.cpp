@@ -63,6 +63,30 @@ bool JpegIsCutShort(PhotoBytes file) {
     return !HasAt(file, at, "\xFF\xD9");
 }
 
+struct JpegFrame {
+    bool Progressive = false;
+    std::size_t Channels = 0;
+    std::size_t Coefficients = 0;
+};
+
+// The frame's segment: height, width, then for each channel how finely it is sampled.
+JpegFrame JpegFrameAt(PhotoBytes file, std::size_t at) {
+    const auto number = [file, at](std::size_t from, std::size_t count) {
+        return NumberAt(file, at + from, count, ByteOrder::Big);
+    };
+    JpegFrame frame{number(1, 1) % 4 == 2, number(9, 1), 0};
+    std::size_t finest = 1;
+    std::size_t samples = 0;
+    for (std::size_t channel = 0; channel < frame.Channels; ++channel) {
+        const std::size_t sampling = number(11 + channel * 3, 1);
+        const std::size_t share = (sampling >> 4) * (sampling & 15);
+        finest = std::max(finest, share);
+        samples += share;
+    }
+    frame.Coefficients = number(5, 2) * number(7, 2) * samples / finest;
+    return frame;
+}
+
 std::size_t GifTableSize(std::uint8_t flags) {
     return (flags & 0x80) != 0 ? std::size_t{3} << ((flags & 7) + 1) : 0;
 }
@@ -137,6 +161,28 @@ bool IsCutShort(PhotoBytes file) {
         return GifIsCutShort(file);
     }
     return HasAt(file, 0, "BM") && BitmapIsCutShort(file);
+}
+
+std::size_t JpegCoefficientBytes(PhotoBytes file) {
+    const auto number = [file](std::size_t at, std::size_t count) {
+        return NumberAt(file, at, count, ByteOrder::Big);
+    };
+    JpegFrame frame;
+    for (std::size_t at = 2; at + 3 < file.size(); at += 2 + number(at + 2, 2)) {
+        const std::size_t marker = number(at + 1, 1);
+        if (marker == 0xDA) {
+            const bool oneScan = !frame.Progressive && number(at + 4, 1) >= frame.Channels;
+            return oneScan ? 0 : frame.Coefficients * sizeof(std::int16_t);
+        }
+        if (marker == 0xC0 || (marker > 0xC0 && marker <= 0xCF && marker % 4 != 0)) {
+            frame = JpegFrameAt(file, at);
+        }
+    }
+    return 0;
+}
+
+bool IsInterlacedPng(PhotoBytes file) {
+    return NumberAt(file, 28, 1, ByteOrder::Big) != 0;
 }
 
 int ChunkOrientation(PhotoBytes file) {

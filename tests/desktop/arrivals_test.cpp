@@ -3,6 +3,7 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "convert/child_decoder.h"
 #include "desktop/crop_view.h"
 #include "desktop/studio.h"
 #include "desktop/text.h"
@@ -27,7 +28,8 @@ class ArrivalsTest : public QObject {
   private slots:
     void AFileIsDroppedOnTheWindow() {
         const Studio studio;
-        Desktop desktop(studio.Folder());
+        const ChildDecoder decoder(VENDREL_STUDIO);
+        Desktop desktop(studio.Folder(), &decoder);
         QVERIFY(!desktop.Start());
         MainWindow& window = desktop.Window();
         QMimeData nothing;
@@ -58,7 +60,8 @@ class ArrivalsTest : public QObject {
 
     void APictureIsPasted() {
         const Studio studio;
-        Desktop desktop(studio.Folder());
+        const ChildDecoder decoder(VENDREL_STUDIO);
+        Desktop desktop(studio.Folder(), &decoder);
         QVERIFY(!desktop.Start());
         QVERIFY(QTest::qWaitForWindowActive(&desktop.Window()));
         QApplication::clipboard()->setImage(Square());
@@ -73,7 +76,8 @@ class ArrivalsTest : public QObject {
     void AFrameIsDraggedOverTheChosenPhoto() {
         const Studio studio;
         Save(Square(), studio.Files / "Pictures/aaa.png");
-        Desktop desktop(studio.Folder());
+        const ChildDecoder decoder(VENDREL_STUDIO);
+        Desktop desktop(studio.Folder(), &decoder);
         QVERIFY(!desktop.Start());
         QVERIFY(Choose(desktop.Window(), "LoadBMP"));
         QWidget& chooser = *QApplication::activeModalWidget();
