@@ -6,7 +6,8 @@ set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 if(VENDREL_QT)
-    # Loaded at run time, so that no library dependency shows them: WebP and TIFF decoders.
+    # Loaded at run time, so that no library dependency shows them: WebP and TIFF decoders. That on
+    # libheif, for HEIC and AVIF, is found by itself.
     set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-image-formats-plugins")
 endif()
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

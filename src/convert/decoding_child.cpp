@@ -19,8 +19,6 @@
 #include "convert/decoding_limits.h"
 #include "support/error.h"
 
-extern char** environ;
-
 namespace vendrel {
 namespace {
 

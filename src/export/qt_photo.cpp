@@ -3,6 +3,7 @@
 #include <QImageReader>
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
@@ -65,9 +66,12 @@ class QtPhoto final : public PhotoSource {
         if (divisor > 1 && Shrinks()) {
             return shrunk * sizeof(QRgb);
         }
-        // Some decoders hold the picture once more in their own way.
-        const bool twice = format_ == "webp" || format_ == "tiff";
-        return Area(size_) * (BytesPerPixel(reader_.imageFormat()) + (twice ? sizeof(QRgb) : 0));
+        const std::size_t depth = BytesPerPixel(reader_.imageFormat());
+        if (format_ == "webp") {  // holds the file and the picture once more
+            return Area(size_) * (depth + sizeof(QRgb)) + std::bit_ceil(file_.size());
+        }
+        const bool stripBeside = format_ == "tiff" && depth == sizeof(QRgb);
+        return Area(size_) * (depth + (stripBeside ? sizeof(QRgb) : 0));
     }
 
     [[nodiscard]] QImage Read(int divisor, const ReadProgress& progress) override {

@@ -72,8 +72,9 @@ int main(int argc, char** argv) {
     for (int number = 0; number < count; ++number) {
         std::string file = whole;
         Damage(static_cast<unsigned>(number)).Do(file);
-        const auto name = format + std::to_string(number) + "." + format;
-        std::ofstream(std::filesystem::path(words[1]) / name, std::ios::binary) << file;
+        std::filesystem::path name(words[1]);
+        name.append(format).concat(std::to_string(number)).concat(".").concat(format);
+        std::ofstream(name, std::ios::binary) << file;
     }
     return 0;
 }

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "convert/child_decoder.h"
 #include "export/encoded_photos.h"
 #include "support/error.h"
@@ -46,9 +48,9 @@ TEST_F(StudioDecoder, NamesThePhotoThatItRefuses) {
     QImage image(640, 480, QImage::Format_RGB32);
     image.fill(qRgb(10, 200, 90));
     for (const char* format : {"jpeg", "png", "gif", "tiff", "webp", "bmp", "heic", "avif"}) {
-        EXPECT_THAT(Refusal(Encoded(image, format).substr(0, 200)),
-                    HasSubstr("photo.any: is damaged or cut short"))
-            << format;
+        const std::string whole = Encoded(image, format);
+        const std::string cut = whole.substr(0, std::min<std::size_t>(200, whole.size() / 2));
+        EXPECT_THAT(Refusal(cut), HasSubstr("photo.any: is damaged or cut short")) << format;
     }
     EXPECT_THAT(Refusal("A letter to my aunt"), HasSubstr("photo.any: is no photo"));
 }

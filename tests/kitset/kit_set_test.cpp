@@ -80,6 +80,7 @@ TEST(Mark, ChangesWithPaintsStipplesAndDifficultyAlone) {
     const std::string touchedUp = KitMark(kit.Place);
     kit.State.PaintColors[3].PaintCode = "other";
     const std::string repainted = KitMark(kit.Place);
+    kit.State.Chosen.Level = Difficulty::Medium;
     EXPECT_THAT((std::set{mark, touchedUp, repainted, KitMark(kit.Place)}), testing::SizeIs(4));
 }
 
