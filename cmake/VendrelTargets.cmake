@@ -52,6 +52,8 @@ function(vendrel_test name)
         vendrel_test_headers_target()
     endif()
     target_precompile_headers(test_${name} REUSE_FROM vendrel_test_headers)
+    set_target_properties(test_${name} PROPERTIES
+        UNITY_BUILD ${VENDREL_UNITY_TESTS} UNITY_BUILD_BATCH_SIZE 0)
     add_test(NAME ${name} COMMAND test_${name})
 endfunction()
 

@@ -3,7 +3,7 @@
 # What the program is built from and runs with.
 build_packages=(
     g++ cmake ninja-build libcli11-dev nlohmann-json3-dev nettle-dev
-    qt6-base-dev qt6-svg-dev qt6-image-formats-plugins libheif-dev fonts-liberation
+    qt6-base-dev qt6-image-formats-plugins libheif-dev fonts-liberation
 )
 
 # install_missing PACKAGE...

@@ -116,7 +116,7 @@ BitmapChannel ChannelOf(const BitmapInput& input, std::uint32_t mask, int bits) 
     const int width = std::popcount(mask);
     const bool inOnePiece = mask >> low == (std::uint64_t{1} << width) - 1;
     if (!inOnePiece || low + width > bits) {
-        Refuse(input, "its colour masks make no sense.");
+        Refuse(input, "its color masks make no sense.");
     }
     // Of more than eight bits the upper eight say all that a paint can show.
     const int kept = std::min(width, 8);
@@ -136,7 +136,7 @@ void SetChannels(const BitmapInput& input, const Lead& lead, BitmapHeader& heade
         masks = {0x7C00, 0x3E0, 0x1F};
     }
     if ((masks[0] | masks[1] | masks[2]) == 0) {
-        Refuse(input, "its colour masks are empty.");
+        Refuse(input, "its color masks are empty.");
     }
     header.Red = ChannelOf(input, masks[0], header.BitsPerPixel);
     header.Green = ChannelOf(input, masks[1], header.BitsPerPixel);
@@ -163,7 +163,7 @@ std::uint64_t CountPalette(const BitmapInput& input, const Lead& lead, const Bit
     const std::uint64_t named = Le32(lead, 46);
     const std::uint64_t count = named == 0 ? most : named;
     if (start + 4 * count > header.PixelOffset) {
-        Refuse(input, "its palette of " + std::to_string(count) + " colours runs into its pixels.");
+        Refuse(input, "its palette of " + std::to_string(count) + " colors runs into its pixels.");
     }
     return std::min(count, most);
 }

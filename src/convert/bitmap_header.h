@@ -9,6 +9,10 @@
 
 namespace vendrel {
 
+/// How much of a file is read or written at once: one call for many rows, and the rows stay in the
+/// cache.
+inline constexpr std::size_t kBlockBytes = std::size_t{256} * 1024;
+
 /// A picture's size in pixels, as its file's header has it: may be 0 or negative.
 struct BitmapSize {
     int Width = 0;

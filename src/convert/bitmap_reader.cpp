@@ -8,9 +8,6 @@
 namespace vendrel {
 namespace {
 
-// Enough that reading costs one call per many rows, little enough to stay in the cache.
-constexpr std::size_t kBlockBytes = 256 * 1024;
-
 void ReadPlainRows(BitmapInput& input, const BitmapHeader& header, const RowSink& sink) {
     const auto rows = static_cast<std::size_t>(header.Size.Height);
     const std::size_t rowsPerBlock =

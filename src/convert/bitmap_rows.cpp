@@ -13,7 +13,7 @@ namespace {
 void CheckPalette(Color seen, const std::filesystem::path& file) {
     if (seen < 0) {
         throw FormatError(file, 0,
-                          "has pixels whose colour is missing from its palette. Open it in a "
+                          "has pixels whose color is missing from its palette. Open it in a "
                           "picture program and save it again as a BMP of 24 bits.");
     }
 }

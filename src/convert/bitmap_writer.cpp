@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "convert/bitmap_header.h"
 #include "convert/dib_section.h"
 #include "support/error.h"
 
@@ -14,7 +15,6 @@ namespace vendrel {
 namespace {
 
 constexpr std::size_t kHeaderBytes = 54;
-constexpr std::size_t kBlockBytes = 256 * 1024;
 
 using Header = std::array<std::uint8_t, kHeaderBytes>;
 

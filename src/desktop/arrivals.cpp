@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QUrl>
 
-#include "desktop/surface_image.h"
+#include "export/qt_image.h"
 
 namespace vendrel {
 namespace {

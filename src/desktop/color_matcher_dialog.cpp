@@ -6,8 +6,8 @@
 #include "desktop/list_box.h"
 #include "desktop/named.h"
 #include "desktop/paint_items.h"
-#include "desktop/surface_image.h"
 #include "desktop/text.h"
+#include "export/qt_image.h"
 #include "output/chart_contents.h"
 
 namespace vendrel {

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/surface_image.h"
+#include "export/qt_image.h"
 
 namespace vendrel {
 namespace {

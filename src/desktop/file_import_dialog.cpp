@@ -10,8 +10,8 @@
 
 #include "desktop/list_box.h"
 #include "desktop/named.h"
-#include "desktop/surface_image.h"
 #include "desktop/text.h"
+#include "export/qt_image.h"
 
 namespace vendrel {
 namespace {

@@ -15,7 +15,7 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
       paper_(Named<QComboBox>("Paper", tr("Paper"))),
       legible_(Named<QRadioButton>("LegibleCanvas", tr("As many pages as legible symbols need"))),
       chosenSize_(Named<QRadioButton>("ChosenCanvas", tr("A canvas of a chosen width"))),
-      width_(Named<QDoubleSpinBox>("CanvasWidth", tr("Width of the canvas in centimetres"))) {
+      width_(Named<QDoubleSpinBox>("CanvasWidth", tr("Width of the canvas in centimeters"))) {
     setWindowTitle(tr("Save Kit as PDF"));
     paper_->addItems({tr("A4"), tr("Letter"), tr("A3")});
     connect(paper_, &QComboBox::activated, this, [this](int index) {

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "desktop/surface_image.h"
+#include "export/qt_image.h"
 
 namespace vendrel {
 

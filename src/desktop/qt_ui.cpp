@@ -10,8 +10,8 @@
 #include <algorithm>
 
 #include "desktop/picture_view.h"
-#include "desktop/surface_image.h"
 #include "desktop/text.h"
+#include "export/qt_image.h"
 #include "support/disk.h"
 
 namespace vendrel {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/text.h"
+#include "output/chart_contents.h"
 
 namespace vendrel {
 namespace {
@@ -15,11 +16,6 @@ namespace {
 constexpr int kSmallestWithGap = 6;
 
 }  // namespace
-
-QString DescribePaint(const PaintColor& paint) {
-    return Text(paint.Mfg) + QStringLiteral(": ") + Text(paint.PaintName) + QStringLiteral(" [") +
-           Text(paint.PaintCode) + QStringLiteral("]");
-}
 
 SwatchBox::SwatchBox(std::function<const PaintColor*(int)> paintAt, QWidget* parent)
     : QWidget(parent), paintAt_(std::move(paintAt)) {}
@@ -50,7 +46,7 @@ bool SwatchBox::event(QEvent* event) {
     const int index = layout_.IndexAt(help->pos().x(), help->pos().y());
     if (const PaintColor* paint = paintAt_(index)) {
         QToolTip::showText(
-            help->globalPos(), DescribePaint(*paint), this,
+            help->globalPos(), Text(PaintLabel(*paint)), this,
             QRect(layout_.Left(index), layout_.Top(index), layout_.Size, layout_.Size));
     } else {
         QToolTip::hideText();

@@ -31,7 +31,4 @@ class SwatchBox : public QWidget {
     SwatchLayout layout_;
 };
 
-/// "Set: Name [Code]"
-[[nodiscard]] QString DescribePaint(const PaintColor& paint);
-
 }  // namespace vendrel

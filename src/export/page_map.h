@@ -16,7 +16,8 @@ QRectF DrawPageMap(QPainter& painter, const PagePlan& pages, const QRectF& box,
 /// The largest rectangle of the plan's shape in `box`, in the middle of its upper edge.
 [[nodiscard]] QRectF PageMapRect(const PagePlan& pages, const QRectF& box);
 
-/// A line of exactly five centimetres with a mark at each, `box` being as tall as its text.
+/// A line of exactly five centimetres with a mark at each, to the right of
+/// `start`.
 void DrawRuler(QPainter& painter, QPointF start);
 
 }  // namespace vendrel

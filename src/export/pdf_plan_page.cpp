@@ -46,10 +46,6 @@ class PlanPage {
     [[nodiscard]] QPointF At(const PlanPoint& pixel) const {
         return At(pixel.X * kit_.Plan.MmPerPixel, pixel.Y * kit_.Plan.MmPerPixel);
     }
-    [[nodiscard]] PlanRect InPixels(const PlanRect& part) const {
-        const double scale = kit_.Plan.MmPerPixel;
-        return {part.Left / scale, part.Top / scale, part.Right / scale, part.Bottom / scale};
-    }
 
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
@@ -96,7 +92,8 @@ void PlanPage::DrawOutlines() {
     pen.setJoinStyle(Qt::MiterJoin);
     pen.setCapStyle(Qt::SquareCap);
     painter_.setPen(pen);
-    for (const PlanLine& line : ClipLines(kit_.Plan.Lines, InPixels(tile_.Shown))) {
+    for (const PlanLine& line :
+         ClipLines(kit_.Plan.Lines, InPixels(tile_.Shown, kit_.Plan.MmPerPixel))) {
         QPolygonF points;
         points.reserve(static_cast<qsizetype>(line.size()));
         for (const PlanPoint& point : line) {
@@ -107,8 +104,8 @@ void PlanPage::DrawOutlines() {
 }
 
 void PlanPage::DrawSymbols() {
-    const PlanRect own = InPixels(tile_.Own);
-    const PlanRect shown = InPixels(tile_.Shown);
+    const PlanRect own = InPixels(tile_.Own, kit_.Plan.MmPerPixel);
+    const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.MmPerPixel);
     const SymbolAspects aspects = kit_.Symbols.Aspects();
     painter_.setPen(kSymbolInk);
     for (const PlanLabel& label : kit_.Plan.Labels) {
@@ -175,7 +172,8 @@ void PlanPage::DrawCropMarks() {
 }
 
 void PlanPage::DrawLegend() {
-    const std::vector<int> paints = PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own));
+    const std::vector<int> paints =
+        PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own, kit_.Plan.MmPerPixel));
     const int columns = Design::LegendColumns(sheet_.Width);
     const int rows = (static_cast<int>(paints.size()) + columns - 1) / columns;
     const double width = Design::ListWidth(sheet_.Width) / columns;

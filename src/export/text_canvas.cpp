@@ -7,6 +7,7 @@
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 
+#include "export/print_fonts.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -17,10 +18,6 @@ constexpr const char* kFamily = "Liberation Mono";
 // A symbol takes as many pixels whatever the screen: 96 dots to the inch.
 int PixelsOf(int points) {
     return points * 96 / 72;
-}
-
-QColor ToQt(Color color) {
-    return {RedOf(color), GreenOf(color), BlueOf(color)};
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
+#include "forms/list_entries.h"
 #include "forms/photo_intake.h"
 #include "forms/photo_look.h"
 #include "forms/reading_shown.h"
@@ -25,10 +26,6 @@ constexpr int kPreviewEdge = 260;  // pixels
 const PhotoDecoder& OrNone(const PhotoDecoder* decoder) {
     static const NoPhotoDecoder none;
     return decoder != nullptr ? *decoder : none;
-}
-
-bool Holds(const std::vector<std::string>& list, int index) {
-    return index >= 0 && static_cast<std::size_t>(index) < list.size();
 }
 
 }  // namespace

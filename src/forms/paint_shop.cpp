@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "convert/photo_import.h"
+#include "forms/list_entries.h"
 #include "paints/paint_list.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
@@ -16,10 +17,6 @@ namespace {
 
 constexpr std::string_view kNoneSelected = "None Selected";
 constexpr std::string_view kNoTemplates = "No Templates";
-
-bool Holds(const std::vector<std::string>& list, int index) {
-    return index >= 0 && static_cast<std::size_t>(index) < list.size();
-}
 
 int IndexOf(const std::vector<std::string>& list, const std::string& entry) {
     const auto found = std::find(list.begin(), list.end(), entry);

@@ -6,6 +6,7 @@
 
 #include "convert/working_size.h"
 #include "kit/printable.h"
+#include "support/size_text.h"
 #include "support/text_file.h"
 
 namespace vendrel {
@@ -25,10 +26,6 @@ std::string Decimals(double number, int places) {
 
 std::string OneDecimal(double number) {
     return Decimals(number, 1);
-}
-
-std::string Times(int across, int down) {
-    return std::to_string(across) + " x " + std::to_string(down);
 }
 
 void AddLine(std::string& text, std::string label, const std::string& value) {
@@ -117,11 +114,12 @@ std::string LineOf(const Json& json) {
 std::string SummaryOf(const KitReport& report) {
     std::string text = Printable(report.Photo) + ", " + report.Difficulty + "\n";
     AddLine(text, "picture", report.Picture);
-    AddLine(text, "photo", Times(report.PhotoSize.Width, report.PhotoSize.Height) + " pixels");
+    AddLine(text, "photo", SizeText(report.PhotoSize.Width, report.PhotoSize.Height) + " pixels");
     AddLine(text, "worked at",
-            Times(report.WorkingSize.Width, report.WorkingSize.Height) + " pixels, stretched by " +
+            SizeText(report.WorkingSize.Width, report.WorkingSize.Height) +
+                " pixels, stretched by " +
                 OneDecimal(StretchPercent(report.PhotoSize, report.WorkingSize)) + " %");
-    AddLine(text, "stipples", Times(report.CellsAcross, report.CellsDown));
+    AddLine(text, "stipples", SizeText(report.CellsAcross, report.CellsDown));
     AddLine(text, "paints",
             (report.FromGrid ? "" : std::to_string(report.PaintsMatched) + " matched, ") +
                 std::to_string(report.PaintsKept) + " kept");

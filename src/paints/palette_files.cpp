@@ -182,7 +182,7 @@ std::vector<PaintColor> ReadPaletteFile(const fs::path& file) {
     std::vector<PaintColor> paints =
         ending == ".gpl" ? ParseGplPalette(text, file) : ParseColorCsv(text, file);
     if (paints.size() <= 1) {
-        throw FileError(file, "holds no colours. Choose another palette.");
+        throw FileError(file, "holds no colors. Choose another palette.");
     }
     return paints;
 }

@@ -15,7 +15,7 @@ namespace {
 // Too little of a picture to be worth a page.
 constexpr double kSmallestShare = 20;
 
-constexpr double kRounding = 1e-9;
+constexpr double kLengthRounding = 1e-9;
 
 // Where the shares of a length begin and, at last, where it ends.
 using Cuts = std::vector<double>;
@@ -45,7 +45,7 @@ double OverlapBehind(std::size_t share, const Cuts& cuts) {
 
 bool Fit(const Cuts& cuts, double room) {
     for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
-        if (cuts[i + 1] - cuts[i] + OverlapBehind(i, cuts) > room + kRounding) {
+        if (cuts[i + 1] - cuts[i] + OverlapBehind(i, cuts) > room + kLengthRounding) {
             return false;
         }
     }
@@ -85,7 +85,7 @@ PagePlan TilesOf(const CanvasToCut& canvas, const PaperChoice& paper, const Cuts
 }
 
 bool HoldsItsLists(const PagePlan& plan) {
-    const double room = RoomOn(plan.Paper).Height + kRounding;
+    const double room = RoomOn(plan.Paper).Height + kLengthRounding;
     return std::ranges::all_of(plan.Tiles, [room](const PageTile& tile) {
         return tile.Shown.Bottom - tile.Shown.Top + tile.ListHeight <= room;
     });

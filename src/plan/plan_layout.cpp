@@ -56,11 +56,6 @@ std::vector<PaperChoice> ChoicesFor(Paper paper) {
     return {{upright, frame}, {{upright.Height, upright.Width}, frame}};
 }
 
-PlanRect InPixels(const PlanRect& part, double mmPerPixel) {
-    return {part.Left / mmPerPixel, part.Top / mmPerPixel, part.Right / mmPerPixel,
-            part.Bottom / mmPerPixel};
-}
-
 // Paper that is printed anyway may as well carry larger symbols.
 double Growth(const PagePlan& pages) {
     const double largest = std::min(RoomToGrow(pages), kLargestSymbolMm / kLegibleSymbolMm);
@@ -110,6 +105,11 @@ CutPixels CutsInPixels(const PrintPlan& plan) {
 }
 
 }  // namespace
+
+PlanRect InPixels(const PlanRect& part, double mmPerPixel) {
+    return {part.Left / mmPerPixel, part.Top / mmPerPixel, part.Right / mmPerPixel,
+            part.Bottom / mmPerPixel};
+}
 
 double PlanPageDesign::ListWidth(double paperWidth) {
     return paperWidth - kLeft - kMargin;

@@ -49,6 +49,9 @@ struct PrintPlan {
     double MmPerPixel = 0;
 };
 
+/// A part of the canvas in millimeters as one of the painted picture in pixels.
+[[nodiscard]] PlanRect InPixels(const PlanRect& part, double mmPerPixel);
+
 /// Lays out the painted picture for printing; `aspects` are those of the symbols as they will be
 /// drawn. Without a canvas asked for it takes the fewest pages on which symbols can be read, and
 /// then the largest canvas that those pages hold. Throws Error for an unpainted picture, more

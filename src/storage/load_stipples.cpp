@@ -7,6 +7,7 @@
 #include "drawing/stipple_brush.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
+#include "support/size_text.h"
 #include "support/text_file.h"
 
 namespace vendrel {
@@ -24,10 +25,6 @@ CellPos PhotoCells(const Workplace& place) {
     const WorkState& state = place.State;
     return {state.PictureWidth / twips.X / state.StippleSize,
             state.PictureHeight / twips.Y / state.StippleSize};
-}
-
-std::string SizeText(int across, int down) {
-    return std::to_string(across) + " x " + std::to_string(down);
 }
 
 // Reading would run past the end of the file; its counts are right, the photo is another one.

@@ -5,6 +5,7 @@
 
 #include "storage/stipple_file.h"
 #include "support/error.h"
+#include "support/size_text.h"
 #include "support/text_file.h"
 #include "touchup/clean_up.h"
 #include "touchup/sheet_file.h"
@@ -30,10 +31,6 @@ void RefuseFlaw(const EditSheet& sheet, const char* refusal) {
         throw Error(refusal + (" because a load broke off: " + flaw) +
                     ". Take the load back with Undo first.");
     }
-}
-
-std::string SizeText(int across, int down) {
-    return std::to_string(across) + " x " + std::to_string(down) + " stipples";
 }
 
 }  // namespace
@@ -205,8 +202,8 @@ AcceptReport TouchUp::Accept() {
     const Grid<StippleCell>& photo = state.Stipples;
     if (sheet_.Across() != photo.Across() || sheet_.Down() != photo.Down()) {
         throw Error("The loaded grid has " + SizeText(sheet_.Across(), sheet_.Down()) +
-                    ", but the photo has " + SizeText(photo.Across(), photo.Down()) +
-                    ". Take the load back with Undo first.");
+                    " stipples, but the photo has " + SizeText(photo.Across(), photo.Down()) +
+                    " stipples. Take the load back with Undo first.");
     }
     state.HasUnsavedWork = !IsSaved() && (unsavedAtOpening_ || history_.StateId() != 0);
     return TakeOverCopies(state);
@@ -232,12 +229,12 @@ CellRect TouchUp::TakeRecovery() {
     StippleFileReader reader(text, path);
     const StippleHeader header = reader.Header();
     if (header.Across != state.CellsAcross || header.Down != state.CellsDown) {
-        throw FormatError(path, 1,
-                          "the work was done on " + SizeText(header.Across, header.Down) +
-                              ", but the photo has " +
-                              SizeText(state.CellsAcross, state.CellsDown) +
-                              ". Choose the photo again on the screen it was made on, or give the "
-                              "work up.");
+        throw FormatError(
+            path, 1,
+            "the work was done on " + SizeText(header.Across, header.Down) +
+                " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
+                " stipples. Choose the photo again on the screen it was made on, or give the "
+                "work up.");
     }
     SheetContents found{
         reader.ReadPalette(), header.PaintCount, Grid<StippleCell>(header.Across, header.Down),

@@ -15,8 +15,8 @@
 namespace vendrel {
 namespace {
 
-const Surface kRed(5, 3, Rgb(200, 10, 10));
-const Surface kBlue(5, 3, Rgb(10, 10, 200));
+const Surface kRedPhoto(5, 3, Rgb(200, 10, 10));
+const Surface kBluePhoto(5, 3, Rgb(10, 10, 200));
 
 class ForeignPhotoTest : public ::testing::Test {
   protected:
@@ -26,12 +26,12 @@ class ForeignPhotoTest : public ::testing::Test {
 
 TEST_F(ForeignPhotoTest, KeepsEveryPictureOnceAsABitmap) {
     for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(KeepPicture(folder_, "aunt", kRed), "aunt.bmp");
-        EXPECT_EQ(KeepPicture(folder_, "aunt", kBlue), "aunt 2.bmp");
-        EXPECT_EQ(KeepCrop(folder_, "aunt.bmp", kRed), "aunt crop.bmp");
-        EXPECT_EQ(KeepCrop(folder_, "aunt.bmp", kBlue), "aunt crop 2.bmp");
+        EXPECT_EQ(KeepPicture(folder_, "aunt", kRedPhoto), "aunt.bmp");
+        EXPECT_EQ(KeepPicture(folder_, "aunt", kBluePhoto), "aunt 2.bmp");
+        EXPECT_EQ(KeepCrop(folder_, "aunt.bmp", kRedPhoto), "aunt crop.bmp");
+        EXPECT_EQ(KeepCrop(folder_, "aunt.bmp", kBluePhoto), "aunt crop 2.bmp");
     }
-    EXPECT_EQ(ReadBitmap(files_ / "Pictures/aunt.bmp"), kRed);
+    EXPECT_EQ(ReadBitmap(files_ / "Pictures/aunt.bmp"), kRedPhoto);
     const std::filesystem::directory_iterator pictures(files_ / "Pictures");
     EXPECT_EQ(std::distance(begin(pictures), end(pictures)), 4);
 }
@@ -58,7 +58,7 @@ TEST_F(ForeignPhotoTest, TwoPhotosOfOneNameAtOnceAreBothKept) {
 TEST_F(ForeignPhotoTest, NeverWritesOverAnotherPhoto) {
     files_.Write("Pictures/aunt.bmp", "not ours");
     files_.Write("Pictures/AUNT 2.BMP", "nor this");
-    EXPECT_EQ(KeepPicture(folder_, "aunt", kRed), "aunt 3.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "aunt", kRedPhoto), "aunt 3.bmp");
     EXPECT_EQ(files_.Read("Pictures/aunt.bmp"), "not ours");
     EXPECT_EQ(files_.Read("Pictures/AUNT 2.BMP"), "nor this");
 }
@@ -66,8 +66,8 @@ TEST_F(ForeignPhotoTest, NeverWritesOverAnotherPhoto) {
 TEST_F(ForeignPhotoTest, LeavesNamesAloneWhoseResultsWouldMix) {
     files_.Write("Pictures/aunt.old.bmp", "its grid is kept as aunt-Easy.stp");
     files_.Write("Pictures/uncle.jpg", "no bitmap, in nobody's way");
-    EXPECT_EQ(KeepPicture(folder_, "Aunt", kRed), "Aunt 2.bmp");
-    EXPECT_EQ(KeepPicture(folder_, "uncle", kRed), "uncle.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "Aunt", kRedPhoto), "Aunt 2.bmp");
+    EXPECT_EQ(KeepPicture(folder_, "uncle", kRedPhoto), "uncle.bmp");
 }
 
 TEST_F(ForeignPhotoTest, NamesHaveNoDots) {

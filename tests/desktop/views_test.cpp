@@ -3,8 +3,8 @@
 
 #include "desktop/about_dialog.h"
 #include "desktop/studio.h"
-#include "desktop/surface_image.h"
 #include "desktop/text.h"
+#include "export/qt_image.h"
 
 namespace vendrel::test {
 

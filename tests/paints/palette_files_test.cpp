@@ -44,7 +44,7 @@ TEST(PaletteFiles, NamesTheLineThatIsBroken) {
                                            {"a.gpl", "GIMP Palette\n1 2 300 x\n", "line 2"},
                                            {"a.csv", "1,2,3,x\n1,2\n", "line 2"},
                                            {"a.csv", "name,red,green\nx,1,2\n", "line 1"},
-                                           {"a.csv", "red,green,blue,name\n", "no colours"},
+                                           {"a.csv", "red,green,blue,name\n", "no colors"},
                                            {"a.txt", "", ".gpl or a .csv"}}) {
         const auto path = folder.Write(file, text);
         EXPECT_THAT([&] { (void)ReadPaletteFile(path); },

@@ -15,7 +15,7 @@ using testing::ElementsAre;
 
 constexpr double kList = 40;
 
-CanvasToCut Canvas(SizeMm size, StippleRuler stipples = {}) {
+CanvasToCut CanvasOf(SizeMm size, StippleRuler stipples = {}) {
     return {size, stipples, [](const PaperChoice&, const PlanRect&) { return kList; }};
 }
 
@@ -48,7 +48,7 @@ TEST(PageTiling, CoversEveryCanvasExactlyAndFitsThePaper) {
         for (const SizeMm size :
              {SizeMm{100, 80}, SizeMm{180, 217}, SizeMm{180.01, 217.01}, SizeMm{812.7, 609.3},
               SizeMm{50, 2900}, SizeMm{1000.0 / 3, 333}}) {
-            const PagePlan plan = PlanPages(Canvas(size, stipples), kA4);
+            const PagePlan plan = PlanPages(CanvasOf(size, stipples), kA4);
             ExpectExactCover(plan);
             const PaperChoice& paper = plan.Paper;
             for (const PageTile& tile : plan.Tiles) {
@@ -65,12 +65,12 @@ TEST(PageTiling, CoversEveryCanvasExactlyAndFitsThePaper) {
 
 TEST(PageTiling, GrowsAsFarAsItsPagesReach) {
     for (const SizeMm size : {SizeMm{100, 80}, SizeMm{533, 400}, SizeMm{200, 900}}) {
-        const PagePlan plan = PlanPages(Canvas(size), kA4);
+        const PagePlan plan = PlanPages(CanvasOf(size), kA4);
         const double room = RoomToGrow(plan);
         const PagePlan grown = Enlarged(plan, room);
         ExpectExactCover(grown);
         const auto pages = [&](double times) {
-            return PlanPages(Canvas(Enlarged(plan, times).Canvas), {plan.Paper}).Tiles.size();
+            return PlanPages(CanvasOf(Enlarged(plan, times).Canvas), {plan.Paper}).Tiles.size();
         };
         EXPECT_EQ(pages(room * 0.999), plan.Tiles.size());
         EXPECT_GT(pages(room * 1.001), plan.Tiles.size());
@@ -94,8 +94,8 @@ TEST(PageTiling, GivesEveryPageTheRoomItsOwnListNeeds) {
 }
 
 TEST(PageTiling, TurnsThePaperForFewerPages) {
-    EXPECT_EQ(PlanPages(Canvas({180, 217}), kA4).Paper.Sheet, (SizeMm{210, 297}));
-    const PagePlan wide = PlanPages(Canvas({267, 130}), kA4);
+    EXPECT_EQ(PlanPages(CanvasOf({180, 217}), kA4).Paper.Sheet, (SizeMm{210, 297}));
+    const PagePlan wide = PlanPages(CanvasOf({267, 130}), kA4);
     EXPECT_EQ(wide.Paper.Sheet, (SizeMm{297, 210}));
     EXPECT_EQ(wide.Tiles.size(), 1U);
 }
@@ -107,7 +107,7 @@ TEST(PageTiling, NamesPagesByRowAndColumn) {
 }
 
 TEST(PageTiling, RefusesPaperWithoutRoom) {
-    EXPECT_THROW((void)PlanPages(Canvas({100, 100}), {{{210, 297}, {15, 20, 255}}}), Error);
+    EXPECT_THROW((void)PlanPages(CanvasOf({100, 100}), {{{210, 297}, {15, 20, 255}}}), Error);
     // A list that leaves less than a strip of the picture beside it.
     EXPECT_THROW(
         (void)PlanPages({{100, 100}, {}, [](const auto&, const auto&) { return 300; }}, kA4),
