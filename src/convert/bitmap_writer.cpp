@@ -83,8 +83,8 @@ void BitmapStream::Write(const Surface& picture) {
     }
 }
 
-void WriteBitmap(const std::filesystem::path& file, const Surface& picture, int pixelsPerMetre) {
-    BitmapStream stream(file, picture.Width(), picture.Height(), pixelsPerMetre);
+void WriteBitmap(const Target& target, const Surface& picture, int pixelsPerMetre) {
+    BitmapStream stream(target, picture.Width(), picture.Height(), pixelsPerMetre);
     stream.Write(picture);
     stream.Commit();
 }

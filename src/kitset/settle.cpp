@@ -9,6 +9,7 @@
 #include "kitset/kit_lock.h"
 #include "kitset/outputs.h"
 #include "kitset/sha256.h"
+#include "support/folders.h"
 
 namespace vendrel {
 namespace {
@@ -30,6 +31,17 @@ bool IsWhole(const KitPaths& paths, const KitList& list, const Output& output) {
     return file == nullptr || file->Mark != list.Mark || SumOfFile(paths.File(output)) == file->Sum;
 }
 
+// The folder may be as new as the file, so the one above is synced as well.
+std::error_code TakePlace(const KitPaths& paths, const Output& output) {
+    const fs::path file = paths.File(output);
+    std::error_code failure;
+    fs::rename(paths.Waiting(output), file, failure);
+    if (failure || output.Power == Lasting::Remade) {
+        return failure;
+    }
+    return SyncFolders(file.parent_path(), FolderAbove(file.parent_path()));
+}
+
 std::optional<KitName> KitWaitingIn(const std::string& name) {
     const std::size_t gap = name.rfind(' ');
     if (!name.starts_with(kWaitingStart) || gap < kWaitingStart.size()) {
@@ -44,9 +56,8 @@ std::optional<KitName> KitWaitingIn(const std::string& name) {
 std::error_code TakePlaces(const KitPaths& paths) {
     std::error_code failure;
     for (const Output& output : AllOutputs()) {
-        const fs::path waiting = paths.Waiting(output);
-        if (IsThere(waiting)) {
-            fs::rename(waiting, paths.File(output), failure);
+        if (IsThere(paths.Waiting(output))) {
+            failure = TakePlace(paths, output);
         }
         if (failure) {
             return failure;

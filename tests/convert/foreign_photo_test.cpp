@@ -39,7 +39,7 @@ TEST_F(ForeignPhotoTest, KeepsEveryPictureOnceAsABitmap) {
 TEST_F(ForeignPhotoTest, TwoPhotosOfOneNameAtOnceAreBothKept) {
     for (int pair = 0; pair < 60; ++pair) {
         const std::string stem = "pair" + std::to_string(pair);
-        const Surface& second = pair % 2 == 0 ? kBlue : kRed;
+        const Surface& second = pair % 2 == 0 ? kBluePhoto : kRedPhoto;
         std::string names[2];
         std::barrier start(2);
         const auto take = [&](std::size_t at, const Surface& picture) {
@@ -47,11 +47,11 @@ TEST_F(ForeignPhotoTest, TwoPhotosOfOneNameAtOnceAreBothKept) {
             names[at] = KeepPicture(folder_, stem, picture);
         };
         std::thread other(take, 1, std::cref(second));
-        take(0, kRed);
+        take(0, kRedPhoto);
         other.join();
-        EXPECT_EQ(ReadBitmap(files_ / "Pictures" / names[0]), kRed) << names[0];
+        EXPECT_EQ(ReadBitmap(files_ / "Pictures" / names[0]), kRedPhoto) << names[0];
         EXPECT_EQ(ReadBitmap(files_ / "Pictures" / names[1]), second) << names[1];
-        EXPECT_EQ(names[0] == names[1], second == kRed);
+        EXPECT_EQ(names[0] == names[1], second == kRedPhoto);
     }
 }
 

@@ -107,9 +107,9 @@ TEST(KitSet, NamesWhatIsOfAnotherKitOrChanged) {
     EXPECT_THAT(kit.Save("OLD", {Sheet, Painting, Chart, Grid}), IsEmpty());
     EXPECT_THAT(kit.Save("OLD", {Pdf}), IsEmpty());
     EXPECT_EQ(kit.List().Files.size(), 5U);
-    kit.Files.Write("Results/Lady Difficult Color Chart.BMP", "by hand");
-    kit.Files.Write("Results/Lady Difficult Symbol Reference.BMP", "from somewhere");
-    fs::remove(kit.Files / "Results/Lady Difficult Kit.pdf");
+    kit.Files.Write("Results/Lady Easy Color Chart.BMP", "by hand");
+    kit.Files.Write("Results/Lady Easy Symbol Reference.BMP", "from somewhere");
+    fs::remove(kit.Files / "Results/Lady Easy Kit.pdf");
     EXPECT_THAT(
         kit.Save("NEW", {Painting}),
         ElementsAre(AllOf(HasSubstr("PBS.BMP"), HasSubstr("another kit (OLD, this one is NEW)")),
@@ -150,7 +150,7 @@ TEST(KitSet, IsWholeAfterAKillAtAnyMoment) {
         if (m.Listed) {
             WriteWholeFile(paths.WaitingList(), FormatKitList(twin.List(), paths));
         }
-        kit.Files.Write("Results/.waiting Lady Difficult/.vendrel-1-1.part", "half");
+        kit.Files.Write("Results/.waiting Lady Easy/.vendrel-1-1.part", "half");
         fs::create_directories(paths.WaitingFolder());
         SettleKits(kit.Program);
         EXPECT_EQ(kit.List().Mark, m.Expected) << m.Name;
@@ -164,7 +164,7 @@ TEST(KitSet, IsWholeAfterAKillAtAnyMoment) {
 TEST(KitSet, ThatFailsLeavesTheOldOneAndNothingElse) {
     Shelf kit;
     kit.Save("OLD", {Sheet, Painting});
-    fs::create_directories(kit.Files / "Results/Lady Difficult Color Chart.BMP");
+    fs::create_directories(kit.Files / "Results/Lady Easy Color Chart.BMP");
     EXPECT_THROW(kit.Save("NEW", {Sheet, Chart}), FileError);
     {
         KitSet givenUp(kit.Place, "NEW");
@@ -184,7 +184,7 @@ TEST(KitSet, WaitsForAnotherThatIsWritten) {
         kit.Screen.StopAfterYields = 1;
         EXPECT_THROW(kit.Save("TWO", {Sheet}), Stop);
         EXPECT_EQ(kit.Screen.Captions.back(),
-                  "Waiting for another Vendrel that writes Lady Difficult");
+                  "Waiting for another Vendrel that writes Lady Easy");
         EXPECT_THAT(first.Commit(), IsEmpty());
     }
     EXPECT_EQ(kit.Text(Sheet), "ONE");

@@ -64,6 +64,7 @@ void FragileDisk::Keep(const fs::path& way) {
 }
 
 void FragileDisk::Synced(int file) {
+    const std::scoped_lock lock(syncing_);
     Keep("/proc/self/fd/" + std::to_string(file));
     if (AfterSync) {
         AfterSync();

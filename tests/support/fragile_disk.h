@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <mutex>
 #include <string>
 
 namespace vendrel::test {
@@ -33,6 +34,7 @@ class FragileDisk {
     static Identity IdentityOf(const std::filesystem::path& way);
 
     std::filesystem::path root_;
+    std::mutex syncing_;  // files of a kit are synced side by side
     std::map<Identity, std::string> bytes_;
     std::map<Identity, std::map<std::string, Identity>> names_;
 };
