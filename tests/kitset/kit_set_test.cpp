@@ -41,7 +41,7 @@ struct Shelf : test::Easel {
         const fs::path file = Paths().File(OutputOf(output));
         return fs::exists(file) ? Files.Read(file.lexically_relative(Files.Path()).string()) : "";
     }
-    [[nodiscard]] KitPaths Paths() const { return {Program, {"Lady", "Difficult"}}; }
+    [[nodiscard]] KitPaths Paths() const { return {Program, {"Lady", "Easy"}}; }
     [[nodiscard]] KitList List() const { return ReadKitList(Paths().List()).value(); }
     [[nodiscard]] std::vector<std::string> Hidden() const {
         std::vector<std::string> names;
