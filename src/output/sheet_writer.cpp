@@ -1,7 +1,6 @@
 #include "output/sheet_writer.h"
 
 #include <utility>
-#include <vector>
 
 #include "output/contrast.h"
 #include "output/result_files.h"
@@ -39,10 +38,10 @@ NumberingCounts Number(const Workplace& place, SheetRecord& record) {
     return SetupCellNumbers(place, place.Frames.WorkFrame.Picture, record);
 }
 
-std::vector<Color> InksOnPaints(const WorkState& state) {
-    std::vector<Color> inks;
+OneBased<Color> InksOnPaints(const WorkState& state) {
+    OneBased<Color> inks;
     for (const PaintColor& paint : state.PaintColors) {
-        inks.push_back(InkOn(ColorOf(paint)));
+        inks.Add(InkOn(ColorOf(paint)));
     }
     return inks;
 }
@@ -63,7 +62,7 @@ SavedSheets WriteSheets(const Workplace& place, const SheetKinds& kinds) {
     place.Screen.SetCaption("Saving File, Please Wait....");
     if (kinds.Sheet) {
         saved.Sheet = ResultFile(place, "PBS");
-        const std::vector<Color> inks(state.PaintColors.size(), state.SymbolColor);
+        const OneBased<Color> inks(state.PaintCount, state.SymbolColor);
         WriteDrawing(saved.Sheet, state, record, {.Ground = nullptr, .Inks = inks});
     }
     if (kinds.Reference) {
