@@ -20,8 +20,8 @@
 #include "kit/terminal_ui.h"
 #include "output/painting_writer.h"
 #include "output/sheet_writer.h"
-#include "paints/paint_sets.h"
 #include "scene.h"
+#include "shell/palette.h"
 #include "storage/stipple_file.h"
 
 namespace vendrel::bench {
@@ -66,9 +66,9 @@ struct Studio {
         (void)PrepareFolders(Place);
         PreparePaints(Place);
         KitOptions options;
-        options.Difficulty = stippleSize == 8   ? MenuId::EasySet
-                             : stippleSize == 6 ? MenuId::MediumSet
-                                                : MenuId::HardSet;
+        options.Chosen.Level = stippleSize == 8   ? Difficulty::Easy
+                               : stippleSize == 6 ? Difficulty::Medium
+                                                  : Difficulty::Difficult;
         ApplySettings(Place, options);
     }
     void Choose(int width, int height) {
@@ -76,7 +76,7 @@ struct Studio {
         (void)LoadNewPicture(Place);
     }
     void Convert() {
-        const std::vector<PaintColor> palette = State.PaintColors;
+        const PaintList palette = State.PaintColors;
         ChangeToStipples_Click(Place);
         spare_ = palette;
     }
@@ -92,7 +92,7 @@ struct Studio {
     Workplace Place{State, Frames, MainMenu, Ui, Folder};
 
   private:
-    std::vector<PaintColor> spare_;
+    PaintList spare_;
 };
 
 void StartUp(benchmark::State& run) {
@@ -135,12 +135,11 @@ BENCHMARK(Convert)->Arg(8)->Arg(6)->Arg(4)->Unit(benchmark::kMillisecond);
 void ConvertByPaints(benchmark::State& run) {
     Studio studio(4);
     studio.Choose(kWidth, kHeight);
-    std::vector<PaintColor> paints{{}};
+    PaintList paints;
     for (int i = 0; i < run.range(0); ++i) {
-        PaintColor paint =
-            studio.State.MasterColors[static_cast<std::size_t>(i % studio.State.MasterCount) + 1];
+        PaintColor paint = studio.State.MasterColors[i % studio.State.MasterCount + 1];
         paint.Red = std::max(1, paint.Red - i / studio.State.MasterCount);
-        paints.push_back(paint);
+        paints.Add(paint);
     }
     for ([[maybe_unused]] const auto step : run) {
         run.PauseTiming();

@@ -8,7 +8,9 @@
 #include "cleanup/paint_pass.h"
 #include "output/cell_numbering.h"
 #include "output/symbol_set.h"
+#include "shell/palette.h"
 #include "shell/recorder.h"
+#include "shell/stipple_grid.h"
 #include "storage/stipple_file.h"
 
 namespace vendrel {
@@ -28,10 +30,7 @@ class PaintedBench {
     explicit PaintedBench(int stippleSize) : bench(VENDREL_SOURCE_DIR) {
         WorkState& state = bench.State;
         SizeStipples(state, stippleSize);
-        state.CellsAcross = 960 / stippleSize;
-        state.CellsDown = 720 / stippleSize;
-        state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);
-        state.CellMarks = Grid<CellMark>(state.CellsAcross, state.CellsDown);
+        SetGrid(state, Grid<StippleCell>(960 / stippleSize, 720 / stippleSize));
         std::mt19937 random(1);
         for (int y = 1; y <= state.CellsDown; ++y) {
             for (int x = 1; x <= state.CellsAcross; ++x) {
@@ -41,10 +40,11 @@ class PaintedBench {
                     1 + (y - 1) * stippleSize + state.HalfStipple, 0};
             }
         }
-        state.PaintCount = kPaints;
+        PaintList paints;
         for (int k = 1; k <= kPaints; ++k) {
-            state.PaintColors.push_back({5 * k, 255 - 5 * k, 100, "Acme", "A1", "Paint", 0});
+            paints.Add({5 * k, 255 - 5 * k, 100, "Acme", "A1", "Paint", 0});
         }
+        SetPalette(state, std::move(paints));
         state.PictureWidth = 960 * 15;
         state.PictureHeight = 720 * 15;
         state.PixelMap = Grid<MapPixel>(960, 720);

@@ -6,7 +6,9 @@
 
 #include "paints/nearest_paint.h"
 #include "paints/palette_reduction.h"
+#include "shell/palette.h"
 #include "shell/records.h"
+#include "shell/stipple_grid.h"
 
 namespace vendrel {
 namespace {
@@ -27,10 +29,10 @@ std::vector<Channels> PhotoColors(int count) {
     return colors;
 }
 
-std::vector<PaintColor> Catalogue(int count) {
+PaintList Catalogue(int count) {
     std::mt19937 random(5);
     std::uniform_int_distribution<int> channel(0, 255);
-    std::vector<PaintColor> paints(static_cast<std::size_t>(count) + 1);
+    PaintList paints(static_cast<std::size_t>(count) + 1);
     for (PaintColor& paint : paints) {
         paint = {channel(random),
                  channel(random),
@@ -46,7 +48,7 @@ std::vector<PaintColor> Catalogue(int count) {
 // Cells of a 960 x 720 picture at the three difficulties; 50 to 2000 paints to choose from.
 void MatchCells(benchmark::State& bench) {
     const std::vector<Channels> colors = PhotoColors(static_cast<int>(bench.range(0)));
-    const std::vector<PaintColor> paints = Catalogue(static_cast<int>(bench.range(1)));
+    const PaintList paints = Catalogue(static_cast<int>(bench.range(1)));
     for ([[maybe_unused]] const auto step : bench) {
         NearestPaintTable table(paints);
         int sum = 0;
@@ -68,17 +70,14 @@ void Reduce(benchmark::State& bench) {
     constexpr int kDown = 180;
     const int found = static_cast<int>(bench.range(0));
     WorkState full;
-    full.PaintColors = Catalogue(found);
-    full.PaintCount = found;
-    full.CellsAcross = kAcross;
-    full.CellsDown = kDown;
-    full.Stipples = Grid<StippleCell>(kAcross, kDown);
-    std::vector<int> counts(full.PaintColors.size());
+    SetPalette(full, Catalogue(found));
+    SetGrid(full, Grid<StippleCell>(kAcross, kDown));
+    OneBased<int> counts(found);
     for (int y = 1; y <= kDown; ++y) {
         for (int x = 1; x <= kAcross; ++x) {
             const int paint = 1 + (x * y + x) % found;
             full.Stipples(x, y).ColorIndex = paint;
-            ++counts[static_cast<std::size_t>(paint)];
+            ++counts[paint];
         }
     }
     for ([[maybe_unused]] const auto step : bench) {

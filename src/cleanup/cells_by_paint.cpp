@@ -11,8 +11,7 @@ void VisitCells(const Grid<StippleCell>& stipples, Visit visit) {
     for (int y = 1; y <= stipples.Down(); ++y) {
         const auto row = stipples.Row(y);
         for (int x = 1; x <= stipples.Across(); ++x) {
-            visit(CellPos{x, y},
-                  static_cast<std::size_t>(row[static_cast<std::size_t>(x)].ColorIndex));
+            visit(CellPos{x, y}, static_cast<std::size_t>(row[x].ColorIndex));
         }
     }
 }

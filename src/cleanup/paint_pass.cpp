@@ -55,14 +55,14 @@ void FindAreas(const Workplace& place, const CellsByPaint& cells, PassProgress& 
 
 // One walk over the grid hands every cell to its area; row-major, so the members stay in order.
 void CollectAreas(WorkState& state) {
-    state.Areas.assign(static_cast<std::size_t>(state.AreaCount) + 1, {});
+    state.Areas = OneBased<PaintArea>(state.AreaCount);
     for (int y = 1; y <= state.Stipples.Down(); ++y) {
         for (int x = 1; x <= state.Stipples.Across(); ++x) {
             const StippleCell& cell = state.Stipples(x, y);
             if (cell.AreaNumber < 1 || cell.AreaNumber > state.AreaCount) {
                 continue;
             }
-            PaintArea& area = state.Areas[static_cast<std::size_t>(cell.AreaNumber)];
+            PaintArea& area = state.Areas[cell.AreaNumber];
             CountUp(area.StippleCount, "stipples in one area");
             area.ColorIndex = cell.ColorIndex;
             area.Members.push_back({x, y});
@@ -73,8 +73,11 @@ void CollectAreas(WorkState& state) {
 // Dots of all areas, area by area: they are wiped before the painting starts, so they are drawn
 // only for somebody who watches.
 void ShowAreas(const Workplace& place) {
-    for (std::size_t a = 1; a < place.State.Areas.size() && place.Screen.Watched(); ++a) {
-        for (const CellPos& member : place.State.Areas[a].Members) {
+    for (const PaintArea& area : place.State.Areas) {
+        if (!place.Screen.Watched()) {
+            break;
+        }
+        for (const CellPos& member : area.Members) {
             const StippleCell& cell = place.State.Stipples(member.X, member.Y);
             DrawOneStipple(place, cell.X, cell.Y, cell.ColorIndex);
         }
@@ -104,7 +107,7 @@ Directions LikePainted(const WorkState& state, CellPos cell, int colorIndex) {
 
 void PaintOneCell(const Workplace& place, int areaNumber, PassProgress& progress) {
     WorkState& state = place.State;
-    const PaintArea& area = state.Areas[static_cast<std::size_t>(areaNumber)];
+    const PaintArea& area = state.Areas[areaNumber];
     if (area.StippleCount == 1) {  // a lone dot, drawn with the loners
         state.CellMarks(area.Members[0].X, area.Members[0].Y).Loner = true;
         progress.Step();
@@ -116,24 +119,25 @@ void PaintOneCell(const Workplace& place, int areaNumber, PassProgress& progress
     }
 }
 
-std::vector<std::string> PaintingCaptions(const WorkState& state) {
-    std::vector<std::string> captions;
-    for (std::size_t p = 0; p < state.PaintColors.size(); ++p) {
+// The last one, when no area is left, names paint 0.
+OneBased<std::string> PaintingCaptions(const WorkState& state) {
+    OneBased<std::string> captions(state.PaintCount);
+    for (int p = 0; p <= state.PaintCount; ++p) {
         const PaintColor& paint = state.PaintColors[p];
-        captions.push_back("Painting with " + paint.Mfg + " " + paint.PaintName + " [" +
-                           std::to_string(p) + "]");
+        captions[p] =
+            "Painting with " + paint.Mfg + " " + paint.PaintName + " [" + std::to_string(p) + "]";
     }
     return captions;
 }
 
 void PaintAreas(const Workplace& place, PassProgress& progress) {
     WorkState& state = place.State;
-    const std::vector<std::string> captions = PaintingCaptions(state);
+    const OneBased<std::string> captions = PaintingCaptions(state);
     PaintingOrder order(state.Areas);
     for (;;) {
         const int area = order.GetBiggestCell(state.Areas);
-        const int paint = area == 0 ? 0 : state.Areas[static_cast<std::size_t>(area)].ColorIndex;
-        place.Screen.SetCaption(captions[static_cast<std::size_t>(paint)]);
+        const int paint = area == 0 ? 0 : state.Areas[area].ColorIndex;
+        place.Screen.SetCaption(captions[paint]);
         if (area == 0) {
             return;
         }

@@ -11,11 +11,11 @@ namespace vendrel {
 /// so that picking the next area does not search them all.
 class PaintingOrder {
   public:
-    /// `areas` with an unused entry 0; areas without cells or already painted are left out.
-    explicit PaintingOrder(const std::vector<PaintArea>& areas);
+    /// Areas without cells or already painted are left out.
+    explicit PaintingOrder(const OneBased<PaintArea>& areas);
 
     /// Number of the next area and marks it Painted; 0, marking entry 0, when none is left.
-    [[nodiscard]] int GetBiggestCell(std::vector<PaintArea>& areas);
+    [[nodiscard]] int GetBiggestCell(OneBased<PaintArea>& areas);
 
   private:
     std::vector<int> order_;

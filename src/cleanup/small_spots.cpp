@@ -24,7 +24,7 @@ void FixSmallSpots(const Workplace& place) {
     for (int y = 1; y <= state.Stipples.Down(); ++y) {
         for (int x = 1; x <= state.Stipples.Across(); ++x) {
             const StippleCell& cell = state.Stipples(x, y);
-            const Color own = ColorOf(state.PaintColors[static_cast<std::size_t>(cell.ColorIndex)]);
+            const Color own = ColorOf(state.PaintColors[cell.ColorIndex]);
             if (CountPixels(place.Frames.WorkFrame.Picture, 1 + (x - 1) * size, 1 + (y - 1) * size,
                             size, own) < fewest) {
                 DrawOneStipple(place, cell.X, cell.Y, cell.ColorIndex, Record::Yes,

@@ -99,7 +99,7 @@ class CornerCleaner {
         return place_.Frames.WorkFrame.Picture.Get(cell.X + pixel.X, cell.Y + pixel.Y) == kBlack;
     }
     void FillPixel(const StippleCell& cell, CellPos pixel, int colorIndex) const {
-        const auto& paint = place_.State.PaintColors[static_cast<std::size_t>(colorIndex)];
+        const auto& paint = place_.State.PaintColors[colorIndex];
         ColorPset(place_, cell.X + pixel.X, cell.Y + pixel.Y, ColorOf(paint), colorIndex);
     }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "support/error.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -132,9 +133,9 @@ class RunReader {
 
     void Put(int index) {
         if (x_ < header_.Size.Width) {
-            const Color color = header_.Palette[static_cast<std::size_t>(index)];
+            const Color color = At(header_.Palette, index);
             seen_ |= color;
-            row_[static_cast<std::size_t>(x_)] = color;
+            At(row_, x_) = color;
         } else if (!nibbles_ || x_ > header_.Size.Width) {
             Refuse("go on past the end of a row");
         }

@@ -24,9 +24,9 @@ Channels AverageColor(const Surface& photo, int left, int top, int size) {
     std::uint32_t redBlue = 0;
     std::uint32_t green = 0;
     for (int y = top; y < bottom; ++y) {
-        const std::span<const Color> row = photo.Row(y);
+        const auto row = photo.Row(y);
         for (int x = left; x < right; ++x) {
-            const auto pixel = static_cast<std::uint32_t>(row[static_cast<std::size_t>(x)]);
+            const auto pixel = static_cast<std::uint32_t>(row[x]);
             redBlue += pixel & 0xFF00FF;
             green += (pixel >> 8) & 0xFF;
         }

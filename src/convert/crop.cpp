@@ -92,10 +92,8 @@ CropRect CropTop(BitmapSize photo, const CropTarget& target) {
 Surface CutOut(const Surface& photo, const CropRect& part) {
     Surface cut(part.Width, part.Height);
     for (int y = 0; y < part.Height; ++y) {
-        std::ranges::copy(
-            photo.Row(part.Top + y)
-                .subspan(static_cast<std::size_t>(part.Left), static_cast<std::size_t>(part.Width)),
-            cut.Row(y).begin());
+        std::ranges::copy(photo.Row(part.Top + y).From(part.Left).First(part.Width),
+                          cut.Row(y).begin());
     }
     return cut;
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "support/error.h"
+#include "support/list.h"
 #include "support/rounding.h"
 
 namespace vendrel {
@@ -40,9 +41,8 @@ std::vector<Blend> BlendsOf(int from, int to) {
         const float at = static_cast<float>(i) * scale;
         const int low = std::min(static_cast<int>(at), from - 1);
         const int high = std::min(low + 1, from - 1);
-        blends[static_cast<std::size_t>(i)] = {static_cast<std::size_t>(low),
-                                               static_cast<std::size_t>(high),
-                                               at - static_cast<float>(low)};
+        At(blends, i) = {static_cast<std::size_t>(low), static_cast<std::size_t>(high),
+                         at - static_cast<float>(low)};
     }
     return blends;
 }

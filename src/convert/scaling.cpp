@@ -4,6 +4,8 @@
 #include <cassert>
 #include <cstdint>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -76,7 +78,7 @@ void RowScaler::Push(std::span<const Color> row) {
         const std::span<const float> weights = down_.Of(target_);
         const bool last = down_.Last(target_) == row_;
         if (!growing) {
-            Add(row, weights[static_cast<std::size_t>(row_ - down_.First(target_))]);
+            Add(row, At(weights, row_ - down_.First(target_)));
         } else if (last) {
             if (weights.size() == 2) {
                 Add(previous_, weights.front());
@@ -124,7 +126,7 @@ void RowScaler::Finish(int targetRow) {
             b += weight * blue[source];
             ++source;
         }
-        out[static_cast<std::size_t>(x)] = Rgb(Level(r, total), Level(g, total), Level(b, total));
+        At(out, x) = Rgb(Level(r, total), Level(g, total), Level(b, total));
     }
     std::fill(sums_.begin(), sums_.end(), 0.0F);
 }

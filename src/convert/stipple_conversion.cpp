@@ -2,19 +2,18 @@
 
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "convert/cell_color.h"
 #include "convert/photo_import.h"
 #include "drawing/stipple_brush.h"
 #include "paints/color_match.h"
 #include "paints/nearest_paint.h"
-#include "paints/paint_sets.h"
 #include "paints/reduction.h"
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
 #include "shell/menu.h"
-#include "support/counter.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -24,16 +23,14 @@ namespace {
 class FoundPaints {
   public:
     explicit FoundPaints(Workplace& place)
-        : place_(place),
-          table_(Palette(place.State)),
-          foundAs_(static_cast<std::size_t>(place.State.PaintCount) + 1) {}
+        : place_(place), table_(place.State.PaintColors), foundAs_(place.State.PaintCount) {}
 
     /// Index into FoundColors of the paint nearest to `color`, added there when it is new.
     int Match(const Channels& color) {
         const int paint = table_.Find(color);
-        int& found = foundAs_[static_cast<std::size_t>(paint)];
+        int& found = foundAs_[paint];
         if (found == 0) {
-            found = Find(place_.State.PaintColors[static_cast<std::size_t>(paint)]);
+            found = Find(place_.State.PaintColors[paint]);
         }
         return found;
     }
@@ -43,13 +40,12 @@ class FoundPaints {
     int Find(const PaintColor& paint) {
         WorkState& state = place_.State;
         for (int k = 1; k <= state.FoundCount; ++k) {
-            if (ColorOf(state.FoundColors[static_cast<std::size_t>(k)]) == ColorOf(paint)) {
+            if (ColorOf(state.FoundColors[k]) == ColorOf(paint)) {
                 return k;
             }
         }
-        CountUp(state.FoundCount, "paints found in the photo");
-        state.FoundColors.push_back(paint);
-        state.FoundColors.back().CellCount = 0;
+        AddFoundColor(state, paint);
+        state.FoundColors.Last().CellCount = 0;
         const std::string count = std::to_string(state.FoundCount);
         place_.Screen.SetCaption(state.FoundCount == 1
                                      ? "Found " + count + " so far."
@@ -59,18 +55,15 @@ class FoundPaints {
 
     Workplace& place_;
     NearestPaintTable table_;
-    std::vector<int> foundAs_;  // per paint of the palette, 0 while it is not found
+    OneBased<int> foundAs_;  // per paint of the palette, 0 while it is not found
 };
 
 void SizeGrid(Workplace& place) {
     WorkState& state = place.State;
     const TwipsPerPixel twips = place.Screen.Screen().Twips;
-    state.CellsAcross = state.PictureWidth / twips.X / state.StippleSize;
-    state.CellsDown = state.PictureHeight / twips.Y / state.StippleSize;
-    state.FoundColors.assign(1, {});
-    state.FoundCount = 0;
-    state.Stipples = Grid<StippleCell>(state.CellsAcross, state.CellsDown);
-    state.CellMarks = Grid<CellMark>(state.CellsAcross, state.CellsDown);
+    SetFoundColors(state, {});
+    SetGrid(state, Grid<StippleCell>(state.PictureWidth / twips.X / state.StippleSize,
+                                     state.PictureHeight / twips.Y / state.StippleSize));
 }
 
 void FillBlock(Workplace& place, const StippleCell& cell) {
@@ -148,8 +141,9 @@ int ApplyStipples(Workplace& place) {
         EndRow(place, j);
     }
     state.StipplesMade = true;
-    SetPalette(state, std::exchange(state.FoundColors, std::vector<PaintColor>(1)));
-    const int matched = std::exchange(state.FoundCount, 0);
+    const int matched = state.FoundCount;
+    SetPalette(state, std::move(state.FoundColors));
+    SetFoundColors(state, {});
     if (!state.KeepAllColors) {
         ReduceColors(place, state.FinalColors);
     }

@@ -100,9 +100,9 @@ QLayout* ColorMatcherDialog::MakeButtons() {
 void ColorMatcherDialog::Mirror() {
     const auto& codes = Context().Place.State.SymbolCodes;
     std::vector<PaintItem> items;
-    for (std::size_t k = 1; k < form_.Rows().size(); ++k) {
+    for (int k = 1; k <= form_.Rows().Count(); ++k) {
         const MatcherRow& row = form_.Rows()[k];
-        const QChar symbol(k < codes.size() ? codes[k] : '?');
+        const QChar symbol(codes.Holds(k) ? codes[k] : '?');
         items.push_back(
             {ColorOf(row.Original), ColorOf(row.Current),
              tr("%1   %2   %3")
@@ -112,15 +112,15 @@ void ColorMatcherDialog::Mirror() {
     MirrorPaints(*paintList_, items, form_.Chosen() - 1);
     selectedSets_->setChecked(form_.Source() == MatchSource::SelectedSets);
     wholeCatalogue_->setChecked(form_.Source() == MatchSource::WholeCatalogue);
-    const auto chosen = static_cast<std::size_t>(form_.Chosen());
-    putBack_->setEnabled(chosen < form_.Rows().size() && form_.Rows()[chosen].Exchanged());
+    const int chosen = form_.Chosen();
+    putBack_->setEnabled(form_.Rows().Holds(chosen) && form_.Rows()[chosen].Exchanged());
     putAllBack_->setEnabled(form_.AnyExchanged());
     MirrorOffers();
     MirrorPreview();
 }
 
 void ColorMatcherDialog::MirrorOffers() {
-    const auto chosen = static_cast<std::size_t>(form_.Chosen());
+    const int chosen = form_.Chosen();
     std::vector<PaintItem> items;
     for (const NextBestPaint& offer : form_.Offers()) {
         items.push_back(

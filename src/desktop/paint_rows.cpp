@@ -2,7 +2,6 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
-#include <cstddef>
 
 #include "desktop/paint_items.h"
 #include "desktop/text.h"
@@ -33,20 +32,20 @@ PaintRows::PaintRows(QWidget* parent) : QTreeWidget(parent) {
     });
 }
 
-void PaintRows::Follow(const std::vector<TouchUpPaint>& palette, int chosen) {
+void PaintRows::Follow(const OneBased<TouchUpPaint>& palette, int chosen) {
     const QSignalBlocker quiet(this);
-    if (palette.size() != shown_.size()) {
+    if (palette.Count() != shown_.Count()) {
         clear();
-        shown_.assign(palette.size(), {});
-        for (std::size_t i = 1; i < palette.size(); ++i) {
+        shown_ = OneBased<TouchUpPaint>(palette.Count());
+        for (int i = 1; i <= palette.Count(); ++i) {
             shown_[i].Count = -1;
             addTopLevelItem(new QTreeWidgetItem);
         }
     }
-    for (std::size_t i = 1; i < palette.size(); ++i) {
+    for (int i = 1; i <= palette.Count(); ++i) {
         if (palette[i] != shown_[i]) {
             shown_[i] = palette[i];
-            ShowRow(*topLevelItem(static_cast<int>(i) - 1), palette[i]);
+            ShowRow(*topLevelItem(i - 1), palette[i]);
         }
     }
     if (QTreeWidgetItem* row = topLevelItem(chosen - 1); row != currentItem()) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTreeWidget>
-#include <vector>
 
 #include "forms/touch_up_form.h"
 
@@ -15,7 +14,7 @@ class PaintRows : public QTreeWidget {
     explicit PaintRows(QWidget* parent = nullptr);
 
     /// Shows the palette (entry 0 is left out) with one paint chosen. Cheap when little changed.
-    void Follow(const std::vector<TouchUpPaint>& palette, int chosen);
+    void Follow(const OneBased<TouchUpPaint>& palette, int chosen);
 
   signals:
     void Chosen(int paint);
@@ -23,7 +22,7 @@ class PaintRows : public QTreeWidget {
   private:
     void ShowRow(QTreeWidgetItem& row, const TouchUpPaint& paint);
 
-    std::vector<TouchUpPaint> shown_;
+    OneBased<TouchUpPaint> shown_;
 };
 
 }  // namespace vendrel

@@ -7,6 +7,7 @@
 #include "desktop/text.h"
 #include "export/qt_image.h"
 #include "output/contrast.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -30,19 +31,19 @@ void SheetPainter::Follow(const TouchUpForm& form, const CellRect& dirty) {
         paints_.assign(static_cast<std::size_t>(sheet.Across() * sheet.Down()), 0);
         cells = sheet.Bounds();
     }
-    const std::vector<TouchUpPaint>& palette = form.Controls().Palette;
+    const OneBased<TouchUpPaint>& palette = form.Controls().Palette;
     if (cells.Left <= 1 && cells.Top <= 1 && cells.Right >= sheet.Across() &&
         cells.Bottom >= sheet.Down()) {
         // Only what touches everything can have changed the paints' colours.
         palette_ = palette;
-        glyphs_.clear();
+        glyphs_.Clear();
     }
     for (int y = cells.Top; y <= std::min(cells.Bottom, sheet.Down()); ++y) {
         auto* line = reinterpret_cast<QRgb*>(cells_.scanLine(y - 1));
         for (int x = cells.Left; x <= std::min(cells.Right, sheet.Across()); ++x) {
             const int paint = sheet.HoldsPaint(sheet.PaintAt({x, y})) ? sheet.PaintAt({x, y}) : 0;
-            paints_[static_cast<std::size_t>((y - 1) * sheet.Across() + x - 1)] = paint;
-            line[x - 1] = ToQColor(palette[static_cast<std::size_t>(paint)].Swatch).rgb();
+            At(paints_, (y - 1) * sheet.Across() + x - 1) = paint;
+            line[x - 1] = ToQColor(palette[paint].Swatch).rgb();
         }
     }
 }
@@ -112,7 +113,7 @@ void SheetPainter::PaintSymbols(QPainter& painter, const CellRect& cells, const 
     const qreal ratio = painter.device()->devicePixelRatioF();
     for (int y = cells.Top; y <= cells.Bottom; ++y) {
         for (int x = cells.Left; x <= cells.Right; ++x) {
-            const int paint = paints_[static_cast<std::size_t>((y - 1) * Across() + x - 1)];
+            const int paint = At(paints_, (y - 1) * Across() + x - 1);
             if (paint > 0) {
                 painter.drawPixmap(place.RectOf(CellPos{x, y}).topLeft(),
                                    Glyph(paint, edge, ratio));
@@ -122,13 +123,13 @@ void SheetPainter::PaintSymbols(QPainter& painter, const CellRect& cells, const 
 }
 
 const QPixmap& SheetPainter::Glyph(int paint, int edge, qreal ratio) {
-    if (edge != glyphEdge_ || glyphs_.size() != palette_.size()) {
-        glyphs_.assign(palette_.size(), {});
+    if (edge != glyphEdge_ || glyphs_.Count() != palette_.Count()) {
+        glyphs_ = OneBased<QPixmap>(palette_.Count());
         glyphEdge_ = edge;
     }
-    QPixmap& glyph = glyphs_[static_cast<std::size_t>(paint)];
+    QPixmap& glyph = glyphs_[paint];
     if (glyph.isNull()) {
-        const TouchUpPaint& look = palette_[static_cast<std::size_t>(paint)];
+        const TouchUpPaint& look = palette_[paint];
         glyph = QPixmap(QSize(edge, edge) * ratio);
         glyph.setDevicePixelRatio(ratio);
         glyph.fill(Qt::transparent);

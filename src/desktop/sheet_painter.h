@@ -48,10 +48,10 @@ class SheetPainter {
 
     QImage cells_;
     std::vector<int> paints_;  // of the stipples of cells_, row by row
-    std::vector<TouchUpPaint> palette_;
+    OneBased<TouchUpPaint> palette_;
     QImage photo_;
     int stippleSize_ = 1;
-    std::vector<QPixmap> glyphs_;
+    OneBased<QPixmap> glyphs_;
     int glyphEdge_ = 0;
 };
 

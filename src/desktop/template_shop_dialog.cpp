@@ -13,14 +13,15 @@
 #include "desktop/paint_items.h"
 #include "desktop/text.h"
 #include "output/chart_contents.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
 
-std::vector<PaintItem> ItemsOf(const std::vector<PaintColor>& paints) {
+std::vector<PaintItem> ItemsOf(const PaintList& paints) {
     std::vector<PaintItem> items;
-    for (std::size_t i = 1; i < paints.size(); ++i) {
-        items.push_back({ColorOf(paints[i]), kNoColor, Text(PaintLabel(paints[i]))});
+    for (const PaintColor& paint : paints) {
+        items.push_back({ColorOf(paint), kNoColor, Text(PaintLabel(paint))});
     }
     return items;
 }
@@ -38,8 +39,7 @@ TemplateShopDialog::TemplateShopDialog(const ViewContext& context, QWidget* pare
       paintsFrame_(new QGroupBox),
       swatches_(new SwatchBox([this](int swatch) -> const PaintColor* {
           const auto& paints = form_.Controls().Paints;
-          const auto index = static_cast<std::size_t>(swatch) + 1;
-          return swatch >= 0 && index < paints.size() ? &paints[index] : nullptr;
+          return paints.Holds(swatch + 1) ? &paints[swatch + 1] : nullptr;
       })),
       paintList_(Named<QListWidget>("TemplatePaints", tr("Paints of the template"))),
       setBox_(Named<QComboBox>("SearchSet", tr("Paint set to search"))),
@@ -158,7 +158,7 @@ void TemplateShopDialog::Mirror() {
 
 void TemplateShopDialog::MirrorTemplate() {
     const TemplateShopControls& shown = form_.Controls();
-    const int count = static_cast<int>(shown.Paints.size()) - 1;
+    const int count = shown.Paints.Count();
     paintsFrame_->setTitle(shown.TemplateIndex < 0
                                ? tr("No template chosen")
                                : tr("%1 [%2 paints]").arg(Text(form_.Chosen())).arg(count));
@@ -170,7 +170,7 @@ void TemplateShopDialog::MirrorTemplate() {
 void TemplateShopDialog::MirrorCatalogue() {
     std::vector<PaintItem> items;
     for (const int row : form_.Controls().Found) {
-        const PaintColor& paint = Context().Place.State.MasterColors[static_cast<std::size_t>(row)];
+        const PaintColor& paint = Context().Place.State.MasterColors[row];
         items.push_back({ColorOf(paint), kNoColor, Text(PaintLabel(paint))});
     }
     MirrorPaints(*foundList_, items,
@@ -232,7 +232,7 @@ void TemplateShopDialog::AddChosenPaint() {
     if (row < 0) {
         return;
     }
-    if (form_.AddPaint_Click(form_.Controls().Found[static_cast<std::size_t>(row)])) {
+    if (form_.AddPaint_Click(At(form_.Controls().Found, row))) {
         MirrorTemplate();
     }
     paintList_->setCurrentRow(paintList_->count() - 1);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "drawing/neighbours.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -26,8 +27,7 @@ using Mask = std::array<std::bitset<kSide>, kSide>;
 void Stamp(Mask& mask, std::span<const BrushRun> stamp, int dx, int dy) {
     for (const BrushRun& run : stamp) {
         for (int x = run.First; x <= run.Last; ++x) {
-            mask[static_cast<std::size_t>(run.Row + dy + kReach)].set(
-                static_cast<std::size_t>(x + dx + kReach));
+            At(mask, run.Row + dy + kReach).set(static_cast<std::size_t>(x + dx + kReach));
         }
     }
 }
@@ -35,7 +35,7 @@ void Stamp(Mask& mask, std::span<const BrushRun> stamp, int dx, int dy) {
 std::vector<BrushRun> Runs(const Mask& mask) {
     std::vector<BrushRun> runs;
     for (int row = 0; row < kSide; ++row) {
-        const auto& bits = mask[static_cast<std::size_t>(row)];
+        const auto& bits = At(mask, row);
         for (int x = 0; x < kSide; ++x) {
             if (!bits[static_cast<std::size_t>(x)]) {
                 continue;

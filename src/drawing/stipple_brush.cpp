@@ -31,8 +31,8 @@ void PaintRuns(const Workplace& place, std::span<const BrushRun> runs, CellPos a
     }
 }
 
-const PaintColor& PaintAt(const std::vector<PaintColor>& paints, int index) {
-    return paints[static_cast<std::size_t>(index)];
+const PaintColor& PaintAt(const PaintList& paints, int index) {
+    return paints[index];
 }
 
 }  // namespace

@@ -65,7 +65,7 @@ Surface PaintingOf(const PaintedRegions& regions, const WorkState& state) {
     for (int y = 0; y < painting.Height(); ++y) {
         for (int x = 0; x < painting.Width(); ++x) {
             const Region& region = regions[regions.Ids(x, y)];
-            painting.Set(x, y, ColorOf(state.PaintColors[static_cast<std::size_t>(region.Value)]));
+            painting.Set(x, y, ColorOf(state.PaintColors[region.Value]));
         }
     }
     return painting;

@@ -8,6 +8,7 @@
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
 #include "plan/mark_places.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -110,7 +111,7 @@ void PlanPage::DrawSymbols() {
     painter_.setPen(kSymbolInk);
     for (const PlanLabel& label : kit_.Plan.Labels) {
         const int paint = kit_.Plan.Regions[label.Region].Value;
-        if (IsLabelOn(label, aspects[static_cast<std::size_t>(paint)], own, shown)) {
+        if (IsLabelOn(label, vendrel::At(aspects, paint), own, shown)) {
             kit_.Symbols.Draw(painter_, paint, At(label.Centre),
                               Mm(label.Height * kit_.Plan.MmPerPixel));
         }
@@ -194,7 +195,7 @@ void PlanPage::DrawLegend() {
 
 // Names alone: the chart has the codes, and beside long names there is no room for them.
 void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
-    const PaintColor& color = kit_.Place.State.PaintColors[static_cast<std::size_t>(paint)];
+    const PaintColor& color = kit_.Place.State.PaintColors[paint];
     const QPointF corner = box.topLeft();
     painter_.setPen(QPen(kBorderInk, Mm(0.1)));
     painter_.setBrush(ToQt(ColorOf(color)));

@@ -80,8 +80,7 @@ Color MeanOf(const Surface& picture, int left, int top, int side) {
     int green = 0;
     int blue = 0;
     for (int y = top; y < top + side; ++y) {
-        for (const Color color : picture.Row(y).subspan(static_cast<std::size_t>(left),
-                                                        static_cast<std::size_t>(side))) {
+        for (const Color color : picture.Row(y).From(left).First(side)) {
             red += RedOf(color);
             green += GreenOf(color);
             blue += BlueOf(color);

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "support/error.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -18,7 +19,7 @@ constexpr double kBarGap = 0.07;    // under a small letter, in ems
 constexpr double kBarThickness = 0.06;
 
 char CharacterOf(int symbol) {
-    return kSymbolCharacters[static_cast<std::size_t>(symbol) - 1];
+    return At(kSymbolCharacters, symbol - 1);
 }
 
 QString TextOf(int symbol) {
@@ -73,7 +74,7 @@ PrintSymbols::PrintSymbols() {
     const QFont font = SymbolFont(kMeasureSize);
     capital_ = InkOf(QStringLiteral("X"), font).height();
     for (int symbol = 1; symbol <= kSymbolCount; ++symbol) {
-        shapes_[static_cast<std::size_t>(symbol)] = Measure(symbol, font);
+        At(shapes_, symbol) = Measure(symbol, font);
     }
 }
 

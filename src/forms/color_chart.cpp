@@ -26,8 +26,7 @@ void ColorChartForm::CloseButton_Click() {
 
 char ColorChartForm::Symbol(int paint) const {
     const auto& codes = place_.State.SymbolCodes;
-    const auto at = static_cast<std::size_t>(paint);
-    return at < codes.size() ? static_cast<char>(codes[at]) : '?';
+    return codes.Holds(paint) ? static_cast<char>(codes[paint]) : '?';
 }
 
 }  // namespace vendrel

@@ -1,16 +1,18 @@
 #include "forms/color_matcher.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <span>
+#include <vector>
 
 #include "convert/stipple_conversion.h"
 #include "output/chart_contents.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
 #include "paints/template_library.h"
+#include "shell/palette.h"
 #include "shell/scratch_place.h"
+#include "shell/stipple_grid.h"
 #include "support/error.h"
+#include "support/list.h"
 #include "touchup/recovery.h"
 
 namespace vendrel {
@@ -24,22 +26,11 @@ void RequireGrid(const WorkState& state) {
     }
 }
 
-std::vector<int> CountStipples(const WorkState& state) {
-    std::vector<int> counts(state.PaintColors.size());
-    for (int y = 1; y <= state.Stipples.Down(); ++y) {
-        for (int x = 1; x <= state.Stipples.Across(); ++x) {
-            ++counts[static_cast<std::size_t>(state.Stipples(x, y).ColorIndex)];
-        }
-    }
-    return counts;
-}
-
 Surface DrawSmall(const WorkState& state) {
     Surface small(state.Stipples.Across(), state.Stipples.Down());
     for (int y = 1; y <= state.Stipples.Down(); ++y) {
         for (int x = 1; x <= state.Stipples.Across(); ++x) {
-            const auto paint = static_cast<std::size_t>(state.Stipples(x, y).ColorIndex);
-            small.Set(x - 1, y - 1, ColorOf(state.PaintColors[paint]));
+            small.Set(x - 1, y - 1, ColorOf(state.PaintColors[state.Stipples(x, y).ColorIndex]));
         }
     }
     return small;
@@ -53,11 +44,11 @@ void ColorMatcher::Form_Load() {
     if (!state.PaintShopLoaded) {
         FillSelectedPaintsList(place_.State);
     }
-    const std::vector<int> counts = CountStipples(state);
-    const std::vector<int> shares = SharesInTenths(std::span(counts).subspan(1));
-    rows_.assign(1, {});
-    for (std::size_t k = 1; k < state.PaintColors.size(); ++k) {
-        rows_.push_back({state.PaintColors[k], state.PaintColors[k], counts[k], shares[k - 1]});
+    const OneBased<int> counts = CountStipples(state.Stipples, state.PaintCount);
+    const std::vector<int> shares = SharesInTenths(counts.Entries());
+    rows_.Clear();
+    for (int k = 1; k <= state.PaintCount; ++k) {
+        rows_.Add({state.PaintColors[k], state.PaintColors[k], counts[k], At(shares, k - 1)});
     }
     chosen_ = 1;
     Changed();
@@ -69,28 +60,28 @@ void ColorMatcher::Source_Click(MatchSource source) {
 }
 
 void ColorMatcher::PaintList_Click(int paint) {
-    if (paint >= 1 && paint < static_cast<int>(rows_.size())) {
+    if (rows_.Holds(paint)) {
         chosen_ = paint;
         FindOffers();
     }
 }
 
-std::vector<PaintColor> ColorMatcher::Palette() const {
-    std::vector<PaintColor> palette;
+PaintList ColorMatcher::Palette() const {
+    PaintList palette;
     for (const MatcherRow& row : rows_) {
-        palette.push_back(row.Current);
-        palette.back().CellCount = 0;
+        palette.Add(row.Current);
+        palette.Last().CellCount = 0;
     }
     return palette;
 }
 
 // The palette as it is, and what the other paints may be put back to: were one of those offered,
 // putting it back would have it there twice.
-std::vector<PaintColor> ColorMatcher::Taken() const {
-    std::vector<PaintColor> taken = Palette();
-    for (std::size_t k = 1; k < rows_.size(); ++k) {
-        if (static_cast<int>(k) != chosen_) {
-            taken.push_back(rows_[k].Original);
+PaintList ColorMatcher::Taken() const {
+    PaintList taken = Palette();
+    for (int k = 1; k <= rows_.Count(); ++k) {
+        if (k != chosen_) {
+            taken.Add(rows_[k].Original);
         }
     }
     return taken;
@@ -99,27 +90,25 @@ std::vector<PaintColor> ColorMatcher::Taken() const {
 void ColorMatcher::FindOffers() {
     const WorkState& state = place_.State;
     std::vector<PaintColor> candidates;
-    for (const PaintColor& paint : std::span(state.MasterColors).subspan(1)) {
+    for (const PaintColor& paint : state.MasterColors) {
         if (source_ == MatchSource::WholeCatalogue ||
             std::ranges::find(state.SelectedPaintsList, paint.Mfg) !=
                 state.SelectedPaintsList.end()) {
             candidates.push_back(paint);
         }
     }
-    offers_ = FindNextBest(rows_[static_cast<std::size_t>(chosen_)].Original, candidates, Taken(),
-                           kOffers);
+    offers_ = FindNextBest(rows_[chosen_].Original, candidates, Taken(), kOffers);
 }
 
 void ColorMatcher::Exchange_Click(int offer) {
-    if (offer >= 0 && offer < static_cast<int>(offers_.size())) {
-        rows_[static_cast<std::size_t>(chosen_)].Current =
-            offers_[static_cast<std::size_t>(offer)].Paint;
+    if (Holds(offers_, offer)) {
+        rows_[chosen_].Current = At(offers_, offer).Paint;
         Changed();
     }
 }
 
 void ColorMatcher::PutBack_Click() {
-    MatcherRow& row = rows_[static_cast<std::size_t>(chosen_)];
+    MatcherRow& row = rows_[chosen_];
     row.Current = row.Original;
     Changed();
 }
@@ -148,7 +137,7 @@ void ColorMatcher::ShowPreview() {
 }
 
 void ColorMatcher::AcceptButton_Click() {
-    if (rows_.size() <= 1) {
+    if (rows_.Empty()) {
         return;
     }
     GridReplacement replacement(place_);
@@ -170,7 +159,7 @@ std::string ColorMatcher::SaveTemplate_Click() {
     const std::string name =
         FreeTemplateName(place_, CleanTemplateName(place_.State.PictureName + " " +
                                                    std::string(DifficultyWord(place_.State)) + " " +
-                                                   std::to_string(rows_.size() - 1) + " Paints"));
+                                                   std::to_string(rows_.Count()) + " Paints"));
     WriteTemplate(TemplatePath(place_, name), Palette());
     return name;
 }

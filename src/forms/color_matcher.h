@@ -46,8 +46,8 @@ class ColorMatcher {
     /// Writes the palette as a template named after the kit; returns the name.
     std::string SaveTemplate_Click();
 
-    /// Rows 1.. ; element 0 unused.
-    [[nodiscard]] const std::vector<MatcherRow>& Rows() const { return rows_; }
+    /// One per paint of the palette.
+    [[nodiscard]] const OneBased<MatcherRow>& Rows() const { return rows_; }
     [[nodiscard]] int Chosen() const { return chosen_; }
     [[nodiscard]] MatchSource Source() const { return source_; }
     [[nodiscard]] const std::vector<NextBestPaint>& Offers() const { return offers_; }
@@ -56,14 +56,14 @@ class ColorMatcher {
     [[nodiscard]] const Surface& Preview() const { return preview_; }
 
   private:
-    [[nodiscard]] std::vector<PaintColor> Palette() const;
-    [[nodiscard]] std::vector<PaintColor> Taken() const;
+    [[nodiscard]] PaintList Palette() const;
+    [[nodiscard]] PaintList Taken() const;
     void FindOffers();
     void ShowPreview();
     void Changed();
 
     Workplace& place_;
-    std::vector<MatcherRow> rows_{1};
+    OneBased<MatcherRow> rows_;
     std::vector<NextBestPaint> offers_;
     MatchSource source_ = MatchSource::SelectedSets;
     int chosen_ = 0;

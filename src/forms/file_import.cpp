@@ -1,7 +1,6 @@
 #include "forms/file_import.h"
 
 #include <algorithm>
-#include <cstddef>
 
 #include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
@@ -14,6 +13,7 @@
 #include "storage/load_stipples.h"
 #include "support/disk.h"
 #include "support/error.h"
+#include "support/list.h"
 #include "touchup/recovery.h"
 
 namespace vendrel {
@@ -83,15 +83,15 @@ void FileImport::ShowFolder(const fs::path& folder) {
 }
 
 void FileImport::ImportDrive_Change(int drive) {
-    if (drive >= 0 && static_cast<std::size_t>(drive) < controls_.ImportDrive.size()) {
+    if (Holds(controls_.ImportDrive, drive)) {
         controls_.DriveIndex = drive;
-        ShowFolder(controls_.ImportDrive[static_cast<std::size_t>(drive)].Root);
+        ShowFolder(At(controls_.ImportDrive, drive).Root);
     }
 }
 
 void FileImport::ImportDir_Change(int folder) {
     if (Holds(controls_.ImportDir, folder)) {
-        const std::string& name = controls_.ImportDir[static_cast<std::size_t>(folder)];
+        const std::string& name = At(controls_.ImportDir, folder);
         ShowFolder(name == ".." ? controls_.Folder.parent_path() : controls_.Folder / name);
         controls_.DriveIndex = DriveOf(controls_.ImportDrive, controls_.Folder);
     }
@@ -100,7 +100,7 @@ void FileImport::ImportDir_Change(int folder) {
 void FileImport::ImportFile_Click(int file) {
     if (Holds(controls_.ImportFile, file)) {
         controls_.FileIndex = file;
-        place_.State.PictureFile = controls_.ImportFile[static_cast<std::size_t>(file)];
+        place_.State.PictureFile = At(controls_.ImportFile, file);
         clicked_ = controls_.Folder / place_.State.PictureFile;
         ShowPreview();
     }

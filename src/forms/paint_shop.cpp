@@ -1,7 +1,6 @@
 #include "forms/paint_shop.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <string_view>
 
 #include "convert/photo_import.h"
@@ -11,6 +10,8 @@
 #include "paints/template_file.h"
 #include "shell/busy_pointer.h"
 #include "shell/menu.h"
+#include "shell/palette.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -25,7 +26,7 @@ int IndexOf(const std::vector<std::string>& list, const std::string& entry) {
 
 void Select(WorkState& state, const std::string& name, bool selected) {
     for (PaintSet& set : state.PaintSets) {
-        if (&set != &state.PaintSets.front() && set.Name == name) {
+        if (set.Name == name) {
             set.Selected = selected;
         }
     }
@@ -55,7 +56,7 @@ void PaintShop::Form_Load() {
 
 // A template that cannot be read leaves an empty palette on show and the button off.
 void PaintShop::ShowPalette() {
-    place_.State.PaintCount = 0;
+    SetPalette(place_.State, {});
     ShowMode();
     UpdatePaintColors();
     TransferPaint();
@@ -101,7 +102,7 @@ void PaintShop::SelectedPaintsList_Click(int set) {
 bool PaintShop::ChangeSelection() {
     WorkState& state = place_.State;
     if (controls_.TransferCaption == ">>") {
-        const std::string& name = controls_.MfgList[static_cast<std::size_t>(controls_.MfgIndex)];
+        const std::string& name = At(controls_.MfgList, controls_.MfgIndex);
         if (IndexOf(state.SelectedPaintsList, name) < 0) {
             Select(state, name, true);
         }
@@ -111,8 +112,7 @@ bool PaintShop::ChangeSelection() {
         place_.Screen.ShowMessage("Unable to Remove", "Cannot Remove Last Paint Set");
         return false;
     }
-    Select(state, state.SelectedPaintsList[static_cast<std::size_t>(controls_.SelectedIndex)],
-           false);
+    Select(state, At(state.SelectedPaintsList, controls_.SelectedIndex), false);
     return true;
 }
 
@@ -155,11 +155,11 @@ void PaintShop::UseTemplate_Click() {
 
 void PaintShop::TemplateList_Click(int entry) {
     if (!UsesTemplate() || !Holds(controls_.TemplateList, entry) ||
-        controls_.TemplateList[static_cast<std::size_t>(entry)] == kNoTemplates) {
+        At(controls_.TemplateList, entry) == kNoTemplates) {
         return;
     }
     controls_.TemplateIndex = entry;
-    place_.State.SelectedTemplate = controls_.TemplateList[static_cast<std::size_t>(entry)];
+    place_.State.SelectedTemplate = At(controls_.TemplateList, entry);
     ShowPalette();
 }
 
@@ -168,10 +168,9 @@ void PaintShop::TransferPaint() {
         LoadColors(place_);
         return;
     }
-    place_.State.PaintCount = 0;
+    SetPalette(place_.State, {});
     if (controls_.TemplateIndex >= 0) {
-        place_.State.SelectedTemplate =
-            controls_.TemplateList[static_cast<std::size_t>(controls_.TemplateIndex)];
+        place_.State.SelectedTemplate = At(controls_.TemplateList, controls_.TemplateIndex);
         static_cast<void>(LoadTemplateColors(place_, place_.State.SelectedTemplate));
     }
 }
@@ -230,9 +229,7 @@ void PaintShop::QueryUnload() {
 
 const PaintColor* PaintShop::PaintAt(int swatch) const {
     const WorkState& state = place_.State;
-    return swatch >= 0 && swatch < state.PaintCount
-               ? &state.PaintColors[static_cast<std::size_t>(swatch) + 1]
-               : nullptr;
+    return state.PaintColors.Holds(swatch + 1) ? &state.PaintColors[swatch + 1] : nullptr;
 }
 
 }  // namespace vendrel

@@ -48,7 +48,7 @@ void CopyShippedPaintList(const Workplace& place) {
 void PrepareSettings(Workplace& place) {
     WorkState& state = place.State;
     Menu& menu = place.MainMenu;
-    state.SymbolCodes.fill(0);
+    state.SymbolCodes.Clear();
     state.TemplateMode = false;
     state.PaintingDone = false;
     state.Chosen.Sample = Sampling::Average;

@@ -1,7 +1,6 @@
 #include "forms/template_shop.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <utility>
 
 #include "convert/stipple_conversion.h"
@@ -16,6 +15,7 @@
 #include "support/disk.h"
 #include "support/error.h"
 #include "support/letter_case.h"
+#include "support/list.h"
 #include "support/whole_file.h"
 
 namespace vendrel {
@@ -30,16 +30,15 @@ bool Matches(const PaintColor& paint, const PaintSearch& search, const std::stri
                std::string::npos;
 }
 
-void SortByNearness(std::vector<int>& rows, const std::vector<PaintColor>& catalogue, Color near) {
+void SortByNearness(std::vector<int>& rows, const PaintList& catalogue, Color near) {
     const PaintColor wanted{RedOf(near), GreenOf(near), BlueOf(near), "", "", "", 0};
-    std::ranges::stable_sort(rows, {}, [&](int row) {
-        return PaintDifference(wanted, catalogue[static_cast<std::size_t>(row)]);
-    });
+    std::ranges::stable_sort(rows, {},
+                             [&](int row) { return PaintDifference(wanted, catalogue[row]); });
 }
 
 // Every paint that the photo is matched to with the selected sets, in order of first use. Done on
 // a copy of the workplace: palette, grid and picture of the work in hand stay as they are.
-std::vector<PaintColor> PaintsOfPhoto(const Workplace& place) {
+PaintList PaintsOfPhoto(const Workplace& place) {
     ScratchPlace scratch(place);
     scratch.State.KeepAllColors = true;
     scratch.State.WorkStage = 1;
@@ -66,9 +65,8 @@ int TemplateShop::Preselected() const {
 }
 
 std::string TemplateShop::Chosen() const {
-    return controls_.TemplateIndex < 0
-               ? std::string()
-               : controls_.TemplateList[static_cast<std::size_t>(controls_.TemplateIndex)];
+    return controls_.TemplateIndex < 0 ? std::string()
+                                       : At(controls_.TemplateList, controls_.TemplateIndex);
 }
 
 std::string TemplateShop::RequireChosen() const {
@@ -88,7 +86,7 @@ void TemplateShop::ListAndChoose(std::string_view name) {
 }
 
 void TemplateShop::ReadChosen() {
-    controls_.Paints.assign(1, {});
+    controls_.Paints.Clear();
     controls_.ChosenIsTemplate = false;
     if (controls_.TemplateIndex < 0) {
         return;
@@ -114,7 +112,7 @@ void TemplateShop::TemplateList_Click(int entry) {
 
 void TemplateShop::AddTemplate_Click(std::string_view name) {
     CheckNewTemplateName(place_, name);
-    WriteTemplate(TemplatePath(place_, name), std::vector<PaintColor>(1));
+    WriteTemplate(TemplatePath(place_, name), PaintList());
     ListAndChoose(name);
 }
 
@@ -124,7 +122,7 @@ void TemplateShop::RenameTemplate_Click(std::string_view name) {
 }
 
 void TemplateShop::DuplicateTemplate_Click(std::string_view name) {
-    const std::vector<PaintColor> paints = ReadTemplate(TemplatePath(place_, RequireChosen()));
+    const PaintList paints = ReadTemplate(TemplatePath(place_, RequireChosen()));
     CheckNewTemplateName(place_, name);
     WriteTemplate(TemplatePath(place_, name), paints);
     ListAndChoose(name);
@@ -143,7 +141,7 @@ void TemplateShop::Search_Change(const PaintSearch& search) {
     const std::string text = ToLower(search.Text);
     controls_.Found.clear();
     for (int row = 1; row <= place_.State.MasterCount; ++row) {
-        if (Matches(place_.State.MasterColors[static_cast<std::size_t>(row)], search, text)) {
+        if (Matches(place_.State.MasterColors[row], search, text)) {
             controls_.Found.push_back(row);
         }
     }
@@ -158,7 +156,7 @@ bool TemplateShop::MayOverwrite() {
                              "The file \"" + Chosen() + "\" is no template. Write over it?");
 }
 
-void TemplateShop::Store(std::vector<PaintColor> paints) {
+void TemplateShop::Store(PaintList paints) {
     if (!MayOverwrite()) {
         return;
     }
@@ -172,34 +170,34 @@ void TemplateShop::Store(std::vector<PaintColor> paints) {
 
 bool TemplateShop::AddPaint_Click(int catalogueRow) {
     (void)RequireChosen();
-    const PaintColor& paint = place_.State.MasterColors.at(static_cast<std::size_t>(catalogueRow));
-    std::vector<PaintColor> paints = controls_.Paints;
-    if (std::any_of(paints.begin() + 1, paints.end(),
-                    [&](const PaintColor& other) { return SamePaint(other, paint); })) {
+    const PaintColor& paint = place_.State.MasterColors[catalogueRow];
+    PaintList paints = controls_.Paints;
+    if (std::ranges::any_of(paints,
+                            [&](const PaintColor& other) { return SamePaint(other, paint); })) {
         return false;
     }
-    paints.push_back(paint);
+    paints.Add(paint);
     Store(std::move(paints));
     return true;
 }
 
 void TemplateShop::RemovePaint_Click(int paint) {
-    if (paint < 1 || paint >= static_cast<int>(controls_.Paints.size())) {
+    if (!controls_.Paints.Holds(paint)) {
         return;
     }
-    std::vector<PaintColor> paints = controls_.Paints;
-    paints.erase(paints.begin() + paint);
+    PaintList paints = controls_.Paints;
+    paints.Remove(paint);
     Store(std::move(paints));
 }
 
 void TemplateShop::MovePaint_Click(int paint, int to) {
-    const int last = static_cast<int>(controls_.Paints.size()) - 1;
+    const int last = controls_.Paints.Count();
     to = std::clamp(to, 1, std::max(last, 1));
     if (paint < 1 || paint > last || paint == to) {
         return;
     }
-    std::vector<PaintColor> paints = controls_.Paints;
-    const auto at = paints.begin();
+    PaintList paints = controls_.Paints;
+    const auto at = paints.begin() - 1;
     if (paint < to) {
         std::rotate(at + paint, at + paint + 1, at + to + 1);
     } else {
@@ -213,9 +211,9 @@ void TemplateShop::FillFromPhoto_Click() {
     if (!place_.State.PictureLoaded) {
         throw Error("No photo is loaded. Load one with \"Load Photo\" in the Picture menu first.");
     }
-    if (controls_.Paints.size() > 1 &&
+    if (!controls_.Paints.Empty() &&
         !place_.Screen.Ask("Fill From Photo",
-                           "Replace the " + std::to_string(controls_.Paints.size() - 1) +
+                           "Replace the " + std::to_string(controls_.Paints.Count()) +
                                " paints of \"" + name + "\" by those of the photo?")) {
         return;
     }
@@ -223,7 +221,7 @@ void TemplateShop::FillFromPhoto_Click() {
 }
 
 void TemplateShop::Import_Click(const std::filesystem::path& file) {
-    const std::vector<PaintColor> paints = ReadPaletteFile(file);
+    const PaintList paints = ReadPaletteFile(file);
     const std::string name = FreeTemplateName(place_, CleanTemplateName(file.stem().string()));
     WriteTemplate(TemplatePath(place_, name), paints);
     ListAndChoose(name);

@@ -21,9 +21,9 @@ struct PaintSearch {
 struct TemplateShopControls {
     std::vector<std::string> TemplateList;
     int TemplateIndex = -1;
-    std::vector<PaintColor> Paints{1};  // of the chosen template, element 0 unused
-    bool ChosenIsTemplate = false;      // else its file could not be read as one
-    std::vector<int> Found;             // catalogue rows, from 1
+    PaintList Paints;               // of the chosen template
+    bool ChosenIsTemplate = false;  // else its file could not be read as one
+    std::vector<int> Found;         // catalogue rows, from 1
 };
 
 /// The library of templates: named lists of paints kept in files. Every change is written at once.
@@ -73,7 +73,7 @@ class TemplateShop {
     [[nodiscard]] std::string RequireChosen() const;
     /// False when the chosen file is no template and shall not be written over.
     [[nodiscard]] bool MayOverwrite();
-    void Store(std::vector<PaintColor> paints);
+    void Store(PaintList paints);
 
     Workplace& place_;
     TemplateShopControls controls_;

@@ -13,6 +13,7 @@
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
+#include "support/list.h"
 #include "touchup/clean_up.h"
 #include "touchup/markers.h"
 
@@ -23,9 +24,8 @@ constexpr const char* kTitle = "Touch Up";
 
 // A kit that keeps all its paints may have more of them than symbols.
 std::string SymbolText(int paint) {
-    return paint <= kSymbolCount
-               ? std::string(1, kSymbolCharacters[static_cast<std::size_t>(paint) - 1])
-               : std::to_string(paint);
+    return paint <= kSymbolCount ? std::string(1, At(kSymbolCharacters, paint - 1))
+                                 : std::to_string(paint);
 }
 
 std::string Counted(int count, const std::string& one, const std::string& many) {
@@ -134,7 +134,7 @@ std::string TouchUpForm::Describe(CellPos at) const {
     if (!Sheet().HoldsPaint(paint)) {
         return "Column " + std::to_string(at.X) + ", row " + std::to_string(at.Y);
     }
-    const TouchUpPaint& row = controls_.Palette[static_cast<std::size_t>(paint)];
+    const TouchUpPaint& row = controls_.Palette[paint];
     return "Column " + std::to_string(at.X) + ", row " + std::to_string(at.Y) + ":  " + row.Symbol +
            "  " + row.Label;
 }
@@ -312,11 +312,11 @@ void TouchUpForm::Follow() {
 }
 
 void TouchUpForm::FollowPalette() {
-    const std::vector<PaintColor>& paints = Sheet().Paints();
-    controls_.Palette.resize(static_cast<std::size_t>(Sheet().PaintCount()) + 1);
-    for (std::size_t i = 1; i < controls_.Palette.size(); ++i) {
-        controls_.Palette[i] = {SymbolText(static_cast<int>(i)), paints[i].PaintName,
-                                PaintLabel(paints[i]), ColorOf(paints[i]), paints[i].CellCount};
+    const PaintList& paints = Sheet().Paints();
+    controls_.Palette.Resize(Sheet().PaintCount());
+    for (int i = 1; i <= Sheet().PaintCount(); ++i) {
+        controls_.Palette[i] = {SymbolText(i), paints[i].PaintName, PaintLabel(paints[i]),
+                                ColorOf(paints[i]), paints[i].CellCount};
     }
 }
 

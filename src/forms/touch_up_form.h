@@ -27,8 +27,8 @@ struct TouchUpPaint {
 /// What the touch-up window shows.
 struct TouchUpControls {
     TouchUpTool Tool = TouchUpTool::Brush;
-    EditBrush Brush;                    // size, and the paint of all tools
-    std::vector<TouchUpPaint> Palette;  // entry 0 empty
+    EditBrush Brush;  // size, and the paint of all tools
+    OneBased<TouchUpPaint> Palette;
     bool BlinkLoners = false;
     bool BlinkPaint = false;  // every stipple of the chosen paint
     std::string Loners;       // how many are left, and where the last one found stands

@@ -67,8 +67,8 @@ class Numbering {
     NumberSink* sink_;
     StippleFinder finder_;
     int period_;
-    PositionRing queue_;                       // flag: the pixel is the area's own
-    std::vector<std::vector<CellPos>> seeds_;  // per paint, in row-major order
+    PositionRing queue_;                    // flag: the pixel is the area's own
+    OneBased<std::vector<CellPos>> seeds_;  // per paint, in row-major order
     NumberingCounts counts_;
     unsigned walked_ = 0;
 
@@ -87,7 +87,7 @@ void Numbering::SizeGrids() {
     }
     state_.NumberGrid = Grid<NumberPixel>(state_.NumberWidth, state_.NumberHeight);
     state_.NumberMarks = Grid<NumberMark>(state_.NumberWidth, state_.NumberHeight);
-    seeds_.assign(static_cast<std::size_t>(state_.PaintCount) + 1, {});
+    seeds_ = OneBased<std::vector<CellPos>>(state_.PaintCount);
     const TwipsPerPixel twips = place_.Screen.Screen().Twips;
     for (int y = 1; y <= state_.NumberHeight; ++y) {
         FillRow(y, twips);
@@ -98,21 +98,20 @@ void Numbering::SizeGrids() {
 // never enters from the left: every other pixel is reached from its left neighbour. So the search
 // for first pixels looks at these alone, once for all paints.
 void Numbering::FillRow(int y, TwipsPerPixel twips) {
-    const std::span<const MapPixel> from = state_.PixelMap.Row(y);
-    const std::span<NumberPixel> to = state_.NumberGrid.Row(y);
-    const std::span<NumberMark> marks = state_.NumberMarks.Row(y);
+    const auto from = state_.PixelMap.Row(y);
+    const auto to = state_.NumberGrid.Row(y);
+    const auto marks = state_.NumberMarks.Row(y);
     int before = 0;
     for (int x = 1; x <= state_.NumberWidth; ++x) {
-        const int paint = from[static_cast<std::size_t>(x)].ColorIndex;
-        NumberPixel& pixel = to[static_cast<std::size_t>(x)];
+        const int paint = from[x].ColorIndex;
+        NumberPixel& pixel = to[x];
         pixel.ColorIndex = static_cast<std::int16_t>(paint);
         const bool known = paint >= 0 && paint <= state_.PaintCount;
-        marks[static_cast<std::size_t>(x)].ColorIndex =
-            static_cast<std::uint8_t>(known ? paint : kForeign) & 0x7F;
+        marks[x].ColorIndex = static_cast<std::uint8_t>(known ? paint : kForeign) & 0x7F;
         pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
         pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
         if ((paint != before || x == state_.NumberWidth) && paint > 0 && known) {
-            seeds_[static_cast<std::size_t>(paint)].push_back({x, y});
+            seeds_[paint].push_back({x, y});
         }
         before = paint;
     }
@@ -123,7 +122,7 @@ NumberingCounts Numbering::Run() {
     SizeGrids();
     state_.NextAreaNumber = 1;
     for (int k = 1; k <= state_.PaintCount; ++k) {
-        const PaintColor& paint = state_.PaintColors[static_cast<std::size_t>(k)];
+        const PaintColor& paint = state_.PaintColors[k];
         place_.Screen.SetCaption("Finding Borders and Numbers For " + paint.Mfg + " " +
                                  paint.PaintName + " [" + std::to_string(k) + "]");
         place_.Screen.ReportProgress(k, state_.PaintCount);
@@ -137,8 +136,8 @@ NumberingCounts Numbering::Run() {
 
 void Numbering::ReMarkCells(int paint) {
     paint_ = paint;
-    color_ = ColorOf(state_.PaintColors[static_cast<std::size_t>(paint)]);
-    for (const CellPos seed : seeds_[static_cast<std::size_t>(paint)]) {
+    color_ = ColorOf(state_.PaintColors[paint]);
+    for (const CellPos seed : seeds_[paint]) {
         if (!state_.NumberMarks(seed.X, seed.Y).Marked) {
             area_ = static_cast<std::int16_t>(state_.NextAreaNumber);
             Claim(seed.X, seed.Y);
@@ -252,8 +251,7 @@ void Numbering::DrawBorder(int x, int y) {
 int Numbering::CountBorderDots() const {
     int dots = 0;
     for (int y = 0; y < state_.NumberHeight; ++y) {
-        for (const NumberPixel& pixel :
-             state_.NumberGrid.Row(y).first(static_cast<std::size_t>(state_.NumberWidth))) {
+        for (const NumberPixel& pixel : state_.NumberGrid.Row(y).First(state_.NumberWidth)) {
             dots += pixel.IsBorder ? 1 : 0;
         }
     }

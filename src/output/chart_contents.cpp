@@ -6,24 +6,13 @@
 #include <numeric>
 #include <tuple>
 
+#include "shell/stipple_grid.h"
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
 constexpr std::int64_t kWhole = 1000;
-
-void CountStipples(WorkState& state) {
-    for (PaintColor& paint : state.PaintColors) {
-        paint.CellCount = 0;
-    }
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            const auto paint = static_cast<std::size_t>(state.Stipples(x, y).ColorIndex);
-            if (paint > 0 && paint < state.PaintColors.size()) {
-                ++state.PaintColors[paint].CellCount;
-            }
-        }
-    }
-}
 
 }  // namespace
 
@@ -47,24 +36,21 @@ std::vector<int> SharesInTenths(std::span<const int> counts) {
     std::ranges::stable_sort(byRemainder, [&](std::size_t a, std::size_t b) {
         return counts[a] * kWhole % total > counts[b] * kWhole % total;
     });
-    for (std::size_t i = 0; i < static_cast<std::size_t>(left); ++i) {
-        ++shares[byRemainder[i]];
+    for (int i = 0; i < left; ++i) {
+        ++shares[At(byRemainder, i)];
     }
     return shares;
 }
 
 std::vector<ChartRow> FillChart(WorkState& state) {
-    CountStipples(state);
+    const OneBased<int> counts = CountStipples(state.Stipples, state.PaintCount);
+    const std::vector<int> shares = SharesInTenths(counts.Entries());
     std::vector<ChartRow> rows;
-    std::vector<int> counts;
     for (int p = 1; p <= state.PaintCount; ++p) {
-        const PaintColor& paint = state.PaintColors[static_cast<std::size_t>(p)];
-        rows.push_back({p, paint.Mfg, PaintLabel(paint), ColorOf(paint), paint.CellCount, 0});
-        counts.push_back(paint.CellCount);
-    }
-    const std::vector<int> shares = SharesInTenths(counts);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        rows[i].ShareTenths = shares[i];
+        PaintColor& paint = state.PaintColors[p];
+        paint.CellCount = counts[p];
+        rows.push_back(
+            {p, paint.Mfg, PaintLabel(paint), ColorOf(paint), counts[p], At(shares, p - 1)});
     }
     return rows;
 }

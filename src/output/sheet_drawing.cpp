@@ -105,8 +105,7 @@ void StripPainter::DrawDots(int first, int rows) const {
 // All dots are there already, so those that came after the symbol are put back on top of it.
 void StripPainter::DrawSymbol(std::size_t index, int first) const {
     const auto& [paint, at] = record_.Symbols()[index];
-    Number2CDIB(state_, paint, scale_, colors_.Inks[static_cast<std::size_t>(paint)],
-                {at.X, at.Y - first});
+    Number2CDIB(state_, paint, scale_, colors_.Inks[paint], {at.X, at.Y - first});
     for (const GlyphPoint& point : InkOf(state_, paint)) {
         if (point.X % scale_ == 0 && point.Y % scale_ == 0) {
             const CellPos pixel{at.X + point.X / scale_, at.Y + point.Y / scale_};

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "output/sheet_record.h"
 #include "shell/work_state.h"
 #include "support/color.h"
@@ -13,7 +11,7 @@ namespace vendrel {
 /// How a recorded numbering is put on paper.
 struct SheetColors {
     const Surface* Ground = nullptr;  // every pixel of it becomes a square; null: white paper
-    std::vector<Color> Inks;          // of the symbols, per paint
+    OneBased<Color> Inks;             // of the symbols, per paint
 };
 
 /// Draws a recorded numbering at SheetCellSize sheet pixels per picture pixel and saves it as a

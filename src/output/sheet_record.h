@@ -32,9 +32,7 @@ class SheetRecord final : public NumberSink {
     /// The symbols in the order in which they were stamped.
     [[nodiscard]] std::span<const Symbol> Symbols() const { return symbols_; }
     /// Per pixel of row y one more than the symbols stamped before its last dot; 0 where none is.
-    [[nodiscard]] std::span<const int> Dots(int y) const {
-        return dots_.Row(y).first(static_cast<std::size_t>(Width()));
-    }
+    [[nodiscard]] std::span<const int> Dots(int y) const { return dots_.Row(y).First(Width()); }
     /// Whether a pixel was dotted after the symbol of that index was stamped; false outside.
     [[nodiscard]] bool DottedAfter(std::size_t symbol, CellPos at) const {
         return at.X >= 0 && at.Y >= 0 && at.X < Width() && at.Y < Height() &&

@@ -1,7 +1,6 @@
 #include "output/sheet_writer.h"
 
 #include <utility>
-#include <vector>
 
 #include "output/contrast.h"
 #include "output/sheet_drawing.h"
@@ -36,10 +35,10 @@ NumberingCounts Number(const Workplace& place, SheetRecord& record) {
     return SetupCellNumbers(place, place.Frames.WorkFrame.Picture, record);
 }
 
-std::vector<Color> InksOnPaints(const WorkState& state) {
-    std::vector<Color> inks;
+OneBased<Color> InksOnPaints(const WorkState& state) {
+    OneBased<Color> inks;
     for (const PaintColor& paint : state.PaintColors) {
-        inks.push_back(InkOn(ColorOf(paint)));
+        inks.Add(InkOn(ColorOf(paint)));
     }
     return inks;
 }
@@ -68,7 +67,7 @@ NumberedPainting::NumberedPainting(const Workplace& place)
 
 void NumberedPainting::WriteSheet(const Target& target) const {
     WorkState& state = place_.State;
-    const std::vector<Color> inks(state.PaintColors.size(), state.SymbolColor);
+    const OneBased<Color> inks(state.PaintCount, state.SymbolColor);
     WriteDrawing(target, state, record_, {.Ground = nullptr, .Inks = inks});
 }
 

@@ -28,43 +28,42 @@ int ReadShifted(FieldReader& fields, const char* what, int shift) {
 
 SymbolGlyph ReadGlyph(FieldReader& fields) {
     SymbolGlyph glyph;
-    glyph.PointCount = fields.ReadInt("a symbol's pixel count", 0, kMax);
-    glyph.Points.resize(1);
-    for (int i = 1; i <= glyph.PointCount; ++i) {
+    const int count = fields.ReadInt("a symbol's pixel count", 0, kMax);
+    for (int i = 1; i <= count; ++i) {
         const int x = ReadShifted(fields, "a symbol pixel's column", kShift.X);
         const int y = ReadShifted(fields, "a symbol pixel's row", kShift.Y);
-        glyph.Points.push_back({x, y});
+        glyph.Points.Add({x, y});
     }
     return glyph;
 }
 
 void FillSymbolCodes(WorkState& state) {
-    for (std::size_t k = 1; k <= kSymbolCount; ++k) {
-        state.SymbolCodes[k] = static_cast<unsigned char>(kSymbolCharacters[k - 1]);
+    state.SymbolCodes.Clear();
+    for (const char symbol : kSymbolCharacters) {
+        state.SymbolCodes.Add(static_cast<unsigned char>(symbol));
     }
 }
 
 void AppendGlyph(std::string& text, const SymbolGlyph& glyph) {
-    text += ' ' + std::to_string(glyph.Points.size() - 1) + "\r\n";
-    for (std::size_t i = 1; i < glyph.Points.size(); ++i) {
-        const GlyphPoint point = glyph.Points[i];
+    text += ' ' + std::to_string(glyph.PointCount()) + "\r\n";
+    for (const GlyphPoint& point : glyph.Points) {
         text += std::to_string(point.X) + ',' + std::to_string(point.Y) + "\r\n";
     }
 }
 
 // Only pixels of exactly the ink count: the softened rim of a smoothed letter is no part of it.
 void CollectInk(SymbolGlyph& glyph, const Canvas& canvas, Color ink) {
-    glyph.Points.resize(1);
+    glyph.Points.Clear();
     for (int y = 0; y < canvas.Height(); ++y) {
         for (int x = 0; x < canvas.Width(); ++x) {
             if (canvas.Get(x, y) == ink) {
-                glyph.Points.push_back({x, y});
+                glyph.Points.Add({x, y});
             }
         }
     }
 }
 
-void MakeAsciiSymbols(WorkState& state, Canvas& canvas, std::size_t symbol) {
+void MakeAsciiSymbols(WorkState& state, Canvas& canvas, int symbol) {
     canvas.Clear(kWhite);
     canvas.SetFont("Courier New", 12);
     canvas.Print(static_cast<char>(state.SymbolCodes[symbol]), state.SymbolColor);
@@ -77,23 +76,20 @@ void SetupBMPSymbols(const Workplace& place) {
     const std::filesystem::path file = place.Folder.DataFile("Data/Symbols.txt");
     const std::string text = ReadTextFile(file);
     FieldReader fields(text, file);
-    std::vector<SymbolGlyph> glyphs(1);
+    OneBased<SymbolGlyph> glyphs;
     for (int k = 1; k <= kSymbolCount; ++k) {
-        glyphs.push_back(ReadGlyph(fields));
+        glyphs.Add(ReadGlyph(fields));
     }
     place.State.SymbolGlyphs = std::move(glyphs);
     FillSymbolCodes(place.State);
 }
 
 std::span<const GlyphPoint> InkOf(const WorkState& state, int symbol) {
-    if (symbol < 0 || symbol > kSymbolCount ||
-        static_cast<std::size_t>(symbol) >= state.SymbolGlyphs.size()) {
+    if (symbol < 0 || symbol > state.SymbolGlyphs.Count()) {
         throw Error("There is no symbol " + std::to_string(symbol) +
                     ": a sheet can show 50 paints. Reduce the final paints to 50 or fewer.");
     }
-    const SymbolGlyph& glyph = state.SymbolGlyphs[static_cast<std::size_t>(symbol)];
-    const std::span points(glyph.Points);
-    return points.last(static_cast<std::size_t>(glyph.PointCount));
+    return state.SymbolGlyphs[symbol].Points.Entries();
 }
 
 int OnSheet(int cellSize, int position, int offset) {
@@ -114,9 +110,9 @@ void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, 
 
 void MakeSymbolFile(WorkState& state, const std::filesystem::path& file, Canvas& canvas) {
     FillSymbolCodes(state);
-    state.SymbolGlyphs.assign(kSymbolCount + 1, {});
+    state.SymbolGlyphs = OneBased<SymbolGlyph>(kSymbolCount);
     std::string text;
-    for (std::size_t k = 1; k <= kSymbolCount; ++k) {
+    for (int k = 1; k <= kSymbolCount; ++k) {
         MakeAsciiSymbols(state, canvas, k);
         AppendGlyph(text, state.SymbolGlyphs[k]);
     }

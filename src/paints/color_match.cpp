@@ -11,12 +11,11 @@ void GetRgb(Color color, int& r, int& g, int& b) {
 }
 
 void ColorMatch(const WorkState& state, int& R, int& G, int& B, int& Index, int SkipIndex) {
-    const std::span<const PaintColor> paints = Palette(state);
-    const int nearest = FindNearest(paints, {R, G, B}, SkipIndex);
+    const int nearest = FindNearest(state.PaintColors, {R, G, B}, SkipIndex);
     if (nearest == 0) {
         return;
     }
-    const PaintColor& paint = paints[static_cast<std::size_t>(nearest)];
+    const PaintColor& paint = state.PaintColors[nearest];
     R = paint.Red;
     G = paint.Green;
     B = paint.Blue;

@@ -1,17 +1,9 @@
 #pragma once
 
-#include <cstddef>
-#include <span>
-
 #include "shell/work_state.h"
 #include "support/color.h"
 
 namespace vendrel {
-
-/// The working palette: PaintCount paints behind an empty entry 0.
-[[nodiscard]] inline std::span<const PaintColor> Palette(const WorkState& state) {
-    return std::span(state.PaintColors).first(static_cast<std::size_t>(state.PaintCount) + 1);
-}
 
 /// Splits a packed colour into channels of 0..255.
 void GetRgb(Color color, int& r, int& g, int& b);

@@ -5,10 +5,10 @@
 
 namespace vendrel {
 
-NearestPaintTable::NearestPaintTable(std::span<const PaintColor> paints)
+NearestPaintTable::NearestPaintTable(const PaintList& paints)
     : blocks_(kBlocksPerAxis * kBlocksPerAxis * kBlocksPerAxis) {
-    for (std::size_t i = 1; i < paints.size(); ++i) {
-        paints_.push_back({paints[i].Red, paints[i].Green, paints[i].Blue, static_cast<int>(i)});
+    for (int i = 1; i <= paints.Count(); ++i) {
+        paints_.push_back({paints[i].Red, paints[i].Green, paints[i].Blue, i});
     }
     red_ = BoundsOf(paints_, &Candidate::Red);
     green_ = BoundsOf(paints_, &Candidate::Green);

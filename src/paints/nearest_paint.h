@@ -31,17 +31,17 @@ template <class Paint>
     return red * red + green * green + blue * blue;
 }
 
-/// Index of the paint nearest to `color`, the later of equally near ones. Entry 0 of `paints` and
-/// entry `skip` are left out; 0 when no paint is left.
+/// Index of the paint nearest to `color`, the later of equally near ones. Entry `skip` is left out;
+/// 0 when no paint is left.
 template <class Paint>
-[[nodiscard]] int FindNearest(std::span<const Paint> paints, const Channels& color, int skip) {
+[[nodiscard]] int FindNearest(const OneBased<Paint>& paints, const Channels& color, int skip) {
     int best = kLargestSquaredDistance;
     int nearest = 0;
-    for (std::size_t i = 1; i < paints.size(); ++i) {
+    for (int i = 1; i <= paints.Count(); ++i) {
         const int distance = SquaredDistance(paints[i], color);
-        if (distance <= best && static_cast<int>(i) != skip) {
+        if (distance <= best && i != skip) {
             best = distance;
-            nearest = static_cast<int>(i);
+            nearest = i;
         }
     }
     return nearest;
@@ -52,7 +52,7 @@ template <class Paint>
 /// photo costs about the same with a catalogue of fifty paints as with a thousand.
 class NearestPaintTable {
   public:
-    explicit NearestPaintTable(std::span<const PaintColor> paints);
+    explicit NearestPaintTable(const PaintList& paints);
 
     /// As FindNearest without a skipped paint. `color` must have channels of 0..255.
     [[nodiscard]] int Find(const Channels& color);

@@ -17,9 +17,9 @@ bool SamePaint(const PaintColor& a, const PaintColor& b) {
 
 std::vector<NextBestPaint> FindNextBest(const PaintColor& wanted,
                                         std::span<const PaintColor> candidates,
-                                        std::span<const PaintColor> taken, int count) {
+                                        const PaintList& taken, int count) {
     std::set<Color> used;
-    for (const PaintColor& paint : taken.subspan(1)) {
+    for (const PaintColor& paint : taken) {
         used.insert(ColorOf(paint));
     }
     std::vector<NextBestPaint> best;

@@ -21,10 +21,10 @@ struct NextBestPaint {
 [[nodiscard]] bool SamePaint(const PaintColor& a, const PaintColor& b);
 
 /// The `count` paints of `candidates` nearest to `wanted`, nearest first, equally near ones in
-/// the order of the candidates. Paints of `taken`, whose element 0 holds none, are left out, also
+/// the order of the candidates. Paints of `taken` are left out, also
 /// those that only share their colour with one of them: two paints of one colour would become one.
 [[nodiscard]] std::vector<NextBestPaint> FindNextBest(const PaintColor& wanted,
                                                       std::span<const PaintColor> candidates,
-                                                      std::span<const PaintColor> taken, int count);
+                                                      const PaintList& taken, int count);
 
 }  // namespace vendrel

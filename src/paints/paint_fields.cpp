@@ -16,11 +16,10 @@ namespace {
 
 constexpr std::size_t kMostNamed = 3;
 
-std::vector<PaintColor> ReadCounted(FieldReader& in) {
+PaintList ReadCounted(FieldReader& in) {
     const int count = in.ReadInt("the number of paints", 0, kMaxCounter);
-    std::vector<PaintColor> paints(static_cast<std::size_t>(count) + 1);
-    for (int i = 1; i <= count; ++i) {
-        PaintColor& paint = paints[static_cast<std::size_t>(i)];
+    PaintList paints(count);
+    for (PaintColor& paint : paints) {
         paint.Red = in.ReadInt("a paint's red", 0, 255);
         paint.Green = in.ReadInt("a paint's green", 0, 255);
         paint.Blue = in.ReadInt("a paint's blue", 0, 255);
@@ -41,7 +40,7 @@ void WarnOfRowsLeft(const FieldReader& in, PaintFile& read) {
                       : "lines " + std::to_string(first) + " to " + std::to_string(last) + " were";
     read.Warnings.push_back(
         in.File().string() + ": " + lines + " not read, as the number in line 1 counts only " +
-        std::to_string(read.Paints.size() - 1) + " paints. Correct that number to have them.");
+        std::to_string(read.Paints.Count()) + " paints. Correct that number to have them.");
 }
 
 std::string TitleOf(const PaintColor& paint) {
@@ -81,7 +80,7 @@ PaintFile ReadPaintFile(const std::filesystem::path& file) {
     return read;
 }
 
-std::vector<PaintColor> ReadPaints(const Workplace& place, const std::filesystem::path& file) {
+PaintList ReadPaints(const Workplace& place, const std::filesystem::path& file) {
     PaintFile read = ReadPaintFile(file);
     for (const std::string& warning : read.Warnings) {
         WarnOnce(place, warning);

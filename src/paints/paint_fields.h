@@ -11,7 +11,7 @@ namespace vendrel {
 
 /// The paints of a file, and sentences on what in it the painter may not have meant.
 struct PaintFile {
-    std::vector<PaintColor> Paints;  // entry 0 is empty
+    PaintList Paints;
     std::vector<std::string> Warnings;
 };
 
@@ -21,7 +21,6 @@ struct PaintFile {
 [[nodiscard]] PaintFile ReadPaintFile(const std::filesystem::path& file);
 
 /// The same, warning the painter once.
-[[nodiscard]] std::vector<PaintColor> ReadPaints(const Workplace& place,
-                                                 const std::filesystem::path& file);
+[[nodiscard]] PaintList ReadPaints(const Workplace& place, const std::filesystem::path& file);
 
 }  // namespace vendrel

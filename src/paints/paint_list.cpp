@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "paints/paint_sets.h"
+#include "shell/palette.h"
 #include "shell/warnings.h"
 #include "support/disk.h"
 #include "support/text_file.h"
@@ -19,9 +20,9 @@ constexpr const char* kPaintList = "data/paintlist.txt";
 // False when there is no such set.
 bool Select(WorkState& state, const std::string& name) {
     bool known = false;
-    for (std::size_t i = 1; i < state.PaintSets.size(); ++i) {
-        if (state.PaintSets[i].Name == name) {
-            state.PaintSets[i].Selected = true;
+    for (PaintSet& set : state.PaintSets) {
+        if (set.Name == name) {
+            set.Selected = true;
             known = true;
         }
     }
@@ -48,13 +49,13 @@ void StartPaintList(Workplace& place) {
 
 void LoadPaintList(Workplace& place) {
     WorkState& state = place.State;
-    SetPalette(state, std::vector<PaintColor>(1));
+    SetPalette(state, {});
     const auto file = place.Folder.DataFile(kPaintList);
     if (!Stands(file)) {
         StartPaintList(place);
         return;
     }
-    std::vector<PaintColor> paints(1);
+    PaintList paints;
     std::string unknown;
     for (const std::string& line : SplitLines(ReadTextFile(file))) {
         if (!Select(state, line) && !line.empty()) {
@@ -68,8 +69,7 @@ void LoadPaintList(Workplace& place) {
 
 void SavePaintList(Workplace& place) {
     std::string text;
-    for (std::size_t i = 1; i < place.State.PaintSets.size(); ++i) {
-        const PaintSet& set = place.State.PaintSets[i];
+    for (const PaintSet& set : place.State.PaintSets) {
         if (set.Selected) {
             text += set.Name + "\r\n";
         }

@@ -124,13 +124,13 @@ PaintColor ReadCsvRow(const std::vector<std::string>& fields, const CsvColumns& 
 
 }  // namespace
 
-std::vector<PaintColor> ParseGplPalette(std::string_view text, const fs::path& file) {
+PaintList ParseGplPalette(std::string_view text, const fs::path& file) {
     const std::vector<std::string> lines = SplitLines(text);
     if (lines.empty() || !lines[0].starts_with("GIMP Palette")) {
         throw FormatError(file, 1,
                           "this is no .gpl palette: its first line must be \"GIMP Palette\".");
     }
-    std::vector<PaintColor> paints(1);
+    PaintList paints;
     std::string set = file.stem().string();
     for (std::size_t i = 1; i < lines.size(); ++i) {
         std::string_view line = Trim(lines[i]);
@@ -149,14 +149,14 @@ std::vector<PaintColor> ParseGplPalette(std::string_view text, const fs::path& f
                               "or take it out.");
         }
         const std::string_view name = Trim(line);
-        paints.push_back(MakePaint(rgb, set, name.empty() ? "Unnamed" : name));
+        paints.Add(MakePaint(rgb, set, name.empty() ? "Unnamed" : name));
     }
     return paints;
 }
 
-std::vector<PaintColor> ParseColorCsv(std::string_view text, const fs::path& file) {
+PaintList ParseColorCsv(std::string_view text, const fs::path& file) {
     const std::vector<std::string> lines = SplitLines(text);
-    std::vector<PaintColor> paints(1);
+    PaintList paints;
     if (lines.empty()) {
         return paints;
     }
@@ -166,31 +166,29 @@ std::vector<PaintColor> ParseColorCsv(std::string_view text, const fs::path& fil
     const CsvColumns columns = hasHeading ? ReadHeading(first, file) : CsvColumns{};
     for (std::size_t i = hasHeading ? 1 : 0; i < lines.size(); ++i) {
         if (!Trim(lines[i]).empty()) {
-            paints.push_back(ReadCsvRow(SplitCsvLine(lines[i], separator), columns, file,
-                                        static_cast<int>(i) + 1));
+            paints.Add(ReadCsvRow(SplitCsvLine(lines[i], separator), columns, file,
+                                  static_cast<int>(i) + 1));
         }
     }
     return paints;
 }
 
-std::vector<PaintColor> ReadPaletteFile(const fs::path& file) {
+PaintList ReadPaletteFile(const fs::path& file) {
     const std::string ending = ToLower(file.extension().string());
     if (ending != ".gpl" && ending != ".csv") {
         throw FileError(file, "is no palette that can be read. Choose a .gpl or a .csv file.");
     }
     const std::string text = ReadTextFile(file);
-    std::vector<PaintColor> paints =
-        ending == ".gpl" ? ParseGplPalette(text, file) : ParseColorCsv(text, file);
-    if (paints.size() <= 1) {
+    PaintList paints = ending == ".gpl" ? ParseGplPalette(text, file) : ParseColorCsv(text, file);
+    if (paints.Empty()) {
         throw FileError(file, "holds no colors. Choose another palette.");
     }
     return paints;
 }
 
-std::string GplText(std::string_view name, const std::vector<PaintColor>& paints) {
+std::string GplText(std::string_view name, const PaintList& paints) {
     std::string text = "GIMP Palette\nName: " + std::string(name) + "\nColumns: 8\n#\n";
-    for (std::size_t i = 1; i < paints.size(); ++i) {
-        const PaintColor& paint = paints[i];
+    for (const PaintColor& paint : paints) {
         for (const int channel : {paint.Red, paint.Green, paint.Blue}) {
             const std::string number = std::to_string(channel);
             text += std::string(3 - number.size(), ' ') + number + ' ';

@@ -14,15 +14,13 @@ namespace vendrel {
 
 /// Reads a palette by its ending: .gpl, or .csv with red, green, blue and name columns, in this
 /// order or as a heading line names them. Throws FormatError naming file and line.
-[[nodiscard]] std::vector<PaintColor> ReadPaletteFile(const std::filesystem::path& file);
+[[nodiscard]] PaintList ReadPaletteFile(const std::filesystem::path& file);
 
 /// The two formats alone, from text; `file` is named in errors and its stem names the paints' set.
-[[nodiscard]] std::vector<PaintColor> ParseGplPalette(std::string_view text,
-                                                      const std::filesystem::path& file);
-[[nodiscard]] std::vector<PaintColor> ParseColorCsv(std::string_view text,
-                                                    const std::filesystem::path& file);
+[[nodiscard]] PaintList ParseGplPalette(std::string_view text, const std::filesystem::path& file);
+[[nodiscard]] PaintList ParseColorCsv(std::string_view text, const std::filesystem::path& file);
 
 /// A .gpl palette of paints 1.. of the list, each named "set: name [code]".
-[[nodiscard]] std::string GplText(std::string_view name, const std::vector<PaintColor>& paints);
+[[nodiscard]] std::string GplText(std::string_view name, const PaintList& paints);
 
 }  // namespace vendrel

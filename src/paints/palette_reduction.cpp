@@ -5,64 +5,53 @@
 #include <utility>
 
 #include "paints/color_match.h"
+#include "shell/palette.h"
 #include "support/counter.h"
 
 namespace vendrel {
-namespace {
 
-template <class T>
-void EraseAt(std::vector<T>& list, int index) {
-    list.erase(list.begin() + index);
-}
-
-std::size_t At(int index) {
-    return static_cast<std::size_t>(index);
-}
-
-}  // namespace
-
-int LeastUsed(std::span<const int> counts) {
+int LeastUsed(const OneBased<int>& counts) {
     int low = kMaxCounter;
     int result = 0;
-    for (std::size_t i = 1; i < counts.size(); ++i) {
+    for (int i = 1; i <= counts.Count(); ++i) {
         if (counts[i] < low) {
             low = counts[i];
-            result = static_cast<int>(i);
+            result = i;
         }
     }
     return result;
 }
 
-PaletteReduction::PaletteReduction(const WorkState& state, std::vector<int> counts)
-    : origins_(Palette(state).size()), counts_(std::move(counts)) {
-    std::iota(origins_.begin(), origins_.end(), 0);
-    colors_.reserve(origins_.size());
-    for (const PaintColor& paint : Palette(state)) {
-        colors_.push_back({paint.Red, paint.Green, paint.Blue});
+PaletteReduction::PaletteReduction(const WorkState& state, OneBased<int> counts)
+    : origins_(state.PaintCount), counts_(std::move(counts)) {
+    std::iota(origins_.begin(), origins_.end(), 1);
+    colors_.Reserve(state.PaintCount);
+    for (const PaintColor& paint : state.PaintColors) {
+        colors_.Add({paint.Red, paint.Green, paint.Blue});
     }
-    counts_.resize(colors_.size());
+    counts_.Resize(colors_.Count());
 }
 
 void PaletteReduction::Remove(int index) {
     assert(index >= 1 && index <= PaintCount());
-    const int into = FindNearest<Channels>(colors_, colors_[At(index)], index);
-    merges_.push_back({origins_[At(index)], origins_[At(into)]});
+    const int into = FindNearest(colors_, colors_[index], index);
+    merges_.push_back({origins_[index], origins_[into]});
     if (into > 0) {
-        counts_[At(into)] += counts_[At(index)];
+        counts_[into] += counts_[index];
     }
-    EraseAt(colors_, index);
-    EraseAt(origins_, index);
-    EraseAt(counts_, index);
+    colors_.Remove(index);
+    origins_.Remove(index);
+    counts_.Remove(index);
 }
 
 // Backwards, so that a paint merged into one that went later finds where that one ended up.
-std::vector<int> PaletteReduction::NewIndices() const {
-    std::vector<int> indices(origins_.size() + merges_.size());
-    for (std::size_t i = 1; i < origins_.size(); ++i) {
-        indices[At(origins_[i])] = static_cast<int>(i);
+OneBased<int> PaletteReduction::NewIndices() const {
+    OneBased<int> indices(origins_.Count() + static_cast<int>(merges_.size()));
+    for (int i = 1; i <= origins_.Count(); ++i) {
+        indices[origins_[i]] = i;
     }
     for (std::size_t i = merges_.size(); i-- > 0;) {
-        indices[At(merges_[i].From)] = indices[At(merges_[i].Into)];
+        indices[merges_[i].From] = indices[merges_[i].Into];
     }
     return indices;
 }
@@ -71,19 +60,17 @@ void PaletteReduction::Commit(WorkState& state) const {
     if (merges_.empty()) {
         return;
     }
-    const std::vector<int> indices = NewIndices();
+    const OneBased<int> indices = NewIndices();
     for (int y = 1; y <= state.CellsDown; ++y) {
-        for (StippleCell& cell : state.Stipples.Row(y).subspan(1)) {
-            cell.ColorIndex = indices[At(cell.ColorIndex)];
+        for (StippleCell& cell : state.Stipples.Row(y).From(1)) {
+            cell.ColorIndex = indices[cell.ColorIndex];
         }
     }
-    for (std::size_t i = 1; i < origins_.size(); ++i) {
-        if (At(origins_[i]) != i) {
-            state.PaintColors[i] = std::move(state.PaintColors[At(origins_[i])]);
-        }
+    PaintList kept;
+    for (const int origin : origins_) {
+        kept.Add(std::move(state.PaintColors[origin]));
     }
-    state.PaintColors.resize(origins_.size());
-    state.PaintCount = PaintCount();
+    SetPalette(state, std::move(kept));
 }
 
 }  // namespace vendrel

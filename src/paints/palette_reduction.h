@@ -1,6 +1,5 @@
 #pragma once
 
-#include <span>
 #include <vector>
 
 #include "paints/nearest_paint.h"
@@ -8,20 +7,20 @@
 
 namespace vendrel {
 
-/// Index of the paint with the fewest stipples, the lowest of equals; entry 0 does not count. 0
-/// when there is no paint or each has 32767 stipples.
-[[nodiscard]] int LeastUsed(std::span<const int> counts);
+/// Index of the paint with the fewest stipples, the lowest of equals. 0 when
+/// there is no paint or each has 32767 stipples.
+[[nodiscard]] int LeastUsed(const OneBased<int>& counts);
 
 /// Drops paints from the palette one by one. Merges and counts are kept per paint; the grid and
 /// the palette are rewritten once, by Commit, however many paints go.
 class PaletteReduction {
   public:
     /// `counts` is what CountColors found, or empty when nobody asks for the counts.
-    PaletteReduction(const WorkState& state, std::vector<int> counts);
+    PaletteReduction(const WorkState& state, OneBased<int> counts);
 
-    [[nodiscard]] int PaintCount() const { return static_cast<int>(colors_.size()) - 1; }
+    [[nodiscard]] int PaintCount() const { return colors_.Count(); }
     /// Stipples per remaining paint.
-    [[nodiscard]] const std::vector<int>& Counts() const { return counts_; }
+    [[nodiscard]] const OneBased<int>& Counts() const { return counts_; }
 
     /// Drops remaining paint `index`; its stipples go to the nearest other paint.
     void Remove(int index);
@@ -33,11 +32,11 @@ class PaletteReduction {
         int From = 0;  // indices of the palette before the reduction
         int Into = 0;  // 0 when no other paint was left
     };
-    [[nodiscard]] std::vector<int> NewIndices() const;
+    [[nodiscard]] OneBased<int> NewIndices() const;
 
-    std::vector<Channels> colors_;  // of the remaining paints
-    std::vector<int> origins_;      // their indices before the reduction
-    std::vector<int> counts_;
+    OneBased<Channels> colors_;  // of the remaining paints
+    OneBased<int> origins_;      // their indices before the reduction
+    OneBased<int> counts_;
     std::vector<Merge> merges_;
 };
 

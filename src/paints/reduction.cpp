@@ -14,9 +14,9 @@ namespace {
 
 // Counting the grid afresh would trip over a paint that has taken in too many others, and a paint
 // can only be the least used with fewer stipples than the counter holds.
-bool CanGoOn(const std::vector<int>& counts) {
+bool CanGoOn(const OneBased<int>& counts) {
     const auto fits = [](int count) { return count <= kMaxCounter; };
-    return std::all_of(counts.begin(), counts.end(), fits) && LeastUsed(counts) > 0;
+    return std::ranges::all_of(counts, fits) && LeastUsed(counts) > 0;
 }
 
 [[noreturn]] void ReportFullCounter() {
@@ -27,13 +27,13 @@ bool CanGoOn(const std::vector<int>& counts) {
 }  // namespace
 
 void CountColors(WorkState& state) {
-    state.ColorCounts.assign(Palette(state).size(), 0);
+    state.ColorCounts = OneBased<int>(state.PaintCount);
     for (int y = 1; y <= state.CellsDown; ++y) {
-        for (const StippleCell& cell : state.Stipples.Row(y).subspan(1)) {
+        for (const StippleCell& cell : state.Stipples.Row(y).From(1)) {
             if (cell.ColorIndex == 0) {
                 return;
             }
-            int& count = state.ColorCounts[static_cast<std::size_t>(cell.ColorIndex)];
+            int& count = state.ColorCounts[cell.ColorIndex];
             if (count == kMaxCounter) {
                 ReportFullCounter();
             }

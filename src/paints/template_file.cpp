@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "paints/paint_fields.h"
-#include "paints/paint_sets.h"
 #include "paints/restore.h"
+#include "shell/palette.h"
 #include "support/disk.h"
 #include "support/error.h"
 #include "support/leftovers.h"
@@ -61,14 +61,13 @@ fs::path TemplatePath(const Workplace& place, std::string_view name) {
     return place.Folder.Path("templates/" + std::string(name) + ".csv");
 }
 
-std::vector<PaintColor> ReadTemplate(const fs::path& file) {
+PaintList ReadTemplate(const fs::path& file) {
     return ReadPaintFile(file).Paints;
 }
 
-void WriteTemplate(const fs::path& file, std::span<const PaintColor> paints) {
-    const std::span<const PaintColor> listed = paints.empty() ? paints : paints.subspan(1);
-    std::string text = ' ' + std::to_string(listed.size()) + "\r\n";
-    for (const PaintColor& paint : listed) {
+void WriteTemplate(const fs::path& file, const PaintList& paints) {
+    std::string text = ' ' + std::to_string(paints.Count()) + "\r\n";
+    for (const PaintColor& paint : paints) {
         text += LineOf(file, paint);
     }
     WriteWholeFile(file, text, Lasting::Synced);

@@ -13,13 +13,13 @@ namespace vendrel {
 /// templates/<name>.csv under the program folder, existing or not.
 [[nodiscard]] std::filesystem::path TemplatePath(const Workplace& place, std::string_view name);
 
-/// The paints of a template in file order; entry 0 is empty. Throws FileError or FormatError.
-[[nodiscard]] std::vector<PaintColor> ReadTemplate(const std::filesystem::path& file);
+/// The paints of a template in file order. Throws FileError or FormatError.
+[[nodiscard]] PaintList ReadTemplate(const std::filesystem::path& file);
 
-/// Writes a template: the number of paints behind a blank, then a paint a line. Entry 0 of
-/// `paints` is left out. Throws Error, before anything is written, when a text holds a double
-/// quote, which the file could not give back.
-void WriteTemplate(const std::filesystem::path& file, std::span<const PaintColor> paints);
+/// Writes a template: the number of paints behind a blank, then a paint a line. Throws Error,
+/// before anything is written, when a text holds a double quote, which the file could not give
+/// back.
+void WriteTemplate(const std::filesystem::path& file, const PaintList& paints);
 
 /// Fills the palette from a template and lowers FinalColors to what the template has. False after
 /// a message, with an empty palette, when the template has no paints. A template that cannot be

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -43,7 +45,7 @@ class BoxSearch {
 
     void UpdateReach(int y) {
         for (int x = 0; x <= ids_.Across(); ++x) {
-            int& reach = reach_[static_cast<std::size_t>(x)];
+            int& reach = At(reach_, x);
             reach = y > 0 && ids_(x, y) == ids_(x, y - 1) ? reach + 1 : 1;
         }
     }
@@ -52,12 +54,12 @@ class BoxSearch {
     int SearchRun(int x, int y) {
         const int id = ids_(x, y);
         const double aspect = aspectOf_(id);
-        InscribedBox& best = best_[static_cast<std::size_t>(id)];
+        InscribedBox& best = At(best_, id);
         open_.clear();
         int end = x;
         for (; end <= ids_.Across() && ids_(end, y) == id; ++end) {
-            const int left = Close(end, reach_[static_cast<std::size_t>(end)], y, aspect, best);
-            open_.push_back({left, reach_[static_cast<std::size_t>(end)]});
+            const int left = Close(end, At(reach_, end), y, aspect, best);
+            open_.push_back({left, At(reach_, end)});
         }
         (void)Close(end, 0, y, aspect, best);
         return end;

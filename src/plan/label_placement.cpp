@@ -9,6 +9,7 @@
 #include "drawing/brush.h"
 #include "plan/inscribed_boxes.h"
 #include "plan/region_pieces.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -42,7 +43,7 @@ class Placement {
     void PlaceFirst() {
         const auto aspectOf = [this](int region) { return AspectOf(region); };
         for (const InscribedBox& box : FindRoomiestBoxes(regions_, aspectOf)) {
-            placed_[static_cast<std::size_t>(box.Region)].push_back(LabelIn(box, box.Region));
+            At(placed_, box.Region).push_back(LabelIn(box, box.Region));
         }
     }
 
@@ -123,9 +124,7 @@ class Placement {
 
     // The roomiest place of every piece, the roomiest of all first.
     [[nodiscard]] std::vector<PlanLabel> LabelsOf(const RegionPieces& cut) const {
-        const auto regionOf = [&cut](int piece) {
-            return cut.RegionOf[static_cast<std::size_t>(piece)];
-        };
+        const auto regionOf = [&cut](int piece) { return At(cut.RegionOf, piece); };
         const auto aspectOf = [&](int piece) { return AspectOf(regionOf(piece)); };
         std::vector<InscribedBox> boxes = FindRoomiestBoxes(cut.Pieces, aspectOf);
         std::ranges::stable_sort(boxes, std::greater<>(), &InscribedBox::Height);
@@ -170,7 +169,7 @@ class Placement {
     }
 
     [[nodiscard]] std::vector<PlanLabel>& OthersOf(const PlanLabel& label) {
-        return placed_[static_cast<std::size_t>(label.Region)];
+        return At(placed_, label.Region);
     }
     [[nodiscard]] double AspectOf(int region) const {
         const int paint = regions_[region].Value;

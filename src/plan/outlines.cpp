@@ -7,6 +7,8 @@
 #include <optional>
 #include <utility>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -59,7 +61,7 @@ class BorderWalk {
         }
     }
     void Add(CellPos at, int way) {
-        const CellPos step = kWays[static_cast<std::size_t>(way)];
+        const CellPos step = At(kWays, way);
         ways_(at.X, at.Y) |= BitOf(way);
         ways_(at.X + step.X, at.Y + step.Y) |= BitOf(Opposite(way));
     }
@@ -85,7 +87,7 @@ class BorderWalk {
         lines_.push_back(std::move(line));
     }
     CellPos Take(CellPos at, int way) {
-        const CellPos step = kWays[static_cast<std::size_t>(way)];
+        const CellPos step = At(kWays, way);
         const CellPos next{at.X + step.X, at.Y + step.Y};
         ways_(at.X, at.Y) &= static_cast<std::uint8_t>(~BitOf(way));
         ways_(next.X, next.Y) &= static_cast<std::uint8_t>(~BitOf(Opposite(way)));

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -10,8 +12,7 @@ namespace {
 std::vector<int> SideOfEach(std::span<const int> cuts, int count) {
     std::vector<int> sides(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
-        sides[static_cast<std::size_t>(i)] =
-            static_cast<int>(std::ranges::upper_bound(cuts, i) - cuts.begin());
+        At(sides, i) = static_cast<int>(std::ranges::upper_bound(cuts, i) - cuts.begin());
     }
     return sides;
 }
@@ -37,8 +38,7 @@ RegionPieces CutIntoPieces(const PixelGrid& ids, const PixelCuts& cuts) {
     PixelGrid keys(ids.Across(), ids.Down());
     for (int y = 0; y <= ids.Down(); ++y) {
         for (int x = 0; x <= ids.Across(); ++x) {
-            keys(x, y) = ids(x, y) * parts + row[static_cast<std::size_t>(y)] * across +
-                         column[static_cast<std::size_t>(x)];
+            keys(x, y) = ids(x, y) * parts + At(row, y) * across + At(column, x);
         }
     }
     RegionPieces cut;
@@ -60,7 +60,7 @@ RegionPieces ParedAtNecks(const RegionPieces& whole) {
     RegionPieces pared;
     pared.Pieces = FindRegions(keys);
     for (const Region& piece : pared.Pieces.List) {
-        pared.RegionOf.push_back(whole.RegionOf[static_cast<std::size_t>(piece.Value / 2)]);
+        pared.RegionOf.push_back(At(whole.RegionOf, piece.Value / 2));
     }
     return pared;
 }

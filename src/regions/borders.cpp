@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -28,12 +30,11 @@ void VisitSides(const ValueGrid& ids, Visit visit) {
 
 Borders FindBorders(const Regions& regions) {
     std::vector<std::size_t> starts(regions.List.size() + 1);
-    VisitSides(regions.Ids, [&](int id, int) { ++starts[static_cast<std::size_t>(id) + 1]; });
+    VisitSides(regions.Ids, [&](int id, int) { ++At(starts, id + 1); });
     std::partial_sum(starts.begin(), starts.end(), starts.begin());
     std::vector<int> sides(starts.back());
     std::vector<std::size_t> next = starts;
-    VisitSides(regions.Ids,
-               [&](int id, int beside) { sides[next[static_cast<std::size_t>(id)]++] = beside; });
+    VisitSides(regions.Ids, [&](int id, int beside) { sides[At(next, id)++] = beside; });
     std::vector<Border> list;
     for (std::size_t id = 0; id < regions.List.size(); ++id) {
         const auto own = std::span(sides).subspan(starts[id], starts[id + 1] - starts[id]);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "regions/borders.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -42,7 +43,7 @@ bool DissolveCrumbs(ValueGrid& values, const Regions& regions, int smallest) {
         changed = changed || valueOf.back() != value;
     }
     for (std::size_t i = 0; i < values.All().size(); ++i) {
-        values.All()[i] = valueOf[static_cast<std::size_t>(regions.Ids.All()[i])];
+        values.All()[i] = At(valueOf, regions.Ids.All()[i]);
     }
     return changed;
 }

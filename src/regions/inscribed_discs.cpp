@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <span>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -100,8 +102,8 @@ class RowDistances {
     // The first point where the parabola of `right` lies below that of `left`. Both ends of a row
     // are borders, so it is never left of the second point.
     static int Crossing(std::span<const int> upright, int left, int right) {
-        const int l = upright[static_cast<std::size_t>(left)];
-        const int r = upright[static_cast<std::size_t>(right)];
+        const int l = At(upright, left);
+        const int r = At(upright, right);
         const int sum = right * right - left * left + r * r - l * l;
         return sum < 0 ? 0 : sum / (2 * (right - left)) + 1;
     }
@@ -111,8 +113,8 @@ class RowDistances {
                 --last;
             }
             const int across = i - envelope_[last].Foot;
-            const int up = upright[static_cast<std::size_t>(envelope_[last].Foot)];
-            squared_[static_cast<std::size_t>(i)] = across * across + up * up;
+            const int up = At(upright, envelope_[last].Foot);
+            At(squared_, i) = across * across + up * up;
         }
     }
 

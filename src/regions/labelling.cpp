@@ -3,6 +3,8 @@
 #include <span>
 #include <utility>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -31,12 +33,10 @@ class Labels {
         }
         return count;
     }
-    [[nodiscard]] int NumberOf(int label) const {
-        return parents_[static_cast<std::size_t>(label)];
-    }
+    [[nodiscard]] int NumberOf(int label) const { return At(parents_, label); }
 
   private:
-    [[nodiscard]] int& Parent(int label) { return parents_[static_cast<std::size_t>(label)]; }
+    [[nodiscard]] int& Parent(int label) { return At(parents_, label); }
     int Root(int label) {
         while (Parent(label) != label) {
             Parent(label) = Parent(Parent(label));

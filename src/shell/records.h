@@ -6,6 +6,7 @@
 
 #include "support/cell_pos.h"
 #include "support/color.h"
+#include "support/one_based.h"
 
 namespace vendrel {
 
@@ -25,6 +26,9 @@ struct PaintColor {
 [[nodiscard]] inline Color ColorOf(const PaintColor& paint) {
     return Rgb(paint.Red, paint.Green, paint.Blue);
 }
+
+/// Paints numbered from 1: a palette, a template, the catalogue.
+using PaintList = OneBased<PaintColor>;
 
 /// A range of paints that may be allowed for matching.
 struct PaintSet {
@@ -97,10 +101,10 @@ struct GlyphPoint {
     bool operator==(const GlyphPoint&) const = default;
 };
 
-/// A symbol's pixels; entry 0 of Points is not used.
+/// A symbol's pixels.
 struct SymbolGlyph {
-    int PointCount = 0;
-    std::vector<GlyphPoint> Points;
+    OneBased<GlyphPoint> Points;
+    [[nodiscard]] int PointCount() const { return Points.Count(); }
 };
 
 }  // namespace vendrel

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <set>
@@ -21,19 +20,19 @@ namespace vendrel {
 /// empty element 0. Colours are packed, sizes in pixels or twips as named.
 struct WorkState : WorkSettings {
     // The catalogue and its ranges: never changed after loading.
-    std::vector<PaintColor> MasterColors{1};
+    PaintList MasterColors;
     int MasterCount = 0;
-    std::vector<PaintSet> PaintSets{1};
+    OneBased<PaintSet> PaintSets;
     int PaintSetCount = 0;
 
     std::set<std::string> WarningsGiven;  // none is given twice
 
     // The working palette.
-    std::vector<PaintColor> PaintColors{1};
+    PaintList PaintColors;
     int PaintCount = 0;
-    std::vector<PaintColor> FoundColors{1};
+    PaintList FoundColors;
     int FoundCount = 0;
-    std::vector<int> ColorCounts{0};  // stipples per paint, rebuilt by every count
+    OneBased<int> ColorCounts;  // stipples per paint, rebuilt by every count
 
     // What the paint shop keeps while it is closed.
     bool PaintShopLoaded = false;
@@ -73,7 +72,7 @@ struct WorkState : WorkSettings {
 
     // The paint pass.
     Grid<MapPixel> PixelMap;  // one per photo pixel, 0..width, 0..height
-    std::vector<PaintArea> Areas;
+    OneBased<PaintArea> Areas;
     int AreaCount = 0;  // one more than the areas found
     int NextAreaNumber = 1;
     bool PaintingDone = false;
@@ -86,8 +85,8 @@ struct WorkState : WorkSettings {
     Grid<NumberMark> NumberMarks;
 
     // Symbols and the sheet.
-    std::array<std::int16_t, 51> SymbolCodes{};
-    std::vector<SymbolGlyph> SymbolGlyphs;
+    OneBased<std::int16_t> SymbolCodes;
+    OneBased<SymbolGlyph> SymbolGlyphs;
     DibView SheetDC;
     int SheetCellSize = 2;  // sheet pixels per photo pixel
 };

@@ -5,6 +5,8 @@
 
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
 #include "support/size_text.h"
@@ -15,7 +17,7 @@ namespace {
 
 struct LoadedGrid {
     StippleHeader Header;
-    std::vector<PaintColor> Palette;
+    PaintList Palette;
     Grid<StippleCell> Cells;
 };
 
@@ -48,15 +50,10 @@ LoadedGrid ReadGrid(const std::filesystem::path& path, CellPos size) {
 }
 
 void Commit(WorkState& state, LoadedGrid loaded) {
-    state.PaintCount = loaded.Header.PaintCount;
     state.FinalColors = loaded.Header.FinalColors;
-    state.CellsAcross = loaded.Cells.Across();
-    state.CellsDown = loaded.Cells.Down();
-    state.PaintColors = std::move(loaded.Palette);
-    state.FoundColors = state.PaintColors;
-    state.FoundCount = state.PaintCount;
-    state.Stipples = std::move(loaded.Cells);
-    state.CellMarks = Grid<CellMark>(state.CellsAcross, state.CellsDown);
+    SetFoundColors(state, loaded.Palette);
+    SetPalette(state, std::move(loaded.Palette));
+    SetGrid(state, std::move(loaded.Cells));
 }
 
 void TellOtherSize(const Workplace& place, const std::filesystem::path& path,

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <limits>
 
+#include "shell/stipple_grid.h"
 #include "support/counter.h"
 #include "support/disk.h"
 #include "support/error.h"
@@ -62,7 +63,7 @@ char* PutCell(char* at, const StippleCell& cell) {
     return at + 1;
 }
 
-void AppendRow(std::string& out, std::span<const StippleCell> row) {
+void AppendRow(std::string& out, RowView<const StippleCell> row) {
     const std::size_t begin = out.size();
     out.resize(begin + row.size() * kCellLine);
     char* at = out.data() + begin;
@@ -70,22 +71,6 @@ void AppendRow(std::string& out, std::span<const StippleCell> row) {
         at = PutCell(at, cell);
     }
     out.resize(static_cast<std::size_t>(at - out.data()));
-}
-
-std::span<const StippleCell> CellsOfRow(const SavedGrid& saved, int y) {
-    return saved.Cells.Row(y).subspan(1, static_cast<std::size_t>(saved.Across));
-}
-
-std::vector<int> CountCells(const SavedGrid& saved) {
-    std::vector<int> counts(saved.Palette.size());
-    for (int y = 1; y <= saved.Down; ++y) {
-        for (const StippleCell& cell : CellsOfRow(saved, y)) {
-            if (static_cast<std::size_t>(cell.ColorIndex) < counts.size()) {
-                ++counts[static_cast<std::size_t>(cell.ColorIndex)];
-            }
-        }
-    }
-    return counts;
 }
 
 }  // namespace
@@ -105,8 +90,8 @@ bool StippleFileExists(const Workplace& place) {
 }
 
 std::string FormatStippleFile(const SavedGrid& saved) {
-    const std::vector<int> counts = CountCells(saved);
-    const int paintCount = static_cast<int>(saved.Palette.size()) - 1;
+    const int paintCount = saved.Palette.Count();
+    const OneBased<int> counts = CountStipples(saved.Cells, saved.Across, saved.Down, paintCount);
     std::string out;
     out.reserve(static_cast<std::size_t>(paintCount) * 80 +
                 static_cast<std::size_t>(saved.Across) * static_cast<std::size_t>(saved.Down + 2) *
@@ -114,11 +99,11 @@ std::string FormatStippleFile(const SavedGrid& saved) {
     AppendNumbers(out, {paintCount, saved.Across, saved.Down});
     AppendNumber(out, saved.FinalColors);
     out += "\r\n";
-    for (std::size_t i = 1; i < saved.Palette.size(); ++i) {
+    for (int i = 1; i <= paintCount; ++i) {
         AppendPaint(out, saved.Palette[i], counts[i]);
     }
     for (int y = 1; y <= saved.Down; ++y) {
-        AppendRow(out, CellsOfRow(saved, y));
+        AppendRow(out, saved.Cells.Row(y).First(saved.Across + 1).From(1));
     }
     return out;
 }
@@ -169,16 +154,16 @@ PaintColor StippleFileReader::ReadPaint() {
     return paint;
 }
 
-std::vector<PaintColor> StippleFileReader::ReadPalette() {
-    std::vector<PaintColor> palette(1);
+PaintList StippleFileReader::ReadPalette() {
+    PaintList palette;
     for (int i = 1; i <= header_.PaintCount; ++i) {
-        palette.push_back(ReadPaint());
+        palette.Add(ReadPaint());
     }
     return palette;
 }
 
 void StippleFileReader::ReadRow(Grid<StippleCell>& cells, int y, int across) {
-    for (StippleCell& cell : cells.Row(y).subspan(1, static_cast<std::size_t>(across))) {
+    for (StippleCell& cell : cells.Row(y).First(across + 1).From(1)) {
         cell.AreaNumber = ReadFirst("a stipple's area", 0, kMaxCounter);
         cell.ColorIndex = fields_.ReadInt("a stipple's paint", 1, header_.PaintCount);
         cell.X = fields_.ReadInt("a stipple's pixel column", 0, kMaxCounter);

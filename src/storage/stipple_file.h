@@ -25,7 +25,7 @@ namespace vendrel {
 /// What a stipple file keeps. References only, so that an editor's working copies can be saved as
 /// well as the kit's own.
 struct SavedGrid {
-    const std::vector<PaintColor>& Palette;  // entry 0 is not saved
+    const PaintList& Palette;
     const Grid<StippleCell>& Cells;
     int Across = 0;
     int Down = 0;
@@ -56,8 +56,8 @@ class StippleFileReader {
 
     [[nodiscard]] const StippleHeader& Header() const { return header_; }
     [[nodiscard]] PaintColor ReadPaint();
-    /// The whole palette, with its empty entry 0.
-    [[nodiscard]] std::vector<PaintColor> ReadPalette();
+    /// The whole palette.
+    [[nodiscard]] PaintList ReadPalette();
     /// Columns 1..across of row y of `cells`, which must hold them.
     void ReadRow(Grid<StippleCell>& cells, int y, int across);
 

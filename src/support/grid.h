@@ -5,6 +5,8 @@
 #include <span>
 #include <vector>
 
+#include "support/row_view.h"
+
 namespace vendrel {
 
 /// Columns 0..Across, rows 0..Down, row-major. Column 0 and row 0 exist and stay empty: data
@@ -28,11 +30,9 @@ class Grid {
     [[nodiscard]] const T& operator()(int x, int y) const { return cells_[At(x, y)]; }
 
     /// Row y from column 0 to column Across.
-    [[nodiscard]] std::span<T> Row(int y) {
-        return {cells_.data() + At(0, y), static_cast<std::size_t>(across_) + 1};
-    }
-    [[nodiscard]] std::span<const T> Row(int y) const {
-        return {cells_.data() + At(0, y), static_cast<std::size_t>(across_) + 1};
+    [[nodiscard]] RowView<T> Row(int y) { return {cells_.data() + At(0, y), across_ + 1}; }
+    [[nodiscard]] RowView<const T> Row(int y) const {
+        return {cells_.data() + At(0, y), across_ + 1};
     }
     /// From a cell to the one below it.
     [[nodiscard]] std::ptrdiff_t Stride() const { return across_ + 1; }

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cassert>
 #include <cstddef>
-#include <span>
 #include <vector>
 
 #include "support/color.h"
+#include "support/row_view.h"
 
 namespace vendrel {
 
@@ -38,11 +38,9 @@ class Surface {
     }
 
     /// Row y as contiguous pixels; y must lie inside.
-    [[nodiscard]] std::span<Color> Row(int y) {
-        return {pixels_.data() + At(0, y), static_cast<std::size_t>(width_)};
-    }
-    [[nodiscard]] std::span<const Color> Row(int y) const {
-        return {pixels_.data() + At(0, y), static_cast<std::size_t>(width_)};
+    [[nodiscard]] RowView<Color> Row(int y) { return {pixels_.data() + At(0, y), width_}; }
+    [[nodiscard]] RowView<const Color> Row(int y) const {
+        return {pixels_.data() + At(0, y), width_};
     }
 
     void Fill(Color color) { std::fill(pixels_.begin(), pixels_.end(), color); }

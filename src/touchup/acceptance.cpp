@@ -2,27 +2,29 @@
 
 #include <utility>
 
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
+
 namespace vendrel {
 namespace {
 
 // New palette index of every old one, 0 for a paint that drops out.
-std::vector<int> MovePaints(WorkState& state, AcceptReport& report) {
-    std::vector<int> moved(static_cast<std::size_t>(state.FoundCount) + 1);
-    std::vector<PaintColor> kept(1);
-    for (std::size_t old = 1; old < moved.size(); ++old) {
+OneBased<int> MovePaints(WorkState& state, AcceptReport& report) {
+    OneBased<int> moved(state.FoundCount);
+    PaintList kept;
+    for (int old = 1; old <= moved.Count(); ++old) {
         const PaintColor& paint = state.FoundColors[old];
         if (paint.CellCount == 0) {
             report.Dropped.push_back(paint.PaintName);
             continue;
         }
-        moved[old] = static_cast<int>(kept.size());
-        kept.push_back(paint);
-        if (moved[old] != static_cast<int>(old)) {
-            report.Moves.push_back({paint.PaintName, static_cast<int>(old), moved[old]});
+        kept.Add(paint);
+        moved[old] = kept.Count();
+        if (moved[old] != old) {
+            report.Moves.push_back({paint.PaintName, old, moved[old]});
         }
     }
-    state.PaintColors = std::move(kept);
-    state.PaintCount = static_cast<int>(state.PaintColors.size()) - 1;
+    SetPalette(state, std::move(kept));
     return moved;
 }
 
@@ -30,15 +32,13 @@ std::vector<int> MovePaints(WorkState& state, AcceptReport& report) {
 
 AcceptReport TakeOverCopies(WorkState& state) {
     AcceptReport report;
-    const std::vector<int> moved = MovePaints(state, report);
+    const OneBased<int> moved = MovePaints(state, report);
     for (StippleCell& cell : state.EditStipples.All()) {
-        cell.ColorIndex = moved[static_cast<std::size_t>(cell.ColorIndex)];
+        cell.ColorIndex = moved[cell.ColorIndex];
         cell.AreaNumber = 0;
     }
-    state.Stipples = std::exchange(state.EditStipples, {});
-    state.CellMarks = Grid<CellMark>(state.Stipples.Across(), state.Stipples.Down());
-    state.FoundColors = state.PaintColors;
-    state.FoundCount = state.PaintCount;
+    SetGrid(state, std::exchange(state.EditStipples, {}));
+    SetFoundColors(state, state.PaintColors);
     return report;
 }
 

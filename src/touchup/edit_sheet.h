@@ -19,26 +19,38 @@ struct CellChange {
     bool operator==(const CellChange&) const = default;
 };
 
+/// What a load says of itself before it is read: a file that does not fit says more than the
+/// copies hold.
+struct SheetSizes {
+    int Paints = 0;
+    int Across = 0;
+    int Down = 0;
+};
+
 /// Everything of the working copies that a load replaces.
 struct SheetContents {
-    std::vector<PaintColor> FoundColors;
-    int FoundCount = 0;
+    PaintList FoundColors;
+    std::vector<PaintColor> Spare;  // room behind a palette that a load made shorter, last first
     Grid<StippleCell> EditStipples;
-    int CellsAcross = 0;
-    int CellsDown = 0;
+    SheetSizes Announced;
     int FinalColors = 0;
 };
 
 /// The editor's working copies in the work state: EditStipples and its palette FoundColors, whose
-/// CellCounts are kept true while stipples are repainted. A file that does not fit can leave sizes
-/// beyond what the copies hold; the sheet then answers with what is really there.
+/// CellCounts are kept true while stipples are repainted.
 class EditSheet {
   public:
     explicit EditSheet(WorkState& state) : state_(state) {}
 
+    /// Copies the kit's grid and palette.
+    void Open();
+    /// Makes FoundColors as long as a load announces, as far as there is room.
+    void Announce(const SheetSizes& sizes);
+    [[nodiscard]] const SheetSizes& Announced() const { return announced_; }
+
     [[nodiscard]] int Across() const;
     [[nodiscard]] int Down() const;
-    [[nodiscard]] int PaintCount() const;
+    [[nodiscard]] int PaintCount() const { return state_.FoundCount; }
     [[nodiscard]] bool Holds(CellPos pos) const {
         return pos.X >= 1 && pos.Y >= 1 && pos.X <= Across() && pos.Y <= Down();
     }
@@ -54,7 +66,7 @@ class EditSheet {
     void SetPaint(CellPos pos, int paint);
 
     [[nodiscard]] const Grid<StippleCell>& Cells() const { return state_.EditStipples; }
-    [[nodiscard]] const std::vector<PaintColor>& Paints() const { return state_.FoundColors; }
+    [[nodiscard]] const PaintList& Paints() const { return state_.FoundColors; }
 
     /// Counts every paint afresh, for when the copies were replaced.
     void Recount();
@@ -70,6 +82,8 @@ class EditSheet {
     void AddCount(int paint, int step);
 
     WorkState& state_;
+    SheetSizes announced_;
+    std::vector<PaintColor> spare_;
 };
 
 }  // namespace vendrel

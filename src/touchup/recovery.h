@@ -73,7 +73,7 @@ class GridReplacement {
         std::string PictureName;
         int StippleSize = 0;
         Grid<StippleCell> Stipples;
-        std::vector<PaintColor> Paints;
+        PaintList Paints;
     };
 
     [[nodiscard]] bool StillInKit() const;

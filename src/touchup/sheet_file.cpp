@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
 #include "support/error.h"
 
@@ -17,49 +16,46 @@ std::string TooMuch(int inFile, const char* what, int inEditor) {
            std::to_string(inEditor) + "." + kTakeBack;
 }
 
-void ReadPaints(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state) {
-    const int room = static_cast<int>(state.FoundColors.size()) - 1;
-    for (int i = 1; i <= state.FoundCount; ++i) {
-        if (i > room) {
-            throw FormatError(path, i + 1, TooMuch(state.FoundCount, " paints", room));
-        }
-        state.FoundColors[static_cast<std::size_t>(i)] = reader.ReadPaint();
+void ReadPaints(StippleFileReader& reader, const std::filesystem::path& path, PaintList& paints) {
+    for (PaintColor& paint : paints) {
+        paint = reader.ReadPaint();
+    }
+    const int announced = reader.Header().PaintCount;
+    if (announced > paints.Count()) {
+        throw FormatError(path, paints.Count() + 2, TooMuch(announced, " paints", paints.Count()));
     }
 }
 
-void ReadCells(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state) {
-    Grid<StippleCell>& cells = state.EditStipples;
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        const int rowLine = 1 + state.FoundCount + (y - 1) * state.CellsAcross + 1;
+void ReadCells(StippleFileReader& reader, const std::filesystem::path& path,
+               Grid<StippleCell>& cells) {
+    const StippleHeader& header = reader.Header();
+    for (int y = 1; y <= header.Down; ++y) {
+        const int rowLine = 1 + header.PaintCount + (y - 1) * header.Across + 1;
         if (y > cells.Down()) {
-            throw FormatError(path, rowLine, TooMuch(state.CellsDown, " rows", cells.Down()));
+            throw FormatError(path, rowLine, TooMuch(header.Down, " rows", cells.Down()));
         }
-        reader.ReadRow(cells, y, std::min(state.CellsAcross, cells.Across()));
-        if (state.CellsAcross > cells.Across()) {
+        reader.ReadRow(cells, y, std::min(header.Across, cells.Across()));
+        if (header.Across > cells.Across()) {
             throw FormatError(path, rowLine + cells.Across(),
-                              TooMuch(state.CellsAcross, " columns", cells.Across()));
+                              TooMuch(header.Across, " columns", cells.Across()));
         }
     }
 }
 
 }  // namespace
 
-void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state) {
+void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state,
+                   EditSheet& sheet) {
     const StippleHeader& header = reader.Header();
-    state.FoundCount = header.PaintCount;
-    state.CellsAcross = header.Across;
-    state.CellsDown = header.Down;
+    sheet.Announce({header.PaintCount, header.Across, header.Down});
     state.FinalColors = header.FinalColors;
-    ReadPaints(reader, path, state);
-    ReadCells(reader, path, state);
+    ReadPaints(reader, path, state.FoundColors);
+    ReadCells(reader, path, state.EditStipples);
 }
 
-void WriteSheet(const std::filesystem::path& path, const WorkState& state) {
-    // A load of fewer paints leaves room behind them that is no part of the palette.
-    std::vector<PaintColor> palette = state.FoundColors;
-    palette.resize(static_cast<std::size_t>(state.FoundCount) + 1);
-    WriteStippleFile(
-        path, {palette, state.EditStipples, state.CellsAcross, state.CellsDown, state.FinalColors});
+void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors) {
+    WriteStippleFile(path,
+                     {sheet.Paints(), sheet.Cells(), sheet.Across(), sheet.Down(), finalColors});
 }
 
 }  // namespace vendrel

@@ -2,17 +2,18 @@
 
 #include <filesystem>
 
-#include "shell/work_state.h"
 #include "storage/stipple_file.h"
+#include "touchup/edit_sheet.h"
 
 namespace vendrel {
 
-/// Reads a stipple file into FoundColors and EditStipples as they are sized, with the file's own
-/// CellsAcross, CellsDown and FinalColors. What does not fit ends the reading with a FormatError
+/// Reads a stipple file into FoundColors and EditStipples as they are sized; the sheet takes the
+/// sizes the file announces, and FinalColors. What does not fit ends the reading with a FormatError
 /// and, as any broken line does, leaves everything read until then.
-void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state);
+void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state,
+                   EditSheet& sheet);
 
 /// Replaces `path` whole or not at all with FoundColors and EditStipples. Throws FileError.
-void WriteSheet(const std::filesystem::path& path, const WorkState& state);
+void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors);
 
 }  // namespace vendrel

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/palette.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
 #include "support/size_text.h"
@@ -40,17 +41,13 @@ TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
     if (state.CellsAcross < 1 || state.CellsDown < 1 || state.Stipples.Across() < 1) {
         throw Error("There are no stipples to touch up. Change the photo to stipples first.");
     }
-    opening_ = {state.FoundColors, state.FoundCount, {},
-                state.CellsAcross, state.CellsDown,  state.FinalColors};
+    foundAtOpening_ = state.FoundColors;
+    finalAtOpening_ = state.FinalColors;
     wantedAtOpening_ = state.Chosen.FinalPaints;
     unsavedAtOpening_ = state.HasUnsavedWork;
     // The file of work that was only accepted is still in use, not left over.
     recoveryOffered_ = !state.HasUnsavedWork && HoldLeftRecovery(place_);
-    state.FoundColors = state.PaintColors;
-    state.FoundColors.resize(static_cast<std::size_t>(state.PaintCount) + 1);
-    state.FoundCount = state.PaintCount;
-    state.EditStipples = state.Stipples;
-    sheet_.Recount();
+    sheet_.Open();
 }
 
 CellRect TouchUp::BeginStroke(CellPos at, EditBrush brush) {
@@ -147,13 +144,13 @@ CellRect TouchUp::AfterStep(CellRect dirty) {
 void TouchUp::ShowFinalColors() {
     const int finalColors = place_.State.FinalColors;
     SetColorChecks(place_.State.Chosen,
-                   finalColors == opening_.FinalColors ? wantedAtOpening_ : finalColors);
+                   finalColors == finalAtOpening_ ? wantedAtOpening_ : finalColors);
 }
 
 void TouchUp::SaveIt_Click() {
     EndStroke();
     RefuseFlaw(sheet_, "The stipples cannot be saved");
-    WriteSheet(StippleFilePath(place_), place_.State);
+    WriteSheet(StippleFilePath(place_), sheet_, place_.State.FinalColors);
     place_.MainMenu[MenuId::LoadStipples].Enabled = true;
     savedId_ = history_.StateId();
     place_.State.HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
@@ -175,7 +172,7 @@ CellRect TouchUp::LoadIt_Click() {
     PushLoad("Load");
     {
         const RecountAtEnd recount(sheet_);
-        ReadIntoSheet(reader, path, place_.State);
+        ReadIntoSheet(reader, path, place_.State, sheet_);
     }
     savedId_ = history_.StateId();
     ShowFinalColors();
@@ -211,11 +208,8 @@ AcceptReport TouchUp::Accept() {
 
 void TouchUp::Cancel() {
     WorkState& state = place_.State;
-    state.CellsAcross = opening_.CellsAcross;
-    state.CellsDown = opening_.CellsDown;
-    state.FinalColors = opening_.FinalColors;
-    state.FoundColors = opening_.FoundColors;
-    state.FoundCount = opening_.FoundCount;
+    state.FinalColors = finalAtOpening_;
+    SetFoundColors(state, foundAtOpening_);
     state.EditStipples = {};
     state.HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
     ShowFinalColors();
@@ -236,9 +230,11 @@ CellRect TouchUp::TakeRecovery() {
                 " stipples. Choose the photo again on the screen it was made on, or give the "
                 "work up.");
     }
-    SheetContents found{
-        reader.ReadPalette(), header.PaintCount, Grid<StippleCell>(header.Across, header.Down),
-        header.Across,        header.Down,       header.FinalColors};
+    SheetContents found{reader.ReadPalette(),
+                        {},
+                        Grid<StippleCell>(header.Across, header.Down),
+                        {header.PaintCount, header.Across, header.Down},
+                        header.FinalColors};
     for (int y = 1; y <= header.Down; ++y) {
         reader.ReadRow(found.EditStipples, y, header.Across);
     }
@@ -272,7 +268,7 @@ void TouchUp::WriteRecovery() {
         return;
     }
     MakeRoomForRecovery();
-    WriteSheet(HoldRecovery(place_), place_.State);
+    WriteSheet(HoldRecovery(place_), sheet_, place_.State.FinalColors);
     timer_.NoteKept();
 }
 

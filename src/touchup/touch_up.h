@@ -107,7 +107,8 @@ class TouchUp {
     bool drawing_ = false;
     int savedId_ = -1;  // state of the history that the saved grid holds
     bool recoveryOffered_ = false;
-    SheetContents opening_;    // without the grid: Stipples still hold it
+    PaintList foundAtOpening_;
+    int finalAtOpening_ = 0;
     int wantedAtOpening_ = 0;  // final paints checked in the menu
     bool unsavedAtOpening_ = false;
 };

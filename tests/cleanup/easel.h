@@ -23,7 +23,6 @@ struct Easel : Bench {
 
     void Lay(const std::vector<std::string>& rows, int paints) {
         UseGrid(State, rows);
-        State.CellMarks = Grid<CellMark>(State.CellsAcross, State.CellsDown);
         const int size = State.StippleSize;
         for (int y = 1; y <= State.CellsDown; ++y) {
             for (int x = 1; x <= State.CellsAcross; ++x) {
@@ -31,12 +30,12 @@ struct Easel : Bench {
                 State.Stipples(x, y).Y = 1 + (y - 1) * size + size / 2;
             }
         }
-        State.PaintCount = paints;
-        State.PaintColors.assign(1, {});
+        PaintList palette;
         for (int p = 1; p <= paints; ++p) {
             const std::string number = std::to_string(p);
-            State.PaintColors.push_back({20 * p, 10, p, "Set", "C" + number, "Paint " + number, 0});
+            palette.Add({20 * p, 10, p, "Set", "C" + number, "Paint " + number, 0});
         }
+        SetPalette(State, std::move(palette));
         const int width = State.CellsAcross * size;
         const int height = State.CellsDown * size;
         State.PictureWidth = width * 15;
@@ -46,9 +45,7 @@ struct Easel : Bench {
         State.PixelMap = Grid<MapPixel>(width, height);
     }
 
-    [[nodiscard]] Color Paint(int p) const {
-        return ColorOf(State.PaintColors[static_cast<std::size_t>(p)]);
-    }
+    [[nodiscard]] Color Paint(int p) const { return ColorOf(State.PaintColors[p]); }
     [[nodiscard]] const Surface& Work() const { return Frames.WorkFrame.Picture; }
 };
 

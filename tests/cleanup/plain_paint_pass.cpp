@@ -88,7 +88,7 @@ void Redraw(const Workplace& place, BrushShape shape) {
 
 void PaintArea(const Workplace& place, int number) {
     WorkState& s = place.State;
-    const vendrel::PaintArea& area = s.Areas[static_cast<std::size_t>(number)];
+    const vendrel::PaintArea& area = s.Areas[number];
     for (const auto& [x, y] : area.Members) {
         const StippleCell& cell = s.Stipples(x, y);
         for (const CellPos step : kSteps) {
@@ -104,16 +104,16 @@ void PaintArea(const Workplace& place, int number) {
     }
 }
 
-int Biggest(std::vector<vendrel::PaintArea>& areas) {
-    std::size_t best = 0;
-    for (std::size_t a = 1; a < areas.size(); ++a) {
+int Biggest(OneBased<vendrel::PaintArea>& areas) {
+    int best = 0;
+    for (int a = 1; a <= areas.Count(); ++a) {
         if (!areas[a].Painted &&
             areas[a].StippleCount > (best == 0 ? 0 : areas[best].StippleCount)) {
             best = a;
         }
     }
     areas[best].Painted = true;
-    return static_cast<int>(best);
+    return best;
 }
 
 void FindAreas(WorkState& s) {
@@ -127,9 +127,9 @@ void FindAreas(WorkState& s) {
         });
     }
     s.AreaCount = s.NextAreaNumber;
-    s.Areas.assign(static_cast<std::size_t>(s.AreaCount) + 1, {});
+    s.Areas = OneBased<vendrel::PaintArea>(s.AreaCount);
     for (int a = 1; a <= s.AreaCount; ++a) {
-        vendrel::PaintArea& area = s.Areas[static_cast<std::size_t>(a)];
+        vendrel::PaintArea& area = s.Areas[a];
         EachCell(s, [&](int x, int y) {
             if (s.Stipples(x, y).AreaNumber == a) {
                 ++area.StippleCount;

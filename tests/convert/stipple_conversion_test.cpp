@@ -50,8 +50,8 @@ TEST(Stipples, TakeTheirColourFromTheirOwnPixels) {
         bench.State.Chosen.Sample = sampling ? Sampling::Pixel : Sampling::Average;
         bench.Photo().FillRect(1, 1, 8, 8, Rgb(100, 100, 100));
         bench.Photo().Set(5, 5, Rgb(2, 2, 2));
-        test::UsePaints(bench.State, {Paint(2, 2, 2, "centre"), Paint(98, 98, 98, "average"),
-                                      Paint(120, 120, 120, "with the edge")});
+        SetPalette(bench.State, {Paint(2, 2, 2, "centre"), Paint(98, 98, 98, "average"),
+                                 Paint(120, 120, 120, "with the edge")});
         ChangeToStipples_Click(bench.Place);
         EXPECT_EQ(test::NamesOf(bench.State), sampling ? "centre" : "average");
         EXPECT_EQ(bench.State.Stipples(1, 1), (StippleCell{1, 5, 5, 0, {}}));
@@ -65,10 +65,9 @@ TEST(Stipples, TakeTheirColourFromTheirOwnPixels) {
 // The conversion in so many words, one stipple and one paint at a time; the paints as they are
 // found.
 std::vector<std::string> PlainConversion(const Conversion& bench, const Surface& photo,
-                                         std::vector<PaintColor>& found) {
+                                         PaintList& found) {
     const int size = bench.State.StippleSize;
     const bool sampling = bench.State.Chosen.Sample == Sampling::Pixel;
-    found.assign(1, {});
     std::vector<std::string> rows;
     for (int y = 1; y <= photo.Height(); y += size) {
         rows.emplace_back();
@@ -77,13 +76,13 @@ std::vector<std::string> PlainConversion(const Conversion& bench, const Surface&
                                       : AverageColor(photo, x, y, size);
             int index = 0;
             ColorMatch(bench.State, color.Red, color.Green, color.Blue, index, 0);
-            const PaintColor& paint = bench.State.PaintColors[static_cast<std::size_t>(index)];
-            const auto known = std::find_if(found.begin() + 1, found.end(), [&](const auto& f) {
+            const PaintColor& paint = bench.State.PaintColors[index];
+            const auto known = std::find_if(found.begin(), found.end(), [&](const auto& f) {
                 return ColorOf(f) == ColorOf(paint);
             });
-            rows.back() += static_cast<char>('0' + (known - found.begin()));
+            rows.back() += static_cast<char>('1' + (known - found.begin()));
             if (known == found.end()) {
-                found.push_back(paint);
+                found.Add(paint);
             }
         }
     }
@@ -100,8 +99,8 @@ TEST(Stipples, AreMatchedAsOneByOneAndLookTheSameUnwatched) {
         bench.Photo() =
             test::PictureOf(bench.Photo().Width(), bench.Photo().Height(),
                             [&](int, int) { return static_cast<Color>(random() & 0xFFFFFF); });
-        test::UsePaints(bench.State, test::RandomPaints(random, 30, round % 5 == 0 ? 127 : 5));
-        std::vector<PaintColor> found;
+        SetPalette(bench.State, test::RandomPaints(random, 30, round % 5 == 0 ? 127 : 5));
+        PaintList found;
         const auto rows = PlainConversion(bench, bench.Photo(), found);
         const auto palette = bench.State.PaintColors;
         ChangeToStipples_Click(bench.Place);
@@ -113,8 +112,7 @@ TEST(Stipples, AreMatchedAsOneByOneAndLookTheSameUnwatched) {
 
         const Surface unwatched = bench.Drawn();
         const auto grid = bench.State.Stipples;
-        bench.State.PaintColors = palette;
-        bench.State.PaintCount = 30;
+        SetPalette(bench.State, palette);
         bench.Screen.IsWatched = true;
         AutoChangeToStipples(bench.Place);
         ASSERT_EQ(bench.Drawn(), unwatched);
@@ -126,7 +124,7 @@ TEST(Stipples, TellTheirProgressAndOpenTheNextSteps) {
     Conversion bench(4, 3, 1, Rgb(9, 9, 9));
     bench.Photo().FillRect(5, 0, 9, 4, Rgb(90, 90, 90));
     bench.State.FinalColors = 1;
-    test::UsePaints(bench.State, {Paint(0, 0, 1), Paint(80, 80, 80)});
+    SetPalette(bench.State, {Paint(0, 0, 1), Paint(80, 80, 80)});
     ChangeToStipples_Click(bench.Place);
     EXPECT_THAT(bench.Screen.Captions, testing::ElementsAre("Getting Colors", "Found 1 so far.",
                                                             "Matching Paint Sets to 2 Colors",
@@ -152,8 +150,8 @@ TEST(Stipples, AreRefusedWithoutFinalPaintsOrPaints) {
         EXPECT_TRUE(bench.Drawn().Empty());
     }
     Conversion bench(8, 1, 1);
-    bench.State.MasterColors = {{}, Paint(1, 2, 3, "restored")};
-    bench.State.PaintSets.push_back({"Set", true});
+    bench.State.MasterColors = {Paint(1, 2, 3, "restored")};
+    bench.State.PaintSets.Add({"Set", true});
     ChangeToStipples_Click(bench.Place);
     EXPECT_EQ(test::NamesOf(bench.State), "restored");
 }

@@ -219,7 +219,7 @@ void TouchUpWindowTest::ClosingTheProgramWithAcceptedWorkAsks() {
 void TouchUpWindowTest::AnEditorThatCannotOpenDoesNothingButClose() {
     MainWindow& window = desktop_->Window();
     Button("Cancel").click();
-    State().CellsAcross = 0;
+    State().Stipples = {};
     {
         NextMessage message;
         QVERIFY(Choose(window, "ColorPickerSelect"));

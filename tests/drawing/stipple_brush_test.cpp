@@ -18,7 +18,7 @@ struct Easel : test::Bench {
         SizeStipples(State, size);
         Frames.WorkFrame.Picture = Surface(width, height);
         State.PixelMap = Grid<MapPixel>(width, height);
-        State.PaintColors.push_back({9, 8, 7, "", "", "", 0});
+        State.PaintColors.Add({9, 8, 7, "", "", "", 0});
     }
     std::vector<std::string> Picture() const {
         std::vector<std::string> rows;

@@ -75,21 +75,17 @@ TEST_F(Printing, ChartCutsLongNamesShortInsteadOfRunningIntoTheFigures) {
     const Surface longName = Chart();
     EXPECT_NE(shortNames, longName);
     for (int y = 0; y < longName.Height(); ++y) {
-        const auto figures = longName.Row(y).subspan(1780);
-        ASSERT_TRUE(std::ranges::equal(figures, shortNames.Row(y).subspan(1780))) << y;
+        const auto figures = longName.Row(y).From(1780);
+        ASSERT_TRUE(std::ranges::equal(figures, shortNames.Row(y).From(1780))) << y;
     }
 }
 
 TEST_F(Printing, ChartShowsAFullPaletteOnOnePage) {
-    while (easel_.State.PaintCount < 50) {
-        easel_.State.PaintColors.push_back({250, 1, 2, "Set", "C", "Last", 0});
-        ++easel_.State.PaintCount;
-    }
+    SetPalette(easel_.State, PaintList(50, {250, 1, 2, "Set", "C", "Last", 0}));
     const Surface chart = Chart();
     EXPECT_EQ(chart.Get(200, 3508 - 150 - 30), Rgb(250, 1, 2));  // the last swatch
     EXPECT_EQ(chart.Get(200, 3508 - 100), kWhite);
-    easel_.State.PaintColors.push_back({});
-    ++easel_.State.PaintCount;
+    SetPalette(easel_.State, PaintList(51));
     EXPECT_THROW((void)Chart(), Error);
 }
 

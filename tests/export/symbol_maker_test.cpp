@@ -6,6 +6,7 @@
 
 #include "output/symbol_set.h"
 #include "shell/recorder.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -17,13 +18,13 @@ TEST(SymbolMaker, DrawsCapitalsOfOneHeight) {
     MakeSymbols(bench.Program);
     EXPECT_EQ(bench.Files.Read("Data/Symbols.txt"), once);
     SetupBMPSymbols(bench.Place);
-    for (std::size_t k = 1; k <= 33; ++k) {  // the digits and capitals
+    for (int k = 1; k <= 33; ++k) {  // the digits and capitals
         const SymbolGlyph& glyph = bench.State.SymbolGlyphs[k];
         const auto byRow = [](GlyphPoint a, GlyphPoint b) { return a.Y < b.Y; };
         const auto [top, bottom] =
-            std::minmax_element(glyph.Points.begin() + 1, glyph.Points.end(), byRow);
-        EXPECT_EQ(top->Y, -2) << kSymbolCharacters[k - 1];
-        EXPECT_EQ(bottom->Y, 8) << kSymbolCharacters[k - 1];
+            std::minmax_element(glyph.Points.begin(), glyph.Points.end(), byRow);
+        EXPECT_EQ(top->Y, -2) << At(kSymbolCharacters, k - 1);
+        EXPECT_EQ(bottom->Y, 8) << At(kSymbolCharacters, k - 1);
     }
 }
 

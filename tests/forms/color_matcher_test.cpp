@@ -53,8 +53,7 @@ TEST(ColorMatcher, PreviewShowsWhatAcceptingGives) {
     for (int y = 0; y < preview.Height(); ++y) {
         for (int x = 0; x < preview.Width(); ++x) {
             const int paint = matcher.State.Stipples(x + 1, y + 1).ColorIndex;
-            EXPECT_EQ(preview.Get(x, y),
-                      ColorOf(matcher.State.PaintColors[static_cast<std::size_t>(paint)]));
+            EXPECT_EQ(preview.Get(x, y), ColorOf(matcher.State.PaintColors[paint]));
         }
     }
     EXPECT_TRUE(matcher.MainMenu[MenuId::PaintItNow].Enabled);

@@ -25,7 +25,9 @@ class MarkList : public NumberSink {
 // An easel whose picture tests paint pixel by pixel.
 struct Painted : test::Easel {
     Painted(int size, int across, int down, int paints) : Easel(size, across, down) {
-        State.PaintCount = paints;
+        PaintList palette = State.PaintColors;
+        palette.Resize(paints);
+        SetPalette(State, palette);
     }
     Surface& Picture() { return Frames.WorkFrame.Picture; }
     NumberingCounts Number(NumberSink& sink) { return SetupCellNumbers(Place, Picture(), sink); }

@@ -12,9 +12,9 @@ namespace {
 
 using testing::ElementsAre;
 
-WorkState StateOf(const std::vector<PaintColor>& paints, const std::vector<std::string>& rows) {
+WorkState StateOf(const PaintList& paints, const std::vector<std::string>& rows) {
     WorkState state;
-    test::UsePaints(state, paints);
+    SetPalette(state, paints);
     test::UseGrid(state, rows);
     return state;
 }

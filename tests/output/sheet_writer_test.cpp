@@ -78,11 +78,11 @@ TEST(Sheet, RefusedOneLeavesPictureAndFiles) {
     EXPECT_THROW(NumberedPainting{bare.Place}, Error);  // nothing painted
     PaintedKit kit;
     const Surface painting = kit.Frames.WorkFrame.Picture;
-    kit.State.PaintCount = 51;
-    kit.State.PaintColors.resize(52);
+    const PaintList paints = kit.State.PaintColors;
+    SetPalette(kit.State, PaintList(51));
     EXPECT_THROW(kit.Sheet(), Error);
-    kit.State.PaintCount = 9;
-    kit.State.SymbolGlyphs.clear();  // fails at the first stamp
+    SetPalette(kit.State, paints);
+    kit.State.SymbolGlyphs.Clear();  // fails at the first stamp
     kit.Screen.IsWatched = true;
     EXPECT_THROW(kit.Sheet(), Error);
     EXPECT_EQ(kit.Frames.WorkFrame.Picture, painting);

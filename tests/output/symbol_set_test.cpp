@@ -53,10 +53,10 @@ TEST(SymbolSet, TiesSymbolsToTheirCharacters) {
     SetupBMPSymbols(bench.Place);
     const auto& codes = bench.State.SymbolCodes;
     for (const auto& [symbol, character] : {std::pair{1, '1'}, {23, 'N'}, {24, '0'}, {50, 'z'}}) {
-        EXPECT_EQ(codes[static_cast<std::size_t>(symbol)], character);
+        EXPECT_EQ(codes[symbol], character);
     }
     for (const char never : std::string("OQVbhijlopqv")) {
-        EXPECT_THAT(codes, testing::Not(testing::Contains(never)));
+        EXPECT_THAT(codes.Entries(), testing::Not(testing::Contains(never)));
     }
 }
 
@@ -114,13 +114,12 @@ TEST(SymbolSet, ShipsFiftyDifferentLegibleSymbols) {
     test::Bench bench(VENDREL_SOURCE_DIR);
     SetupBMPSymbols(bench.Place);
     const auto& glyphs = bench.State.SymbolGlyphs;
-    for (std::size_t k = 1; k <= kSymbolCount; ++k) {
-        EXPECT_GE(glyphs[k].PointCount, 14) << k;
-        for (std::size_t other = 1; other < k; ++other) {
+    for (int k = 1; k <= kSymbolCount; ++k) {
+        EXPECT_GE(glyphs[k].PointCount(), 14) << k;
+        for (int other = 1; other < k; ++other) {
             EXPECT_NE(glyphs[k].Points, glyphs[other].Points) << k << " and " << other;
         }
-        for (std::size_t i = 1; i < glyphs[k].Points.size(); ++i) {
-            const GlyphPoint p = glyphs[k].Points[i];
+        for (const GlyphPoint& p : glyphs[k].Points) {
             EXPECT_TRUE(p.X >= -2 && p.X <= 7 && p.Y >= -3 && p.Y <= 11) << k;
         }
     }

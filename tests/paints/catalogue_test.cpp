@@ -15,7 +15,6 @@ TEST(Catalogue, ReadsAsManyPaintsAsItCounts) {
         "2\r\n255, 0,7,\"Greens, light\",\"PG7\",\"Leaf\"\r\n1,2,3,Barrel,,Grey\n4,5");
     LoadMasterColors(bench.Place);
     ASSERT_EQ(bench.State.MasterCount, 2);
-    EXPECT_EQ(bench.State.MasterColors[0], PaintColor{});
     EXPECT_EQ(bench.State.MasterColors[1],
               (PaintColor{255, 0, 7, "Greens, light", "PG7", "Leaf", 0}));
     EXPECT_EQ(bench.State.MasterColors[2], (PaintColor{1, 2, 3, "Barrel", "", "Grey", 0}));
@@ -30,11 +29,11 @@ TEST(Catalogue, KeepsWhatItHasWhenTheFileIsBroken) {
                                         {"1\n1,256,3,a,b,c\n", "line 2: a paint's green"},
                                         {"40000\n", "the number of paints"}}) {
         test::Bench bench;
-        bench.State.MasterColors.resize(2);
+        bench.State.MasterColors.Resize(1);
         bench.Files.Write("Data/studiopaint.csv", text);
         EXPECT_THAT([&] { LoadMasterColors(bench.Place); },
                     testing::ThrowsMessage<FormatError>(testing::HasSubstr(problem)));
-        EXPECT_EQ(bench.State.MasterColors.size(), 2U);
+        EXPECT_EQ(bench.State.MasterColors.Count(), 1);
     }
     test::Bench empty;
     EXPECT_THROW(LoadMasterColors(empty.Place), FileError);
@@ -70,14 +69,14 @@ TEST(Catalogue, ShipsWithPaintsThatCanAllBeToldApart) {
 TEST(Catalogue, MakesASetOfEveryNameAndOneOfEveryNamelessPaint) {
     test::Bench bench;
     for (const char* mfg : {"Oils", "", "Greys", "Oils", "", "oils"}) {
-        bench.State.MasterColors.push_back({0, 0, 0, mfg, "", "", 0});
+        bench.State.MasterColors.Add({0, 0, 0, mfg, "", "", 0});
     }
     BuildPaintSets(bench.Place);
     std::string names;
     for (const PaintSet& set : bench.State.PaintSets) {
         names += set.Name + ";";
     }
-    EXPECT_EQ(names, ";Oils;;Greys;;oils;");
+    EXPECT_EQ(names, "Oils;;Greys;;oils;");
     EXPECT_EQ(bench.State.PaintSetCount, 5);
 }
 

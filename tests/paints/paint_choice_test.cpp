@@ -14,11 +14,12 @@ namespace {
 class PaintChoice : public testing::Test {
   protected:
     PaintChoice() {
+        PaintList paints;
         for (const auto& [set, name] :
              {std::pair{"Oils", "o1"}, {"Greys", "g1"}, {"Oils", "o2"}, {"Inks, dark", "i1"}}) {
-            State.MasterColors.push_back({1, 2, 3, set, "", name, 0});
+            paints.Add({1, 2, 3, set, "", name, 0});
         }
-        State.MasterCount = 4;
+        SetCatalogue(State, std::move(paints));
         BuildPaintSets(Bench.Place);
     }
 
@@ -51,7 +52,7 @@ TEST_F(PaintChoice, StartsWithThePaintListInTheOrderOfItsLines) {
 }
 
 TEST_F(PaintChoice, WithoutAListTheFirstSetIsSelectedAndWritten) {
-    test::UsePaints(State, {test::Paint(1, 1, 1, "old")});
+    SetPalette(State, {test::Paint(1, 1, 1, "old")});
     LoadPaintList(Bench.Place);
     EXPECT_EQ(Selected(), "Oils;");
     EXPECT_EQ(State.PaintCount, 0);
@@ -84,12 +85,12 @@ TEST_F(PaintChoice, ThePaletteFollowsTheListOfChosenSets) {
     State.SelectedPaintsList = {"None Selected"};
     LoadColors(Bench.Place);
     EXPECT_EQ(State.PaintCount, 0);
-    EXPECT_EQ(State.PaintColors.size(), 1U);
+    EXPECT_EQ(State.PaintColors.Count(), 0);
 }
 
 TEST_F(PaintChoice, RefusesMorePaintsThanCanBeNumbered) {
-    State.MasterColors.assign(32768, {0, 0, 0, "Oils", "", "", 0});
-    test::UsePaints(State, {test::Paint(1, 1, 1, "old")});
+    State.MasterColors = PaintList(32767, {0, 0, 0, "Oils", "", "", 0});
+    SetPalette(State, {test::Paint(1, 1, 1, "old")});
     State.SelectedPaintsList = {"Oils"};
     LoadColors(Bench.Place);
     EXPECT_EQ(State.PaintCount, 32767);

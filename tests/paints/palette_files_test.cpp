@@ -17,7 +17,7 @@ PaintColor Paint(int red, int green, int blue, const char* set, const char* name
     return {red, green, blue, set, "", name, 0};
 }
 
-using Paints = std::vector<PaintColor>;
+using Paints = PaintList;
 
 TEST(PaletteFiles, ReadsPalettesOfOtherPrograms) {
     const test::TempFolder folder;
@@ -25,13 +25,11 @@ TEST(PaletteFiles, ReadsPalettesOfOtherPrograms) {
         {"a.gpl",
          "GIMP Palette\r\nName: Sea \"deep\"\nColumns: 4\n# 1 2 3 no colour\n"
          "  0  20\t 40\tInk\n\n255 255 255\n",
-         {{},
-          Paint(0, 20, 40, "Sea 'deep'", "Ink"),
-          Paint(255, 255, 255, "Sea 'deep'", "Unnamed")}},
+         {Paint(0, 20, 40, "Sea 'deep'", "Ink"), Paint(255, 255, 255, "Sea 'deep'", "Unnamed")}},
         {"plain.csv",
          "1,2,3,\"Red, \"\"hot\"\"\"\n4,5,6",
-         {{}, Paint(1, 2, 3, "plain", "Red, 'hot'"), Paint(4, 5, 6, "plain", "Unnamed")}},
-        {"heading.CSV", "Name;B;G;R\nSky;9;8;7\n", {{}, Paint(7, 8, 9, "heading", "Sky")}},
+         {Paint(1, 2, 3, "plain", "Red, 'hot'"), Paint(4, 5, 6, "plain", "Unnamed")}},
+        {"heading.CSV", "Name;B;G;R\nSky;9;8;7\n", {Paint(7, 8, 9, "heading", "Sky")}},
     };
     for (const auto& [file, text, expected] : cases) {
         EXPECT_EQ(ReadPaletteFile(folder.Write(file, text)), expected) << file;
@@ -53,8 +51,7 @@ TEST(PaletteFiles, NamesTheLineThatIsBroken) {
 }
 
 TEST(PaletteFiles, WritesWhatItReads) {
-    const Paints paints = {
-        {}, Paint(7, 80, 255, "Set", "Sky"), {1, 2, 3, "Set", "PB29", "Ultra", 0}};
+    const Paints paints = {Paint(7, 80, 255, "Set", "Sky"), {1, 2, 3, "Set", "PB29", "Ultra", 0}};
     const std::string text = GplText("Mine", paints);
     EXPECT_EQ(text,
               "GIMP Palette\nName: Mine\nColumns: 8\n#\n  7  80 255\tSet: Sky\n"
@@ -65,7 +62,7 @@ TEST(PaletteFiles, WritesWhatItReads) {
 TEST(NextBest, NearestFirstWithoutTheColoursInUse) {
     const Paints catalogue = {Paint(10, 0, 0, "a", "far"), Paint(4, 0, 0, "a", "near"),
                               Paint(0, 4, 0, "a", "as near"), Paint(1, 0, 0, "b", "in use")};
-    const Paints palette = {{}, Paint(0, 0, 0, "a", "wanted"), Paint(1, 0, 0, "a", "same colour")};
+    const Paints palette = {Paint(0, 0, 0, "a", "wanted"), Paint(1, 0, 0, "a", "same colour")};
     const auto best = FindNextBest(palette[1], catalogue, palette, 2);
     ASSERT_EQ(best.size(), 2U);
     EXPECT_EQ(best[0].Paint.PaintName, "near");

@@ -18,17 +18,18 @@ void PlainReduce(WorkState& state, int target, std::vector<std::string>& caption
     while (state.PaintCount > target) {
         CountColors(state);
         const int k = GetLowCount(state);
-        PaintColor gone = state.PaintColors[static_cast<std::size_t>(k)];
+        PaintColor gone = state.PaintColors[k];
         int r = 0;
         ColorMatch(state, gone.Red, gone.Green, gone.Blue, r, k);
         for (StippleCell& cell : state.Stipples.All()) {
             cell.ColorIndex = cell.ColorIndex == k ? r : cell.ColorIndex;
         }
-        state.PaintColors.erase(state.PaintColors.begin() + k);
+        PaintList left = state.PaintColors;
+        left.Remove(k);
+        SetPalette(state, left);
         for (StippleCell& cell : state.Stipples.All()) {
             cell.ColorIndex -= cell.ColorIndex > k ? 1 : 0;
         }
-        --state.PaintCount;
         captions.push_back("Number of Paints Reduced to " + std::to_string(state.PaintCount) +
                            " Colors");
     }
@@ -36,9 +37,8 @@ void PlainReduce(WorkState& state, int target, std::vector<std::string>& caption
 
 TEST(ReduceColors, DropsTheLeastUsedPaintAndRepaintsItsStipples) {
     // a and b are close, so are c and d; e is far from all.
-    const std::vector<PaintColor> paints = {Paint(10, 0, 0, "a"), Paint(20, 0, 0, "b"),
-                                            Paint(0, 100, 0, "c"), Paint(0, 110, 0, "d"),
-                                            Paint(0, 0, 255, "e")};
+    const PaintList paints = {Paint(10, 0, 0, "a"), Paint(20, 0, 0, "b"), Paint(0, 100, 0, "c"),
+                              Paint(0, 110, 0, "d"), Paint(0, 0, 255, "e")};
     struct Case {
         const char* What;
         Rows Before;
@@ -58,12 +58,12 @@ TEST(ReduceColors, DropsTheLeastUsedPaintAndRepaintsItsStipples) {
     };
     for (const Case& c : cases) {
         test::Bench bench;
-        test::UsePaints(bench.State, paints);
+        SetPalette(bench.State, paints);
         test::UseGrid(bench.State, c.Before);
         ReduceColors(bench.Place, c.Target);
         EXPECT_EQ(test::GridOf(bench.State.Stipples), c.After) << c.What;
         EXPECT_EQ(test::NamesOf(bench.State), c.Names) << c.What;
-        EXPECT_EQ(bench.State.PaintColors.size(), static_cast<std::size_t>(c.Target) + 1) << c.What;
+        EXPECT_EQ(bench.State.PaintColors.Count(), c.Target) << c.What;
         EXPECT_EQ(bench.Screen.Captions.size(), static_cast<std::size_t>(5 - c.Target)) << c.What;
     }
 }
@@ -73,7 +73,7 @@ TEST(ReduceColors, AgreesWithCountingAfreshForEveryPaint) {
     for (int round = 0; round < 120; ++round) {
         const int count = 2 + round % 20;
         test::Bench bench;
-        test::UsePaints(bench.State, test::RandomPaints(random, count, round % 2 == 0 ? 85 : 5));
+        SetPalette(bench.State, test::RandomPaints(random, count, round % 2 == 0 ? 85 : 5));
         std::uniform_int_distribution<int> index(round % 3 == 0 ? 0 : 1, count);
         Rows rows(static_cast<std::size_t>(1 + round % 5), std::string(17, '0'));
         for (std::string& row : rows) {
@@ -101,8 +101,8 @@ TEST(ReduceColors, StopsWithWhatWasDoneWhenACounterIsFull) {
     // only if another paint has to go.
     for (const int target : {2, 1}) {
         test::Bench bench;
-        test::UsePaints(bench.State,
-                        {Paint(10, 0, 0, "a"), Paint(11, 0, 0, "b"), Paint(250, 0, 0, "c")});
+        SetPalette(bench.State,
+                   {Paint(10, 0, 0, "a"), Paint(11, 0, 0, "b"), Paint(250, 0, 0, "c")});
         test::UseGrid(bench.State, {std::string(32767, '1') + "233"});
         if (target == 2) {
             ReduceColors(bench.Place, target);
@@ -122,7 +122,7 @@ TEST(ReduceColors, StopsWithWhatWasDoneWhenACounterIsFull) {
 
 TEST(RemoveColor, MovesLaterPaintsUp) {
     WorkState state;
-    test::UsePaints(state, {Paint(0, 0, 0, "a"), Paint(90, 0, 0, "b"), Paint(100, 0, 0, "c")});
+    SetPalette(state, {Paint(0, 0, 0, "a"), Paint(90, 0, 0, "b"), Paint(100, 0, 0, "c")});
     test::UseGrid(state, {"123", "021"});
     RemoveColor(state, 2);
     EXPECT_EQ(test::GridOf(state.Stipples), (Rows{"122", "021"}));

@@ -9,8 +9,8 @@
 namespace vendrel {
 namespace {
 
-const std::vector<PaintColor> kSea = {
-    {}, {200, 30, 45, "Oils, fine", "PR1", "Bär red", 0}, {0, 0, 255, "", "", "", 0}};
+const PaintList kSea = {{200, 30, 45, "Oils, fine", "PR1", "Bär red", 0},
+                        {0, 0, 255, "", "", "", 0}};
 constexpr const char* kSeaText =
     " 2\r\n200,30,45,\"Oils, fine\",\"PR1\",\"Bär red\"\r\n0,0,255,\"\",\"\",\"\"\r\n";
 
@@ -26,7 +26,7 @@ TEST(TemplateFile, WritesWhatItReads) {
 TEST(TemplateFile, RefusesADoubleQuoteAndKeepsTheOldFile) {
     test::TempFolder files;
     files.Write("a.csv", "old");
-    const std::vector<PaintColor> paints = {{}, test::Paint(1, 2, 3, "6\" brush")};
+    const PaintList paints = {test::Paint(1, 2, 3, "6\" brush")};
     EXPECT_THROW(WriteTemplate(files / "a.csv", paints), Error);
     EXPECT_EQ(files.Read("a.csv"), "old");
 }
@@ -36,8 +36,7 @@ TEST(TemplateFile, BecomesThePaletteAndLowersTheFinalPaints) {
          {std::tuple{12, 32, 12}, {33, 32, 32}, {60, 0, 0}}) {
         test::Bench bench;
         bench.State.Chosen.FinalPaints = wanted;
-        WriteTemplate(TemplatePath(bench.Place, "T"),
-                      std::vector<PaintColor>(static_cast<std::size_t>(paints) + 1));
+        WriteTemplate(TemplatePath(bench.Place, "T"), PaintList(paints));
         EXPECT_TRUE(LoadTemplateColors(bench.Place, "T"));
         EXPECT_EQ(bench.State.PaintCount, paints);
         EXPECT_EQ(bench.State.FinalColors, finalColors) << paints;
@@ -47,7 +46,7 @@ TEST(TemplateFile, BecomesThePaletteAndLowersTheFinalPaints) {
 
 TEST(TemplateFile, WithoutPaintsSaysSoAndEmptiesThePalette) {
     test::Bench bench;
-    test::UsePaints(bench.State, {test::Paint(1, 1, 1)});
+    SetPalette(bench.State, {test::Paint(1, 1, 1)});
     bench.Files.Write("templates/T.csv", " 0\r\n");
     EXPECT_FALSE(LoadTemplateColors(bench.Place, "T"));
     EXPECT_EQ(bench.State.PaintCount, 0);
@@ -59,7 +58,7 @@ TEST(TemplateFile, WithoutPaintsSaysSoAndEmptiesThePalette) {
 
 TEST(TemplateFile, LeavesThePaletteAloneWhenItCannotBeRead) {
     test::Bench bench;
-    test::UsePaints(bench.State, {test::Paint(1, 1, 1, "old")});
+    SetPalette(bench.State, {test::Paint(1, 1, 1, "old")});
     bench.Files.Write("templates/T.csv", " 2\r\n1,2,3,\"a\",\"b\",\"c\"\r\n1,2,999,\"a\"");
     EXPECT_THAT(
         [&] { (void)LoadTemplateColors(bench.Place, "T"); },

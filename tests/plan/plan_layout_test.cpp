@@ -83,9 +83,10 @@ TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndEveryPageHasOne) {
 TEST_F(PlannedPicture, RefusesWhatCannotBePrinted) {
     EXPECT_THROW((void)Plan({.Sheet = Paper::A4, .CanvasCm = 9.9}), Error);
     EXPECT_THROW((void)Plan({.Sheet = Paper::A4, .CanvasCm = 301}), Error);
-    easel_.State.PaintCount = 51;
+    const PaintList paints = easel_.State.PaintColors;
+    SetPalette(easel_.State, PaintList(51));
     EXPECT_THROW((void)Plan({}), Error);
-    easel_.State.PaintCount = 9;
+    SetPalette(easel_.State, paints);
     easel_.State.PixelMap = {};
     EXPECT_THROW((void)Plan({}), Error);
 }

@@ -16,7 +16,7 @@ TEST(PowerCut, LeavesWhatWasSaved) {
     Easel bench(8, {"12", "12"}, 2);
     const ProgramFolder folder(bench.Files / "studio");
     Workplace place{bench.State, bench.Frames, bench.MainMenu, bench.Screen, folder};
-    bench.State.PaintSets = {{}, {.Name = "Set", .Selected = true}};
+    bench.State.PaintSets = {{.Name = "Set", .Selected = true}};
     const Surface photo(5, 3, Rgb(200, 10, 10));
     const FragileDisk disk(bench.Files.Path());
     WriteTemplate(TemplatePath(place, "Sea"), bench.State.PaintColors);

@@ -27,11 +27,11 @@ class LoadStipples : public testing::Test {
 TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
     Save("2,2,1,32\r\n" + paints_ + "7,2,5,5\r\n8,1,13,5\r\n");
     bench_.State.CellMarks(1, 1).Visited = true;
-    bench_.State.CellsAcross = bench_.State.CellsDown = 0;
+    SetGrid(bench_.State, {});
     LoadStipples_Click(bench_.Place);
     const WorkState& state = bench_.State;
     EXPECT_EQ(state.PaintCount, 2);
-    EXPECT_EQ(state.PaintColors.size(), 3U);
+    EXPECT_EQ(state.PaintColors.Count(), 2);
     EXPECT_EQ(state.PaintColors[2].PaintCode, "A2");
     EXPECT_EQ(state.FoundColors, state.PaintColors);
     EXPECT_EQ(state.FoundCount, 2);

@@ -21,9 +21,8 @@ Grid<StippleCell> ThreeByTwo() {
     return cells;
 }
 
-const std::vector<PaintColor> kPaints = {{},
-                                         {255, 0, 7, "Acme, fine", "PR1", "Red \xC3\xA9", 99},
-                                         {0, 128, 0, "", "", "1/2\" Green", 0}};
+const PaintList kPaints = {{255, 0, 7, "Acme, fine", "PR1", "Red \xC3\xA9", 99},
+                           {0, 128, 0, "", "", "1/2\" Green", 0}};
 
 // The file is also edited by hand and read by kits made earlier: every byte counts.
 constexpr const char* kGolden =
@@ -49,8 +48,8 @@ TEST(StippleFile, ReadsBackWhatWasWritten) {
     EXPECT_EQ(reader.Header().Across, 3);
     EXPECT_EQ(reader.Header().Down, 2);
     EXPECT_EQ(reader.Header().FinalColors, 16);
-    const std::vector<PaintColor> paints = reader.ReadPalette();
-    ASSERT_EQ(paints.size(), 3U);
+    const PaintList paints = reader.ReadPalette();
+    ASSERT_EQ(paints.Count(), 2);
     PaintColor expected = kPaints[1];
     expected.CellCount = 3;
     EXPECT_EQ(paints[1], expected);

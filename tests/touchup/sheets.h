@@ -18,11 +18,11 @@ struct KitBench : Easel {
 
     /// Whether every paint's live count is what a plain count of the copies gives.
     [[nodiscard]] bool CountsAreTrue() const {
-        std::vector<int> counts(State.FoundColors.size());
+        OneBased<int> counts(State.FoundCount);
         for (const StippleCell& cell : State.EditStipples.All()) {
-            ++counts[static_cast<std::size_t>(cell.ColorIndex)];
+            ++counts[cell.ColorIndex];
         }
-        for (std::size_t i = 1; i < counts.size(); ++i) {
+        for (int i = 1; i <= counts.Count(); ++i) {
             if (State.FoundColors[i].CellCount != counts[i]) {
                 return false;
             }

@@ -115,7 +115,7 @@ TEST(Cancelling, PutsTheKitBackAsItWas) {
     bench.Files.Write(kSaved, "1,2,1,16\r\n" + kRed + "0,1,5,5\r\n0,1,13,5\r\n");
     TouchUp editor(bench.Place);
     EXPECT_EQ(editor.LoadIt_Click(), (CellRect{1, 1, 3, 2}));
-    EXPECT_EQ(bench.State.CellsAcross, 2) << "the file's own size";
+    EXPECT_EQ(editor.Sheet().Across(), 2) << "the file's own size";
     EXPECT_TRUE(IsChecked(bench.State.Chosen, MenuId::Set16Colors));
     EXPECT_THAT([&] { editor.Accept(); }, ThrowsMessage<Error>(HasSubstr("3 x 2 stipples")));
     editor.Cancel();
