@@ -40,14 +40,12 @@ double SmallestLabelMm(const PrintPlan& plan) {
 QString KitSummary(const KitPages& kit) {
     const WorkState& state = kit.Place.State;
     return QString(
-               "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm  "
-               "\u2022  kit %6")
+               "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm")
         .arg(state.PaintCount)
         .arg(Centimetres(kit.Plan.Pages.Canvas))
         .arg(kit.Plan.Pages.Tiles.size())
         .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
-        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1)
-        .arg(ToQt(KitMark(kit.Place)));
+        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1);
 }
 
 struct CoverPlaces {
@@ -131,12 +129,17 @@ std::string KitPages::Title() const {
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {
     const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
     const double bottom = Mm(kit.FrontPaper.Height - kMargin);
+    // The mark has a place of its own: whatever else is cut short, it must be told from others.
+    constexpr double kMarkWidth = 40;
     painter.setPen(Qt::black);
     painter.setFont(TextFont(FontMm(11), Weight::Bold));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width, Mm(16)}, Qt::AlignLeft,
-                   ToQt(kit.Title()));
+    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width - Mm(kMarkWidth), Mm(16)},
+                   Qt::AlignLeft, ToQt(kit.Title()));
     painter.setFont(TextFont(FontMm(4.5)));
     painter.setPen(kFaint);
+    DrawLineOfText(painter,
+                   {Mm(kMargin) + width - Mm(kMarkWidth), Mm(kMargin + 5.4), Mm(kMarkWidth), Mm(8)},
+                   Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place)));
     DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
                    KitSummary(kit));
 
