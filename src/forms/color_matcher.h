@@ -17,6 +17,7 @@ struct MatcherRow {
     PaintColor Current;
     int Stipples = 0;     // of the work in hand
     int ShareTenths = 0;  // of the picture, in tenths of a percent
+    int Symbol = 0;
     /// Also true for the same paint in another color: the catalogue may have been corrected.
     [[nodiscard]] bool Exchanged() const {
         return ColorOf(Original) != ColorOf(Current) || !SamePaint(Original, Current);
