@@ -69,7 +69,7 @@ void ColorChartDialog::FillRow(int line, const ChartRow& row) {
         return item;
     };
     QTableWidgetItem* symbol =
-        put(kSymbol, QString(QLatin1Char(form_.Symbol(row.Paint))), Qt::AlignHCenter);
+        put(kSymbol, QString(QLatin1Char(form_.Symbol(row))), Qt::AlignHCenter);
     QFont bold = table_->font();
     bold.setBold(true);
     symbol->setFont(bold);

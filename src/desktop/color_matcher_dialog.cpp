@@ -9,6 +9,7 @@
 #include "desktop/text.h"
 #include "export/qt_image.h"
 #include "output/chart_contents.h"
+#include "output/symbol_set.h"
 
 namespace vendrel {
 namespace {
@@ -98,15 +99,13 @@ QLayout* ColorMatcherDialog::MakeButtons() {
 }
 
 void ColorMatcherDialog::Mirror() {
-    const auto& codes = Context().Place.State.SymbolCodes;
     std::vector<PaintItem> items;
-    for (int k = 1; k <= form_.Rows().Count(); ++k) {
-        const MatcherRow& row = form_.Rows()[k];
-        const QChar symbol(codes.Holds(k) ? codes[k] : '?');
+    for (const MatcherRow& row : form_.Rows()) {
+        const QLatin1Char symbol(CharacterOf(Context().Place.State, row.Symbol));
         items.push_back(
             {ColorOf(row.Original), ColorOf(row.Current),
              tr("%1   %2   %3")
-                 .arg(symbol)
+                 .arg(QChar(symbol))
                  .arg(Text(ShareText(row.ShareTenths)), Text(PaintLabel(row.Current)))});
     }
     MirrorPaints(*paintList_, items, form_.Chosen() - 1);

@@ -77,7 +77,7 @@ void DrawRow(QPainter& painter, const ColorChart& chart, const ChartRow& row, do
     painter.drawRect(swatch.adjusted(1, 1, -1, -1));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(Qt::black);
-    chart.DrawSymbol(painter, row.Paint, CellOf(kSymbol, top, height).adjusted(0, pad, 0, -pad));
+    chart.DrawSymbol(painter, row.Symbol, CellOf(kSymbol, top, height).adjusted(0, pad, 0, -pad));
     const int size = static_cast<int>(std::min(height * 0.62, 46.0));
     const QRectF label = CellOf(kPaint, top, height);
     painter.setFont(FittingFont(painter, label.width(), size, ToQt(row.Label)));

@@ -20,8 +20,8 @@ struct ColorChart {
     QString Title;
     QString Subtitle;
     std::vector<ChartRow> Rows;
-    /// Draws a paint's symbol in black into a box.
-    std::function<void(QPainter&, int paint, const QRectF& box)> DrawSymbol;
+    /// Draws a symbol in black into a box.
+    std::function<void(QPainter&, int symbol, const QRectF& box)> DrawSymbol;
 };
 
 /// The chart of the grid as it is now; counts the stipples. DrawSymbol stays empty.

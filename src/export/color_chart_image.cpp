@@ -31,8 +31,8 @@ void DrawGlyph(QPainter& painter, std::span<const GlyphPoint> ink, const QRectF&
 
 QImage DrawChartImage(const Workplace& place) {
     ColorChart chart = MakeColorChart(place);
-    chart.DrawSymbol = [&place](QPainter& painter, int paint, const QRectF& box) {
-        DrawGlyph(painter, InkOf(place.State, paint), box);
+    chart.DrawSymbol = [&place](QPainter& painter, int symbol, const QRectF& box) {
+        DrawGlyph(painter, InkOf(place.State, symbol), box);
     };
     QImage image(kChartWidth, kChartHeight, QImage::Format_RGB32);
     image.fill(Qt::white);

@@ -47,12 +47,12 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
     kit.Place.Screen.ReportProgress(0, 0);
 }
 
-std::vector<PlanRect> BoxesOf(const PrintPlan& plan, const SymbolAspects& aspects) {
+std::vector<PlanRect> BoxesOf(const PrintPlan& plan) {
     std::vector<PlanRect> boxes;
     for (const PlanLabel& label : plan.Labels) {
         const int paint = plan.Regions[label.Region].Value;
         const double mm = plan.MmPerPixel;
-        const double reachX = label.Height * aspects.at(static_cast<std::size_t>(paint)) / 2 * mm;
+        const double reachX = label.Height * plan.Aspects[paint] / 2 * mm;
         const double reachY = label.Height / 2 * mm;
         const PlanPoint at{label.Centre.X * mm, label.Centre.Y * mm};
         boxes.push_back({at.X - reachX, at.Y - reachY, at.X + reachX, at.Y + reachY});
@@ -105,12 +105,9 @@ void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
     place.Screen.SetCaption("Drawing the Plan");
     const PrintSymbols symbols;
     const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
-    const KitPages kit{place,
-                       plan,
-                       symbols,
-                       SizeOf(settings.Sheet),
-                       BoxesOf(plan, symbols.Aspects()),
-                       PaintingOf(plan.Regions, place.State)};
+    const KitPages kit{place,         plan,
+                       symbols,       SizeOf(settings.Sheet),
+                       BoxesOf(plan), PaintingOf(plan.Regions, place.State)};
     const SteadyHashes steady;
     QByteArray pdf;
     QBuffer buffer(&pdf);

@@ -158,8 +158,8 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
 
 void DrawChartPage(QPainter& painter, const KitPages& kit) {
     ColorChart chart = MakeColorChart(kit.Place);
-    chart.DrawSymbol = [&kit](QPainter& on, int paint, const QRectF& box) {
-        kit.Symbols.DrawInLine(on, paint, box.center(), std::min(box.height() * 0.54, 34.0));
+    chart.DrawSymbol = [&kit](QPainter& on, int symbol, const QRectF& box) {
+        kit.Symbols.DrawInLine(on, symbol, box.center(), std::min(box.height() * 0.54, 34.0));
     };
     const double scale =
         std::min(Mm(kit.FrontPaper.Width) / kChartWidth, Mm(kit.FrontPaper.Height) / kChartHeight);

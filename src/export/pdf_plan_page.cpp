@@ -8,7 +8,7 @@
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
 #include "plan/mark_places.h"
-#include "support/list.h"
+#include "shell/symbol_of.h"
 
 namespace vendrel {
 namespace {
@@ -48,6 +48,9 @@ class PlanPage {
         return At(pixel.X * kit_.Plan.MmPerPixel, pixel.Y * kit_.Plan.MmPerPixel);
     }
 
+    [[nodiscard]] int SymbolOf(int paint) const {
+        return vendrel::SymbolOf(kit_.Place.State.PaintColors, paint);
+    }
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
     void DrawOutlines();
@@ -107,12 +110,11 @@ void PlanPage::DrawOutlines() {
 void PlanPage::DrawSymbols() {
     const PlanRect own = InPixels(tile_.Own, kit_.Plan.MmPerPixel);
     const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.MmPerPixel);
-    const SymbolAspects aspects = kit_.Symbols.Aspects();
     painter_.setPen(kSymbolInk);
     for (const PlanLabel& label : kit_.Plan.Labels) {
         const int paint = kit_.Plan.Regions[label.Region].Value;
-        if (IsLabelOn(label, vendrel::At(aspects, paint), own, shown)) {
-            kit_.Symbols.Draw(painter_, paint, At(label.Centre),
+        if (IsLabelOn(label, kit_.Plan.Aspects[paint], own, shown)) {
+            kit_.Symbols.Draw(painter_, SymbolOf(paint), At(label.Centre),
                               Mm(label.Height * kit_.Plan.MmPerPixel));
         }
     }
@@ -202,7 +204,8 @@ void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
     painter_.drawRect(QRectF(corner + QPointF(0, Mm(0.4)), QSizeF(Mm(6), box.height() - Mm(0.8))));
     painter_.setBrush(Qt::NoBrush);
     painter_.setPen(Qt::black);
-    kit_.Symbols.DrawInLine(painter_, paint, corner + QPointF(Mm(8.3), box.height() / 2), Mm(2));
+    kit_.Symbols.DrawInLine(painter_, SymbolOf(paint), corner + QPointF(Mm(8.3), box.height() / 2),
+                            Mm(2));
     painter_.setFont(TextFont(FontMm(2.6)));
     const QRectF text = box.adjusted(Mm(11), 0, -Mm(1.5), 0);
     DrawLineOfText(painter_, text, Qt::AlignLeft, ToQt(color.PaintName));

@@ -1,6 +1,7 @@
 #include "forms/color_chart.h"
 
 #include "forms/kit_saving.h"
+#include "output/symbol_set.h"
 
 namespace vendrel {
 
@@ -24,9 +25,8 @@ void ColorChartForm::CloseButton_Click() {
     place_.Screen.CloseForm(FormId::ColorChart);
 }
 
-char ColorChartForm::Symbol(int paint) const {
-    const auto& codes = place_.State.SymbolCodes;
-    return codes.Holds(paint) ? static_cast<char>(codes[paint]) : '?';
+char ColorChartForm::Symbol(const ChartRow& row) const {
+    return CharacterOf(place_.State, row.Symbol);
 }
 
 }  // namespace vendrel

@@ -24,8 +24,8 @@ class ColorChartForm {
 
     [[nodiscard]] const std::vector<ChartRow>& Rows() const { return rows_; }
     [[nodiscard]] ChartOrder Order() const { return order_; }
-    /// The character of a paint's symbol.
-    [[nodiscard]] char Symbol(int paint) const;
+    /// The character of a row's symbol.
+    [[nodiscard]] char Symbol(const ChartRow& row) const;
     /// Where the chart was saved; empty before.
     [[nodiscard]] const std::string& SavedFile() const { return savedFile_; }
 

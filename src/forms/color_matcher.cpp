@@ -11,6 +11,7 @@
 #include "shell/palette.h"
 #include "shell/scratch_place.h"
 #include "shell/stipple_grid.h"
+#include "shell/symbol_of.h"
 #include "support/error.h"
 #include "support/list.h"
 #include "touchup/recovery.h"
@@ -48,7 +49,8 @@ void ColorMatcher::Form_Load() {
     const std::vector<int> shares = SharesInTenths(counts.Entries());
     rows_.Clear();
     for (int k = 1; k <= state.PaintCount; ++k) {
-        rows_.Add({state.PaintColors[k], state.PaintColors[k], counts[k], At(shares, k - 1)});
+        rows_.Add({state.PaintColors[k], state.PaintColors[k], counts[k], At(shares, k - 1),
+                   SymbolOf(state.PaintColors, k)});
     }
     chosen_ = 1;
     Changed();

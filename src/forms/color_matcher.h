@@ -17,7 +17,11 @@ struct MatcherRow {
     PaintColor Current;
     int Stipples = 0;     // of the work in hand
     int ShareTenths = 0;  // of the picture, in tenths of a percent
-    [[nodiscard]] bool Exchanged() const { return !SamePaint(Original, Current); }
+    int Symbol = 0;
+    /// Also true for the same paint in another color: the catalogue may have been corrected.
+    [[nodiscard]] bool Exchanged() const {
+        return ColorOf(Original) != ColorOf(Current) || !SamePaint(Original, Current);
+    }
 };
 
 /// Offers next best paints for those of the palette and exchanges them. Works on a copy of the

@@ -10,6 +10,7 @@
 #include "drawing/stipple_brush.h"
 #include "output/chart_contents.h"
 #include "output/symbol_set.h"
+#include "shell/symbol_of.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
@@ -23,9 +24,9 @@ namespace {
 constexpr const char* kTitle = "Touch Up";
 
 // A kit that keeps all its paints may have more of them than symbols.
-std::string SymbolText(int paint) {
-    return paint <= kSymbolCount ? std::string(1, At(kSymbolCharacters, paint - 1))
-                                 : std::to_string(paint);
+std::string SymbolText(int symbol) {
+    return symbol <= kSymbolCount ? std::string(1, At(kSymbolCharacters, symbol - 1))
+                                  : std::to_string(symbol);
 }
 
 std::string Counted(int count, const std::string& one, const std::string& many) {
@@ -315,8 +316,8 @@ void TouchUpForm::FollowPalette() {
     const PaintList& paints = Sheet().Paints();
     controls_.Palette.Resize(Sheet().PaintCount());
     for (int i = 1; i <= Sheet().PaintCount(); ++i) {
-        controls_.Palette[i] = {SymbolText(i), paints[i].PaintName, PaintLabel(paints[i]),
-                                ColorOf(paints[i]), paints[i].CellCount};
+        controls_.Palette[i] = {SymbolText(SymbolOf(paints, i)), paints[i].PaintName,
+                                PaintLabel(paints[i]), ColorOf(paints[i]), paints[i].CellCount};
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include "output/nearest_stipple.h"
 #include "output/symbol_set.h"
+#include "shell/symbol_of.h"
 #include "support/counter.h"
 #include "support/error.h"
 #include "support/position_ring.h"
@@ -23,7 +24,8 @@ class SheetSink : public NumberSink {
                            state_.BorderColor);
     }
     void Stamp(int paint, CellPos at) override {
-        Number2CDIB(state_, paint, state_.SheetCellSize, state_.SymbolColor, at);
+        Number2CDIB(state_, SymbolOf(state_.PaintColors, paint), state_.SheetCellSize,
+                    state_.SymbolColor, at);
     }
 
   private:

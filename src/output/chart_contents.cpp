@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "shell/stipple_grid.h"
+#include "shell/symbol_of.h"
 #include "support/list.h"
 
 namespace vendrel {
@@ -49,14 +50,14 @@ std::vector<ChartRow> FillChart(WorkState& state) {
     for (int p = 1; p <= state.PaintCount; ++p) {
         PaintColor& paint = state.PaintColors[p];
         paint.CellCount = counts[p];
-        rows.push_back(
-            {p, paint.Mfg, PaintLabel(paint), ColorOf(paint), counts[p], At(shares, p - 1)});
+        rows.push_back({SymbolOf(state.PaintColors, p), paint.Mfg, PaintLabel(paint),
+                        ColorOf(paint), counts[p], At(shares, p - 1)});
     }
     return rows;
 }
 
 void SortChart(std::vector<ChartRow>& rows, ChartOrder order) {
-    std::ranges::sort(rows, {}, &ChartRow::Paint);
+    std::ranges::sort(rows, {}, &ChartRow::Symbol);
     if (order == ChartOrder::Share) {
         std::ranges::stable_sort(rows, std::ranges::greater{}, &ChartRow::Stipples);
     } else if (order == ChartOrder::Set) {

@@ -11,7 +11,7 @@ namespace vendrel {
 
 /// One paint of the chart.
 struct ChartRow {
-    int Paint = 0;      // palette index, which is its symbol too
+    int Symbol = 0;     // that marks it
     std::string Set;    // the paint set alone
     std::string Label;  // set, name and code
     Color Swatch = kBlack;

@@ -8,6 +8,7 @@
 #include "convert/bitmap_writer.h"
 #include "convert/dib_section.h"
 #include "output/symbol_set.h"
+#include "shell/symbol_of.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -48,7 +49,7 @@ StripPainter::StripPainter(WorkState& state, const SheetRecord& record, const Sh
     : state_(state), record_(record), colors_(colors), scale_(state.SheetCellSize) {
     for (const auto& [paint, at] : record.Symbols()) {
         Reach reach{scale_ * at.Y, scale_ * at.Y};
-        for (const GlyphPoint& point : InkOf(state, paint)) {
+        for (const GlyphPoint& point : InkOf(state, SymbolOf(state.PaintColors, paint))) {
             const int row = OnSheet(scale_, at.Y, point.Y);  // a strip counts its rows anew
             reach = {std::min(reach.Top, row), std::max(reach.Bottom, row + 1)};
         }
@@ -105,8 +106,9 @@ void StripPainter::DrawDots(int first, int rows) const {
 // All dots are there already, so those that came after the symbol are put back on top of it.
 void StripPainter::DrawSymbol(std::size_t index, int first) const {
     const auto& [paint, at] = record_.Symbols()[index];
-    Number2CDIB(state_, paint, scale_, colors_.Inks[paint], {at.X, at.Y - first});
-    for (const GlyphPoint& point : InkOf(state_, paint)) {
+    const int symbol = SymbolOf(state_.PaintColors, paint);
+    Number2CDIB(state_, symbol, scale_, colors_.Inks[paint], {at.X, at.Y - first});
+    for (const GlyphPoint& point : InkOf(state_, symbol)) {
         if (point.X % scale_ == 0 && point.Y % scale_ == 0) {
             const CellPos pixel{at.X + point.X / scale_, at.Y + point.Y / scale_};
             if (record_.DottedAfter(index, pixel)) {

@@ -84,6 +84,10 @@ void SetupBMPSymbols(const Workplace& place) {
     FillSymbolCodes(place.State);
 }
 
+char CharacterOf(const WorkState& state, int symbol) {
+    return state.SymbolCodes.Holds(symbol) ? static_cast<char>(state.SymbolCodes[symbol]) : '?';
+}
+
 std::span<const GlyphPoint> InkOf(const WorkState& state, int symbol) {
     if (symbol < 0 || symbol > state.SymbolGlyphs.Count()) {
         throw Error("There is no symbol " + std::to_string(symbol) +

@@ -10,7 +10,7 @@
 
 namespace vendrel {
 
-/// Paint k is marked with symbol k; there are no more symbols than this.
+/// There are no more symbols than this; SymbolOf says which of them marks a paint.
 inline constexpr int kSymbolCount = 50;
 
 /// The characters of symbols 1 to 50. Letters that look like another symbol or a digit are left
@@ -21,6 +21,9 @@ static_assert(kSymbolCharacters.size() == kSymbolCount);
 
 /// Reads the glyphs of `Data/Symbols.txt` and fills SymbolCodes. Throws FileError and FormatError.
 void SetupBMPSymbols(const Workplace& place);
+
+/// The character of a symbol, "?" for one that is not there or while none are read.
+[[nodiscard]] char CharacterOf(const WorkState& state, int symbol);
 
 /// The pixels of a symbol's ink. Throws Error for a symbol outside 0..50 or while none are read.
 [[nodiscard]] std::span<const GlyphPoint> InkOf(const WorkState& state, int symbol);

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <set>
 
+#include "shell/paint_id.h"
+
 namespace vendrel {
 
 double PaintDifference(const PaintColor& a, const PaintColor& b) {
@@ -11,8 +13,8 @@ double PaintDifference(const PaintColor& a, const PaintColor& b) {
 }
 
 bool SamePaint(const PaintColor& a, const PaintColor& b) {
-    return ColorOf(a) == ColorOf(b) && a.Mfg == b.Mfg && a.PaintCode == b.PaintCode &&
-           a.PaintName == b.PaintName;
+    const PaintId id = IdOf(a);
+    return id == IdOf(b) && (id.Named() || ColorOf(a) == ColorOf(b));
 }
 
 std::vector<NextBestPaint> FindNextBest(const PaintColor& wanted,
@@ -23,8 +25,11 @@ std::vector<NextBestPaint> FindNextBest(const PaintColor& wanted,
         used.insert(ColorOf(paint));
     }
     std::vector<NextBestPaint> best;
+    std::set<PaintId> known;
     for (const PaintColor& paint : candidates) {
-        if (!used.contains(ColorOf(paint))) {
+        const PaintId id = IdOf(paint);
+        const bool first = !id.Named() || known.insert(id).second;
+        if (first && !used.contains(ColorOf(paint))) {
             best.push_back({paint, PaintDifference(wanted, paint)});
         }
     }

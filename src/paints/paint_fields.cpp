@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
-#include <tuple>
 #include <utility>
 
+#include "shell/paint_id.h"
 #include "shell/warnings.h"
 #include "support/counter.h"
 #include "support/field_reader.h"
@@ -49,13 +49,12 @@ std::string TitleOf(const PaintColor& paint) {
 }
 
 void WarnOfRepeats(const std::filesystem::path& file, PaintFile& read) {
-    std::map<std::tuple<std::string, std::string, std::string>, int> timesListed;
+    std::map<PaintId, int> timesListed;
     std::string repeats;
     std::size_t count = 0;
     for (const PaintColor& paint : read.Paints) {
-        const bool named = !paint.PaintName.empty() || !paint.PaintCode.empty();
-        if (named && ++timesListed[{paint.Mfg, paint.PaintName, paint.PaintCode}] == 2 &&
-            ++count <= kMostNamed) {
+        const PaintId id = IdOf(paint);
+        if (id.Named() && ++timesListed[id] == 2 && ++count <= kMostNamed) {
             repeats += (count == 1 ? "" : ", ") + TitleOf(paint);
         }
     }

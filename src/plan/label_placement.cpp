@@ -9,6 +9,7 @@
 #include "drawing/brush.h"
 #include "plan/inscribed_boxes.h"
 #include "plan/region_pieces.h"
+#include "shell/symbol_of.h"
 #include "support/list.h"
 
 namespace vendrel {
@@ -172,8 +173,7 @@ class Placement {
         return At(placed_, label.Region);
     }
     [[nodiscard]] double AspectOf(int region) const {
-        const int paint = regions_[region].Value;
-        return rules_.Aspects.at(static_cast<std::size_t>(paint));
+        return rules_.Aspects[regions_[region].Value];
     }
     [[nodiscard]] PlanLabel LabelIn(const InscribedBox& box, int region) const {
         return {region,
@@ -187,6 +187,14 @@ class Placement {
 };
 
 }  // namespace
+
+PaintAspects AspectsOf(const PaintList& palette, const SymbolAspects& aspects) {
+    PaintAspects byPaint;
+    for (int paint = 1; paint <= palette.Count(); ++paint) {
+        byPaint.Add(At(aspects, SymbolOf(palette, paint)));
+    }
+    return byPaint;
+}
 
 std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const LabelRules& rules) {
     return Placement(regions, rules).Run();
@@ -203,10 +211,8 @@ bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own, const
                         box.Top >= shown.Top && box.Bottom <= shown.Bottom);
 }
 
-double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects) {
-    const auto aspectOf = [&](int region) {
-        return aspects.at(static_cast<std::size_t>(regions[region].Value));
-    };
+double SmallestSymbol(const PaintedRegions& regions, const PaintAspects& aspects) {
+    const auto aspectOf = [&](int region) { return aspects[regions[region].Value]; };
     const auto boxes = FindRoomiestBoxes(regions, aspectOf);
     return std::ranges::min_element(boxes, {}, &InscribedBox::Height)->Height * kFill;
 }

@@ -20,8 +20,14 @@ struct PlanLabel {
 /// How wide each symbol's ink is for its height, by symbol 1..50; entry 0 is not used.
 using SymbolAspects = std::array<double, kSymbolCount + 1>;
 
+/// The same by paint: of the symbol that marks it.
+using PaintAspects = OneBased<double>;
+
+/// Of a palette of at most kSymbolCount paints.
+[[nodiscard]] PaintAspects AspectsOf(const PaintList& palette, const SymbolAspects& aspects);
+
 struct LabelRules {
-    SymbolAspects Aspects{};
+    PaintAspects Aspects;
     double LargestHeight = 0;  // in pixels: no symbol is taller
     double LegibleHeight = 0;  // in pixels: a repeated symbol as tall as this can be read
     double LatticeStep = 0;    // in pixels: large regions repeat their symbol about this often
@@ -41,7 +47,7 @@ struct LabelRules {
                              const PlanRect& shown);
 
 /// Height in pixels of the smallest symbol when every region has one as tall as fits.
-[[nodiscard]] double SmallestSymbol(const PaintedRegions& regions, const SymbolAspects& aspects);
+[[nodiscard]] double SmallestSymbol(const PaintedRegions& regions, const PaintAspects& aspects);
 
 /// How tall a symbol of such an aspect fits into a lone stipple of that size, in pixels.
 [[nodiscard]] double SymbolHeightInStipple(int stippleSize, double aspect);

@@ -32,12 +32,10 @@ void RequireCanvas(double widthCm, const Surface& picture) {
 // So large that every symbol can be read. A stipple that its neighbours nibbled at may take a
 // somewhat smaller one: a single odd shape shall not blow up the whole canvas.
 double LegibleScale(const WorkState& state, const PaintedRegions& regions,
-                    const SymbolAspects& aspects) {
+                    const PaintAspects& aspects) {
     double inStipple = state.StippleSize;
-    for (int p = 1; p <= state.PaintCount; ++p) {
-        inStipple = std::min(
-            inStipple,
-            SymbolHeightInStipple(state.StippleSize, aspects.at(static_cast<std::size_t>(p))));
+    for (const double aspect : aspects) {
+        inStipple = std::min(inStipple, SymbolHeightInStipple(state.StippleSize, aspect));
     }
     return kLegibleSymbolMm / std::max(SmallestSymbol(regions, aspects), kNibbled * inStipple);
 }
@@ -131,14 +129,15 @@ PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
     const Surface& picture = place.Frames.WorkFrame.Picture;
     RequireSymbols(state);
     PrintPlan plan;
+    plan.Aspects = AspectsOf(state.PaintColors, aspects);
     plan.Regions = FindRegionsWithoutCrumbs(PaintPerPixel(state, picture.Width(), picture.Height()),
                                             TraitsOf(state.Chosen.Level).FewestOwnPixels);
     plan.Lines = TraceOutlines(plan.Regions.Ids);
     plan.MmPerPixel = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
-                                            : LegibleScale(state, plan.Regions, aspects);
+                                            : LegibleScale(state, plan.Regions, plan.Aspects);
     LayOutPages(plan, settings, state, picture);
     LabelRules rules;
-    rules.Aspects = aspects;
+    rules.Aspects = plan.Aspects;
     rules.LegibleHeight = kNibbled * kLegibleSymbolMm / plan.MmPerPixel;
     rules.LargestHeight = kLargestSymbolMm / plan.MmPerPixel;
     rules.LatticeStep = kLatticeMm / plan.MmPerPixel;

@@ -44,6 +44,7 @@ struct PlanPageDesign {
 struct PrintPlan {
     PaintedRegions Regions;
     std::vector<PlanLine> Lines;
+    PaintAspects Aspects;
     std::vector<PlanLabel> Labels;
     PagePlan Pages;
     double MmPerPixel = 0;

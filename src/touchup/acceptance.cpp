@@ -4,6 +4,7 @@
 
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
+#include "shell/symbol_of.h"
 
 namespace vendrel {
 namespace {
@@ -20,8 +21,10 @@ OneBased<int> MovePaints(WorkState& state, AcceptReport& report) {
         }
         kept.Add(paint);
         moved[old] = kept.Count();
-        if (moved[old] != old) {
-            report.Moves.push_back({paint.PaintName, old, moved[old]});
+        const int before = SymbolOf(state.FoundColors, old);
+        const int now = SymbolOf(kept, moved[old]);
+        if (now != before) {
+            report.Moves.push_back({paint.PaintName, before, now});
         }
     }
     SetPalette(state, std::move(kept));

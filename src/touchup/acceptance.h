@@ -10,7 +10,7 @@ namespace vendrel {
 /// A paint whose symbol is another one now.
 struct SymbolMove {
     std::string PaintName;
-    int Old = 0;
+    int Old = 0;  // symbol
     int New = 0;
 
     bool operator==(const SymbolMove&) const = default;

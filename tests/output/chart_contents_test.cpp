@@ -53,7 +53,7 @@ TEST(Chart, SortsByShareAndSetAndBack) {
         SortChart(rows, by);
         std::string paints;
         for (const ChartRow& row : rows) {
-            paints += std::to_string(row.Paint);
+            paints += std::to_string(row.Symbol);
         }
         return paints;
     };

@@ -61,13 +61,26 @@ TEST(PaletteFiles, WritesWhatItReads) {
 
 TEST(NextBest, NearestFirstWithoutTheColoursInUse) {
     const Paints catalogue = {Paint(10, 0, 0, "a", "far"), Paint(4, 0, 0, "a", "near"),
-                              Paint(0, 4, 0, "a", "as near"), Paint(1, 0, 0, "b", "in use")};
+                              Paint(0, 4, 0, "a", "as near"), Paint(1, 0, 0, "b", "in use"),
+                              Paint(3, 0, 0, "a", "near")};  // the first of a name stands
     const Paints palette = {Paint(0, 0, 0, "a", "wanted"), Paint(1, 0, 0, "a", "same colour")};
     const auto best = FindNextBest(palette[1], catalogue, palette, 2);
     ASSERT_EQ(best.size(), 2U);
     EXPECT_EQ(best[0].Paint.PaintName, "near");
     EXPECT_EQ(best[1].Paint.PaintName, "as near");
     EXPECT_DOUBLE_EQ(best[0].Difference, 4);
+}
+
+TEST(SamePaint, GoesByNamesAndByColorOnlyWhereThereAreNone) {
+    const PaintColor ochre{9, 8, 7, "Oils", "PY43", "Ochre", 3};
+    for (const auto& [other, same] :
+         {std::pair{PaintColor{1, 1, 1, "Oils", "PY43", "Ochre", 0}, true},
+          {{9, 8, 7, "Oils", "PY43", "Ochre, pale", 3}, false},
+          {{9, 8, 7, "Inks", "PY43", "Ochre", 3}, false}}) {
+        EXPECT_EQ(SamePaint(ochre, other), same) << other.PaintName << other.Mfg;
+    }
+    EXPECT_FALSE(SamePaint(Paint(1, 2, 3, "Oils", ""), Paint(1, 2, 4, "Oils", "")));
+    EXPECT_TRUE(SamePaint(Paint(1, 2, 3, "Oils", ""), Paint(1, 2, 3, "Oils", "")));
 }
 
 }  // namespace

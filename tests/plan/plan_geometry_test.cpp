@@ -33,7 +33,7 @@ PixelGrid RandomPixels(int width, int height, unsigned seed, int paints) {
 
 LabelRules Rules(double largest, double step) {
     LabelRules rules;
-    rules.Aspects.fill(0.75);
+    rules.Aspects = PaintAspects(kSymbolCount, 0.75);
     rules.LargestHeight = largest;
     rules.LatticeStep = step;
     return rules;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <compare>
+#include <string>
+
+#include "shell/records.h"
+
+namespace vendrel {
+
+/// What a painter orders a paint by, whatever its color looks like on a screen: set, name and code.
+/// Set and code alone are not enough, for a range may give two of its paints one code. Where a
+/// list has several paints of one identity, the first stands.
+struct PaintId {
+    std::string Set;
+    std::string Name;
+    std::string Code;
+
+    /// False for a bare color of a set: nothing tells it from the others.
+    [[nodiscard]] bool Named() const { return !Name.empty() || !Code.empty(); }
+    auto operator<=>(const PaintId&) const = default;
+};
+
+[[nodiscard]] inline PaintId IdOf(const PaintColor& paint) {
+    return {paint.Mfg, paint.PaintName, paint.PaintCode};
+}
+
+}  // namespace vendrel
