@@ -14,7 +14,6 @@
 #include "convert/bitmap_writer.h"
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
-#include "forms/start_up.h"
 #include "kit/command_line.h"
 #include "kit/kit_settings.h"
 #include "kit/terminal_ui.h"
@@ -22,6 +21,7 @@
 #include "output/sheet_writer.h"
 #include "scene.h"
 #include "shell/palette.h"
+#include "startup/start_up.h"
 #include "storage/stipple_file.h"
 
 namespace vendrel::bench {

@@ -1,12 +1,17 @@
 #include "convert/bitmap_reader.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "convert/bitmap_rows.h"
 
 namespace vendrel {
 namespace {
+
+bool HasRuns(const BitmapHeader& header) {
+    return header.Packing == BitmapPacking::Rle8 || header.Packing == BitmapPacking::Rle4;
+}
 
 void ReadPlainRows(BitmapInput& input, const BitmapHeader& header, const RowSink& sink) {
     const auto rows = static_cast<std::size_t>(header.Size.Height);
@@ -32,30 +37,33 @@ void ReadPlainRows(BitmapInput& input, const BitmapHeader& header, const RowSink
 
 }  // namespace
 
-BitmapFile::BitmapFile(const std::filesystem::path& file)
-    : input_(file), header_(ReadBitmapHeader(input_)) {}
-
-void BitmapFile::CheckRuns() {
-    if (header_.Packing == BitmapPacking::Rle8 || header_.Packing == BitmapPacking::Rle4) {
-        ReadRows([](int /*y*/, std::span<const Color> /*row*/) {});
-    }
-}
-
-void BitmapFile::ReadRows(const RowSink& sink) {
-    if (header_.Packing == BitmapPacking::Rle8 || header_.Packing == BitmapPacking::Rle4) {
-        ReadRunRows(input_, header_, sink);
+void ReadRows(BitmapInput& input, const BitmapHeader& header, const RowSink& sink) {
+    if (HasRuns(header)) {
+        ReadRunRows(input, header, sink);
     } else {
-        ReadPlainRows(input_, header_, sink);
+        ReadPlainRows(input, header, sink);
     }
 }
 
-Surface ReadBitmap(const std::filesystem::path& file) {
-    BitmapFile bitmap(file);
-    Surface picture(bitmap.Size().Width, bitmap.Size().Height);
-    bitmap.ReadRows([&picture](int y, std::span<const Color> row) {
+void CheckRuns(BitmapInput& input, const BitmapHeader& header) {
+    if (HasRuns(header)) {
+        ReadRunRows(input, header, [](int /*y*/, std::span<const Color> /*row*/) {});
+    }
+}
+
+Surface ReadPicture(BitmapInput& input, const BitmapHeader& header) {
+    Surface picture(header.Size.Width, header.Size.Height);
+    ReadRows(input, header, [&picture](int y, std::span<const Color> row) {
         std::copy(row.begin(), row.end(), picture.Row(y).begin());
     });
     return picture;
+}
+
+BitmapFile::BitmapFile(BitmapInput input)
+    : input_(std::move(input)), header_(ReadBitmapHeader(input_)) {}
+
+Surface ReadBitmap(const std::filesystem::path& file) {
+    return BitmapFile(file).Picture();
 }
 
 BitmapSize ReadBitmapSize(const std::filesystem::path& file) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "convert/bitmap_reader.h"
+#include "convert/picture_name.h"
 #include "convert/scaling.h"
 #include "convert/settings.h"
 #include "shell/warnings.h"
@@ -17,14 +18,6 @@ Surface ReadScaled(BitmapFile& file, int width, int height) {
     RowScaler scaler({from.Width, from.Height, width, height}, RowOrder::BottomUp);
     file.ReadRows([&scaler](int /*y*/, std::span<const Color> row) { scaler.Push(row); });
     return scaler.Take();
-}
-
-// By the name alone: a copy in Pictures is the same photo.
-void WarnOfOwnColors(const Workplace& place, const std::filesystem::path& photo) {
-    WarnOnce(place, photo.filename().string() +
-                        ": its own description of its colors (a profile) is not used; they are "
-                        "taken as sRGB. If they look wrong, convert the photo to sRGB in a picture "
-                        "program.");
 }
 
 }  // namespace
@@ -41,10 +34,11 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
 
 std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSize& screen,
                                int stippleSize) {
-    if (ReadBitmapSize(file) == BitmapSize{}) {
+    BitmapInput input(file);
+    if (ReadHeaderSize(input) == BitmapSize{}) {
         return std::nullopt;
     }
-    BitmapFile bitmap(file);
+    BitmapFile bitmap(std::move(input));
     Photo photo{bitmap.Size(),
                 ComputeWorkingSize(bitmap.Size(), screen, stippleSize),
                 {},
@@ -55,16 +49,18 @@ std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSi
     return photo;
 }
 
+// By the name alone: a copy in Pictures is the same photo.
 void MentionColors(const Workplace& place, const std::filesystem::path& bitmap) {
-    if (BitmapFile(bitmap).HasOwnColors()) {
-        WarnOfOwnColors(place, bitmap);
-    }
+    WarnOnce(place, bitmap.filename().string() +
+                        ": its own description of its colors (a profile) is not used; they are "
+                        "taken as sRGB. If they look wrong, convert the photo to sRGB in a picture "
+                        "program.");
 }
 
 void ShowPhoto(Workplace& place, Photo photo) {
     WorkState& state = place.State;
     if (photo.HasOwnColors) {
-        WarnOfOwnColors(place, state.PicturePath);
+        MentionColors(place, state.PicturePath);
     }
     state.BmpWidth = photo.Bmp.Width;
     state.BmpHeight = photo.Bmp.Height;
@@ -104,12 +100,12 @@ bool ChoosePhoto(Workplace& place, std::string_view fileName) {
     WorkState& state = place.State;
     state.PictureFile = fileName;
     state.PicturesFolder = place.Folder.Path("Pictures").string() + "/";
-    const std::size_t dot = fileName.find('.');
-    if (dot == std::string_view::npos) {
+    const std::string_view name = PictureNameOf(fileName);
+    if (name.size() == fileName.size()) {
         return false;
     }
     state.PicturePath = place.Folder.Path("Pictures/" + state.PictureFile).string();
-    state.PictureName = fileName.substr(0, dot);
+    state.PictureName = name;
     return true;
 }
 

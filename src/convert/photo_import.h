@@ -31,7 +31,7 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
 [[nodiscard]] std::optional<Photo> ReadPhoto(const std::filesystem::path& file,
                                              const ScreenSize& screen, int stippleSize);
 
-/// Warns once that a bitmap's own description of its colors is not used; silent without one.
+/// Warns once that a bitmap's own description of its colors is not used.
 void MentionColors(const Workplace& place, const std::filesystem::path& bitmap);
 
 /// Puts a photo that was read into the work area and makes everything fit it.

@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <utility>
 
-#include "convert/foreign_photo.h"
 #include "convert/scaling.h"
-#include "forms/photo_look.h"
+#include "intake/keep_picture.h"
+#include "intake/photo_intake.h"
 #include "shell/busy_pointer.h"
 
 namespace vendrel {

@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
-#include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
 #include "forms/list_entries.h"
-#include "forms/photo_intake.h"
 #include "forms/photo_look.h"
 #include "forms/reading_shown.h"
+#include "intake/keep_picture.h"
+#include "intake/photo_intake.h"
+#include "intake/photo_names.h"
 #include "paints/restore.h"
 #include "shell/menu.h"
 #include "storage/load_stipples.h"
@@ -133,9 +134,9 @@ void FileImport::ShowPreview() {
 void FileImport::Describe(const fs::path& photo) {
     const std::string name = photo.filename().string();
     controls_.Description = name + "\nReading ...";
-    const Surface picture = ReadAnyPhoto(place_, photo, decoder_);
-    const BitmapSize size =
-        NeedsDecoder(photo) ? decoder_.Size(photo) : BitmapSize{picture.Width(), picture.Height()};
+    IncomingPhoto incoming(photo, decoder_);
+    const Surface picture = ReadAnyPhoto(place_, incoming);
+    const BitmapSize size = incoming.Size();
     PhotoLook look = LookAt(picture, TargetOf(place_), kPreviewEdge);
     controls_.Description = name + "\n" + std::to_string(size.Width) + " x " +
                             std::to_string(size.Height) + " pixels\n" + look.Stretch;
@@ -144,15 +145,15 @@ void FileImport::Describe(const fs::path& photo) {
 }
 
 void FileImport::CropButton_Click() {
-    const fs::path photo = ChosenPhoto();
-    if (controls_.CropEnabled) {
-        if (!NeedsDecoder(photo)) {
-            MentionColors(place_, photo);
-        }
-        crop_.Open(ReadAnyPhoto(place_, photo, decoder_),
-                   NeedsDecoder(photo) ? PictureStem(photo) : photo.filename().string(),
-                   [this](const std::string& file) { ChooseCrop(file); });
+    if (!controls_.CropEnabled) {
+        return;
     }
+    IncomingPhoto photo(ChosenPhoto(), decoder_);
+    if (photo.HasOwnColors()) {
+        MentionColors(place_, photo.File());
+    }
+    crop_.Open(ReadAnyPhoto(place_, photo), photo.Stem(),
+               [this](const std::string& file) { ChooseCrop(file); });
 }
 
 void FileImport::ChooseCrop(const std::string& pictureFile) {
@@ -164,14 +165,15 @@ void FileImport::ChooseCrop(const std::string& pictureFile) {
 }
 
 std::string FileImport::TakeIn(const fs::path& photo) {
-    if (!NeedsDecoder(photo)) {
+    IncomingPhoto incoming(photo, decoder_);
+    if (incoming.IsPlainBitmap()) {
         RequireResultNames(photo, kLongestResult);
     }
-    if (!IsInPictures(place_.Folder, photo)) {
-        RequirePaintable(photo, decoder_, TargetOf(place_));
+    if (!IsInPictures(place_.Folder, incoming)) {
+        RequirePaintable(incoming, TargetOf(place_));
     }
     const ReadingShown reading(place_.Screen);
-    return TakeIntoPictures(place_.Folder, photo, decoder_, reading.Progress());
+    return TakeIntoPictures(place_.Folder, incoming, reading.Progress());
 }
 
 void FileImport::TakePhoto(const fs::path& photo) {

@@ -5,8 +5,6 @@
 #include <cstdio>
 #include <limits>
 
-#include "convert/bitmap_reader.h"
-#include "convert/foreign_photo.h"
 #include "convert/scaling.h"
 #include "convert/working_size.h"
 #include "forms/reading_shown.h"
@@ -46,14 +44,9 @@ std::string Sentence(double stretch) {
 
 }  // namespace
 
-CropTarget TargetOf(const Workplace& place) {
-    return {place.Screen.Screen(), place.State.StippleSize};
-}
-
-Surface ReadAnyPhoto(Workplace& place, const std::filesystem::path& photo,
-                     const PhotoDecoder& decoder) {
+Surface ReadAnyPhoto(Workplace& place, IncomingPhoto& photo) {
     const ReadingShown reading(place.Screen);
-    return NeedsDecoder(photo) ? decoder.Decode(photo, reading.Progress()) : ReadBitmap(photo);
+    return photo.Picture(reading.Progress());
 }
 
 PhotoLook LookAt(const Surface& photo, const CropTarget& target, int edge) {

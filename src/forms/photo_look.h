@@ -1,22 +1,17 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "convert/crop.h"
-#include "convert/photo_decoder.h"
+#include "intake/incoming_photo.h"
 #include "shell/workplace.h"
 #include "support/surface.h"
 
 namespace vendrel {
 
-/// The sheet that a photo would be painted on now.
-[[nodiscard]] CropTarget TargetOf(const Workplace& place);
-
 /// A photo of any format at its size, under the busy pointer and with progress. Throws FileError,
 /// FormatError, Stop.
-[[nodiscard]] Surface ReadAnyPhoto(Workplace& place, const std::filesystem::path& photo,
-                                   const PhotoDecoder& decoder);
+[[nodiscard]] Surface ReadAnyPhoto(Workplace& place, IncomingPhoto& photo);
 
 /// A photo before it is chosen.
 struct PhotoLook {

@@ -6,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "forms/start_up.h"
 #include "kit/kit_photos.h"
 #include "kit/kit_report.h"
 #include "kit/kit_settings.h"
@@ -15,6 +14,7 @@
 #include "kit/printable.h"
 #include "kit/terminal_ui.h"
 #include "shell/workplace.h"
+#include "startup/start_up.h"
 #include "support/error.h"
 #include "support/folders.h"
 

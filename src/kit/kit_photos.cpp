@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
-#include "convert/foreign_photo.h"
 #include "convert/photo_import.h"
-#include "forms/photo_intake.h"
-#include "forms/photo_look.h"
-#include "kit/photo_lookup.h"
+#include "convert/picture_name.h"
+#include "intake/photo_intake.h"
+#include "intake/photo_names.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 
@@ -30,28 +29,31 @@ std::string LongestEnding(const Workplace& place, const KitOptions& options) {
 }  // namespace
 
 std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
-                              const std::filesystem::path& photo) {
+                              const std::filesystem::path& file) {
     const CropTarget target = TargetOf(place);
-    RequirePaintable(photo, decoder_, target, options.Crop);
-    const bool decode = NeedsDecoder(photo);
-    if (!decode) {
-        RequireResultNames(photo, LongestEnding(place, options));
-        Claim(photo, PictureNameOf(photo));
-        MentionColors(place, photo);
+    IncomingPhoto photo(file, decoder_);
+    RequirePaintable(photo, target, options.Crop);
+    const bool plain = photo.IsPlainBitmap();
+    if (plain) {
+        RequireResultNames(file, LongestEnding(place, options));
+        Claim(file, photo.Stem());
     }
-    const std::string taken = decode ? Decode(place, photo) : TakeIntoPictures(place.Folder, photo);
+    if (photo.HasOwnColors()) {
+        MentionColors(place, file);
+    }
+    const std::string taken = plain ? TakeIntoPictures(place.Folder, photo) : Decode(place, photo);
     std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
     // Decoded photos and crops are numbered where their name is taken: it is known only now.
-    if (decode || picture != taken) {
-        Claim(photo, PictureNameOf(picture));
+    if (!plain || picture != taken) {
+        Claim(file, PictureNameOf(picture));
     }
     return picture;
 }
 
-std::string KitPhotos::Decode(Workplace& place, const std::filesystem::path& photo) const {
+std::string KitPhotos::Decode(const Workplace& place, IncomingPhoto& photo) {
     Ui& screen = place.Screen;
-    screen.SetCaption("Reading " + photo.filename().string());
-    std::string file = TakeIntoPictures(place.Folder, photo, decoder_, [&screen](int percent) {
+    screen.SetCaption("Reading " + photo.File().filename().string());
+    std::string file = TakeIntoPictures(place.Folder, photo, [&screen](int percent) {
         screen.ReportProgress(percent, 100);
         screen.Yield();
     });
@@ -61,19 +63,19 @@ std::string KitPhotos::Decode(Workplace& place, const std::filesystem::path& pho
 
 // Two kits of one name would take each other's place; letters of another case do not help, as some
 // disks do not tell them apart.
-void KitPhotos::Claim(const std::filesystem::path& photo, const std::string& name) {
+void KitPhotos::Claim(const std::filesystem::path& photo, std::string_view name) {
     if (name.empty()) {
         throw FileError(photo,
                         "has nothing before its first dot, which is what a kit is named "
                         "after. Rename it.");
     }
     if (std::ranges::any_of(
-            names_, [&name](const std::string& other) { return SameIgnoringCase(name, other); })) {
-        throw FileError(photo, "another photo of this run is named \"" + name +
+            names_, [name](const std::string& other) { return SameIgnoringCase(name, other); })) {
+        throw FileError(photo, "another photo of this run is named \"" + std::string(name) +
                                    "\" too, and a kit is named up to the first dot. Rename one "
                                    "of them.");
     }
-    names_.push_back(name);
+    names_.emplace_back(name);
 }
 
 }  // namespace vendrel

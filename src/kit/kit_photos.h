@@ -2,9 +2,10 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "convert/photo_decoder.h"
+#include "intake/incoming_photo.h"
 #include "kit/arguments.h"
 #include "shell/workplace.h"
 
@@ -18,11 +19,11 @@ class KitPhotos {
     /// Decodes what is no plain bitmap, crops as asked, and gives the file's name in Pictures.
     /// Throws Error, also when a kit of this run has the photo's name already.
     [[nodiscard]] std::string TakeIn(Workplace& place, const KitOptions& options,
-                                     const std::filesystem::path& photo);
+                                     const std::filesystem::path& file);
 
   private:
-    [[nodiscard]] std::string Decode(Workplace& place, const std::filesystem::path& photo) const;
-    void Claim(const std::filesystem::path& photo, const std::string& name);
+    [[nodiscard]] static std::string Decode(const Workplace& place, IncomingPhoto& photo);
+    void Claim(const std::filesystem::path& photo, std::string_view name);
 
     const PhotoDecoder& decoder_;
     std::vector<std::string> names_;

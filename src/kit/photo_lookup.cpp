@@ -40,9 +40,4 @@ fs::path FindPhoto(const ProgramFolder& folder, const std::string& word) {
     throw FileError(word, "there is no such photo, neither here nor in Pictures. Check its name.");
 }
 
-std::string PictureNameOf(const fs::path& photo) {
-    const std::string file = photo.filename().string();
-    return file.substr(0, file.find('.'));
-}
-
 }  // namespace vendrel

@@ -11,7 +11,4 @@ namespace vendrel {
 /// Pictures, the folder's own or the shipped one. Throws FileError when there is none.
 [[nodiscard]] std::filesystem::path FindPhoto(const ProgramFolder& folder, const std::string& word);
 
-/// The name that a photo's kit goes by: its file name up to the first dot.
-[[nodiscard]] std::string PictureNameOf(const std::filesystem::path& photo);
-
 }  // namespace vendrel

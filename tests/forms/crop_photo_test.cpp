@@ -6,8 +6,8 @@
 
 #include "convert/bitmap_reader.h"
 #include "forms/main_form.h"
-#include "forms/picture_decoder.h"
 #include "forms/studio.h"
+#include "intake/picture_decoder.h"
 
 namespace vendrel::test {
 namespace {

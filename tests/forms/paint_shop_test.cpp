@@ -5,9 +5,9 @@
 #include <string>
 #include <tuple>
 
-#include "forms/start_up.h"
 #include "forms/studio.h"
 #include "paints/paints.h"
+#include "startup/start_up.h"
 #include "support/error.h"
 
 namespace vendrel::test {

@@ -6,10 +6,7 @@
 #include <vector>
 
 #include "forms/folder_lists.h"
-#include "forms/photo_intake.h"
 #include "forms/swatches.h"
-#include "support/error.h"
-#include "support/program_folder.h"
 #include "support/temp_folder.h"
 
 namespace vendrel::test {
@@ -18,23 +15,6 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::Not;
-
-TEST(PhotoIntake, CopiesAPhotoFromElsewhereOnceAndNeverOverAnother) {
-    const TempFolder files;
-    const ProgramFolder program(files / "program");
-    files.Write("program/Pictures/other.bmp", "another picture");
-    const auto lady = files.Write("downloads/lady.bmp", "lady");
-    EXPECT_EQ(TakeIntoPictures(program, lady), "lady.bmp");
-    EXPECT_EQ(files.Read("program/Pictures/lady.bmp"), "lady");
-    EXPECT_EQ(TakeIntoPictures(program, lady), "lady.bmp") << "the same bytes again are welcome";
-    EXPECT_EQ(TakeIntoPictures(program, files / "program/Pictures/lady.bmp"), "lady.bmp");
-
-    EXPECT_THROW(std::ignore = TakeIntoPictures(program, files.Write("downloads/other.bmp", "x")),
-                 FileError);
-    EXPECT_EQ(files.Read("program/Pictures/other.bmp"), "another picture");
-    EXPECT_THROW(std::ignore = TakeIntoPictures(program, files / "gone.bmp"), FileError);
-    EXPECT_FALSE(std::filesystem::exists(files / "program/Pictures/gone.bmp"));
-}
 
 TEST(FolderLists, ShowPhotosAndFoldersAsAPainterReadsThem) {
     const TempFolder files;

@@ -3,8 +3,8 @@
 #include "convert/bitmap_writer.h"
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
-#include "forms/start_up.h"
 #include "shell/recorder.h"
+#include "startup/start_up.h"
 
 namespace vendrel::test {
 

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "cleanup/easel.h"
-#include "convert/foreign_photo.h"
+#include "intake/keep_picture.h"
 #include "paints/paint_list.h"
 #include "paints/template_file.h"
 #include "paints/template_library.h"

@@ -1,4 +1,4 @@
-#include "forms/start_up.h"
+#include "startup/start_up.h"
 
 #include <filesystem>
 #include <string_view>

@@ -1,13 +1,14 @@
-#include "forms/photo_intake.h"
+#include "intake/photo_intake.h"
 
 #include <gtest/gtest.h>
 
 #include <barrier>
 #include <thread>
+#include <tuple>
 
 #include "convert/bitmap_reader.h"
 #include "convert/bitmap_writer.h"
-#include "forms/picture_decoder.h"
+#include "intake/picture_decoder.h"
 #include "support/error.h"
 #include "support/pictures.h"
 #include "support/temp_folder.h"
@@ -23,6 +24,12 @@ test::PictureDecoder DecoderOf(int width, int height) {
         test::PictureOf(width, height, [](int /*x*/, int y) { return y + 1; }));
 }
 
+std::string TakeIn(const ProgramFolder& folder, const fs::path& file,
+                   const PhotoDecoder& decoder = NoPhotoDecoder()) {
+    IncomingPhoto photo(file, decoder);
+    return TakeIntoPictures(folder, photo);
+}
+
 class PhotoIntakeTest : public ::testing::Test {
   protected:
     test::TempFolder files_;
@@ -32,12 +39,26 @@ class PhotoIntakeTest : public ::testing::Test {
 
 TEST_F(PhotoIntakeTest, DecodesOnlyWhatTheBitmapReaderCannotRead) {
     const test::PictureDecoder decoder = DecoderOf(30, 20);
-    EXPECT_EQ(TakeIntoPictures(folder_, files_.Write("my.aunt.jpg", "\xFF\xD8\xFF"), decoder),
-              "my-aunt.bmp");
+    EXPECT_EQ(TakeIn(folder_, files_.Write("my.aunt.jpg", "\xFF\xD8\xFF"), decoder), "my-aunt.bmp");
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/my-aunt.bmp"), (BitmapSize{30, 20}));
     WriteBitmap(files_ / "uncle.bmp", Surface(4, 3));
-    EXPECT_EQ(TakeIntoPictures(folder_, files_ / "uncle.bmp", decoder), "uncle.bmp");
+    EXPECT_EQ(TakeIn(folder_, files_ / "uncle.bmp", decoder), "uncle.bmp");
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/uncle.bmp"), (BitmapSize{4, 3}));
+}
+
+TEST_F(PhotoIntakeTest, CopiesAPhotoFromElsewhereOnceAndNeverOverAnother) {
+    files_.Write("program/Pictures/other.bmp", "another picture");
+    const auto lady = files_.Write("downloads/lady.bmp", "lady");
+    EXPECT_EQ(TakeIn(folder_, lady), "lady.bmp");
+    EXPECT_EQ(files_.Read("program/Pictures/lady.bmp"), "lady");
+    EXPECT_EQ(TakeIn(folder_, lady), "lady.bmp") << "the same bytes again are welcome";
+    EXPECT_EQ(TakeIn(folder_, files_ / "program/Pictures/lady.bmp"), "lady.bmp");
+
+    EXPECT_THROW(std::ignore = TakeIn(folder_, files_.Write("downloads/other.bmp", "x")),
+                 FileError);
+    EXPECT_EQ(files_.Read("program/Pictures/other.bmp"), "another picture");
+    EXPECT_THROW(std::ignore = TakeIn(folder_, files_ / "gone.bmp"), FileError);
+    EXPECT_FALSE(fs::exists(files_ / "program/Pictures/gone.bmp"));
 }
 
 TEST_F(PhotoIntakeTest, OfTwoBitmapsOfOneNameAtOnceNoneIsLost) {
@@ -49,7 +70,7 @@ TEST_F(PhotoIntakeTest, OfTwoBitmapsOfOneNameAtOnceNoneIsLost) {
         const auto take = [&](std::size_t at) {
             start.arrive_and_wait();
             try {
-                static_cast<void>(TakeIntoPictures(folder_, photos[at]));
+                static_cast<void>(TakeIn(folder_, photos[at]));
                 taken[at] = true;
             } catch (const FileError&) {  // told, with the photo where it was
             }
@@ -64,8 +85,7 @@ TEST_F(PhotoIntakeTest, OfTwoBitmapsOfOneNameAtOnceNoneIsLost) {
 }
 
 TEST_F(PhotoIntakeTest, CropsASquarePortraitBesideItself) {
-    const std::string photo =
-        TakeIntoPictures(folder_, files_.Write("aunt.jpg", "x"), DecoderOf(600, 600));
+    const std::string photo = TakeIn(folder_, files_.Write("aunt.jpg", "x"), DecoderOf(600, 600));
     ASSERT_EQ(CropInPictures(folder_, photo, easy_, CropPart::Whole), photo);
     const std::string top = CropInPictures(folder_, photo, easy_, CropPart::Top);
     const std::string centre = CropInPictures(folder_, photo, easy_, CropPart::Centre);
@@ -79,8 +99,7 @@ TEST_F(PhotoIntakeTest, CropsASquarePortraitBesideItself) {
     EXPECT_EQ(middle.Get(0, 0), 1 + (600 - middle.Height()) / 2);
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/aunt.bmp"), (BitmapSize{600, 600}));
     // A photo of the right shape is left alone.
-    const std::string sheet =
-        TakeIntoPictures(folder_, files_.Write("sheet.jpg", "x"), DecoderOf(960, 720));
+    const std::string sheet = TakeIn(folder_, files_.Write("sheet.jpg", "x"), DecoderOf(960, 720));
     EXPECT_EQ(CropInPictures(folder_, sheet, easy_, CropPart::Top), sheet);
 }
 

@@ -1,4 +1,4 @@
-#include "convert/foreign_photo.h"
+#include "intake/keep_picture.h"
 
 #include <gtest/gtest.h>
 
@@ -6,10 +6,8 @@
 #include <functional>
 #include <string>
 #include <thread>
-#include <utility>
 
 #include "convert/bitmap_reader.h"
-#include "support/error.h"
 #include "support/temp_folder.h"
 
 namespace vendrel {
@@ -18,13 +16,13 @@ namespace {
 const Surface kRedPhoto(5, 3, Rgb(200, 10, 10));
 const Surface kBluePhoto(5, 3, Rgb(10, 10, 200));
 
-class ForeignPhotoTest : public ::testing::Test {
+class KeepPictureTest : public ::testing::Test {
   protected:
     test::TempFolder files_;
     ProgramFolder folder_{files_.Path()};
 };
 
-TEST_F(ForeignPhotoTest, KeepsEveryPictureOnceAsABitmap) {
+TEST_F(KeepPictureTest, KeepsEveryPictureOnceAsABitmap) {
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(KeepPicture(folder_, "aunt", kRedPhoto), "aunt.bmp");
         EXPECT_EQ(KeepPicture(folder_, "aunt", kBluePhoto), "aunt 2.bmp");
@@ -36,7 +34,7 @@ TEST_F(ForeignPhotoTest, KeepsEveryPictureOnceAsABitmap) {
     EXPECT_EQ(std::distance(begin(pictures), end(pictures)), 4);
 }
 
-TEST_F(ForeignPhotoTest, TwoPhotosOfOneNameAtOnceAreBothKept) {
+TEST_F(KeepPictureTest, TwoPhotosOfOneNameAtOnceAreBothKept) {
     for (int pair = 0; pair < 60; ++pair) {
         const std::string stem = "pair" + std::to_string(pair);
         const Surface& second = pair % 2 == 0 ? kBluePhoto : kRedPhoto;
@@ -55,7 +53,7 @@ TEST_F(ForeignPhotoTest, TwoPhotosOfOneNameAtOnceAreBothKept) {
     }
 }
 
-TEST_F(ForeignPhotoTest, NeverWritesOverAnotherPhoto) {
+TEST_F(KeepPictureTest, NeverWritesOverAnotherPhoto) {
     files_.Write("Pictures/aunt.bmp", "not ours");
     files_.Write("Pictures/AUNT 2.BMP", "nor this");
     EXPECT_EQ(KeepPicture(folder_, "aunt", kRedPhoto), "aunt 3.bmp");
@@ -63,44 +61,11 @@ TEST_F(ForeignPhotoTest, NeverWritesOverAnotherPhoto) {
     EXPECT_EQ(files_.Read("Pictures/AUNT 2.BMP"), "nor this");
 }
 
-TEST_F(ForeignPhotoTest, LeavesNamesAloneWhoseResultsWouldMix) {
+TEST_F(KeepPictureTest, LeavesNamesAloneWhoseResultsWouldMix) {
     files_.Write("Pictures/aunt.old.bmp", "its grid is kept as aunt-Easy.stp");
     files_.Write("Pictures/uncle.jpg", "no bitmap, in nobody's way");
     EXPECT_EQ(KeepPicture(folder_, "Aunt", kRedPhoto), "Aunt 2.bmp");
     EXPECT_EQ(KeepPicture(folder_, "uncle", kRedPhoto), "uncle.bmp");
-}
-
-TEST_F(ForeignPhotoTest, NamesHaveNoDots) {
-    for (const auto& [file, stem] : {std::pair{"/a.b/aunt.jpg", "aunt"},
-                                     {"my.photo.jpg", "my-photo"},
-                                     {"IMG 1.2.HEIC.jpg", "IMG 1-2-HEIC"},
-                                     {".hidden.png", "hidden"},
-                                     {"aunt..jpg", "aunt"},
-                                     {"aunt", "aunt"},
-                                     {"...", "Photo"},
-                                     {"Tante Käthe.webp", "Tante Käthe"}}) {
-        EXPECT_EQ(PictureStem(file), stem) << file;
-    }
-}
-
-TEST_F(ForeignPhotoTest, KnowsWhatTheBitmapReaderCannotRead) {
-    using namespace std::string_literals;
-    const std::string before(12, '\0');
-    const std::string upwards = "BM" + before + "\x28\0\0\0\x05\0\0\0\x03\0\0\0"s;
-    const std::string downwards = "BM" + before + "\x28\0\0\0\x05\0\0\0\xFD\xFF\xFF\xFF"s;
-    const std::string old = "BM" + before + "\x0C\0\0\0\x05\0\x03\0\x01\0\x18\0"s;
-    const std::string jpeg = "\xFF\xD8\xFF\xE0";
-    for (const auto& [name, bytes, needs] : {std::tuple{"a.bmp", upwards, false},
-                                             {"a.jpg", upwards, false},
-                                             {"b.bmp", downwards, true},
-                                             {"c.bmp", old, false},
-                                             {"d.bmp", jpeg, true},
-                                             {"e.bmp", "letter"s, false},
-                                             {"f.BMP", ""s, false},
-                                             {"g.heic", "letter"s, true}}) {
-        EXPECT_EQ(NeedsDecoder(files_.Write(name, bytes)), needs) << name;
-    }
-    EXPECT_THROW(static_cast<void>(NeedsDecoder(files_ / "missing.jpg")), FileError);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "convert/foreign_photo.h"
+#include "convert/photo_decoder.h"
 #include "support/error.h"
 
 namespace vendrel::test {
