@@ -20,10 +20,6 @@ namespace {
 using test::RowsOf;
 using test::Values;
 
-constexpr Color Gray(int level) {
-    return Rgb(level, level, level);
-}
-
 // Stipples of 6 pixels; digit d is a gray of 20 d, both as a stipple's color and as a paint.
 struct Canvas {
     explicit Canvas(const std::vector<std::string_view>& colors, PixelLimits limits = {4 * 36, 5})
@@ -35,9 +31,9 @@ struct Canvas {
         Terms.ProtectedLimits = {limits.Smallest / 3, limits.Narrowest / 3};
     }
     static std::vector<Color> Grays() {
-        std::vector<Color> grays;
+        std::vector<Color> grays(10);
         for (int d = 0; d < 10; ++d) {
-            grays.push_back(Gray(20 * d));
+            grays[static_cast<std::size_t>(d)] = Rgb(20 * d, 20 * d, 20 * d);
         }
         return grays;
     }
