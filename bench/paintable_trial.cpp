@@ -91,6 +91,7 @@ Figures Measure(const ValueGrid& paints, const std::vector<Color>& colors, const
 
 std::vector<Color> ColorsOf(const std::vector<PaintColor>& paints) {
     std::vector<Color> colors;
+    colors.reserve(paints.size());
     for (const PaintColor& paint : paints) {
         colors.push_back(ColorOf(paint));
     }
