@@ -29,11 +29,14 @@ double Compressed(double share) {
 
 }  // namespace
 
+double LightOf(int level) {
+    return LightOfLevels()[static_cast<std::size_t>(level)];
+}
+
 Lab LabOf(Color color) {
-    const Levels& light = LightOfLevels();
-    const double red = light[static_cast<std::size_t>(RedOf(color))];
-    const double green = light[static_cast<std::size_t>(GreenOf(color))];
-    const double blue = light[static_cast<std::size_t>(BlueOf(color))];
+    const double red = LightOf(RedOf(color));
+    const double green = LightOf(GreenOf(color));
+    const double blue = LightOf(BlueOf(color));
     // Shares of the white point, so that white comes out without chroma.
     const double x = (0.4124564 * red + 0.3575761 * green + 0.1804375 * blue) / 0.95047;
     const double y = 0.2126729 * red + 0.7151522 * green + 0.0721750 * blue;

@@ -11,6 +11,9 @@ struct Lab {
     double B = 0;  // from blue to yellow
 };
 
+/// The light that a screen gives off for a level of 0..255 of a channel, 0..1.
+[[nodiscard]] double LightOf(int level);
+
 /// Of a packed sRGB color.
 [[nodiscard]] Lab LabOf(Color color);
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "eye/blur.h"
 #include "eye/mean_difference.h"
 #include "eye/palette_by_eye.h"
 #include "eye/seen_difference.h"
@@ -89,6 +90,17 @@ TEST(MeanDifferences, WeighPixelsAlike) {
     const std::vector<Color> painting = {kBlack, kWhite, kBlack, kBlack};
     EXPECT_NEAR(MeanDifference(photo, painting), 50, 1e-3);
     EXPECT_EQ(MeanDifference({}, {}), 0);
+}
+
+TEST(Blurring, MixesLight) {
+    Surface picture(41, 9, kWhite);
+    picture.FillRect(0, 0, 20, 9, kBlack);
+    const Surface blurred = Blurred(picture, 2);
+    EXPECT_EQ(blurred.Get(5, 4), kBlack);
+    EXPECT_EQ(blurred.Get(35, 0), kWhite);
+    // Half of the light is no middle gray but lighter.
+    EXPECT_NEAR(RedOf(blurred.Get(19, 4)) + RedOf(blurred.Get(20, 4)), 2 * 187, 6);
+    EXPECT_EQ(Blurred(picture, 0), picture);
 }
 
 TEST(SeenTables, HoldWhatTheFormulaGives) {
