@@ -24,7 +24,7 @@ void Put32(Header& header, std::size_t at, std::uint32_t value) {
     }
 }
 
-Header MakeHeader(const BitmapInfoHeader& info, int pixelsPerMetre) {
+Header MakeHeader(const BitmapInfoHeader& info, PrintScale scale) {
     Header header{};
     header[0] = 'B';
     header[1] = 'M';
@@ -36,8 +36,9 @@ Header MakeHeader(const BitmapInfoHeader& info, int pixelsPerMetre) {
     Put32(header, 26, info.Planes | std::uint32_t{info.BitCount} << 16);
     Put32(header, 30, info.Compression);
     Put32(header, 34, info.SizeImage);
-    Put32(header, 38, static_cast<std::uint32_t>(pixelsPerMetre));
-    Put32(header, 42, static_cast<std::uint32_t>(pixelsPerMetre));
+    const auto pixelsPerMeter = static_cast<std::uint32_t>(scale.PixelsPerMeter());
+    Put32(header, 38, pixelsPerMeter);
+    Put32(header, 42, pixelsPerMeter);
     return header;
 }
 
@@ -50,13 +51,13 @@ void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
 
 }  // namespace
 
-BitmapStream::BitmapStream(const Target& target, int width, int height, int pixelsPerMetre,
+BitmapStream::BitmapStream(const Target& target, int width, int height, PrintScale scale,
                            Lasting lasting)
     : file_(target.File, lasting), watcher_(target.Watcher) {
     if (width < 1 || height < 1) {
         throw FileError(target.File, "there is no picture to save yet. Load a photo first.");
     }
-    const Header header = MakeHeader(MakeInfoHeader(width, height), pixelsPerMetre);
+    const Header header = MakeHeader(MakeInfoHeader(width, height), scale);
     Put(std::as_bytes(std::span(header)));
 }
 
@@ -83,8 +84,8 @@ void BitmapStream::Write(const Surface& picture) {
     }
 }
 
-void WriteBitmap(const Target& target, const Surface& picture, int pixelsPerMetre) {
-    BitmapStream stream(target, picture.Width(), picture.Height(), pixelsPerMetre);
+void WriteBitmap(const Target& target, const Surface& picture, PrintScale scale) {
+    BitmapStream stream(target, picture.Width(), picture.Height(), scale);
     stream.Write(picture);
     stream.Commit();
 }

@@ -3,25 +3,23 @@
 #include <cstdint>
 #include <span>
 
+#include "support/print_scale.h"
 #include "support/surface.h"
 #include "support/target.h"
 #include "support/whole_file.h"
 
 namespace vendrel {
 
-/// Prints 960 pixels at a hand's breadth over 17 centimetres.
-inline constexpr int kPixelsPerMetre = 5500;
-
-/// Writes a BMP file of 24 bits, uncompressed, rows bottom-up, header of 40 bytes. The file is
-/// there whole or not at all. Throws FileError, OverflowError when the picture outgrows the format.
-void WriteBitmap(const Target& target, const Surface& picture,
-                 int pixelsPerMetre = kPixelsPerMetre);
+/// Writes a BMP file of 24 bits, uncompressed, rows bottom-up, header of 40 bytes, which says how
+/// large the picture is printed. The file is there whole or not at all. Throws FileError,
+/// OverflowError when the picture outgrows the format.
+void WriteBitmap(const Target& target, const Surface& picture, PrintScale scale = kSheetScale);
 
 /// The same file written in parts, for a picture not worth holding as a whole. Without Commit the
 /// file stays as it was.
 class BitmapStream {
   public:
-    BitmapStream(const Target& target, int width, int height, int pixelsPerMetre = kPixelsPerMetre,
+    BitmapStream(const Target& target, int width, int height, PrintScale scale = kSheetScale,
                  Lasting lasting = Lasting::Remade);
     /// The next rows, the lowest of the picture first, as a cDIBSection of its width holds them.
     void Write(std::span<const std::uint8_t> rows) { Put(std::as_bytes(rows)); }

@@ -44,7 +44,7 @@ QImage DrawChartImage(const Workplace& place) {
 }  // namespace
 
 void WriteColorChart(const Workplace& place, const Target& target) {
-    WriteBitmap(target, ToSurface(DrawChartImage(place)), kChartPixelsPerMetre);
+    WriteBitmap(target, ToSurface(DrawChartImage(place)), kChartScale);
 }
 
 }  // namespace vendrel

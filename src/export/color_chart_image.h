@@ -1,12 +1,13 @@
 #pragma once
 
 #include "shell/workplace.h"
+#include "support/print_scale.h"
 #include "support/target.h"
 
 namespace vendrel {
 
-/// 300 dots per inch, as bitmaps note it.
-inline constexpr int kChartPixelsPerMetre = 11811;
+/// 300 dots per inch.
+inline constexpr PrintScale kChartScale = PrintScale::PerMeter(11811);
 
 /// Saves the color chart as a picture of one printed page, with the symbols as the sheet shows
 /// them. The same grid gives the same bytes. Needs a running QGuiApplication.

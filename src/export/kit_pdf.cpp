@@ -51,10 +51,10 @@ std::vector<PlanRect> BoxesOf(const PrintPlan& plan) {
     std::vector<PlanRect> boxes;
     for (const PlanLabel& label : plan.Labels) {
         const int paint = plan.Regions[label.Region].Value;
-        const double mm = plan.MmPerPixel;
-        const double reachX = label.Height * plan.Aspects[paint] / 2 * mm;
-        const double reachY = label.Height / 2 * mm;
-        const PlanPoint at{label.Centre.X * mm, label.Centre.Y * mm};
+        const PrintScale scale = plan.Scale;
+        const double reachX = scale.Mm(label.Height * plan.Aspects[paint] / 2);
+        const double reachY = scale.Mm(label.Height / 2);
+        const PlanPoint at{scale.Mm(label.Centre.X), scale.Mm(label.Centre.Y)};
         boxes.push_back({at.X - reachX, at.Y - reachY, at.X + reachX, at.Y + reachY});
     }
     return boxes;

@@ -34,7 +34,7 @@ QString Centimetres(const SizeMm& size) {
 
 double SmallestLabelMm(const PrintPlan& plan) {
     const auto smallest = std::ranges::min_element(plan.Labels, {}, &PlanLabel::Height);
-    return smallest->Height * plan.MmPerPixel;
+    return plan.Scale.Mm(smallest->Height);
 }
 
 QString KitSummary(const KitPages& kit) {

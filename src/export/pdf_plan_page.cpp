@@ -45,7 +45,7 @@ class PlanPage {
         return {Mm(canvasX + offset_.X), Mm(canvasY + offset_.Y)};
     }
     [[nodiscard]] QPointF At(const PlanPoint& pixel) const {
-        return At(pixel.X * kit_.Plan.MmPerPixel, pixel.Y * kit_.Plan.MmPerPixel);
+        return At(kit_.Plan.Scale.Mm(pixel.X), kit_.Plan.Scale.Mm(pixel.Y));
     }
 
     [[nodiscard]] int SymbolOf(int paint) const {
@@ -97,7 +97,7 @@ void PlanPage::DrawOutlines() {
     pen.setCapStyle(Qt::SquareCap);
     painter_.setPen(pen);
     for (const PlanLine& line :
-         ClipLines(kit_.Plan.Lines, InPixels(tile_.Shown, kit_.Plan.MmPerPixel))) {
+         ClipLines(kit_.Plan.Lines, InPixels(tile_.Shown, kit_.Plan.Scale))) {
         QPolygonF points;
         points.reserve(static_cast<qsizetype>(line.size()));
         for (const PlanPoint& point : line) {
@@ -108,14 +108,14 @@ void PlanPage::DrawOutlines() {
 }
 
 void PlanPage::DrawSymbols() {
-    const PlanRect own = InPixels(tile_.Own, kit_.Plan.MmPerPixel);
-    const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.MmPerPixel);
+    const PlanRect own = InPixels(tile_.Own, kit_.Plan.Scale);
+    const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.Scale);
     painter_.setPen(kSymbolInk);
     for (const PlanLabel& label : kit_.Plan.Labels) {
         const int paint = kit_.Plan.Regions[label.Region].Value;
         if (IsLabelOn(label, kit_.Plan.Aspects[paint], own, shown)) {
             kit_.Symbols.Draw(painter_, SymbolOf(paint), At(label.Centre),
-                              Mm(label.Height * kit_.Plan.MmPerPixel));
+                              Mm(kit_.Plan.Scale.Mm(label.Height)));
         }
     }
 }
@@ -176,7 +176,7 @@ void PlanPage::DrawCropMarks() {
 
 void PlanPage::DrawLegend() {
     const std::vector<int> paints =
-        PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own, kit_.Plan.MmPerPixel));
+        PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own, kit_.Plan.Scale));
     const int columns = Design::LegendColumns(sheet_.Width);
     const int rows = (static_cast<int>(paints.size()) + columns - 1) / columns;
     const double width = Design::ListWidth(sheet_.Width) / columns;

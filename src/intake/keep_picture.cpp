@@ -32,7 +32,7 @@ std::string KeepPicture(const ProgramFolder& folder, const std::string& stem,
                         const Surface& picture) {
     const fs::path pictures = folder.Path("Pictures");
     BitmapStream arrival(pictures / (stem + kBitmapEnding), picture.Width(), picture.Height(),
-                         kPixelsPerMetre, Lasting::Synced);
+                         kSheetScale, Lasting::Synced);
     arrival.Write(picture);
     const std::set<std::string> taken = NamesInUse(pictures);
     for (int number = 1;; ++number) {

@@ -31,18 +31,19 @@ void RequireCanvas(double widthCm, const Surface& picture) {
 
 // So large that every symbol can be read. A stipple that its neighbours nibbled at may take a
 // somewhat smaller one: a single odd shape shall not blow up the whole canvas.
-double LegibleScale(const WorkState& state, const PaintedRegions& regions,
-                    const PaintAspects& aspects) {
+PrintScale LegibleScale(const WorkState& state, const PaintedRegions& regions,
+                        const PaintAspects& aspects) {
     double inStipple = state.StippleSize;
     for (const double aspect : aspects) {
         inStipple = std::min(inStipple, SymbolHeightInStipple(state.StippleSize, aspect));
     }
-    return kLegibleSymbolMm / std::max(SmallestSymbol(regions, aspects), kNibbled * inStipple);
+    return PrintScale::OfPixel(kLegibleSymbolMm /
+                               std::max(SmallestSymbol(regions, aspects), kNibbled * inStipple));
 }
 
-double ScaleOf(const PlanSettings& settings, const Surface& picture) {
+PrintScale ScaleOf(const PlanSettings& settings, const Surface& picture) {
     RequireCanvas(settings.CanvasCm, picture);
-    return settings.CanvasCm * 10 / picture.Width();
+    return PrintScale::OfCanvas(settings.CanvasCm, picture.Width());
 }
 
 std::vector<PaperChoice> ChoicesFor(Paper paper) {
@@ -63,19 +64,20 @@ double Growth(const PagePlan& pages) {
 
 void LayOutPages(PrintPlan& plan, const PlanSettings& settings, const WorkState& state,
                  const Surface& picture) {
-    const double mm = plan.MmPerPixel;
-    const auto listHeight = [&plan, mm](const PaperChoice& paper, const PlanRect& own) {
-        const auto paints = PaintsWithin(plan.Regions, InPixels(own, mm));
+    const PrintScale scale = plan.Scale;
+    const auto listHeight = [&plan, scale](const PaperChoice& paper, const PlanRect& own) {
+        const auto paints = PaintsWithin(plan.Regions, InPixels(own, scale));
         return PlanPageDesign::LegendHeight(paper.Sheet.Width, static_cast<int>(paints.size()));
     };
-    plan.Pages = PlanPages({{picture.Width() * mm, picture.Height() * mm},
-                            {mm, state.StippleSize * mm},  // pixel 0 is before the first stipple
+    plan.Pages = PlanPages({{scale.Mm(picture.Width()), scale.Mm(picture.Height())},
+                            // Pixel 0 is before the first stipple.
+                            {scale.MmPerPixel(), scale.MmPerStipple(state.StippleSize)},
                             listHeight},
                            ChoicesFor(settings.Sheet));
     if (settings.CanvasCm == 0) {
         const double growth = Growth(plan.Pages);
         plan.Pages = Enlarged(plan.Pages, growth);
-        plan.MmPerPixel *= growth;
+        plan.Scale = scale.Enlarged(growth);
     }
 }
 
@@ -88,7 +90,7 @@ struct CutPixels {
 CutPixels CutsInPixels(const PrintPlan& plan) {
     constexpr double kRounding = 1e-6;
     const auto pixelAt = [&plan](double at) {
-        return static_cast<int>(std::ceil(at / plan.MmPerPixel - kRounding));
+        return static_cast<int>(std::ceil(plan.Scale.Pixels(at) - kRounding));
     };
     CutPixels cuts;
     for (const PageTile& tile : plan.Pages.Tiles) {
@@ -104,9 +106,9 @@ CutPixels CutsInPixels(const PrintPlan& plan) {
 
 }  // namespace
 
-PlanRect InPixels(const PlanRect& part, double mmPerPixel) {
-    return {part.Left / mmPerPixel, part.Top / mmPerPixel, part.Right / mmPerPixel,
-            part.Bottom / mmPerPixel};
+PlanRect InPixels(const PlanRect& part, PrintScale scale) {
+    return {scale.Pixels(part.Left), scale.Pixels(part.Top), scale.Pixels(part.Right),
+            scale.Pixels(part.Bottom)};
 }
 
 double PlanPageDesign::ListWidth(double paperWidth) {
@@ -133,14 +135,14 @@ PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
     plan.Regions = FindRegionsWithoutCrumbs(PaintPerPixel(state, picture.Width(), picture.Height()),
                                             TraitsOf(state.Chosen.Level).FewestOwnPixels);
     plan.Lines = TraceOutlines(plan.Regions.Ids);
-    plan.MmPerPixel = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
-                                            : LegibleScale(state, plan.Regions, plan.Aspects);
+    plan.Scale = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
+                                       : LegibleScale(state, plan.Regions, plan.Aspects);
     LayOutPages(plan, settings, state, picture);
     LabelRules rules;
     rules.Aspects = plan.Aspects;
-    rules.LegibleHeight = kNibbled * kLegibleSymbolMm / plan.MmPerPixel;
-    rules.LargestHeight = kLargestSymbolMm / plan.MmPerPixel;
-    rules.LatticeStep = kLatticeMm / plan.MmPerPixel;
+    rules.LegibleHeight = plan.Scale.Pixels(kNibbled * kLegibleSymbolMm);
+    rules.LargestHeight = plan.Scale.Pixels(kLargestSymbolMm);
+    rules.LatticeStep = plan.Scale.Pixels(kLatticeMm);
     CutPixels cuts = CutsInPixels(plan);
     rules.PageColumns = std::move(cuts.Columns);
     rules.PageRows = std::move(cuts.Rows);

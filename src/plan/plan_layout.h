@@ -7,6 +7,7 @@
 #include "plan/page_tiling.h"
 #include "plan/painted_regions.h"
 #include "shell/workplace.h"
+#include "support/print_scale.h"
 
 namespace vendrel {
 
@@ -47,11 +48,11 @@ struct PrintPlan {
     PaintAspects Aspects;
     std::vector<PlanLabel> Labels;
     PagePlan Pages;
-    double MmPerPixel = 0;
+    PrintScale Scale;  // of the painted picture on the canvas
 };
 
 /// A part of the canvas in millimeters as one of the painted picture in pixels.
-[[nodiscard]] PlanRect InPixels(const PlanRect& part, double mmPerPixel);
+[[nodiscard]] PlanRect InPixels(const PlanRect& part, PrintScale scale);
 
 /// Lays out the painted picture for printing; `aspects` are those of the symbols as they will be
 /// drawn. Without a canvas asked for it takes the fewest pages on which symbols can be read, and

@@ -1,7 +1,6 @@
 #include "regions/labelling.h"
 
 #include <span>
-#include <utility>
 
 #include "support/list.h"
 
@@ -48,64 +47,68 @@ class Labels {
     std::vector<int> parents_;
 };
 
-// Gives every place the label of those before it that it hangs together with.
+// Gives every place of a row the label of those before it that it hangs together with.
 class RowLabelling {
   public:
-    RowLabelling(const ValueGrid& values, ValueGrid& ids, Connection connection)
-        : values_(values), ids_(ids), corners_(connection == Connection::Corners) {}
+    RowLabelling(Labels& labels, Connection connection)
+        : labels_(labels), corners_(connection == Connection::Corners) {}
 
-    Labels Run() {
-        for (int y = 0; y <= values_.Down(); ++y) {
-            for (int x = 0; x <= values_.Across(); ++x) {
-                ids_(x, y) = LabelOf(x, y);
+    struct Row {
+        RowView<const int> Values;
+        RowView<int> Ids;
+    };
+
+    /// `above` is empty for the first row.
+    void Run(const Row& above, const Row& row) {
+        const int count = row.Values.Count();
+        for (int x = 0; x < count; ++x) {
+            const int value = row.Values[x];
+            int label = x > 0 && row.Values[x - 1] == value ? row.Ids[x - 1] : -1;
+            if (above.Values.Count() > 0) {
+                label = JoinAbove(above, x, value, label);
+                if (corners_ && x > 0) {
+                    label = JoinAbove(above, x - 1, value, label);
+                }
+                if (corners_ && x + 1 < count) {
+                    label = JoinAbove(above, x + 1, value, label);
+                }
             }
+            row.Ids[x] = label < 0 ? labels_.Add() : label;
         }
-        return std::move(labels_);
     }
 
   private:
-    int LabelOf(int x, int y) {
-        const int value = values_(x, y);
-        int label = -1;
-        if (x > 0 && values_(x - 1, y) == value) {
-            label = ids_(x - 1, y);
-        }
-        if (y > 0) {
-            label = JoinAbove(x, y - 1, value, label);
-            if (corners_ && x > 0) {
-                label = JoinAbove(x - 1, y - 1, value, label);
-            }
-            if (corners_ && x < values_.Across()) {
-                label = JoinAbove(x + 1, y - 1, value, label);
-            }
-        }
-        return label < 0 ? labels_.Add() : label;
-    }
-    int JoinAbove(int x, int y, int value, int label) {
-        if (values_(x, y) != value || ids_(x, y) == label) {
+    int JoinAbove(const Row& above, int x, int value, int label) {
+        if (above.Values[x] != value || above.Ids[x] == label) {
             return label;
         }
-        return label < 0 ? ids_(x, y) : labels_.Join(label, ids_(x, y));
+        return label < 0 ? above.Ids[x] : labels_.Join(label, above.Ids[x]);
     }
 
-    const ValueGrid& values_;
-    ValueGrid& ids_;
+    Labels& labels_;
     bool corners_;
-    Labels labels_;
 };
 
 }  // namespace
 
 Regions FindRegions(const ValueGrid& values, Connection connection) {
     Regions found{ValueGrid(values.Across(), values.Down()), {}};
-    Labels labels = RowLabelling(values, found.Ids, connection).Run();
+    Labels labels;
+    RowLabelling labelling(labels, connection);
+    RowLabelling::Row above;
+    for (int y = 0; y <= values.Down(); ++y) {
+        const RowLabelling::Row row{values.Row(y), found.Ids.Row(y)};
+        labelling.Run(above, row);
+        above = row;
+    }
     found.List.resize(static_cast<std::size_t>(labels.Settle()));
     const std::span<const int> from = values.All();
+    const std::span<int> ids = found.Ids.All();
     for (std::size_t i = 0; i < from.size(); ++i) {
-        int& id = found.Ids.All()[i];
-        id = labels.NumberOf(id);
-        found[id].Value = from[i];
-        ++found[id].Size;
+        ids[i] = labels.NumberOf(ids[i]);
+        Region& region = found[ids[i]];
+        region.Value = from[i];
+        ++region.Size;
     }
     return found;
 }

@@ -30,12 +30,12 @@ class PlannedPicture : public testing::Test {
 TEST_F(PlannedPicture, FillsThePagesThatSymbolsOfTwoMillimetresNeed) {
     const PrintPlan plan = Plan({});
     const auto smallest = std::ranges::min_element(plan.Labels, {}, &PlanLabel::Height);
-    EXPECT_GE(smallest->Height * plan.MmPerPixel, kLegibleSymbolMm);
-    EXPECT_LE(smallest->Height * plan.MmPerPixel, kLargestSymbolMm);
+    EXPECT_GE(plan.Scale.Mm(smallest->Height), kLegibleSymbolMm);
+    EXPECT_LE(plan.Scale.Mm(smallest->Height), kLargestSymbolMm);
     EXPECT_EQ(plan.Pages.Tiles.size(), 1U);
     EXPECT_EQ(std::fmod(plan.Pages.Canvas.Width, 5), 0);  // millimetres
     EXPECT_GE(RoomToGrow(plan.Pages), 1);
-    EXPECT_DOUBLE_EQ(plan.Pages.Canvas.Width, 36 * plan.MmPerPixel);
+    EXPECT_DOUBLE_EQ(plan.Pages.Canvas.Width, plan.Scale.Mm(36));
     EXPECT_EQ(plan.Regions.List.size(), 5U);
 }
 
@@ -52,10 +52,7 @@ TEST_F(PlannedPicture, TakesTheCanvasAskedForAndThePagesItNeeds) {
 TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndEveryPageHasOne) {
     for (const double canvas : {15.0, 37.3, 60.0, 111.0}) {
         const PrintPlan plan = Plan({.Sheet = Paper::A4, .CanvasCm = canvas});
-        const auto inPixels = [scale = plan.MmPerPixel](const PlanRect& part) {
-            return PlanRect{part.Left / scale, part.Top / scale, part.Right / scale,
-                            part.Bottom / scale};
-        };
+        const auto inPixels = [&plan](const PlanRect& part) { return InPixels(part, plan.Scale); };
         for (const PageTile& tile : plan.Pages.Tiles) {
             const PlanRect own = inPixels(tile.Own);
             EXPECT_TRUE(std::ranges::any_of(plan.Labels,

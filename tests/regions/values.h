@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +18,18 @@ inline ValueGrid Values(const std::vector<std::string_view>& rows) {
         }
     }
     return grid;
+}
+
+/// The other way round.
+inline std::vector<std::string> RowsOf(const ValueGrid& grid) {
+    std::vector<std::string> rows;
+    for (int y = 0; y <= grid.Down(); ++y) {
+        rows.emplace_back();
+        for (const int value : grid.Row(y)) {
+            rows.back() += static_cast<char>(value < 10 ? '0' + value : 'a' + value - 10);
+        }
+    }
+    return rows;
 }
 
 }  // namespace vendrel::test

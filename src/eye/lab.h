@@ -1,0 +1,23 @@
+#pragma once
+
+#include "support/color.h"
+
+namespace vendrel {
+
+/// A color as the eye orders it: CIE L*a*b* under daylight (D65). Lightness 0..100.
+struct Lab {
+    double L = 0;
+    double A = 0;  // from green to red
+    double B = 0;  // from blue to yellow
+};
+
+/// The light that a screen gives off for a level of 0..255 of a channel, 0..1.
+[[nodiscard]] double LightOf(int level);
+
+/// Of a packed sRGB color.
+[[nodiscard]] Lab LabOf(Color color);
+
+/// How far a color is from gray.
+[[nodiscard]] double ChromaOf(const Lab& lab);
+
+}  // namespace vendrel
