@@ -58,16 +58,9 @@ class PaintedBench {
 
 void BM_Numbering(benchmark::State& run) {
     PaintedBench painted(static_cast<int>(run.range(0)));
-    WorkState& state = painted.bench.State;
-    state.SheetCellSize = state.StippleSize == 8 ? 2 : state.StippleSize == 6 ? 3 : 4;
-    const int width = 960 * state.SheetCellSize;
-    const int height = 720 * state.SheetCellSize;
-    std::vector<std::uint8_t> bits(static_cast<std::size_t>(width) * 3 *
-                                   static_cast<std::size_t>(height));
-    state.SheetDC = DibView(bits.data(), width, height, width * 3);
     NumberingCounts counts;
     for ([[maybe_unused]] const auto step : run) {
-        counts = SetupCellNumbers(painted.bench.Place, painted.bench.Frames.WorkFrame.Picture);
+        counts = SetupCellNumbers(painted.bench.Place, nullptr).Counts;
     }
     run.counters["areas"] = counts.Areas;
     run.counters["symbols"] = counts.Symbols;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "convert/bitmap_header.h"
-#include "output/cell_numbering.h"
+#include "output/sheet_record.h"
 
 namespace vendrel {
 

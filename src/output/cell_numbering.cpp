@@ -2,11 +2,11 @@
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "output/nearest_stipple.h"
 #include "output/symbol_set.h"
-#include "shell/symbol_of.h"
 #include "support/counter.h"
 #include "support/error.h"
 #include "support/position_ring.h"
@@ -14,39 +14,19 @@
 namespace vendrel {
 namespace {
 
-// Draws onto the sheet, where a picture pixel takes SheetCellSize pixels each way.
-class SheetSink : public NumberSink {
-  public:
-    explicit SheetSink(const WorkState& state) : state_(state) {}
-
-    void Dot(CellPos at) override {
-        state_.SheetDC.Set(state_.SheetCellSize * at.X, state_.SheetCellSize * at.Y,
-                           state_.BorderColor);
-    }
-    void Stamp(int paint, CellPos at) override {
-        Number2CDIB(state_, SymbolOf(state_.PaintColors, paint), state_.SheetCellSize,
-                    state_.SymbolColor, at);
-    }
-
-  private:
-    const WorkState& state_;
-};
-
 constexpr int kForeign = 127;  // stands for every index beyond the palette
 static_assert(kSymbolCount < kForeign);
 
 class Numbering {
   public:
-    /// A null picture is not recoloured, a null sink not drawn on.
-    Numbering(const Workplace& place, Surface* picture, NumberSink* sink)
+    Numbering(const Workplace& place, Surface* picture)
         : place_(place),
           state_(place.State),
           picture_(picture),
-          sink_(sink),
           finder_(place.State, place.Screen.Screen().Twips),
           period_(TraitsOf(place.State.Chosen.Level).SymbolPeriod) {}
 
-    NumberingCounts Run();
+    SheetRecord Run();
 
   private:
     void SizeGrids();
@@ -66,12 +46,11 @@ class Numbering {
     const Workplace& place_;
     WorkState& state_;
     Surface* picture_;
-    NumberSink* sink_;
     StippleFinder finder_;
     int period_;
     PositionRing queue_;                    // flag: the pixel is the area's own
     OneBased<std::vector<CellPos>> seeds_;  // per paint, in row-major order
-    NumberingCounts counts_;
+    SheetRecord record_;
     unsigned walked_ = 0;
 
     // The area being walked.
@@ -89,6 +68,7 @@ void Numbering::SizeGrids() {
     }
     state_.NumberGrid = Grid<NumberPixel>(state_.NumberWidth, state_.NumberHeight);
     state_.NumberMarks = Grid<NumberMark>(state_.NumberWidth, state_.NumberHeight);
+    record_ = SheetRecord(state_.NumberWidth, state_.NumberHeight);
     seeds_ = OneBased<std::vector<CellPos>>(state_.PaintCount);
     const TwipsPerPixel twips = place_.Screen.Screen().Twips;
     for (int y = 1; y <= state_.NumberHeight; ++y) {
@@ -119,7 +99,7 @@ void Numbering::FillRow(int y, TwipsPerPixel twips) {
     }
 }
 
-NumberingCounts Numbering::Run() {
+SheetRecord Numbering::Run() {
     place_.Screen.SetCaption("Setting Up Cell Numbers");
     SizeGrids();
     state_.NextAreaNumber = 1;
@@ -131,9 +111,9 @@ NumberingCounts Numbering::Run() {
         ReMarkCells(k);
     }
     place_.Screen.ReportProgress(0, 0);
-    counts_.Areas = state_.NextAreaNumber - 1;
-    counts_.BorderDots = sink_ == nullptr ? 0 : CountBorderDots();
-    return counts_;
+    record_.Counts.Areas = state_.NextAreaNumber - 1;
+    record_.Counts.BorderDots = CountBorderDots();
+    return std::move(record_);
 }
 
 void Numbering::ReMarkCells(int paint) {
@@ -151,7 +131,7 @@ void Numbering::ReMarkCells(int paint) {
 }
 
 void Numbering::MarkOneNumber(CellPos seed) {
-    const int symbolsBefore = counts_.Symbols;
+    const int symbolsBefore = record_.Counts.Symbols;
     int sinceSymbol = 0;
     AddSeedNeighbours(seed);
     while (!queue_.Empty()) {
@@ -168,7 +148,7 @@ void Numbering::MarkOneNumber(CellPos seed) {
         }
         Breathe();
     }
-    counts_.AreasWithoutSymbol += counts_.Symbols == symbolsBefore ? 1 : 0;
+    record_.Counts.AreasWithoutSymbol += record_.Counts.Symbols == symbolsBefore ? 1 : 0;
 }
 
 void Numbering::Claim(int x, int y) {
@@ -229,20 +209,18 @@ void Numbering::AddToNumberCells(PositionRing::Tail& tail, int x, int y, NumberM
 }
 
 void Numbering::Stamp(CellPos at) {
-    if (sink_ == nullptr || at.X >= state_.NumberWidth || at.Y >= state_.NumberHeight) {
+    if (at.X >= state_.NumberWidth || at.Y >= state_.NumberHeight) {
         return;
     }
     const CellPos cell = finder_.NearestCell(at);
-    sink_->Stamp(paint_, finder_.SymbolPlace(cell));
-    ++counts_.Symbols;
-    counts_.SymbolsAstray += state_.Stipples(cell.X, cell.Y).ColorIndex != paint_ ? 1 : 0;
+    record_.Stamp(paint_, finder_.SymbolPlace(cell));
+    ++record_.Counts.Symbols;
+    record_.Counts.SymbolsAstray += state_.Stipples(cell.X, cell.Y).ColorIndex != paint_ ? 1 : 0;
 }
 
 void Numbering::DrawBorder(int x, int y) {
     state_.NumberMarks(x, y).Queued = false;
-    if (sink_ != nullptr) {
-        sink_->Dot({x, y});
-    }
+    record_.Dot({x, y});
     Recolour(x, y, state_.EdgeColor);
     NumberPixel& pixel = state_.NumberGrid(x, y);
     pixel.IsBorder = true;
@@ -278,20 +256,9 @@ void RequireSymbols(const WorkState& state) {
     }
 }
 
-NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture) {
-    SheetSink sheet(place.State);
-    return SetupCellNumbers(place, picture, sheet);
-}
-
-NumberingCounts SetupCellNumbers(const Workplace& place, Surface& picture, NumberSink& sink) {
+SheetRecord SetupCellNumbers(const Workplace& place, Surface* picture) {
     RequireSymbols(place.State);
-    const bool isWorkFrame = &picture == &place.Frames.WorkFrame.Picture;
-    return Numbering(place, &picture, isWorkFrame ? &sink : nullptr).Run();
-}
-
-NumberingCounts NumberUnseen(const Workplace& place, NumberSink& sink) {
-    RequireSymbols(place.State);
-    return Numbering(place, nullptr, &sink).Run();
+    return Numbering(place, picture).Run();
 }
 
 }  // namespace vendrel

@@ -16,16 +16,17 @@ namespace {
 
 constexpr int kStripBytes = 512 * 1024;  // fits the processor's second cache
 
+int CellSizeOf(const WorkState& state) {
+    return TraitsOf(state.Chosen.Level).SheetCellSize;
+}
+
 // Draws the picture rows of one strip, each SheetCellSize sheet rows high.
 class StripPainter {
   public:
-    StripPainter(WorkState& state, const SheetRecord& record, const SheetColors& colors);
-    ~StripPainter() { state_.SheetDC = {}; }
-    StripPainter(const StripPainter&) = delete;
-    StripPainter& operator=(const StripPainter&) = delete;
+    StripPainter(const WorkState& state, const SheetRecord& record, const SheetColors& colors);
 
     /// Draws `strip`, whose uppermost picture row is `first`.
-    void Draw(cDIBSection& strip, int first);
+    void Draw(cDIBSection& strip, int first) const;
 
   private:
     // Sheet rows that a symbol reaches, the last excluded.
@@ -35,18 +36,19 @@ class StripPainter {
     };
 
     void LayGround(cDIBSection& strip, int first) const;
-    void DrawDots(int first, int rows) const;
-    void DrawSymbol(std::size_t index, int first) const;
+    void DrawDots(const DibView& SheetDC, int first) const;
+    void DrawSymbol(const DibView& SheetDC, std::size_t index, int first) const;
 
-    WorkState& state_;
+    const WorkState& state_;
     const SheetRecord& record_;
     const SheetColors& colors_;
     int scale_;
     std::vector<Reach> reaches_;  // per recorded symbol
 };
 
-StripPainter::StripPainter(WorkState& state, const SheetRecord& record, const SheetColors& colors)
-    : state_(state), record_(record), colors_(colors), scale_(state.SheetCellSize) {
+StripPainter::StripPainter(const WorkState& state, const SheetRecord& record,
+                           const SheetColors& colors)
+    : state_(state), record_(record), colors_(colors), scale_(CellSizeOf(state)) {
     for (const auto& [paint, at] : record.Symbols()) {
         Reach reach{scale_ * at.Y, scale_ * at.Y};
         for (const GlyphPoint& point : InkOf(state, SymbolOf(state.PaintColors, paint))) {
@@ -57,14 +59,14 @@ StripPainter::StripPainter(WorkState& state, const SheetRecord& record, const Sh
     }
 }
 
-void StripPainter::Draw(cDIBSection& strip, int first) {
+void StripPainter::Draw(cDIBSection& strip, int first) const {
     LayGround(strip, first);
-    state_.SheetDC = strip.hdc();
-    DrawDots(first, strip.Height() / scale_);
+    const DibView SheetDC = strip.hdc();
+    DrawDots(SheetDC, first);
     const int top = scale_ * first;
     for (std::size_t i = 0; i < reaches_.size(); ++i) {
         if (reaches_[i].Bottom > top && reaches_[i].Top < top + strip.Height()) {
-            DrawSymbol(i, first);
+            DrawSymbol(SheetDC, i, first);
         }
     }
 }
@@ -91,12 +93,12 @@ void StripPainter::LayGround(cDIBSection& strip, int first) const {
     }
 }
 
-void StripPainter::DrawDots(int first, int rows) const {
-    for (int y = 0; y < rows; ++y) {
+void StripPainter::DrawDots(const DibView& SheetDC, int first) const {
+    for (int y = 0; y < SheetDC.Height() / scale_; ++y) {
         int x = 0;
         for (const int dot : record_.Dots(first + y)) {
             if (dot != 0) {
-                state_.SheetDC.Set(x, scale_ * y, state_.BorderColor);
+                SheetDC.Set(x, scale_ * y, state_.BorderColor);
             }
             x += scale_;
         }
@@ -104,16 +106,15 @@ void StripPainter::DrawDots(int first, int rows) const {
 }
 
 // All dots are there already, so those that came after the symbol are put back on top of it.
-void StripPainter::DrawSymbol(std::size_t index, int first) const {
+void StripPainter::DrawSymbol(const DibView& SheetDC, std::size_t index, int first) const {
     const auto& [paint, at] = record_.Symbols()[index];
-    const int symbol = SymbolOf(state_.PaintColors, paint);
-    Number2CDIB(state_, symbol, scale_, colors_.Inks[paint], {at.X, at.Y - first});
-    for (const GlyphPoint& point : InkOf(state_, symbol)) {
+    const auto ink = InkOf(state_, SymbolOf(state_.PaintColors, paint));
+    Number2CDIB(SheetDC, ink, scale_, colors_.Inks[paint], {at.X, at.Y - first});
+    for (const GlyphPoint& point : ink) {
         if (point.X % scale_ == 0 && point.Y % scale_ == 0) {
             const CellPos pixel{at.X + point.X / scale_, at.Y + point.Y / scale_};
             if (record_.DottedAfter(index, pixel)) {
-                state_.SheetDC.Set(scale_ * pixel.X, scale_ * (pixel.Y - first),
-                                   state_.BorderColor);
+                SheetDC.Set(scale_ * pixel.X, scale_ * (pixel.Y - first), state_.BorderColor);
             }
         }
     }
@@ -128,11 +129,11 @@ void CreateStrip(cDIBSection& strip, int width, int height) {
 
 }  // namespace
 
-void WriteDrawing(const Target& target, WorkState& state, const SheetRecord& record,
+void WriteDrawing(const Target& target, const WorkState& state, const SheetRecord& record,
                   const SheetColors& colors) {
-    const int scale = state.SheetCellSize;
+    const int scale = CellSizeOf(state);
     const int width = record.Width() * scale;
-    StripPainter painter(state, record, colors);
+    const StripPainter painter(state, record, colors);
     BitmapStream stream(target, width, record.Height() * scale);
     const int rows = std::max(1, kStripBytes / (3 * width * scale));
     cDIBSection strip;

@@ -14,10 +14,10 @@ struct SheetColors {
     OneBased<Color> Inks;             // of the symbols, per paint
 };
 
-/// Draws a recorded numbering at SheetCellSize sheet pixels per picture pixel and saves it as a
-/// bitmap. It is drawn and saved strip by strip, since a whole sheet can take 33 megabytes.
-/// Throws Error for a paint without symbol, FileError, OverflowError.
-void WriteDrawing(const Target& target, WorkState& state, const SheetRecord& record,
+/// Draws a recorded numbering at the difficulty's SheetCellSize and saves it as a bitmap. It is
+/// drawn and saved strip by strip, since a whole sheet can take 33 megabytes. Throws Error for a
+/// paint without symbol, FileError, OverflowError.
+void WriteDrawing(const Target& target, const WorkState& state, const SheetRecord& record,
                   const SheetColors& colors);
 
 }  // namespace vendrel

@@ -3,26 +3,39 @@
 #include <span>
 #include <vector>
 
-#include "output/cell_numbering.h"
 #include "support/cell_pos.h"
 #include "support/grid.h"
 
 namespace vendrel {
 
+/// What a numbering came to.
+struct NumberingCounts {
+    int Areas = 0;
+    int AreasWithoutSymbol = 0;
+    int Symbols = 0;
+    int SymbolsAstray = 0;  // stamped into a stipple of another paint
+    int BorderDots = 0;     // distinct picture pixels dotted
+};
+
 /// A numbering written down to be drawn later: the walk dots a border several times and at random,
 /// but paper is filled fastest once and row by row.
-class SheetRecord final : public NumberSink {
+class SheetRecord {
   public:
     struct Symbol {
         int Paint = 0;
         CellPos At;  // picture position
+
+        bool operator==(const Symbol&) const = default;
     };
 
+    SheetRecord() = default;
     /// Of a picture of that many pixels.
     SheetRecord(int width, int height) : dots_(width, height) {}
 
-    void Dot(CellPos at) override { dots_(at.X, at.Y) = now_; }
-    void Stamp(int paint, CellPos at) override {
+    /// Picture pixel `at` is a border.
+    void Dot(CellPos at) { dots_(at.X, at.Y) = now_; }
+    /// The symbol of `paint` belongs at picture position `at`.
+    void Stamp(int paint, CellPos at) {
         symbols_.push_back({paint, at});
         ++now_;
     }
@@ -38,6 +51,8 @@ class SheetRecord final : public NumberSink {
         return at.X >= 0 && at.Y >= 0 && at.X < Width() && at.Y < Height() &&
                dots_(at.X, at.Y) > static_cast<int>(symbol) + 1;
     }
+
+    NumberingCounts Counts;
 
   private:
     Grid<int> dots_;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "output/cell_numbering.h"
 #include "output/contrast.h"
 #include "output/sheet_drawing.h"
 #include "support/error.h"
@@ -27,12 +28,17 @@ class PaintingKept {
     Surface painting_;
 };
 
-NumberingCounts Number(const Workplace& place, SheetRecord& record) {
+SheetRecord Number(const Workplace& place) {
+    RequireSymbols(place.State);
+    Surface& painting = place.Frames.WorkFrame.Picture;
+    if (painting.Empty()) {
+        throw Error("There is no painted picture to number. Load a photo and paint it first.");
+    }
     if (!place.Screen.Watched()) {  // recolouring for nobody costs a tenth of the time
-        return NumberUnseen(place, record);
+        return SetupCellNumbers(place, nullptr);
     }
     const PaintingKept kept(place);
-    return SetupCellNumbers(place, place.Frames.WorkFrame.Picture, record);
+    return SetupCellNumbers(place, &painting);
 }
 
 OneBased<Color> InksOnPaints(const WorkState& state) {
@@ -43,30 +49,14 @@ OneBased<Color> InksOnPaints(const WorkState& state) {
     return inks;
 }
 
-const Surface& PaintingToNumber(const Workplace& place) {
-    RequireSymbols(place.State);
-    const Surface& painting = place.Frames.WorkFrame.Picture;
-    if (painting.Empty()) {
-        throw Error("There is no painted picture to number. Load a photo and paint it first.");
-    }
-    return painting;
-}
-
-SheetRecord EmptyRecord(const Surface& painting) {
-    return {painting.Width(), painting.Height()};
-}
-
 }  // namespace
 
-NumberedPainting::NumberedPainting(const Workplace& place)
-    : place_(place), record_(EmptyRecord(PaintingToNumber(place))) {
-    place.State.SheetCellSize = TraitsOf(place.State.Chosen.Level).SheetCellSize;
-    counts_ = Number(place, record_);
+NumberedPainting::NumberedPainting(const Workplace& place) : place_(place), record_(Number(place)) {
     place.Screen.SetCaption("Saving File, Please Wait....");
 }
 
 void NumberedPainting::WriteSheet(const Target& target) const {
-    WorkState& state = place_.State;
+    const WorkState& state = place_.State;
     const OneBased<Color> inks(state.PaintCount, state.SymbolColor);
     WriteDrawing(target, state, record_, {.Ground = nullptr, .Inks = inks});
 }

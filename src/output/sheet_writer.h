@@ -1,6 +1,5 @@
 #pragma once
 
-#include "output/cell_numbering.h"
 #include "output/sheet_record.h"
 #include "shell/workplace.h"
 #include "support/target.h"
@@ -19,12 +18,11 @@ class NumberedPainting {
     /// The same on the enlarged painting, in black or white. Throws FileError, OverflowError.
     void WriteReference(const Target& target) const;
 
-    [[nodiscard]] const NumberingCounts& Counts() const { return counts_; }
+    [[nodiscard]] const NumberingCounts& Counts() const { return record_.Counts; }
 
   private:
     const Workplace& place_;
     SheetRecord record_;
-    NumberingCounts counts_;
 };
 
 }  // namespace vendrel

@@ -105,10 +105,10 @@ int OnSheet(int cellSize, int position, int offset) {
     return at;
 }
 
-void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, CellPos at) {
-    for (const GlyphPoint& point : InkOf(state, symbol)) {
-        state.SheetDC.Set(OnSheet(cellSize, at.X, point.X), OnSheet(cellSize, at.Y, point.Y),
-                          color);
+void Number2CDIB(const DibView& SheetDC, std::span<const GlyphPoint> ink, int cellSize, Color color,
+                 CellPos at) {
+    for (const GlyphPoint& point : ink) {
+        SheetDC.Set(OnSheet(cellSize, at.X, point.X), OnSheet(cellSize, at.Y, point.Y), color);
     }
 }
 

@@ -6,7 +6,9 @@
 
 #include "shell/work_state.h"
 #include "shell/workplace.h"
+#include "support/cell_pos.h"
 #include "support/color.h"
+#include "support/dib_view.h"
 
 namespace vendrel {
 
@@ -31,10 +33,11 @@ void SetupBMPSymbols(const Workplace& place);
 /// cellSize * position + offset, in sheet pixels. Throws OverflowError beyond 16 bits.
 [[nodiscard]] int OnSheet(int cellSize, int position, int offset);
 
-/// Stamps a symbol's pixels onto SheetDC, its origin at sheet pixel (cellSize * column,
-/// cellSize * row); pixels outside are not drawn. Throws Error for a symbol outside 0..50 and
-/// OverflowError for a sheet position beyond 16 bits.
-void Number2CDIB(const WorkState& state, int symbol, int cellSize, Color color, CellPos at);
+/// Stamps a symbol's ink onto SheetDC, its origin at sheet pixel (cellSize * column,
+/// cellSize * row); pixels outside are not drawn. Throws OverflowError for a sheet position beyond
+/// 16 bits.
+void Number2CDIB(const DibView& SheetDC, std::span<const GlyphPoint> ink, int cellSize, Color color,
+                 CellPos at);
 
 /// A plain drawing area with a font: what making the glyphs needs.
 class Canvas {

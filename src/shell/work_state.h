@@ -10,7 +10,6 @@
 #include "shell/work_settings.h"
 #include "support/cell_queue.h"
 #include "support/color.h"
-#include "support/dib_view.h"
 #include "support/grid.h"
 #include "support/held_file.h"
 
@@ -84,11 +83,9 @@ struct WorkState : WorkSettings {
     Grid<NumberPixel> NumberGrid;
     Grid<NumberMark> NumberMarks;
 
-    // Symbols and the sheet.
+    // Symbols.
     OneBased<std::int16_t> SymbolCodes;
     OneBased<SymbolGlyph> SymbolGlyphs;
-    DibView SheetDC;
-    int SheetCellSize = 2;  // sheet pixels per photo pixel
 };
 
 }  // namespace vendrel

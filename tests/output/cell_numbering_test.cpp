@@ -12,16 +12,6 @@
 namespace vendrel {
 namespace {
 
-// What a sink was told: the paint, 0 for a dot, and where.
-using Mark = std::pair<int, CellPos>;
-
-class MarkList : public NumberSink {
-  public:
-    void Dot(CellPos at) override { Marks.emplace_back(0, at); }
-    void Stamp(int paint, CellPos at) override { Marks.emplace_back(paint, at); }
-    std::vector<Mark> Marks;
-};
-
 // An easel whose picture tests paint pixel by pixel.
 struct Painted : test::Easel {
     Painted(int size, int across, int down, int paints) : Easel(size, across, down) {
@@ -30,7 +20,6 @@ struct Painted : test::Easel {
         SetPalette(State, palette);
     }
     Surface& Picture() { return Frames.WorkFrame.Picture; }
-    NumberingCounts Number(NumberSink& sink) { return SetupCellNumbers(Place, Picture(), sink); }
 };
 
 // The numbering as it would be done by hand: a plain list for the queue, searched from its front,
@@ -44,7 +33,8 @@ class ByHand {
           height_(painted.Picture().Height()),
           Picture(painted.Picture()),
           Areas(width_, height_),
-          Borders(width_, height_) {
+          Borders(width_, height_),
+          Dots(width_, height_) {
         for (int k = 1; k <= state_.PaintCount; ++k) {
             for (int y = 1; y <= height_; ++y) {
                 for (int x = 1; x <= width_; ++x) {
@@ -73,13 +63,13 @@ class ByHand {
             if (x > width_ || y > height_) {
                 // nothing lies there
             } else if (state_.PixelMap(x, y).ColorIndex != k || x == 0 || y == 0) {
-                Marks.emplace_back(0, CellPos{x, y});
+                Dots(x, y) = static_cast<int>(Symbols.size()) + 1;
                 Picture.Set(x, y, state_.EdgeColor);
                 Borders(x, y) = Next;
             } else if (Areas(x, y) == 0) {
                 Claim({x, y}, k);
                 if (counter == 0 && x < width_ && y < height_) {
-                    Marks.emplace_back(k, FindNearestStipple(state_, {}, {x, y}));
+                    Symbols.push_back({k, FindNearestStipple(state_, {}, {x, y})});
                 }
                 counter = (counter + 1) % period;
                 Add(y - 1 > 0, {x, y - 1});
@@ -107,20 +97,27 @@ class ByHand {
     Surface Picture;
     Grid<int> Areas;
     Grid<int> Borders;
-    std::vector<Mark> Marks;
+    Grid<int> Dots;  // one more than the symbols before
+    std::vector<SheetRecord::Symbol> Symbols;
     int Next = 1;
 };
 
 void ExpectSameAsByHand(Painted& painted) {
     const ByHand expected(painted);
     WorkState& state = painted.State;
-    MarkList sink;
-    const NumberingCounts counts = painted.Number(sink);
-    ASSERT_EQ(sink.Marks, expected.Marks);
+    const SheetRecord record = SetupCellNumbers(painted.Place, &painted.Picture());
+    ASSERT_THAT(record.Symbols(), testing::ElementsAreArray(expected.Symbols));
+    int dots = 0;
+    for (int y = 0; y < record.Height(); ++y) {
+        const auto row = expected.Dots.Row(y).First(record.Width());
+        ASSERT_THAT(record.Dots(y), testing::ElementsAreArray(row)) << y;
+        dots += record.Width() - static_cast<int>(std::ranges::count(row, 0));
+    }
     EXPECT_EQ(painted.Picture(), expected.Picture);
     EXPECT_EQ(state.NextAreaNumber, expected.Next);
-    EXPECT_EQ(counts.Areas, expected.Next - 1);
-    EXPECT_LE(counts.Symbols + counts.BorderDots, static_cast<int>(sink.Marks.size()));
+    EXPECT_EQ(record.Counts.Areas, expected.Next - 1);
+    EXPECT_EQ(record.Counts.Symbols, static_cast<int>(expected.Symbols.size()));
+    EXPECT_EQ(record.Counts.BorderDots, dots);
     for (int y = 0; y <= state.NumberHeight; ++y) {
         for (int x = 0; x <= state.NumberWidth; ++x) {
             EXPECT_EQ(state.NumberMarks(x, y).AreaNumber, expected.Areas(x, y));
@@ -159,23 +156,20 @@ TEST(CellNumbering, StampsAgainEveryPeriodOfTheWalk) {
             pixel.ColorIndex = 2;
         }
         ExpectSameAsByHand(painted);
-        MarkList sink;
-        const NumberingCounts counts = painted.Number(sink);
+        const NumberingCounts counts = SetupCellNumbers(painted.Place, nullptr).Counts;
         EXPECT_EQ(counts.Symbols, symbols);
         EXPECT_EQ(counts.SymbolsAstray, symbols);  // no stipple has paint 2
     }
 }
 
-TEST(CellNumbering, DrawsNothingForAnotherPicture) {
+TEST(CellNumbering, RecolorsNoPictureButTheOneGiven) {
     Painted painted(8, 1, 1, 2);
     for (const CellPos at : {CellPos{1, 1}, {2, 1}, {3, 1}, {1, 2}, {2, 2}, {3, 2}}) {
         painted.State.PixelMap(at.X, at.Y).ColorIndex = 2;
     }
     Surface other(8, 8, kWhite);
-    MarkList sink;
-    const NumberingCounts counts = SetupCellNumbers(painted.Place, other, sink);
-    EXPECT_TRUE(sink.Marks.empty());
-    EXPECT_EQ(counts.Symbols + counts.BorderDots, 0);
+    EXPECT_EQ(SetupCellNumbers(painted.Place, &other).Counts.Areas, 1);
+    EXPECT_EQ(painted.Picture(), Surface(8, 8, kWhite));
     EXPECT_EQ(other.Get(1, 1), painted.Paint(2));
     EXPECT_EQ(other.Get(1, 3), painted.State.EdgeColor);
     EXPECT_EQ(painted.State.NumberGrid(2, 3).XTwips, 30);
@@ -186,18 +180,17 @@ TEST(CellNumbering, DrawsNothingForAnotherPicture) {
 
 TEST(CellNumbering, RefusesWhatASheetCannotHold) {
     Painted many(8, 1, 1, 51);
-    EXPECT_THROW(SetupCellNumbers(many.Place, many.Picture()), Error);
+    EXPECT_THROW((void)SetupCellNumbers(many.Place, nullptr), Error);
     Painted bare(8, 1, 1, 1);
     bare.State.PixelMap = {};
-    EXPECT_THROW(SetupCellNumbers(bare.Place, bare.Picture()), Error);
+    EXPECT_THROW((void)SetupCellNumbers(bare.Place, nullptr), Error);
     Painted specks(4, 100, 100, 2);
     for (int y = 1; y <= 400; ++y) {
         for (int x = 1; x <= 400; ++x) {
             specks.State.PixelMap(x, y).ColorIndex = 1 + (x + y) % 2;
         }
     }
-    MarkList sink;
-    EXPECT_THROW(specks.Number(sink), OverflowError);
+    EXPECT_THROW((void)SetupCellNumbers(specks.Place, nullptr), OverflowError);
 }
 
 TEST(NearestStipple, IsTheLastOfTheNearestInRowOrder) {

@@ -65,20 +65,22 @@ TEST(SymbolSet, StampsWithTheShiftAndCutsAtTheSheet) {
     bench.Files.Write("Data/Symbols.txt", OnePixelSymbols());
     SetupBMPSymbols(bench.Place);
     std::array<std::uint8_t, 24 * 12> bits{};
-    WorkState& state = bench.State;
-    state.SheetDC = DibView(bits.data(), 8, 12, 24);
-    Number2CDIB(state, 2, 4, kWhite, {1, 2});  // canvas (2, 4): on the corner itself
-    EXPECT_EQ(state.SheetDC.Get(4, 8), kWhite);
-    Number2CDIB(state, 1, 4, kWhite, {1, 2});  // canvas (1, 2): left of and above the corner
-    EXPECT_EQ(state.SheetDC.Get(3, 6), kWhite);
+    const DibView sheet(bits.data(), 8, 12, 24);
+    const auto stamp = [&](int symbol, CellPos at) {
+        Number2CDIB(sheet, InkOf(bench.State, symbol), 4, kWhite, at);
+    };
+    stamp(2, {1, 2});  // canvas (2, 4): on the corner itself
+    EXPECT_EQ(sheet.Get(4, 8), kWhite);
+    stamp(1, {1, 2});  // canvas (1, 2): left of and above the corner
+    EXPECT_EQ(sheet.Get(3, 6), kWhite);
     bits = {};
-    Number2CDIB(state, 1, 4, kWhite, {0, 0});
-    Number2CDIB(state, 50, 4, kWhite, {0, 0});
-    Number2CDIB(state, 0, 4, kWhite, {0, 0});
+    for (const int symbol : {1, 50, 0}) {
+        stamp(symbol, {0, 0});
+    }
     EXPECT_THAT(bits, testing::Each(0));
-    EXPECT_THROW(Number2CDIB(state, 51, 4, kWhite, {0, 0}), Error);
-    EXPECT_THROW(Number2CDIB(state, -1, 4, kWhite, {0, 0}), Error);
-    EXPECT_THROW(Number2CDIB(state, 1, 4, kWhite, {0, 8193}), OverflowError);
+    EXPECT_THROW(stamp(51, {0, 0}), Error);
+    EXPECT_THROW(stamp(-1, {0, 0}), Error);
+    EXPECT_THROW(stamp(1, {0, 8193}), OverflowError);
 }
 
 TEST(SymbolSet, NamesFileAndLineOfBrokenGlyphs) {
