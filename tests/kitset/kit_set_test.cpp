@@ -183,8 +183,7 @@ TEST(KitSet, WaitsForAnotherThatIsWritten) {
         SettleKits(kit.Program);  // leaves what somebody writes alone
         kit.Screen.StopAfterYields = 1;
         EXPECT_THROW(kit.Save("TWO", {Sheet}), Stop);
-        EXPECT_EQ(kit.Screen.Captions.back(),
-                  "Waiting for another Vendrel that writes Lady Easy");
+        EXPECT_EQ(kit.Screen.Captions.back(), "Waiting for another Vendrel that writes Lady Easy");
         EXPECT_THAT(first.Commit(), IsEmpty());
     }
     EXPECT_EQ(kit.Text(Sheet), "ONE");
