@@ -209,7 +209,8 @@ TEST_F(BitmapReader, SurvivesAnyDamage) {
         for (std::size_t i = 0; i < 60; ++i) {
             std::string damaged = whole;
             damaged[random() % damaged.size()] = static_cast<char>(random());
-            damaged[14 + random() % 40] = static_cast<char>(random());
+            damaged[14 + random() % std::min<std::size_t>(40, damaged.size() - 14)] =
+                static_cast<char>(random());
             damaged.resize(i % 3 == 0 ? random() % damaged.size() : damaged.size());
             try {
                 (void)ReadBitmap(folder_.Write("damaged.bmp", damaged));
