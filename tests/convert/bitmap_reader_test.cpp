@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <random>
 
 #include "convert/bmp_bytes.h"
