@@ -22,7 +22,6 @@
 #include "eye/mean_difference.h"
 #include "eye/palette_by_eye.h"
 #include "eye/seen_table.h"
-#include "forms/start_up.h"
 #include "kit/kit_settings.h"
 #include "kit/terminal_ui.h"
 #include "paintable/area_figures.h"
@@ -31,6 +30,7 @@
 #include "paints/paint_sets.h"
 #include "paints/restore.h"
 #include "shell/palette.h"
+#include "startup/start_up.h"
 
 namespace vendrel::bench {
 namespace {
