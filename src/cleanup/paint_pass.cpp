@@ -7,6 +7,7 @@
 
 #include "cleanup/cell_marking.h"
 #include "cleanup/cells_by_paint.h"
+#include "cleanup/join_corners.h"
 #include "cleanup/neighbour_bounds.h"
 #include "cleanup/painting_order.h"
 #include "cleanup/pass_progress.h"
@@ -172,6 +173,7 @@ void CleanCorners(const Workplace& place) {
 
 // What an earlier pass recorded must not show through in this one.
 void EmptyPixelMap(WorkState& state) {
+    state.PrintPaints = {};
     std::ranges::fill(state.PixelMap.All(), MapPixel{});
 }
 
@@ -191,6 +193,9 @@ void PaintAllCells(const Workplace& place) {
     RedrawAllLoners(place, cells, BrushShape::Rounded);
     CleanCorners(place);
     FixSmallSpots(place);
+    if (place.State.PaintableKit) {
+        JoinCorners(place);
+    }
     place.Screen.RefreshWorkFrame();
     place.MainMenu[PrintMenu].Enabled = true;
     place.MainMenu[PrintAll].Enabled = true;

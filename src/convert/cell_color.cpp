@@ -38,4 +38,16 @@ Channels AverageColor(const Surface& photo, int left, int top, int size) {
     return {average(redBlue & 0xFFFF), average(green), average(redBlue >> 16)};
 }
 
+std::vector<Color> StippleColors(const Surface& photo, CellPos grid, int size, Sampling method) {
+    std::vector<Color> colors;
+    colors.reserve(static_cast<std::size_t>(grid.X) * static_cast<std::size_t>(grid.Y));
+    for (int j = 0; j < grid.Y; ++j) {
+        for (int i = 0; i < grid.X; ++i) {
+            const Channels c = StippleColor(photo, {1 + i * size, 1 + j * size}, size, method);
+            colors.push_back(Rgb(c.Red, c.Green, c.Blue));
+        }
+    }
+    return colors;
+}
+
 }  // namespace vendrel

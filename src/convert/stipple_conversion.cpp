@@ -1,9 +1,13 @@
 #include "convert/stipple_conversion.h"
 
+#include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "convert/cell_color.h"
+#include "convert/match_by_eye.h"
+#include "convert/paintable_stipples.h"
 #include "convert/photo_import.h"
 #include "drawing/stipple_brush.h"
 #include "paints/color_match.h"
@@ -75,15 +79,13 @@ void FillBlock(Workplace& place, const StippleCell& cell) {
 void ConvertRow(Workplace& place, FoundPaints& found, int j) {
     WorkState& state = place.State;
     const Surface& photo = place.Frames.WorkFrame.Picture;
-    const bool sampling = state.Chosen.Sample == Sampling::Pixel;
     const bool watched = place.Screen.Watched();
     const int size = state.StippleSize;
     const int half = state.HalfStipple;
     const int top = 1 + (j - 1) * size;
     for (int i = 1; i <= state.CellsAcross; ++i) {
         const int left = 1 + (i - 1) * size;
-        const Channels color = sampling ? PixelColor(photo, left + half, top + half)
-                                        : AverageColor(photo, left, top, size);
+        const Channels color = StippleColor(photo, {left, top}, size, state.Chosen.Sample);
         StippleCell& cell = state.Stipples(i, j);
         cell.ColorIndex = found.Match(color);
         cell.X = left + half;
@@ -128,13 +130,8 @@ int Convert(Workplace& place) {
     return matched;
 }
 
-}  // namespace
-
-int ApplyStipples(Workplace& place) {
+int ApplyPlainly(Workplace& place) {
     WorkState& state = place.State;
-    CheckPaints(place);
-    place.Screen.SetCaption("Getting Colors");
-    SizeGrid(place);
     FoundPaints found(place);
     for (int j = 1; j <= state.CellsDown; ++j) {
         ConvertRow(place, found, j);
@@ -146,6 +143,56 @@ int ApplyStipples(Workplace& place) {
     SetFoundColors(state, {});
     if (!state.KeepAllColors) {
         ReduceColors(place, state.FinalColors);
+    }
+    return matched;
+}
+
+void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
+    WorkState& state = place.State;
+    for (int i = 1; i <= state.CellsAcross; ++i) {
+        StippleCell& cell = state.Stipples(i, j);
+        cell.ColorIndex = paints[static_cast<std::size_t>(i - 1)];
+        cell.X = 1 + (i - 1) * state.StippleSize + state.HalfStipple;
+        cell.Y = 1 + (j - 1) * state.StippleSize + state.HalfStipple;
+        FillBlock(place, cell);
+        if (place.Screen.Watched()) {
+            DrawTempStipple(place, cell.X, cell.Y, cell.ColorIndex);
+        }
+    }
+}
+
+// Which paints suit a photo shows only in all its stipples together: they are matched first and
+// shown afterwards.
+int ApplyByEye(Workplace& place) {
+    WorkState& state = place.State;
+    const std::vector<Color> stipples =
+        StippleColors(place.Frames.WorkFrame.Picture, {state.CellsAcross, state.CellsDown},
+                      state.StippleSize, state.Chosen.Sample);
+    EyeMatch match = MatchByEye(stipples, state.PaintColors,
+                                state.KeepAllColors ? state.PaintCount : state.FinalColors);
+    SetPalette(state, std::move(match.Palette));
+    const auto across = static_cast<std::size_t>(state.CellsAcross);
+    for (int j = 1; j <= state.CellsDown; ++j) {
+        PlaceRow(place,
+                 std::span(match.Paints).subspan(static_cast<std::size_t>(j - 1) * across, across),
+                 j);
+        EndRow(place, j);
+    }
+    state.StipplesMade = true;
+    return match.Considered;
+}
+
+}  // namespace
+
+int ApplyStipples(Workplace& place) {
+    WorkState& state = place.State;
+    CheckPaints(place);
+    place.Screen.SetCaption("Getting Colors");
+    SizeGrid(place);
+    const int matched =
+        state.Chosen.Match == Matching::ByEye ? ApplyByEye(place) : ApplyPlainly(place);
+    if (state.Chosen.Paintable) {
+        MakeStipplesPaintable(place);
     }
     return matched;
 }

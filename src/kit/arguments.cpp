@@ -6,6 +6,7 @@
 #include <charconv>
 #include <utility>
 
+#include "convert/picture_name.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 
@@ -73,6 +74,8 @@ constexpr auto kPaintCounts =
     std::to_array<Choice<int>>({{"16", 16}, {"32", 32}, {"40", 40}, {"50", 50}});
 constexpr auto kSampleMethods =
     std::to_array<Choice<Sampling>>({{"average", Sampling::Average}, {"pixel", Sampling::Pixel}});
+constexpr auto kMatchings =
+    std::to_array<Choice<Matching>>({{"plain", Matching::Plain}, {"eye", Matching::ByEye}});
 constexpr auto kPapers =
     std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
 constexpr auto kCropParts =
@@ -146,21 +149,32 @@ KitOutputs ToOutputs(const std::string& option, const std::string& value) {
     return outputs;
 }
 
+// A number within its range, the unit behind it or not.
+struct Measure {
+    std::string_view Unit;
+    double Least;
+    double Most;
+    std::string_view Sentence;  // what may be chosen
+};
+
+double ToNumber(const std::string& option, std::string_view value, const Measure& measure) {
+    const std::string_view number =
+        value.ends_with(measure.Unit) ? value.substr(0, value.size() - measure.Unit.size()) : value;
+    double result = 0;
+    const auto [end, failure] =
+        std::from_chars(number.data(), number.data() + number.size(), result);
+    if (failure != std::errc() || end != number.data() + number.size() ||
+        !(result >= measure.Least && result <= measure.Most)) {
+        RefuseValue(option, value, measure.Sentence);
+    }
+    return result;
+}
+
 // "60cm" or "60.5", within what can be painted; "auto" is 0.
 double ToCanvasCm(const std::string& option, std::string_view value) {
-    if (value == "auto") {
-        return 0;
-    }
-    const std::string_view number =
-        value.ends_with("cm") ? value.substr(0, value.size() - 2) : value;
-    double width = 0;
-    const auto [end, failure] =
-        std::from_chars(number.data(), number.data() + number.size(), width);
-    if (failure != std::errc() || end != number.data() + number.size() ||
-        !(width >= kSmallestCanvasCm && width <= kLargestCanvasCm)) {
-        RefuseValue(option, value, "a width from 10cm to 300cm, or auto");
-    }
-    return width;
+    constexpr Measure kWidth{"cm", kSmallestCanvasCm, kLargestCanvasCm,
+                             "a width from 10cm to 300cm, or auto"};
+    return value == "auto" ? 0 : ToNumber(option, value, kWidth);
 }
 
 struct OptionText {
@@ -235,6 +249,44 @@ void AddPictureOptions(CLI::App& app, KitOptions& kit) {
              });
 }
 
+// An option that makes kits paintable; its value is a number that goes to `target`.
+template <typename Number>
+void AddLimit(CLI::App& app, const OptionText& text, const Measure& measure, KitOptions& kit,
+              Number& target) {
+    AddValue(app, text,
+             [&kit, &target, measure](const std::string& option, const std::string& value) {
+                 kit.Chosen.Paintable = true;
+                 target = static_cast<Number>(ToNumber(option, value, measure));
+             });
+}
+
+void AddPaintableOptions(CLI::App& app, KitOptions& kit) {
+    app.add_flag_callback(
+           "--paintable",
+           [&kit] {
+               kit.Chosen.Paintable = true;
+               kit.MatchByEye = true;
+           },
+           "makes kits that a brush can paint: matched by eye, no\narea below the limits; the four "
+           "options below and\n--canvas change what that means")
+        ->disable_flag_override();
+    AddValue(app, {"--match", "WAY", "matches paints plain (default) or by eye"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Match = Chosen(option, value, kMatchings);
+             });
+    AddLimit(app, {"--smallest", "MM2", "no area below this (25 square millimeters)"},
+             {"mm2", 0, 10000, "square millimeters from 0 to 10000, as in 25"}, kit,
+             kit.Chosen.Limits.SmallestMm2);
+    AddLimit(app, {"--narrowest", "MM", "a disc this wide fits into every area (2 millimeters)"},
+             {"mm", 0, 100, "millimeters from 0 to 100, as in 2"}, kit,
+             kit.Chosen.Limits.NarrowestMm);
+    AddLimit(app,
+             {"--detail", "N",
+              "0 to 100 (50): the more, the more small areas grow\n"
+              "instead of joining a neighbor"},
+             {"", 0, kMostDetail, "a whole number from 0 to 100"}, kit, kit.Chosen.Detail);
+}
+
 void AddOutputOptions(CLI::App& app, KitOptions& kit) {
     AddValue(app,
              {"--outputs", "LIST",
@@ -247,11 +299,13 @@ void AddOutputOptions(CLI::App& app, KitOptions& kit) {
               kit.Plan.Sheet);
     AddValue(app,
              {"--canvas", "WIDTHcm",
-              "prints the pdf for a canvas this wide, as in 60cm;\n"
-              "auto (default) fills the pages that legible\nsymbols need"},
+              "makes the kit for a canvas this wide, as in 60cm; with\n"
+              "auto (default) limits and figures hold for 40cm, and\nthe pdf of a plain kit "
+              "fills the pages that legible\nsymbols need"},
              [&kit](const std::string& option, const std::string& value) {
-                 kit.Plan.CanvasCm = ToCanvasCm(option, value);
+                 kit.Chosen.CanvasCm = ToCanvasCm(option, value);
              });
+    AddText(app, {"--title", "NAME", "names the files in place of the photo's name"}, kit.Title);
 }
 
 void AddRunOptions(CLI::App& app, KitOptions& kit) {
@@ -259,6 +313,7 @@ void AddRunOptions(CLI::App& app, KitOptions& kit) {
               kit.FromGrid);
     AddSwitch(app, {"--replace-grid", "", "writes over a saved grid that differs"},
               kit.ReplaceGrid);
+    AddSwitch(app, {"--figures", "", "compares the painting with the photo"}, kit.Figures);
     AddSwitch(app, {"--json", "", "prints one JSON object per photo"}, kit.Json);
     AddSwitch(app, {"--quiet", "", "prints nothing but errors"}, kit.Quiet);
 }
@@ -266,6 +321,7 @@ void AddRunOptions(CLI::App& app, KitOptions& kit) {
 void AddKit(CLI::App& app, KitOptions& kit) {
     AddPaintOptions(app, kit);
     AddPictureOptions(app, kit);
+    AddPaintableOptions(app, kit);
     AddOutputOptions(app, kit);
     AddRunOptions(app, kit);
     app.add_option("PHOTO", kit.Photos);
@@ -341,6 +397,20 @@ bool AsksForHelp(CLI::App& app, std::span<const std::string_view> words, const s
     return false;
 }
 
+// What holds whatever the order of the options.
+void SettleKit(KitOptions& kit) {
+    kit.Chosen.Match = kit.Match.value_or(kit.MatchByEye ? Matching::ByEye : Matching::Plain);
+    const bool plain = kit.Chosen.Match == Matching::Plain && !kit.Chosen.Paintable;
+    kit.Plan.CanvasCm = plain || kit.Chosen.CanvasCm > 0 ? kit.Chosen.CanvasCm : kUsualCanvasCm;
+    if (!kit.Title.empty() && kit.Photos.size() > 1) {
+        throw UsageError("--title names one kit. Name one photo with it.");
+    }
+    if (!kit.Title.empty() && !MayNameKit(kit.Title)) {
+        throw UsageError("--title cannot be \"" + kit.Title +
+                         "\"; choose a name without slashes, dots and control characters.");
+    }
+}
+
 Arguments ParseKit(std::span<const std::string_view> words) {
     Arguments arguments{Command::Kit, {}, {}};
     KitOptions& kit = arguments.Kit;
@@ -352,6 +422,7 @@ Arguments ParseKit(std::span<const std::string_view> words) {
     if (kit.Photos.empty()) {
         throw UsageError("Name at least one photo, as in \"vendrel kit PBNLady.bmp\".");
     }
+    SettleKit(kit);
     if (kit.Template && !kit.Sets.empty()) {
         throw UsageError("Choose paints by --sets or by --template, not by both.");
     }

@@ -26,14 +26,18 @@ struct KitOptions {
     std::vector<std::string> Photos;
     std::filesystem::path Folder = ".";
     Settings Chosen;
+    std::optional<Matching> Match;  // asked for by name
+    bool MatchByEye = false;        // unless asked for otherwise
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
+    std::string Title;  // names the files in place of the photo's name
     CropPart Crop = CropPart::Whole;
     ScreenSize Screen = ScreenSize::FromPixels(1920, 1080);
     KitOutputs Outputs;
-    PlanSettings Plan;  // of the PDF
+    PlanSettings Plan;  // of the PDF; its canvas is that of the settings where they need one
     bool ReplaceGrid = false;
     bool FromGrid = false;
+    bool Figures = false;  // compared with the photo, which takes a while
     bool Json = false;
     bool Quiet = false;
 };

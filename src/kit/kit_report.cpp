@@ -55,6 +55,21 @@ Json JsonOf(const NumberingCounts& counts) {
             {"borderDots", counts.BorderDots}};
 }
 
+Json JsonOf(const KitFigures& figures) {
+    Json bySize = Json::object();
+    for (std::size_t i = 0; i < kAreaClassesMm2.size(); ++i) {
+        bySize["below" + Decimals(kAreaClassesMm2[i], 0)] = figures.BySize[i];
+    }
+    bySize["larger"] = figures.BySize.back();
+    return {{"canvasCm", figures.CanvasCm},
+            {"areas", figures.Areas},
+            {"areasByMm2", bySize},
+            {"belowLimits", figures.BelowLimits},
+            {"smallestMm2", figures.SmallestMm2},
+            {"narrowestMm", figures.NarrowestMm},
+            {"hours", figures.Hours}};
+}
+
 Json JsonOf(const KitReport& report) {
     Json json = {{"photo", report.Photo},
                  {"picture", report.Picture},
@@ -71,6 +86,13 @@ Json JsonOf(const KitReport& report) {
     json["paints"]["kept"] = report.PaintsKept;
     json["areas"] = report.Areas;
     json["loners"] = report.Loners;
+    json["match"] = report.Matched;
+    json["paintable"] = report.Paintable;
+    json["figures"] = JsonOf(report.Figures);
+    if (report.Seen) {
+        json["figures"]["meanDifference"] = report.Seen->Pixels;
+        json["figures"]["meanDifferenceAtArmsLength"] = report.Seen->AtArmsLength;
+    }
     if (report.Numbering) {
         json["numbering"] = JsonOf(*report.Numbering);
     }
@@ -109,6 +131,33 @@ std::string LineOf(const Json& json) {
     return json.is_object() ? "{" + members + "}" : "[" + members + "]";
 }
 
+// "12 below 9, 40 below 25, 300 below 100, 20 below 400, 5 larger"
+std::string ClassesLine(const KitFigures& figures) {
+    std::string line;
+    for (std::size_t i = 0; i < kAreaClassesMm2.size(); ++i) {
+        line +=
+            std::to_string(figures.BySize[i]) + " below " + Decimals(kAreaClassesMm2[i], 0) + ", ";
+    }
+    return line + std::to_string(figures.BySize.back()) + " larger";
+}
+
+void AddFigures(std::string& text, const KitReport& report) {
+    const KitFigures& figures = report.Figures;
+    AddLine(text, "on a canvas",
+            Decimals(figures.CanvasCm, 0) + " cm wide: " + std::to_string(figures.Areas) +
+                " areas, about " + Decimals(figures.Hours, 0) + " hours of painting");
+    AddLine(text, "by mm2", ClassesLine(figures));
+    AddLine(text, "smallest",
+            OneDecimal(figures.SmallestMm2) + " mm2, narrowest " + OneDecimal(figures.NarrowestMm) +
+                " mm");
+    if (report.Seen) {
+        AddLine(text, "seen",
+                "differs from the photo by " + Decimals(report.Seen->Pixels, 2) +
+                    " (mean CIEDE2000), " + Decimals(report.Seen->AtArmsLength, 2) +
+                    " at arm's length");
+    }
+}
+
 }  // namespace
 
 std::string SummaryOf(const KitReport& report) {
@@ -125,6 +174,7 @@ std::string SummaryOf(const KitReport& report) {
                 std::to_string(report.PaintsKept) + " kept");
     AddLine(text, "areas",
             std::to_string(report.Areas) + ", and " + std::to_string(report.Loners) + " loners");
+    AddFigures(text, report);
     if (report.Numbering) {
         const NumberingCounts& n = *report.Numbering;
         AddLine(text, "numbered",

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "convert/bitmap_header.h"
+#include "output/kit_figures.h"
 #include "output/sheet_record.h"
 
 namespace vendrel {
@@ -26,6 +27,10 @@ struct KitReport {
     int PaintsKept = 0;
     int Areas = 0;
     int Loners = 0;
+    bool Paintable = false;
+    std::string Matched;  // plain or eye
+    KitFigures Figures;
+    std::optional<SeenFigures> Seen;                           // when asked for
     std::optional<NumberingCounts> Numbering;                  // when a sheet was made
     std::vector<std::pair<std::string, double>> Milliseconds;  // per step, in order
     std::vector<std::pair<std::string, std::string>> Files;    // output name and path

@@ -95,6 +95,30 @@ int CountLoners(const WorkState& state) {
     return loners;
 }
 
+// Measured while painting: it costs little beside it, and nobody paints 5,000 areas.
+void FillBrushFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
+    constexpr double kTooMany = 1.0 / 3;
+    report.Matched = place.State.Chosen.Match == Matching::ByEye ? "eye" : "plain";
+    report.Paintable = place.State.PaintableKit;
+    if (options.Quiet && !options.Json) {
+        return;  // nobody reads them
+    }
+    report.Figures = MeasureKit(place);
+    if (report.Paintable) {
+        report.Areas = report.Figures.Areas;
+    }
+    if (options.Json || options.Figures) {
+        report.Seen = CompareWithPhoto(place);
+    }
+    if (report.Figures.BelowLimits > kTooMany * report.Figures.Areas) {
+        report.Notes.push_back(
+            std::to_string(report.Figures.BelowLimits) + " of " +
+            std::to_string(report.Figures.Areas) +
+            " areas are smaller or narrower than a brush paints well at this width; --paintable "
+            "makes a kit without them.");
+    }
+}
+
 void FillFigures(const Workplace& place, KitReport& report) {
     const WorkState& state = place.State;
     const TwipsPerPixel twips = place.Screen.Screen().Twips;
@@ -133,13 +157,18 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     std::string picture;
     Timed(report, "photo", [&] { picture = photos.TakeIn(place, options, photo); });
     Timed(report, "import", [&] { ImportPhoto(place, photo, picture); });
+    if (!options.Title.empty()) {
+        place.State.PictureName = options.Title;
+    }
     if (options.FromGrid) {
         Timed(report, "load", [&] { TakeSavedGrid(place); });
+        place.State.PaintableKit = options.Chosen.Paintable;
     } else {
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
     }
     Timed(report, "paint", [&] { PaintItNow_Click(place); });
     FillFigures(place, report);
+    Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
     WriteOutputs(place, options, exporter, report);
     return report;
 }

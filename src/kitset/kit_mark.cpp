@@ -45,6 +45,11 @@ std::string BytesOf(const WorkState& state, std::string_view difficulty) {
             AppendNumber(bytes, cell.Y);
         }
     }
+    if (state.PaintableKit) {
+        AppendText(bytes, "paintable " + std::to_string(state.Chosen.Limits.SmallestMm2) + " " +
+                              std::to_string(state.Chosen.Limits.NarrowestMm) + " " +
+                              std::to_string(state.Chosen.CanvasCm));
+    }
     return bytes;
 }
 

@@ -29,6 +29,9 @@ AreaFigures MeasureAreas(const ValueGrid& paints, PrintScale scale) {
     const std::vector<InscribedDisc> discs = FindLargestDiscs(regions);
     AreaFigures figures;
     for (int id = 0; id < regions.Count(); ++id) {
+        if (regions[id].Value == 0) {
+            continue;
+        }
         const AreaFigures::Area area{scale.Mm2(regions[id].Size),
                                      scale.Mm(2 * discs[static_cast<std::size_t>(id)].Radius)};
         const bool isFirst = figures.Areas.empty();

@@ -24,7 +24,7 @@ struct AreaFigures {
     [[nodiscard]] int CountBelow(const PaintLimits& limits) const;
 };
 
-/// `paints`: one per pixel.
+/// `paints`: one per pixel, 0 for none; those make no area.
 [[nodiscard]] AreaFigures MeasureAreas(const ValueGrid& paints, PrintScale scale);
 
 }  // namespace vendrel

@@ -13,10 +13,6 @@ PixelLimits LimitsInPixels(const PaintLimits& limits, PrintScale scale) {
             scale.Pixels(limits.NarrowestMm)};
 }
 
-PaintLimits ThirdOf(const PaintLimits& limits) {
-    return {limits.SmallestMm2 / 3, limits.NarrowestMm / 3};
-}
-
 int StippleAt(int pixel, int stippleSize, int count) {
     return std::clamp((pixel - 1) / stippleSize, 0, count - 1);
 }

@@ -2,26 +2,18 @@
 
 #include <vector>
 
+#include "shell/paint_limits.h"
 #include "support/print_scale.h"
 
 namespace vendrel {
 
-/// What a brush can still paint.
-struct PaintLimits {
-    double SmallestMm2 = 25;  // no area is smaller
-    double NarrowestMm = 2;   // every area holds a disc of this diameter
-};
-
-/// The same on a painting.
+/// PaintLimits on a painting.
 struct PixelLimits {
     int Smallest = 0;      // pixels
     double Narrowest = 0;  // pixels
 };
 
 [[nodiscard]] PixelLimits LimitsInPixels(const PaintLimits& limits, PrintScale scale);
-
-/// What holds for areas with protected stipples: a third of both.
-[[nodiscard]] PaintLimits ThirdOf(const PaintLimits& limits);
 
 /// How many pixels of the painting belong to each column and row of stipples. Pixel row and column
 /// 0 lie before the first stipple and count with it, so the last one is short.

@@ -18,6 +18,9 @@ PixelGrid PaintPerPixel(const WorkState& state, int width, int height) {
         state.CellsAcross < 1 || state.CellsDown < 1) {
         throw Error("The picture is not painted yet. Paint it before its plan is printed.");
     }
+    if (state.PrintPaints.Across() == width - 1 && state.PrintPaints.Down() == height - 1) {
+        return state.PrintPaints;
+    }
     PixelGrid paints(width - 1, height - 1);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {

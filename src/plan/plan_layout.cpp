@@ -132,8 +132,10 @@ PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
     RequireSymbols(state);
     PrintPlan plan;
     plan.Aspects = AspectsOf(state.PaintColors, aspects);
-    plan.Regions = FindRegionsWithoutCrumbs(PaintPerPixel(state, picture.Width(), picture.Height()),
-                                            TraitsOf(state.Chosen.Level).FewestOwnPixels);
+    // The areas of a paintable kit have joined their crumbs before they were painted.
+    plan.Regions = FindRegionsWithoutCrumbs(
+        PaintPerPixel(state, picture.Width(), picture.Height()),
+        state.PaintableKit ? 0 : TraitsOf(state.Chosen.Level).FewestOwnPixels);
     plan.Lines = TraceOutlines(plan.Regions.Ids);
     plan.Scale = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
                                        : LegibleScale(state, plan.Regions, plan.Aspects);

@@ -7,10 +7,6 @@
 
 namespace vendrel {
 
-/// One value per place, be it a pixel or a stipple: columns 0..Across and rows 0..Down are all in
-/// use.
-using ValueGrid = Grid<int>;
-
 /// Whether places hang together by their sides alone, or by their corners too.
 enum class Connection { Sides, Corners };
 

@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <string_view>
 
+#include "shell/paint_limits.h"
+#include "support/print_scale.h"
+
 namespace vendrel {
 
 /// How fine a photo is cut into stipples.
@@ -34,6 +37,9 @@ inline constexpr std::array<DifficultyTraits, 3> kDifficulties = {{
 
 enum class Sampling { Average, Pixel };
 
+/// How paints are matched to stipples: by the distance of their channels, or as the eye sees it.
+enum class Matching { Plain, ByEye };
+
 /// The final paints that can be asked for.
 inline constexpr std::array kFinalPaints = {16, 32, 40, 50};
 
@@ -43,9 +49,22 @@ struct Settings {
     int FinalPaints = 50;  // of kFinalPaints; 0 while a loaded grid has another number
     Sampling Sample = Sampling::Average;
     bool WatchItPaint = true;
+    Matching Match = Matching::Plain;
+    bool Paintable = false;  // no area below Limits
+    PaintLimits Limits;
+    int Detail = kUsualDetail;
+    double CanvasCm = 0;  // width of the finished canvas; 0: none was named
 
     bool operator==(const Settings&) const = default;
 };
+
+/// As wide as a canvas is taken to be until one is named, in centimeters.
+inline constexpr double kUsualCanvasCm = 40;
+
+/// The scale of a painting `pixels` wide on its canvas.
+[[nodiscard]] constexpr PrintScale CanvasScale(const Settings& settings, int pixels) {
+    return PrintScale::OfCanvas(settings.CanvasCm > 0 ? settings.CanvasCm : kUsualCanvasCm, pixels);
+}
 
 /// Chooses the final paints equal to `finalColors`, or none where it is no number to choose.
 void SetColorChecks(Settings& settings, int finalColors);

@@ -8,6 +8,7 @@ void SetGrid(WorkState& state, Grid<StippleCell> cells) {
     state.Stipples = std::move(cells);
     state.CellsAcross = state.Stipples.Across();
     state.CellsDown = state.Stipples.Down();
+    state.PaintableKit = false;
     state.CellMarks = Grid<CellMark>(state.CellsAcross, state.CellsDown);
 }
 

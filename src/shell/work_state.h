@@ -66,6 +66,8 @@ struct WorkState : WorkSettings {
     bool StipplesMade = false;
     bool StipplesShown = false;
     int WorkStage = 0;
+    bool PaintableKit = false;  // what the brush leaves of corners joins a neighbor
+    ValueGrid Protected;  // per stipple from 0, other than 0 where limits are a third; or empty
     bool HasUnsavedWork = false;               // touched up and accepted, but in no saved grid yet
     std::shared_ptr<const HeldFile> Recovery;  // keeps unsaved work, while this program has any
 
@@ -75,6 +77,7 @@ struct WorkState : WorkSettings {
     int AreaCount = 0;  // one more than the areas found
     int NextAreaNumber = 1;
     bool PaintingDone = false;
+    ValueGrid PrintPaints;  // of a paintable kit: the paint of every pixel, from 1; else empty
     CellQueue TestCells;
 
     // The numbers of the sheet made last, one per picture pixel.

@@ -54,4 +54,8 @@ class Grid {
     std::vector<T> cells_;
 };
 
+/// One value per place, be it a pixel or a stipple: columns 0..Across and rows 0..Down are all in
+/// use.
+using ValueGrid = Grid<int>;
+
 }  // namespace vendrel

@@ -56,6 +56,15 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
     }
     EXPECT_EQ(kit.Plan.Sheet, Paper::A3);
     EXPECT_EQ(kit.Plan.CanvasCm, 60.5);
+    const KitOptions paintable = Parse({"kit", "a.bmp", "--match=plain", "--paintable",
+                                        "--smallest", "9.5mm2", "--detail=70", "--title", "Cat"})
+                                     .Kit;
+    EXPECT_TRUE(paintable.Chosen.Paintable);
+    EXPECT_EQ(paintable.Chosen.Match, Matching::Plain);
+    EXPECT_EQ(paintable.Chosen.Limits, (PaintLimits{9.5, 2}));
+    EXPECT_EQ(paintable.Chosen.Detail, 70);
+    EXPECT_EQ(paintable.Plan.CanvasCm, 40);
+    EXPECT_EQ(paintable.Title, "Cat");
     EXPECT_TRUE(kit.FromGrid && kit.ReplaceGrid && kit.Json && kit.Quiet);
     EXPECT_THAT(kit.Photos, ElementsAre("a.bmp", "--odd.bmp"));
     EXPECT_EQ(Parse({"kit", "a.bmp", "--template", "Skin"}).Kit.Template, "Skin");
@@ -104,6 +113,9 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--folder="}, "--folder needs a value"},
         {{"kit", "a.bmp", "--final-paints", "17"}, "16, 32, 40 or 50"},
         {{"kit", "a.bmp", "--final-paints", "16x"}, "16, 32, 40 or 50"},
+        {{"kit", "a.bmp", "--detail=101"}, "from 0 to 100"},
+        {{"kit", "a.bmp", "--title=a/b"}, "without slashes"},
+        {{"kit", "a.bmp", "b.bmp", "--title=c"}, "names one kit"},
         {{"kit", "a.bmp", "--sample=mean"}, "average or pixel"},
         {{"kit", "a.bmp", "--screen", "800"}, "WIDTHxHEIGHT"},
         {{"kit", "a.bmp", "--screen", "0x600"}, "WIDTHxHEIGHT"},

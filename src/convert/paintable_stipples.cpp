@@ -1,0 +1,76 @@
+#include "convert/paintable_stipples.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "convert/cell_color.h"
+#include "convert/match_by_eye.h"
+#include "eye/seen_table.h"
+#include "paintable/make_paintable.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+ValueGrid PaintsOf(const Grid<StippleCell>& stipples) {
+    ValueGrid paints(stipples.Across() - 1, stipples.Down() - 1);
+    for (int y = 1; y <= stipples.Down(); ++y) {
+        for (int x = 1; x <= stipples.Across(); ++x) {
+            paints(x - 1, y - 1) = stipples(x, y).ColorIndex - 1;
+        }
+    }
+    return paints;
+}
+
+AreaTerms TermsFor(const WorkState& state, const Surface& photo) {
+    const PrintScale scale = CanvasScale(state.Chosen, photo.Width());
+    return {{SidesOf(photo.Width(), state.StippleSize, state.CellsAcross),
+             SidesOf(photo.Height(), state.StippleSize, state.CellsDown)},
+            LimitsInPixels(state.Chosen.Limits, scale),
+            LimitsInPixels(ThirdOf(state.Chosen.Limits), scale)};
+}
+
+// Old paint, from 1, to new one; 0 for those that no stipple needs. Rewrites the palette.
+OneBased<int> DropUnneeded(WorkState& state, const ValueGrid& paints) {
+    OneBased<int> newIndex(state.PaintCount);
+    for (const int paint : paints.All()) {
+        newIndex[paint + 1] = 1;
+    }
+    PaintList kept;
+    for (int paint = 1; paint <= state.PaintCount; ++paint) {
+        if (newIndex[paint] != 0) {
+            kept.Add(state.PaintColors[paint]);
+            newIndex[paint] = kept.Count();
+        }
+    }
+    SetPalette(state, std::move(kept));
+    return newIndex;
+}
+
+}  // namespace
+
+void MakeStipplesPaintable(Workplace& place) {
+    WorkState& state = place.State;
+    const Surface& photo = place.Frames.CaptureFrame.Picture;
+    const int size = state.StippleSize;
+    const DistinctColors distinct = FindDistinctColors(
+        StippleColors(photo, {state.CellsAcross, state.CellsDown}, size, state.Chosen.Sample));
+    const SeenTable table(distinct.Colors, ColorsOf(state.PaintColors));
+    StipplePicture picture{PaintsOf(state.Stipples), {}, state.Protected};
+    picture.Colors = ValueGrid(state.CellsAcross - 1, state.CellsDown - 1);
+    std::ranges::copy(distinct.IndexOf, picture.Colors.All().begin());
+    place.Screen.SetCaption("Making Areas Paintable");
+    const ValueGrid paints =
+        MakePaintable(picture, table, TermsFor(state, photo), state.Chosen.Detail);
+    const OneBased<int> newIndex = DropUnneeded(state, paints);
+    for (int y = 1; y <= state.CellsDown; ++y) {
+        for (int x = 1; x <= state.CellsAcross; ++x) {
+            state.Stipples(x, y).ColorIndex = newIndex[paints(x - 1, y - 1) + 1];
+        }
+    }
+    state.PaintableKit = true;
+}
+
+}  // namespace vendrel
