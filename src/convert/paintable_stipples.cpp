@@ -1,6 +1,7 @@
 #include "convert/paintable_stipples.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "convert/cell_color.h"
@@ -49,6 +50,14 @@ OneBased<int> DropUnneeded(WorkState& state, const ValueGrid& paints) {
     return newIndex;
 }
 
+double MeanSeen(const StipplePicture& picture, const SeenTable& table, const ValueGrid& paints) {
+    double sum = 0;
+    for (std::size_t i = 0; i < paints.All().size(); ++i) {
+        sum += table.Of(picture.Colors.All()[i])[static_cast<std::size_t>(paints.All()[i])];
+    }
+    return sum / kSeenUnit / static_cast<double>(paints.All().size());
+}
+
 }  // namespace
 
 void MakeStipplesPaintable(Workplace& place) {
@@ -64,6 +73,7 @@ void MakeStipplesPaintable(Workplace& place) {
     place.Screen.SetCaption("Making Areas Paintable");
     const ValueGrid paints =
         MakePaintable(picture, table, TermsFor(state, photo), state.Chosen.Detail);
+    state.SeenPerStipple = MeanSeen(picture, table, paints);
     const OneBased<int> newIndex = DropUnneeded(state, paints);
     for (int y = 1; y <= state.CellsDown; ++y) {
         for (int x = 1; x <= state.CellsAcross; ++x) {

@@ -75,6 +75,7 @@ void ShowPhoto(Workplace& place, Photo photo) {
     place.Frames.CaptureFrame.Visible = false;
     place.Frames.WorkFrame.Visible = true;
     state.PictureLoaded = true;
+    state.Protected = {};
     ResizePixelMap(place);
     place.Screen.SetCaption("Vendrel - " + state.PictureName);
 }

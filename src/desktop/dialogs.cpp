@@ -6,6 +6,7 @@
 #include "desktop/crop_photo_dialog.h"
 #include "desktop/file_import_dialog.h"
 #include "desktop/kit_pdf_dialog.h"
+#include "desktop/make_paintable_dialog.h"
 #include "desktop/paint_shop_dialog.h"
 #include "desktop/template_shop_dialog.h"
 #include "desktop/touch_up_dialog.h"
@@ -28,6 +29,8 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<TemplateShopDialog>(context, parent);
         case FormId::ColorMatcher:
             return std::make_unique<ColorMatcherDialog>(context, parent);
+        case FormId::MakePaintable:
+            return std::make_unique<MakePaintableDialog>(context, parent);
         case FormId::TouchUp:
             return std::make_unique<TouchUpDialog>(context, parent);
         case FormId::About:

@@ -33,6 +33,7 @@ constexpr ClickHandler kHandlers[] = {
     {StartupPaintShop, &MainForm::StartupPaintShop_Click},
     {ChangeToStipples, &MainForm::ChangeToStipples_Click},
     {ColorPickerSelect, &MainForm::ColorPickerSelect_Click},
+    {MakeItPaintable, &MainForm::MakeItPaintable_Click},
     {PaintItNow, &MainForm::PaintItNow_Click},
     {PrintWorkform, &MainForm::PrintWorkform_Click},
     {SaveReference, &MainForm::SaveReference_Click},
@@ -51,6 +52,8 @@ constexpr ClickHandler kHandlers[] = {
     {NextBestColors, &MainForm::NextBestColors_Click},
     {AveragePixel, &MainForm::AveragePixel_Click},
     {SamplePixel, &MainForm::SamplePixel_Click},
+    {MatchPlain, &MainForm::MatchPlain_Click},
+    {MatchEye, &MainForm::MatchEye_Click},
     {WatchItPaint, &MainForm::WatchItPaint_Click},
     {ShowAbout, &MainForm::ShowAbout_Click},
     {EndItAll, &MainForm::EndItAll_Click},
@@ -299,6 +302,29 @@ void MainForm::SampleMethodChanged() {
         RefreshPhotoImage(place_);
     }
     SetupMenuItems(place_.MainMenu, 2);
+}
+
+void MainForm::MatchPlain_Click() {
+    SetMatching(Matching::Plain);
+}
+
+void MainForm::MatchEye_Click() {
+    SetMatching(Matching::ByEye);
+}
+
+// The palette in hand was reduced for the other way.
+void MainForm::SetMatching(Matching match) {
+    if (place_.State.Chosen.Match != match) {
+        Replace([&] {
+            place_.State.Chosen.Match = match;
+            SampleMethodChanged();
+            RestorePaintColors(place_);
+        });
+    }
+}
+
+void MainForm::MakeItPaintable_Click() {
+    place_.Screen.OpenForm(FormId::MakePaintable);
 }
 
 void MainForm::WatchItPaint_Click() {

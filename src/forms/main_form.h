@@ -53,6 +53,9 @@ class MainForm {
     void NextBestColors_Click();
     void AveragePixel_Click();
     void SamplePixel_Click();
+    void MatchPlain_Click();
+    void MatchEye_Click();
+    void MakeItPaintable_Click();
     void WatchItPaint_Click();
     void ShowAbout_Click();
     void EndItAll_Click();
@@ -81,6 +84,7 @@ class MainForm {
     void SetDifficulty(Difficulty level);
     void TakeDifficulty(Difficulty level);
     void SetFinalPaints(int finalColors);
+    void SetMatching(Matching match);
     void SampleMethodChanged();
     void Saved(const std::filesystem::path& file);
 

@@ -1,11 +1,10 @@
 #include "kit/kit_report.h"
 
-#include <array>
-#include <charconv>
 #include <nlohmann/json.hpp>
 
 #include "convert/working_size.h"
 #include "kit/printable.h"
+#include "support/decimals.h"
 #include "support/size_text.h"
 #include "support/text_file.h"
 
@@ -15,14 +14,6 @@ namespace {
 constexpr std::size_t kLabelWidth = 14;
 
 using Json = nlohmann::ordered_json;
-
-// Whatever the locale.
-std::string Decimals(double number, int places) {
-    std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), number,
-                                   std::chars_format::fixed, places);
-    return {text.data(), end.ptr};
-}
 
 std::string OneDecimal(double number) {
     return Decimals(number, 1);

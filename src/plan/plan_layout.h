@@ -17,10 +17,6 @@ struct PlanSettings {
     double CanvasCm = 0;  // width of the finished canvas; 0: chosen by MakePrintPlan
 };
 
-/// Width of a canvas that anybody would paint, in centimetres.
-inline constexpr double kSmallestCanvasCm = 10;
-inline constexpr double kLargestCanvasCm = 300;
-
 /// Height of the smallest symbol when the canvas may be as large as it likes, in millimetres.
 inline constexpr double kLegibleSymbolMm = 2;
 /// A symbol larger than this wastes paint.

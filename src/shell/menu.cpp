@@ -14,6 +14,7 @@ constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {StartupPaintShop, "StartupPaintShop", "Paint Shop", FileHeader},
     {ChangeToStipples, "ChangeToStipples", "Change To Stipples", FileHeader},
     {ColorPickerSelect, "ColorPickerSelect", "Touch Up", FileHeader},
+    {MakeItPaintable, "MakeItPaintable", "Make It Paintable\u2026", FileHeader},
     {PaintItNow, "PaintItNow", "Paint It", FileHeader},
     {PrintMenu, "PrintMenu", "Save", FileHeader},
     {PrintWorkform, "PrintWorkform", "Save Painted Picture", PrintMenu},
@@ -37,6 +38,9 @@ constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {SampleMethod, "SampleMethod", "Color Sample Method", TemplateMenu},
     {AveragePixel, "AveragePixel", "Pixel Averaging", SampleMethod},
     {SamplePixel, "SamplePixel", "Pixel Sampleing", SampleMethod},
+    {MatchColors, "MatchColors", "Match Colors", TemplateMenu},
+    {MatchPlain, "MatchPlain", "Plain", MatchColors},
+    {MatchEye, "MatchEye", "By Eye", MatchColors},
     {WatchItPaint, "WatchItPaint", "Watch It Paint", TemplateMenu},
     {ShowAbout, "ShowAbout", "About", kMenuBar},
     {EndItAll, "EndItAll", "Exit", kMenuBar},
@@ -63,6 +67,7 @@ void SetupMenuItems(Menu& menu, int stage) {
     menu[ChangeToStipples].Enabled = stage == 2;
     menu[PaintItNow].Enabled = stage == 3;
     menu[ColorPickerSelect].Enabled = stage == 3 || stage == 4;
+    menu[MakeItPaintable].Enabled = stage == 3 || stage == 4;
     menu[PrintMenu].Enabled = stage == 4;
 }
 
@@ -86,6 +91,10 @@ bool IsChecked(const Settings& settings, MenuId entry) {
             return settings.Sample == Sampling::Average;
         case SamplePixel:
             return settings.Sample == Sampling::Pixel;
+        case MatchPlain:
+            return settings.Match == Matching::Plain;
+        case MatchEye:
+            return settings.Match == Matching::ByEye;
         case WatchItPaint:
             return settings.WatchItPaint;
         default:

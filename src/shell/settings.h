@@ -58,6 +58,10 @@ struct Settings {
     bool operator==(const Settings&) const = default;
 };
 
+/// Width of a canvas that anybody would paint, in centimeters.
+inline constexpr double kSmallestCanvasCm = 10;
+inline constexpr double kLargestCanvasCm = 300;
+
 /// As wide as a canvas is taken to be until one is named, in centimeters.
 inline constexpr double kUsualCanvasCm = 40;
 

@@ -21,6 +21,7 @@ enum class FormId {
     KitPdf,
     TemplateShop,
     ColorMatcher,
+    MakePaintable,
     About
 };
 

@@ -66,6 +66,7 @@ struct WorkState : WorkSettings {
     bool StipplesMade = false;
     bool StipplesShown = false;
     int WorkStage = 0;
+    double SeenPerStipple = 0;  // of a paintable kit: mean seen difference of stipple and paint
     bool PaintableKit = false;  // what the brush leaves of corners joins a neighbor
     ValueGrid Protected;  // per stipple from 0, other than 0 where limits are a third; or empty
     bool HasUnsavedWork = false;               // touched up and accepted, but in no saved grid yet

@@ -1,0 +1,52 @@
+#include "forms/paintable_preview.h"
+
+#include "cleanup/paint_pass.h"
+#include "convert/paintable_stipples.h"
+#include "convert/photo_import.h"
+#include "convert/stipple_conversion.h"
+#include "paints/restore.h"
+#include "regions/labelling.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
+
+namespace vendrel {
+
+void PaintablePreview::Make(const Settings& wish, const ValueGrid& isProtected) {
+    WorkState& state = scratch_.State;
+    state.Chosen = wish;
+    if (!converted_ || converted_->Match != wish.Match ||
+        converted_->FinalPaints != wish.FinalPaints) {
+        Convert(wish);
+    }
+    SetPalette(state, converted_->Palette);
+    SetGrid(state, converted_->Stipples);
+    state.Protected = isProtected;
+    MakeStipplesPaintable(scratch_.Place);
+    PaintAllCells(scratch_.Place);
+    state.PaintingDone = true;
+    figures_ = MeasureKit(scratch_.Place);
+}
+
+void PaintablePreview::Convert(const Settings& wish) {
+    WorkState& state = scratch_.State;
+    state.Chosen.Paintable = false;
+    state.FinalColors = wish.FinalPaints;
+    RefreshPhotoImage(scratch_.Place);
+    RestorePaintColors(scratch_.Place);
+    (void)ApplyStipples(scratch_.Place);
+    state.Chosen = wish;
+    converted_ = {wish.Match, wish.FinalPaints, state.PaintColors, state.Stipples};
+    areasBefore_ = CountGridAreas(state);
+}
+
+int CountGridAreas(const WorkState& state) {
+    ValueGrid paints(state.CellsAcross - 1, state.CellsDown - 1);
+    for (int y = 1; y <= state.CellsDown; ++y) {
+        for (int x = 1; x <= state.CellsAcross; ++x) {
+            paints(x - 1, y - 1) = state.Stipples(x, y).ColorIndex;
+        }
+    }
+    return FindRegions(paints).Count();
+}
+
+}  // namespace vendrel
