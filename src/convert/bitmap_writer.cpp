@@ -64,7 +64,7 @@ BitmapStream::BitmapStream(const Target& target, int width, int height, PrintSca
 void BitmapStream::Put(std::span<const std::byte> bytes) {
     file_.Write(bytes);
     if (watcher_ != nullptr) {
-        watcher_->See(bytes);
+        watcher_->Grew(file_.Descriptor());
     }
 }
 

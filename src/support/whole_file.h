@@ -32,6 +32,8 @@ class WholeFile {
     /// Takes a name in the target's folder that nobody has. False when it is taken, whoever came
     /// first: then another one can be tried.
     [[nodiscard]] bool CommitNew(const std::filesystem::path& name);
+    /// Open for reading too; what was written last may be on its way still.
+    [[nodiscard]] int Descriptor() const;
     /// Whether another file has just the bytes written so far.
     [[nodiscard]] bool Holds(const std::filesystem::path& other);
 
@@ -42,7 +44,6 @@ class WholeFile {
 
     void Open();
     [[nodiscard]] int OpenNamed();
-    [[nodiscard]] int Descriptor() const;
     [[nodiscard]] std::filesystem::path Folder() const;
     [[nodiscard]] std::filesystem::path Way() const;
     void Flush();

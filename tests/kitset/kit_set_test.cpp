@@ -64,9 +64,12 @@ TEST(Sums, AreThoseOfSha256sumWhetherReadOrWatched) {
     EXPECT_EQ(SumOfFile(files / "missing"), "");
     RunningSum running;
     EXPECT_FALSE(running.Saw());
+    WholeFile grown(files / "grown");
     for (const char* part : {"a", "b", "c"}) {
-        running.See(std::as_bytes(std::span(part, 1)));
+        grown.Write(part);
+        running.Grew(grown.Descriptor());
     }
+    grown.Commit();
     EXPECT_EQ(running.Finish(), abc);
 }
 
