@@ -11,7 +11,7 @@ namespace {
 
 static_assert(std::tuple_size_v<Sha256> == SHA256_DIGEST_SIZE);
 
-constexpr std::size_t kBlockBytes = std::size_t{256} * 1024;  // stays in the second cache
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;  // stays in the second cache
 
 std::string HexOf(const Sha256& sum) {
     constexpr std::string_view kDigits = "0123456789abcdef";

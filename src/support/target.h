@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <filesystem>
 #include <utility>
 
@@ -17,12 +18,14 @@ class FileWatcher {
     virtual void Grew(int file) = 0;
 };
 
-/// The file that a picture is written to, and who watches it grow; nobody when null.
+/// The file that something is written to, and who watches it grow; nobody when null.
 struct Target {
-    Target(std::filesystem::path file, FileWatcher* watcher = nullptr)
-        : File(std::move(file)), Watcher(watcher) {}
+    template <std::convertible_to<std::filesystem::path> Path>
+    Target(Path&& file, FileWatcher* watcher = nullptr)
+        : File(std::forward<Path>(file)), Place(File), Watcher(watcher) {}
 
     std::filesystem::path File;
+    std::filesystem::path Place;  // where it ends up, which is what errors name
     FileWatcher* Watcher;
 };
 
