@@ -29,7 +29,7 @@ struct KitOptions {
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
     CropPart Crop = CropPart::Whole;
-    ScreenSize Screen = ScreenSize::FromPixels(1920, 1080);
+    ScreenSize Screen = kDrawingBoard;
     KitOutputs Outputs;
     PlanSettings Plan;  // of the PDF
     bool ReplaceGrid = false;
