@@ -78,13 +78,18 @@ class WorkflowTest : public QObject {
         QVERIFY(LoadFirstPhoto(window));
         QVERIFY(Choose(window, "ChangeToStipples"));
         bool refused = false;
+        bool told = false;
         QTimer::singleShot(100, &window, [&] {
             window.findChild<QAction*>("LoadBMP")->trigger();
             refused = QApplication::activeModalWidget() == nullptr;
+            told = Choose(window, "ShowAbout");
+            QWidget* about = QApplication::activeModalWidget();
+            told = told && about != nullptr && about->close();
             QTimer::singleShot(50, &window, &QWidget::close);
         });
         QVERIFY(Choose(window, "PaintItNow"));
         QVERIFY(refused);
+        QVERIFY(told);
         QVERIFY(!window.isVisible());
         QVERIFY(!desktop.Place().State.PaintingDone);
         QVERIFY(fs::is_empty(studio.Files / "Results"));
