@@ -44,6 +44,7 @@ struct Arguments {
     Command What = Command::Window;
     KitOptions Kit;                      // for Command::Kit
     std::filesystem::path Folder = ".";  // for Command::Window and Command::Symbols
+    bool InDocuments = false;            // for Command::Window: among the painter's documents
 };
 
 /// Reads the words behind the program's name. Throws UsageError with a sentence.
