@@ -42,7 +42,7 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
     if (!ComputeWorkingSize(photo, screen, stippleSize).HoldsStipples()) {
         throw FileError(file, "its shape of " + std::to_string(photo.Width) + " x " +
                                   std::to_string(photo.Height) +
-                                  " pixels leaves no whole stipple on this screen. Choose a "
+                                  " pixels leaves no whole stipple. Choose a "
                                   "larger photo or crop it to a less extreme shape.");
     }
 }

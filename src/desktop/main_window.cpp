@@ -119,11 +119,11 @@ void MainWindow::Choose(MenuId entry) {
 void MainWindow::OpenForm(FormId form) {
     const QWidget* below = QApplication::activeModalWidget();
     std::unique_ptr<FormDialog>& dialog = dialogs_[form];
-    const std::unique_ptr<FormDialog> before = std::move(dialog);
+    const QSize before = dialog ? dialog->size() : QSize();
     dialog = MakeDialog(form, {place_, form_, edge_}, this);
     if (dialog) {
-        dialog->resize((before ? before->size() : dialog->size())
-                           .boundedTo(screen()->availableSize() - kWindowFrame));
+        const QSize wanted = before.isValid() ? before : dialog->size();
+        dialog->resize(wanted.boundedTo(screen()->availableSize() - kWindowFrame));
         if (below != nullptr) {
             // Over the dialog it was opened from, which waits for it.
             dialog->winId();

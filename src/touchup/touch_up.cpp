@@ -201,8 +201,8 @@ AcceptReport TouchUp::Accept() {
     if (sheet_.Across() != photo.Across() || sheet_.Down() != photo.Down()) {
         throw Error("The loaded grid has " + SizeText(sheet_.Across(), sheet_.Down()) +
                     " stipples, but the photo has " + SizeText(photo.Across(), photo.Down()) +
-                    " stipples. Take the load back with Undo, or close the editor and choose "
-                    "Picture, Load Stipple Picture, which takes the grid in its own shape.");
+                    " stipples. Take the load back with Undo; or save it, close the editor and "
+                    "choose Picture, Load Stipple Picture, which keeps the grid's shape.");
     }
     state.HasUnsavedWork = !IsSaved() && (unsavedAtOpening_ || history_.StateId() != 0);
     return TakeOverCopies(state);

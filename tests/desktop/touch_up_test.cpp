@@ -214,13 +214,11 @@ void TouchUpWindowTest::ZoomingAfterALonerIsFoundShowsIt() {
 }
 
 void TouchUpWindowTest::ValuesAreReadOut() {
-    for (const auto& [name, read] : {std::pair("Loners", "Loners: No loners"),
-                                     {"CleanLevel", "Clean-up level: Level 8"},
-                                     {"CleanPreview", "What a clean-up would do: 0 stipples"}}) {
-        const auto* spoken =
-            QAccessible::queryAccessibleInterface(&Find<QLabel>(*canvas_->window(), name));
-        QVERIFY2(spoken->text(QAccessible::Name).startsWith(QString::fromLatin1(read)),
-                 qPrintable(spoken->text(QAccessible::Name)));
+    for (const auto& [name, read] :
+         {std::pair("Loners", "Loners: No loners"), {"CleanLevel", "Clean-up level: Level 8"}}) {
+        QCOMPARE(QAccessible::queryAccessibleInterface(&Find<QLabel>(*canvas_->window(), name))
+                     ->text(QAccessible::Name),
+                 QString::fromLatin1(read));
     }
 }
 

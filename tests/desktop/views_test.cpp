@@ -35,42 +35,37 @@ class ViewsTest : public QObject {
 
     void ThePictureIsSeenWholeOrZoomed() {
         Surface surface(60, 40, Rgb(200, 100, 50));
-        surface.Set(1, 2, Rgb(1, 2, 3));
+        surface.Set(3, 3, kWhite);
         QCOMPARE(ToSurface(ToImage(surface)), surface);
         ZoomView view(surface);
-        const auto shown = [&view] { return view.viewport()->grab().toImage(); };
-        view.resize(300, 220);
+        view.resize(200, 220);
         view.show();
         view.Refresh();
-        QCOMPARE(view.Percent(), 500.0);
-        QCOMPARE(view.PictureRect(), QRectF(0, 10, 300, 200));
-        view.resize(200, 220);
-        QVERIFY2(view.Fits() && view.Percent() < 400, "it follows the window");
         view.resize(300, 220);
+        QCOMPARE(view.PictureRect(), QRectF(0, 10, 300, 200));
         view.ZoomTo(100);
-        QCOMPARE(view.PictureRect(), QRectF(120, 90, 60, 40));
-        QCOMPARE(shown().copy(120, 90, 60, 40).convertToFormat(QImage::Format_RGB32),
+        QCOMPARE(view.viewport()
+                     ->grab(QRect(120, 90, 60, 40))
+                     .toImage()
+                     .convertToFormat(QImage::Format_RGB32),
                  ToImage(surface));
-        surface.Set(3, 3, kWhite);
-        view.Refresh();
         view.ZoomTo(800);
-        QVERIFY2(view.horizontalScrollBar()->value() == 90, "the middle stays in the middle");
-        view.horizontalScrollBar()->setValue(0);
-        view.verticalScrollBar()->setValue(0);
-        for (const QPoint edge : {QPoint(24, 24), QPoint(31, 31)}) {
-            QCOMPARE(shown().pixel(edge), qRgb(255, 255, 255));  // crisp to the edge
-        }
+        QCOMPARE(view.PictureRect().topLeft(), QPointF(-90, -50));
         QTest::mousePress(view.viewport(), Qt::LeftButton, {}, QPoint(100, 100));
-        QTest::mouseMove(view.viewport(), QPoint(40, 70));
-        QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, QPoint(40, 70));
-        QCOMPARE(view.PictureRect().topLeft(), QPointF(-60, -30));
+        QTest::mouseMove(view.viewport(), QPoint(190, 140));
+        QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, QPoint(190, 140));
+        QCOMPARE(view.PictureRect().topLeft(), QPointF(0, -10));
+        const QImage shown = view.viewport()->grab().toImage();
+        for (const auto& [x, white] : {std::pair(23, false), {24, true}, {31, true}, {32, false}}) {
+            QCOMPARE(shown.pixel(x, 20) == qRgb(255, 255, 255), white);  // crisp to the edge
+        }
         for (const auto& [ratio, scale] : {std::pair(1.0, 1), {1.5, 1}, {2.0, 2}, {3.5, 3}}) {
             QCOMPARE(ZoomView::Scale(ratio), scale);
         }
     }
 
     void ZoomingKeepsWhatIsUnderThePointer() {
-        const Surface surface(600, 400, Rgb(200, 100, 50));
+        const Surface surface(600, 400, kWhite);
         ZoomView view(surface);
         view.resize(300, 220);
         view.show();
@@ -78,14 +73,12 @@ class ViewsTest : public QObject {
         const QPointF at(200, 120);
         const auto spot = [&] { return (at - view.PictureRect().topLeft()) / view.Percent(); };
         const QPointF before = spot();
-        for (const auto& [turn, percent] :
-             {std::pair(120, 67.0), {240, 100.0}, {6000, 800.0}, {-6000, 10.0}}) {
+        for (const auto& [turn, percent] : {std::pair(240, 80.0), {6000, 800.0}, {-6000, 10.0}}) {
             QWheelEvent event(at, view.viewport()->mapToGlobal(at), {}, {0, turn}, Qt::NoButton,
                               Qt::ControlModifier, Qt::NoScrollPhase, false);
             QApplication::sendEvent(view.viewport(), &event);
             QCOMPARE(view.Percent(), percent);
-            const QPointF way = (spot() - before) * percent;
-            QVERIFY2(percent < 50 || way.manhattanLength() <= 2, qPrintable(QString::number(turn)));
+            QVERIFY(percent < 50 || ((spot() - before) * percent).manhattanLength() <= 2);
         }
     }
 
@@ -115,8 +108,7 @@ class ViewsTest : public QObject {
         QCOMPARE(view.Percent(), 300.0);
         QVERIFY(Choose(window, "MediumSet"));
         QCOMPARE(view.Percent(), 300.0);
-        QVERIFY(Choose(window, "ZoomFit"));
-        QVERIFY(view.Fits());
+        QVERIFY(Choose(window, "ZoomFit") && view.Fits());
         QCOMPARE(window.size(), QSize(640, 500));
         QVERIFY(Choose(window, "ChangeToStipples"));
         for (const QSize size : {QSize(), QSize(760, 610)}) {
@@ -134,22 +126,13 @@ class ViewsTest : public QObject {
         QVERIFY(!desktop.Start());
         QVERIFY(LoadFirstPhoto(desktop.Window()));
         auto& hint = Find<QLabel>(desktop.Window(), "StatusHint");
-        for (const int width : {900, 420, 340}) {
+        for (const auto& [width, oneLine] : {std::pair(900, true), {420, false}, {340, false}}) {
             desktop.Window().resize(width, 500);
             QCoreApplication::processEvents();
-            QVERIFY2(hint.height() >= hint.heightForWidth(hint.width()),
-                     qPrintable(QString::number(width)));
-            const int lines = hint.height() / hint.fontMetrics().lineSpacing();
-            QVERIFY2(width == 900 ? lines == 1 : lines > 1, qPrintable(QString::number(lines)));
+            QVERIFY(hint.height() >= hint.heightForWidth(hint.width()));
+            QCOMPARE(hint.height() < 2 * hint.fontMetrics().lineSpacing(), oneLine);
             QCOMPARE(desktop.Window().width(), width);
         }
-    }
-
-    void ThePictureOfTheProgramIsSetAndItsFolderIsAmongTheDocuments() {
-        QVERIFY(!ProgramIcon().pixmap(48).isNull());
-        const auto folder = DocumentsFolder();
-        QCOMPARE(folder.filename(), std::filesystem::path("Vendrel"));
-        QVERIFY(folder.is_absolute() && folder.parent_path().filename() != "Vendrel");
     }
 
     void AShowIsSpreadOverItsTimeUntilItIsEnded() {

@@ -111,6 +111,8 @@ class WorkflowTest : public QObject {
         NextMessage message;
         QCOMPARE(desktop.Start(), std::optional<int>(0));
         QVERIFY(message.Text.startsWith("First Time Ran.."));
+        QVERIFY(!ProgramIcon().pixmap(48).isNull());
+        QVERIFY(DocumentsFolder().is_absolute() && DocumentsFolder().filename() == "Vendrel");
     }
 
     void ALaterFailureIsToldAndTheWorkGoesOn() {
