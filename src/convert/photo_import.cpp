@@ -20,6 +20,21 @@ Surface ReadScaled(BitmapFile& file, int width, int height) {
     return scaler.Take();
 }
 
+// Nothing for 0 x 0 pixels; `sizeOf` answers the working size of a photo's size.
+template <class SizeOf>
+std::optional<Photo> ReadSized(const std::filesystem::path& file, TwipsPerPixel twips,
+                               const SizeOf& sizeOf) {
+    BitmapInput input(file);
+    if (ReadHeaderSize(input) == BitmapSize{}) {
+        return std::nullopt;
+    }
+    BitmapFile bitmap(std::move(input));
+    Photo photo{bitmap.Size(), sizeOf(bitmap.Size()), {}, bitmap.HasOwnColors()};
+    photo.Picture =
+        ReadScaled(bitmap, photo.Working.Width / twips.X, photo.Working.Height / twips.Y);
+    return photo;
+}
+
 }  // namespace
 
 void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const ScreenSize& screen,
@@ -27,26 +42,27 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
     if (!ComputeWorkingSize(photo, screen, stippleSize).HoldsStipples()) {
         throw FileError(file, "its shape of " + std::to_string(photo.Width) + " x " +
                                   std::to_string(photo.Height) +
-                                  " pixels leaves no whole stipple on this screen. Choose a "
+                                  " pixels leaves no whole stipple. Choose a "
                                   "larger photo or crop it to a less extreme shape.");
     }
 }
 
 std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSize& screen,
                                int stippleSize) {
-    BitmapInput input(file);
-    if (ReadHeaderSize(input) == BitmapSize{}) {
-        return std::nullopt;
-    }
-    BitmapFile bitmap(std::move(input));
-    Photo photo{bitmap.Size(),
-                ComputeWorkingSize(bitmap.Size(), screen, stippleSize),
-                {},
-                bitmap.HasOwnColors()};
-    RequireStipples(file, photo.Bmp, screen, stippleSize);
-    photo.Picture = ReadScaled(bitmap, photo.Working.Width / screen.Twips.X,
-                               photo.Working.Height / screen.Twips.Y);
-    return photo;
+    return ReadSized(file, screen.Twips, [&](BitmapSize photo) {
+        RequireStipples(file, photo, screen, stippleSize);
+        return ComputeWorkingSize(photo, screen, stippleSize);
+    });
+}
+
+std::optional<Photo> ReadPhotoInShape(const std::filesystem::path& file, const ScreenSize& screen,
+                                      CellPos stipples, int stippleSize) {
+    return ReadSized(file, screen.Twips, [&](BitmapSize photo) {
+        WorkingSize size = ComputeWorkingSize(photo, screen, stippleSize);
+        size.Width = stipples.X * stippleSize * screen.Twips.X;
+        size.Height = stipples.Y * stippleSize * screen.Twips.Y;
+        return size;
+    });
 }
 
 // By the name alone: a copy in Pictures is the same photo.
@@ -69,6 +85,7 @@ void ShowPhoto(Workplace& place, Photo photo) {
     state.Landscape = photo.Working.Landscape;
     state.PictureWidth = photo.Working.Width;
     state.PictureHeight = photo.Working.Height;
+    state.ShapedByGrid = false;
     place.Frames.MainWindow = photo.Working.Window;
     place.Frames.CaptureFrame.Picture = std::move(photo.Picture);
     RefreshPhotoImage(place);

@@ -7,6 +7,7 @@
 #include "convert/bitmap_header.h"
 #include "convert/working_size.h"
 #include "shell/workplace.h"
+#include "support/cell_pos.h"
 #include "support/surface.h"
 
 namespace vendrel {
@@ -30,6 +31,12 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
 /// FileError or FormatError, also when no whole stipple fits its shape, and OverflowError.
 [[nodiscard]] std::optional<Photo> ReadPhoto(const std::filesystem::path& file,
                                              const ScreenSize& screen, int stippleSize);
+
+/// The same in the shape of a grid that was made elsewhere: `stipples` across and down, both at
+/// least 1, whatever the photo's own working size is.
+[[nodiscard]] std::optional<Photo> ReadPhotoInShape(const std::filesystem::path& file,
+                                                    const ScreenSize& screen, CellPos stipples,
+                                                    int stippleSize);
 
 /// Warns once that a bitmap's own description of its colors is not used.
 void MentionColors(const Workplace& place, const std::filesystem::path& bitmap);

@@ -117,6 +117,9 @@ void CheckPaints(Workplace& place) {
 
 int Convert(Workplace& place) {
     CheckPaints(place);
+    if (place.State.ShapedByGrid) {
+        (void)LoadNewPicture(place);  // what is converted afresh has the photo's own shape
+    }
     RefreshPhotoImage(place);
     const BusyPointer busy(place.Screen);
     place.State.WorkStage = 1;

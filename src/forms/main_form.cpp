@@ -14,6 +14,7 @@
 #include "startup/start_up.h"
 #include "storage/load_stipples.h"
 #include "support/disk.h"
+#include "support/error.h"
 #include "touchup/recovery.h"
 
 namespace vendrel {
@@ -56,6 +57,15 @@ constexpr ClickHandler kHandlers[] = {
     {EndItAll, &MainForm::EndItAll_Click},
 };
 
+// Photos may lie where nobody may write: no reason not to start.
+void OfferSampleIfPossible(const Workplace& place) {
+    try {
+        OfferSample(place);
+    } catch (const Error&) {
+        return;
+    }
+}
+
 }  // namespace
 
 void MainForm::Form_Load() {
@@ -63,7 +73,9 @@ void MainForm::Form_Load() {
     ShowSample();
     place_.MainMenu[LoadBMP].Enabled = true;
     place_.MainMenu[PaintItNow].Enabled = false;
-    if (PrepareFolders(place_)) {
+    const bool first = PrepareFolders(place_);
+    OfferSampleIfPossible(place_);
+    if (first) {
         place_.Screen.ShowMessage("Vendrel",
                                   "First Time Ran.. Pictures Folder Created.\n"
                                   "Program Will Exit To Allow You To Place Your .BMP Pictures "

@@ -56,6 +56,7 @@ struct WorkState : WorkSettings {
     bool Landscape = true;
     int PictureWidth = 0;  // twips
     int PictureHeight = 0;
+    bool ShapedByGrid = false;  // its size is that of a loaded grid, not its own
 
     // The stipple grid.
     Grid<StippleCell> Stipples;

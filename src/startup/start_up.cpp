@@ -4,7 +4,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "convert/photo_decoder.h"
 #include "convert/settings.h"
+#include "intake/incoming_photo.h"
 #include "kitset/settle.h"
 #include "output/symbol_set.h"
 #include "paints/catalogue.h"
@@ -77,6 +79,16 @@ bool PrepareFolders(Workplace& place) {
     }
     SettleKits(place.Folder);
     return CreateFolder(place, "Pictures");
+}
+
+void OfferSample(const Workplace& place) {
+    static constexpr const char* kSample = "Pictures/PBNLady.bmp";
+    const fs::path shipped = place.Folder.DataFile(kSample);
+    const fs::path own = place.Folder.Path(kSample);
+    if (shipped != own) {
+        const NoPhotoDecoder none;
+        (void)IncomingPhoto(shipped, none).CopyTo(own);
+    }
 }
 
 void PreparePaints(Workplace& place) {

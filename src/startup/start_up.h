@@ -14,6 +14,10 @@ void PrepareSettings(Workplace& place);
 /// first time. What programs that were killed left half-written is removed. Throws FileError.
 [[nodiscard]] bool PrepareFolders(Workplace& place);
 
+/// Puts the sample photo into Pictures where it is missing, so that there is always one to try.
+/// Throws FileError.
+void OfferSample(const Workplace& place);
+
 /// Catalogue, paint sets, the saved selection and the first palette. Throws Error.
 void PreparePaints(Workplace& place);
 

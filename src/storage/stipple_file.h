@@ -58,6 +58,9 @@ class StippleFileReader {
     [[nodiscard]] PaintColor ReadPaint();
     /// The whole palette.
     [[nodiscard]] PaintList ReadPalette();
+    /// After the palette: that the file has a line for every stipple its header announces, which
+    /// are some. Nothing of the cells is read.
+    void RequireCells() const;
     /// Columns 1..across of row y of `cells`, which must hold them.
     void ReadRow(Grid<StippleCell>& cells, int y, int across);
 

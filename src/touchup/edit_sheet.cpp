@@ -70,12 +70,6 @@ void EditSheet::Exchange(SheetContents& other) {
 }
 
 std::string EditSheet::Flaw() const {
-    if (announced_.Across > Across() || announced_.Down > Down()) {
-        return "more stipples were announced than the picture has";
-    }
-    if (announced_.Paints > PaintCount()) {
-        return "more paints were announced than the palette has";
-    }
     for (int y = 1; y <= Down(); ++y) {
         for (int x = 1; x <= Across(); ++x) {
             if (!HoldsPaint(PaintAt({x, y}))) {

@@ -55,6 +55,8 @@ class EditSheet {
         return pos.X >= 1 && pos.Y >= 1 && pos.X <= Across() && pos.Y <= Down();
     }
     [[nodiscard]] bool HoldsPaint(int paint) const { return paint >= 1 && paint <= PaintCount(); }
+    /// How many paints a load may bring.
+    [[nodiscard]] int PaintRoom() const { return PaintCount() + static_cast<int>(spare_.size()); }
     /// The whole sheet, for edits that may touch anything.
     [[nodiscard]] CellRect Bounds() const { return {1, 1, Across(), Down()}; }
 
@@ -74,8 +76,8 @@ class EditSheet {
     /// Swaps the copies with `other`.
     void Exchange(SheetContents& other);
 
-    /// An empty text when the copies make a grid and palette that can be kept: nothing outside the
-    /// copies, every stipple with a paint of the palette. Else what is wrong, as a clause.
+    /// An empty text when the copies make a grid and palette that can be kept: every stipple has a
+    /// paint of the palette. Else what is wrong, as a clause.
     [[nodiscard]] std::string Flaw() const;
 
   private:

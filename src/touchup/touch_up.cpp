@@ -167,12 +167,13 @@ CellRect TouchUp::LoadIt_Click() {
     EndStroke();
     const std::filesystem::path path = StippleFilePath(place_);
     const std::string text = ReadTextFile(path);
+    RequireFit(text, path, sheet_);
     StippleFileReader reader(text, path);
     const CellRect before = sheet_.Bounds();
     PushLoad("Load");
     {
         const RecountAtEnd recount(sheet_);
-        ReadIntoSheet(reader, path, place_.State, sheet_);
+        ReadIntoSheet(reader, place_.State, sheet_);
     }
     savedId_ = history_.StateId();
     ShowFinalColors();
@@ -200,7 +201,8 @@ AcceptReport TouchUp::Accept() {
     if (sheet_.Across() != photo.Across() || sheet_.Down() != photo.Down()) {
         throw Error("The loaded grid has " + SizeText(sheet_.Across(), sheet_.Down()) +
                     " stipples, but the photo has " + SizeText(photo.Across(), photo.Down()) +
-                    " stipples. Take the load back with Undo first.");
+                    " stipples. Take the load back with Undo; or save it, close the editor and "
+                    "choose Picture, Load Stipple Picture, which keeps the grid's shape.");
     }
     state.HasUnsavedWork = !IsSaved() && (unsavedAtOpening_ || history_.StateId() != 0);
     return TakeOverCopies(state);
@@ -227,8 +229,8 @@ CellRect TouchUp::TakeRecovery() {
             path, 1,
             "the work was done on " + SizeText(header.Across, header.Down) +
                 " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
-                " stipples. Choose the photo again on the screen it was made on, or give the "
-                "work up.");
+                " stipples. Take up the saved stipples of that shape first (Picture, Load Stipple "
+                "Picture), or give the work up.");
     }
     SheetContents found{reader.ReadPalette(),
                         {},

@@ -56,7 +56,8 @@ class TouchUp {
     /// Writes the saved grid of this photo and difficulty, whole or not at all. Throws FileError,
     /// and Error while a broken load stands.
     void SaveIt_Click();
-    /// Reads the saved grid into the copies as they are sized. One step, even when it throws
+    /// Reads the saved grid into the copies as they are sized; one that is not all there or does
+    /// not fit throws before anything is touched. One step, even when a broken line ends it
     /// part-way: draw everything anew then, too.
     CellRect LoadIt_Click();
     [[nodiscard]] bool CanLoad() const;
