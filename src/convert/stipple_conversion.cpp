@@ -12,6 +12,7 @@
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
 #include "shell/menu.h"
+#include "shell/found_palette.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
 #include "support/error.h"

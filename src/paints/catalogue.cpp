@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "paints/paint_fields.h"
-#include "shell/palette.h"
+#include "shell/catalogue.h"
 
 namespace vendrel {
 
@@ -23,8 +23,7 @@ void BuildPaintSets(Workplace& place) {
             sets.Add({paint.Mfg, false});
         }
     }
-    state.PaintSets = std::move(sets);
-    state.PaintSetCount = state.PaintSets.Count();
+    SetPaintSets(state, std::move(sets));
 }
 
 }  // namespace vendrel

@@ -5,6 +5,7 @@
 
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
+#include "shell/found_palette.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
 #include "storage/stipple_file.h"

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "shell/found_palette.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
 #include "shell/symbol_of.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "shell/palette.h"
+#include "shell/found_palette.h"
 #include "shell/stipple_grid.h"
 
 namespace vendrel {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "shell/palette.h"
+#include "shell/found_palette.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
 #include "support/size_text.h"
