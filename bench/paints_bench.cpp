@@ -88,7 +88,7 @@ void Reduce(benchmark::State& bench) {
         while (reduction.PaintCount() > 16) {
             reduction.Remove(LeastUsed(reduction.Counts()));
         }
-        reduction.Commit(state);
+        reduction.Commit(state, state);
         benchmark::DoNotOptimize(state.PaintCount);
     }
 }

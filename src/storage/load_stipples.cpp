@@ -23,11 +23,9 @@ struct LoadedGrid {
 };
 
 // How many whole stipples the loaded photo holds.
-CellPos PhotoCells(const Workplace& place) {
-    const TwipsPerPixel twips = place.Screen.Screen().Twips;
-    const WorkState& state = place.State;
-    return {state.PictureWidth / twips.X / state.StippleSize,
-            state.PictureHeight / twips.Y / state.StippleSize};
+CellPos PhotoCells(const LoadedPhoto& photo, TwipsPerPixel twips, int stippleSize) {
+    return {photo.PictureWidth / twips.X / stippleSize,
+            photo.PictureHeight / twips.Y / stippleSize};
 }
 
 // Reading would run past the end of the file; its counts are right, the photo is another one.
@@ -57,36 +55,38 @@ void Commit(WorkState& state, LoadedGrid loaded) {
     SetGrid(state, std::move(loaded.Cells));
 }
 
-void TellOtherSize(const Workplace& place, const std::filesystem::path& path,
+void TellOtherSize(Ui& screen, const StippleGrid& grid, const std::filesystem::path& path,
                    const StippleHeader& header) {
-    const WorkState& state = place.State;
-    if (header.Across == state.CellsAcross && header.Down == state.CellsDown) {
+    if (header.Across == grid.CellsAcross && header.Down == grid.CellsDown) {
         return;
     }
-    place.Screen.ShowMessage(
+    screen.ShowMessage(
         "Load Stipple Picture",
         path.filename().string() + " was saved for " + SizeText(header.Across, header.Down) +
-            " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
+            " stipples, but the photo has " + SizeText(grid.CellsAcross, grid.CellsDown) +
             ". It was read with the photo's size. If the picture looks jumbled, load the photo "
             "again and convert it afresh.");
 }
 
 }  // namespace
 
-void CheckSavedStipples(const Workplace& place) {
-    place.MainMenu[MenuId::LoadStipples].Enabled = StippleFileExists(place);
+void CheckSavedStipples(Workplace& place) {
+    place.MainMenu[MenuId::LoadStipples].Enabled =
+        StippleFileExists(place.Folder, place.State, place.State);
 }
 
 void LoadStipples_Click(Workplace& place) {
-    const std::filesystem::path path = StippleFilePath(place);
-    LoadedGrid loaded = ReadGrid(path, PhotoCells(place));
+    WorkState& state = place.State;
+    const std::filesystem::path path = StippleFilePath(place.Folder, place.State, place.State);
+    LoadedGrid loaded =
+        ReadGrid(path, PhotoCells(state, place.Screen.Screen().Twips, state.StippleSize));
     const StippleHeader header = loaded.Header;
-    Commit(place.State, std::move(loaded));
-    TellOtherSize(place, path, header);
+    Commit(state, std::move(loaded));
+    TellOtherSize(place.Screen, state, path, header);
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;
-    SetColorChecks(place.State.Chosen, place.State.FinalColors);
-    EraseToColor(place, kBlack);
+    SetColorChecks(state.Chosen, state.FinalColors);
+    EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
 }
 

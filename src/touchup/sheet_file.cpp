@@ -44,13 +44,11 @@ void ReadCells(StippleFileReader& reader, const std::filesystem::path& path,
 
 }  // namespace
 
-void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state,
-                   EditSheet& sheet) {
+void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, EditSheet& sheet) {
     const StippleHeader& header = reader.Header();
-    sheet.Announce({header.PaintCount, header.Across, header.Down});
-    state.FinalColors = header.FinalColors;
-    ReadPaints(reader, path, state.FoundColors);
-    ReadCells(reader, path, state.EditStipples);
+    sheet.Announce({header.PaintCount, header.Across, header.Down}, header.FinalColors);
+    ReadPaints(reader, path, sheet.Paints());
+    ReadCells(reader, path, sheet.Cells());
 }
 
 void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors) {

@@ -89,7 +89,7 @@ class WorkflowTest : public QObject {
         QVERIFY(Choose(window, "PaintItNow"));
         QVERIFY(refused);
         QVERIFY(!window.isVisible());
-        QVERIFY(!desktop.Place().State.PaintingDone);
+        QVERIFY(!desktop.Place().State->PaintingDone);
         QVERIFY(fs::is_empty(studio.Files / "Results"));
     }
 
