@@ -9,6 +9,7 @@
 #include "shell/palette.h"
 #include "shell/records.h"
 #include "shell/stipple_grid.h"
+#include "shell/work_state.h"
 
 namespace vendrel {
 namespace {
