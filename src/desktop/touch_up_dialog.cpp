@@ -353,7 +353,8 @@ void TouchUpDialog::AddShortcuts() {
 
 void TouchUpDialog::Load() {
     form_.Form_Load();
-    canvas_->Start(Context().Place.Frames.CaptureFrame.Picture, Context().Place.State.StippleSize);
+    canvas_->Start(Context().Place.Frames->CaptureFrame.Picture,
+                   Context().Place.State->StippleSize);
     Mirror();
     recovery_.start();
     form_.OfferRecovery();

@@ -10,7 +10,7 @@ void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettin
                        const Target& target) const {
     switch (output) {
         case OutputId::Chart:
-            WriteColorChart(place, target);
+            WriteColorChart(place.State, target);
             return;
         case OutputId::Pdf:
             WriteKitPdf(place, settings, target);

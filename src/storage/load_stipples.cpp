@@ -8,6 +8,7 @@
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
+#include "shell/found_palette.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
 #include "storage/stipple_file.h"
@@ -26,11 +27,9 @@ struct LoadedGrid {
 };
 
 // How many whole stipples the loaded photo holds.
-CellPos PhotoCells(const Workplace& place) {
-    const TwipsPerPixel twips = place.Screen.Screen().Twips;
-    const WorkState& state = place.State;
-    return {state.PictureWidth / twips.X / state.StippleSize,
-            state.PictureHeight / twips.Y / state.StippleSize};
+CellPos PhotoCells(const LoadedPhoto& photo, TwipsPerPixel twips, int stippleSize) {
+    return {photo.PictureWidth / twips.X / stippleSize,
+            photo.PictureHeight / twips.Y / stippleSize};
 }
 
 // Sides of a sheet are counted in twips up to there.
@@ -59,13 +58,13 @@ LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips) {
 
 // A grid made for another screen or from another crop of the photo stays what it is; the photo
 // takes its shape. Rows of the photo's length would cut it to noise.
-std::optional<Photo> PhotoInShapeOf(const Workplace& place, const Grid<StippleCell>& cells) {
-    const CellPos own = PhotoCells(place);
+std::optional<Photo> PhotoInShapeOf(const Grid<StippleCell>& cells, CellPos own,
+                                    const std::filesystem::path& photo, const ScreenSize& screen,
+                                    int stippleSize) {
     if (cells.Across() == own.X && cells.Down() == own.Y) {
         return std::nullopt;
     }
-    return ReadPhotoInShape(place.State.PicturePath, place.Screen.Screen(),
-                            {cells.Across(), cells.Down()}, place.State.StippleSize);
+    return ReadPhotoInShape(photo, screen, {cells.Across(), cells.Down()}, stippleSize);
 }
 
 void Commit(WorkState& state, LoadedGrid loaded) {
@@ -75,39 +74,42 @@ void Commit(WorkState& state, LoadedGrid loaded) {
     SetGrid(state, std::move(loaded.Cells));
 }
 
-void TellOtherShape(const Workplace& place, const std::filesystem::path& path, CellPos own) {
-    const WorkState& state = place.State;
-    place.Screen.ShowMessage("Load Stipple Picture",
-                             path.filename().string() + " has a shape of its own, " +
-                                 SizeText(state.CellsAcross, state.CellsDown) +
-                                 " stipples, where the photo has " + SizeText(own.X, own.Y) +
-                                 ". The kit is made in that shape.");
+void TellOtherShape(Ui& screen, const StippleGrid& grid, const std::filesystem::path& path,
+                    CellPos own) {
+    screen.ShowMessage("Load Stipple Picture",
+                       path.filename().string() + " has a shape of its own, " +
+                           SizeText(grid.CellsAcross, grid.CellsDown) +
+                           " stipples, where the photo has " + SizeText(own.X, own.Y) +
+                           ". The kit is made in that shape.");
 }
 
 }  // namespace
 
-void CheckSavedStipples(const Workplace& place) {
-    place.MainMenu[MenuId::LoadStipples].Enabled = StippleFileExists(place);
+void CheckSavedStipples(Workplace& place) {
+    place.MainMenu[MenuId::LoadStipples].Enabled =
+        StippleFileExists(place.Folder, place.State, place.State);
 }
 
 void LoadStipples_Click(Workplace& place) {
-    const std::filesystem::path path = StippleFilePath(place);
-    const int twips = place.Screen.Screen().Twips.X;
-    LoadedGrid loaded = ReadGrid(path, place.State.StippleSize * twips);
-    const CellPos own = PhotoCells(place);
-    std::optional<Photo> photo = PhotoInShapeOf(place, loaded.Cells);
+    WorkState& state = place.State;
+    const ScreenSize screen = place.Screen.Screen();
+    const std::filesystem::path path = StippleFilePath(place.Folder, state, state);
+    LoadedGrid loaded = ReadGrid(path, state.StippleSize * screen.Twips.X);
+    const CellPos own = PhotoCells(state, screen.Twips, state.StippleSize);
+    std::optional<Photo> photo =
+        PhotoInShapeOf(loaded.Cells, own, state.PicturePath, screen, state.StippleSize);
     if (photo) {
         ShowPhoto(place, std::move(*photo));
-        place.State.ShapedByGrid = true;
+        state.ShapedByGrid = true;
     }
-    Commit(place.State, std::move(loaded));
+    Commit(state, std::move(loaded));
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;
-    SetColorChecks(place.State.Chosen, place.State.FinalColors);
-    EraseToColor(place, kBlack);
+    SetColorChecks(state.Chosen, state.FinalColors);
+    EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
     if (photo) {
-        TellOtherShape(place, path, own);
+        TellOtherShape(place.Screen, state, path, own);
     }
 }
 

@@ -6,7 +6,7 @@ namespace vendrel {
 
 /// Enables "Load Stipple Picture" exactly when a file is kept for the photo and the difficulty
 /// chosen now. Loads nothing.
-void CheckSavedStipples(const Workplace& place);
+void CheckSavedStipples(Workplace& place);
 
 /// Takes up the kept grid and its palette and draws it. Where the file names another shape than the
 /// loaded photo has, the photo takes that shape, and a message says so. Throws FileError and

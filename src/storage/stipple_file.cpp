@@ -77,9 +77,9 @@ void AppendRow(std::string& out, RowView<const StippleCell> row) {
 
 }  // namespace
 
-std::filesystem::path StippleFilePath(const Workplace& place) {
-    return StippleFilePath(place.Folder, place.State.PictureName,
-                           std::string(DifficultyWord(place.State)));
+std::filesystem::path StippleFilePath(const ProgramFolder& folder, const LoadedPhoto& photo,
+                                      const WorkSettings& settings) {
+    return StippleFilePath(folder, photo.PictureName, std::string(DifficultyWord(settings)));
 }
 
 std::filesystem::path StippleFilePath(const ProgramFolder& folder, const std::string& photo,
@@ -87,8 +87,9 @@ std::filesystem::path StippleFilePath(const ProgramFolder& folder, const std::st
     return folder.Path("Saved Stipples/" + photo + "-" + difficulty + ".stp");
 }
 
-bool StippleFileExists(const Workplace& place) {
-    return IsRegularFile(StippleFilePath(place));
+bool StippleFileExists(const ProgramFolder& folder, const LoadedPhoto& photo,
+                       const WorkSettings& settings) {
+    return IsRegularFile(StippleFilePath(folder, photo, settings));
 }
 
 std::string FormatStippleFile(const SavedGrid& saved) {

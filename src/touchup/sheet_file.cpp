@@ -37,15 +37,14 @@ void RequireFit(std::string_view text, const std::filesystem::path& path, const 
     RequireRoom(path, reader.Header(), sheet);
 }
 
-void ReadIntoSheet(StippleFileReader& reader, WorkState& state, EditSheet& sheet) {
+void ReadIntoSheet(StippleFileReader& reader, EditSheet& sheet) {
     const StippleHeader& header = reader.Header();
-    sheet.Announce({header.PaintCount, header.Across, header.Down});
-    state.FinalColors = header.FinalColors;
-    for (PaintColor& paint : state.FoundColors) {
+    sheet.Announce({header.PaintCount, header.Across, header.Down}, header.FinalColors);
+    for (PaintColor& paint : sheet.Paints()) {
         paint = reader.ReadPaint();
     }
     for (int y = 1; y <= header.Down; ++y) {
-        reader.ReadRow(state.EditStipples, y, header.Across);
+        reader.ReadRow(sheet.Cells(), y, header.Across);
     }
 }
 

@@ -24,7 +24,7 @@ struct CleanUpPreview {
 class TouchUp {
   public:
     /// Opens the editor on the kit's grid. Throws Error when there is none.
-    explicit TouchUp(const Workplace& place);
+    explicit TouchUp(Workplace& place);
     TouchUp(const TouchUp&) = delete;
     TouchUp& operator=(const TouchUp&) = delete;
     ~TouchUp() = default;
@@ -98,7 +98,9 @@ class TouchUp {
     void MakeRoomForRecovery();
     [[nodiscard]] bool IsSaved() const { return history_.StateId() == savedId_ && !pen_.Drew(); }
 
-    Workplace place_;
+    [[nodiscard]] std::filesystem::path GridFile() const;
+
+    Workplace& place_;
     EditSheet sheet_;
     EditPen pen_{sheet_};
     EditHistory history_;

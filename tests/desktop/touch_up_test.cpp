@@ -94,7 +94,7 @@ void TouchUpWindowTest::init() {
     WriteBitmap(*files_ / "Data/PBNLady.bmp", photo);
     desktop_ = std::make_unique<Desktop>(ProgramFolder(files_->Path(), VENDREL_SOURCE_DIR));
     QVERIFY(!desktop_->Start());
-    desktop_->Place().State.Chosen.WatchItPaint = false;
+    desktop_->Place().State->Chosen.WatchItPaint = false;
     MainWindow& window = desktop_->Window();
     QVERIFY(LoadFirstPhoto(window) && Choose(window, "ChangeToStipples"));
     QVERIFY(Choose(window, "ColorPickerSelect"));

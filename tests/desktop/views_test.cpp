@@ -22,13 +22,13 @@ class ViewsTest : public QObject {
         QVERIFY(!desktop.Start());
         Menu& menu = desktop.Place().MainMenu;
         menu[MenuId::Difficulty].Enabled = false;
-        desktop.Place().State.Chosen.Level = Difficulty::Medium;
+        desktop.Place().State->Chosen.Level = Difficulty::Medium;
         desktop.Window().Mirror();
         for (const MenuEntry& entry : menu.Entries()) {
             const auto* action = desktop.Window().findChild<QAction*>(Text(entry.Name));
             QVERIFY2(action != nullptr, entry.Name.data());
             QCOMPARE(action->text().remove('&'), Text(entry.Caption));
-            QCOMPARE(action->isChecked(), IsChecked(desktop.Place().State.Chosen, entry.Id));
+            QCOMPARE(action->isChecked(), IsChecked(desktop.Place().State->Chosen, entry.Id));
             QCOMPARE(action->isEnabled(), entry.Enabled);
         }
     }

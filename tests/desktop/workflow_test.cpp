@@ -91,7 +91,7 @@ class WorkflowTest : public QObject {
         QVERIFY(refused);
         QVERIFY(told);
         QVERIFY(!window.isVisible());
-        QVERIFY(!desktop.Place().State.PaintingDone);
+        QVERIFY(!desktop.Place().State->PaintingDone);
         QVERIFY(fs::is_empty(studio.Files / "Results"));
     }
 

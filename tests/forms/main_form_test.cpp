@@ -172,7 +172,7 @@ TEST_F(MainFormTest, SavedGridsAreOfferedPerPhotoAndDifficultyButNeverLoadedUnas
     EXPECT_FALSE(On(LoadStipples));
     form_.Click(ChangeToStipples);
     const WorkState& state = studio_.State;
-    WriteStippleFile(StippleFilePath(studio_.Place),
+    WriteStippleFile(StippleFilePath(studio_.Program, studio_.State, studio_.State),
                      {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, 50});
     const Grid<StippleCell> saved = state.Stipples;
     form_.Click(MediumSet);

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "convert/bitmap_writer.h"
 #include "convert/stipple_conversion.h"
 #include "support/error.h"
@@ -24,7 +24,7 @@ class LoadStipples : public testing::Test {
 
     const std::string paints_ =
         "1,2,3,\"Red\",1,\"Acme\",\"A1\"\r\n4,5,6,\"Blue\",1,\"Acme\",\"A2\"\r\n";
-    test::Easel bench_{8, {"11"}};
+    test::PaintBench bench_{8, {"11"}};
 };
 
 TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {

@@ -257,7 +257,7 @@ TEST(Recovery, FollowsTheChangesWithinTenSecondsAndGoesWithTheSave) {
     EXPECT_FALSE(editor.CanLoad()) << "it never shows as the saved grid";
     editor.SaveIt_Click();
     editor.KeepRecovery(At(90));
-    EXPECT_FALSE(RecoveryExists(bench.Place)) << "nothing has changed since the save";
+    EXPECT_FALSE(fs::exists(bench.Files / kRecovery)) << "nothing has changed since the save";
 }
 
 TEST(Recovery, IsOfferedAfterACrashAndTakenAsOneStep) {
@@ -306,7 +306,7 @@ TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
     saving.SaveIt_Click();
     saving.Cancel();
     EXPECT_FALSE(bench.State.HasUnsavedWork);
-    EXPECT_FALSE(RecoveryExists(bench.Place));
+    EXPECT_FALSE(fs::exists(bench.Files / kRecovery));
 }
 
 TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
@@ -315,7 +315,7 @@ TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
     TouchUp editor(bench.Place);
     EXPECT_THAT([&] { editor.TakeRecovery(); }, ThrowsMessage<FormatError>(HasSubstr("5 x 5")));
     editor.SettleRecovery();
-    EXPECT_TRUE(RecoveryExists(bench.Place));
+    EXPECT_TRUE(fs::exists(bench.Files / kRecovery));
     editor.Fill({1, 1}, 2);
     editor.KeepRecovery(At(1));
     EXPECT_THAT(bench.Files.Read("Saved Stipples/Lady-Easy.recovery-old.stp"), HasSubstr("5,5"));
@@ -330,7 +330,7 @@ TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
     const std::string living = first.Files.Read(kRecovery);
     KitBench second({"12", "12"}, 2);
     const ProgramFolder shared(first.Files.Path());
-    const Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
+    Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
     {
         TouchUp other(place);
         EXPECT_FALSE(other.RecoveryOffered());
@@ -362,7 +362,7 @@ TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
         {
             GridReplacement replacement(bench.Place);
             ASSERT_TRUE(replacement.Allowed());
-            EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
+            EXPECT_TRUE(bench.State.HasUnsavedWork && fs::exists(bench.Files / kRecovery));
             if (replacesGrid) {
                 bench.State.PictureName = "Other";
                 bench.State.Stipples = Grid<StippleCell>(2, 2);
