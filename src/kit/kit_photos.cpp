@@ -64,11 +64,6 @@ std::string KitPhotos::Decode(const Workplace& place, IncomingPhoto& photo) {
 // Two kits of one name would take each other's place; letters of another case do not help, as some
 // disks do not tell them apart.
 void KitPhotos::Claim(const std::filesystem::path& photo, std::string_view name) {
-    if (name.empty()) {
-        throw FileError(photo,
-                        "has nothing before its first dot, which is what a kit is named "
-                        "after. Rename it.");
-    }
     if (std::ranges::any_of(
             names_, [name](const std::string& other) { return SameIgnoringCase(name, other); })) {
         throw FileError(photo, "another photo of this run is named \"" + std::string(name) +

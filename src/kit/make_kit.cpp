@@ -32,7 +32,7 @@ void Timed(KitReport& report, const char* name, Step step) {
 
 void ImportPhoto(Workplace& place, const fs::path& photo, const std::string& picture) {
     if (!ChoosePhoto(place, picture) || LoadNewPicture(place) == PhotoLoad::Nothing) {
-        throw FileError(photo, "is no .bmp file with pixels. Choose another photo.");
+        throw FileError(photo, "has no pixels. Choose another photo.");
     }
 }
 

@@ -149,6 +149,9 @@ TEST_F(CropPhotoTest, DroppedAndPastedPhotosAreLoadedAsOkDoes) {
     EXPECT_EQ(studio_.State.PictureName, "Pasted picture") << "what was loaded stays";
     EXPECT_TRUE(studio_.Frames.WorkFrame.Visible);
     EXPECT_THAT(studio_.Screen.Messages, IsEmpty());
+    WriteBitmap(studio_.Files / "beach", FourQuarters(64, 48));
+    form_.TakePhoto(studio_.Files / "beach");
+    EXPECT_EQ(studio_.State.PictureName, "beach") << "a file without an ending";
     form_.PastePicture({});
     EXPECT_EQ(studio_.Screen.Messages.size(), 1U);
 }

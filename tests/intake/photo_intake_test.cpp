@@ -5,9 +5,11 @@
 #include <barrier>
 #include <thread>
 #include <tuple>
+#include <utility>
 
 #include "convert/bitmap_reader.h"
 #include "convert/bitmap_writer.h"
+#include "convert/bmp_bytes.h"
 #include "intake/picture_decoder.h"
 #include "support/error.h"
 #include "support/pictures.h"
@@ -44,6 +46,21 @@ TEST_F(PhotoIntakeTest, DecodesOnlyWhatTheBitmapReaderCannotRead) {
     WriteBitmap(files_ / "uncle.bmp", Surface(4, 3));
     EXPECT_EQ(TakeIn(folder_, files_ / "uncle.bmp", decoder), "uncle.bmp");
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/uncle.bmp"), (BitmapSize{4, 3}));
+}
+
+TEST_F(PhotoIntakeTest, ABitmapThatNothingCouldBeNamedAfterIsKeptUnderANameThatCan) {
+    const Surface red(4, 3, Rgb(200, 10, 10));
+    for (const auto& [name, kept] : {std::pair{"holiday", "holiday.bmp"},
+                                     {".bmp", "bmp.bmp"},
+                                     {".my.aunt.bmp", "my-aunt.bmp"},
+                                     {"aunt.dat", "aunt.dat"}}) {
+        WriteBitmap(files_ / name, red);
+        EXPECT_EQ(TakeIn(folder_, files_ / name), kept);
+        EXPECT_EQ(ReadBitmap(files_ / "program/Pictures" / kept), red);
+        EXPECT_EQ(TakeIn(folder_, files_ / name), kept) << "not kept twice";
+    }
+    const std::string nothing = test::BmpBytes{.Width = 0, .Height = 0}.Make();
+    EXPECT_THROW(std::ignore = TakeIn(folder_, files_.Write("nothing", nothing)), FormatError);
 }
 
 TEST_F(PhotoIntakeTest, CopiesAPhotoFromElsewhereOnceAndNeverOverAnother) {
