@@ -100,8 +100,7 @@ void FixDate(QByteArray& pdf) {
 
 }  // namespace
 
-void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
-                 const std::filesystem::path& file) {
+void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
     const PrintSymbols symbols;
     const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
@@ -121,7 +120,7 @@ void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
     }
     FixDate(pdf);
     place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteWholeFile(file, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
+    WriteWholeFile(target, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
 }
 
 }  // namespace vendrel

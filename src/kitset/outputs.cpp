@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 void WriteGrid(OutputJob& job, const Target& target) {
     const WorkState& state = job.Place.State;
     WriteStippleFile(
-        target.File,
+        target,
         {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, state.FinalColors},
         Lasting::Remade);  // the set syncs it
 }

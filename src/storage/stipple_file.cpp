@@ -108,8 +108,8 @@ std::string FormatStippleFile(const SavedGrid& saved) {
     return out;
 }
 
-void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved, Lasting lasting) {
-    WriteWholeFile(path, FormatStippleFile(saved), lasting);
+void WriteStippleFile(const Target& target, const SavedGrid& saved, Lasting lasting) {
+    WriteWholeFile(target, FormatStippleFile(saved), lasting);
 }
 
 StippleFileReader::StippleFileReader(std::string_view text, const std::filesystem::path& path)

@@ -34,8 +34,8 @@ struct SavedGrid {
 
 /// The bytes of the file. The paints' CellCount is counted afresh from the cells.
 [[nodiscard]] std::string FormatStippleFile(const SavedGrid& saved);
-/// Replaces `path` whole or not at all; creates its folder. Throws FileError.
-void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved,
+/// Replaces the file whole or not at all; creates its folder. Throws FileError.
+void WriteStippleFile(const Target& target, const SavedGrid& saved,
                       Lasting lasting = Lasting::Synced);
 
 /// The first line of a stipple file.

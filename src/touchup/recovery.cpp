@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "storage/stipple_file.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/folders.h"
 
@@ -19,11 +20,6 @@ constexpr int kMostLeft = 9;  // nobody edits a photo in more windows at once
 fs::path NumberedPath(const Workplace& place, int number) {
     return StippleFilePath(place).replace_extension(
         ".recovery" + (number == 1 ? "" : "-" + std::to_string(number)) + ".stp");
-}
-
-bool IsFile(const fs::path& path) {
-    std::error_code unreadable;
-    return fs::is_regular_file(path, unreadable);
 }
 
 // Offered again after a power cut, it would take the painter back behind the saved grid.

@@ -1,6 +1,9 @@
 #include "kitset/kit_set.h"
 
 #include <gmock/gmock.h>
+#include <sys/resource.h>
+
+#include <csignal>
 
 #include "cleanup/easel.h"
 #include "cleanup/paint_pass.h"
@@ -33,7 +36,7 @@ struct Shelf : test::Easel {
     }
     static void Fill(KitSet& set, const std::vector<OutputId>& outputs) {
         for (const OutputId id : outputs) {
-            WriteWholeFile(set.Waiting(OutputOf(id)).File, set.Mark());
+            WriteWholeFile(set.Waiting(OutputOf(id)), set.Mark());
             set.Written(OutputOf(id));
         }
     }
@@ -64,9 +67,12 @@ TEST(Sums, AreThoseOfSha256sumWhetherReadOrWatched) {
     EXPECT_EQ(SumOfFile(files / "missing"), "");
     RunningSum running;
     EXPECT_FALSE(running.Saw());
+    WholeFile grown(files / "grown");
     for (const char* part : {"a", "b", "c"}) {
-        running.See(std::as_bytes(std::span(part, 1)));
+        grown.Write(part);
+        running.Grew(grown.Descriptor());
     }
+    grown.Commit();
     EXPECT_EQ(running.Finish(), abc);
 }
 
@@ -169,6 +175,19 @@ TEST(KitSet, ThatFailsLeavesTheOldOneAndNothingElse) {
     {
         KitSet givenUp(kit.Place, "NEW");
         Shelf::Fill(givenUp, {Sheet});
+    }
+    {
+        const rlimit full{0, RLIM_INFINITY};  // as a disk without room, but for all files at once
+        ASSERT_EQ(std::signal(SIGXFSZ, SIG_IGN), SIG_DFL);
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+        for (const OutputId id : {Sheet, Grid}) {
+            EXPECT_THAT([&] { kit.Save("NEW", {id}); },
+                        testing::ThrowsMessage<FileError>(
+                            testing::StartsWith(kit.Paths().File(OutputOf(id)).string() + ": ")));
+        }
+        const rlimit room{RLIM_INFINITY, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &room);
+        std::signal(SIGXFSZ, SIG_DFL);
     }
     EXPECT_EQ(kit.Text(Sheet), "OLD");
     EXPECT_EQ(kit.List().Mark, "OLD");
