@@ -33,19 +33,19 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
 }
 
 std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSize& screen,
-                               int stippleSize) {
+                               int stippleSize, PhotoFit fit) {
     BitmapInput input(file);
     if (ReadHeaderSize(input) == BitmapSize{}) {
         return std::nullopt;
     }
     BitmapFile bitmap(std::move(input));
     Photo photo{bitmap.Size(),
-                ComputeWorkingSize(bitmap.Size(), screen, stippleSize),
+                ComputeFittedSize(bitmap.Size(), screen, stippleSize, fit),
                 {},
                 bitmap.HasOwnColors()};
     RequireStipples(file, photo.Bmp, screen, stippleSize);
-    photo.Picture = ReadScaled(bitmap, photo.Working.Width / screen.Twips.X,
-                               photo.Working.Height / screen.Twips.Y);
+    const BitmapSize pixels = photo.Working.Pixels(screen.Twips);
+    photo.Picture = ReadScaled(bitmap, pixels.Width, pixels.Height);
     return photo;
 }
 
@@ -86,8 +86,8 @@ void ReadBmpSize(Workplace& place) {
 }
 
 PhotoLoad LoadNewPicture(Workplace& place) {
-    std::optional<Photo> photo =
-        ReadPhoto(place.State.PicturePath, place.Screen.Screen(), place.State.StippleSize);
+    std::optional<Photo> photo = ReadPhoto(place.State.PicturePath, place.Screen.Screen(),
+                                           place.State.StippleSize, place.State.Chosen.Fit);
     if (!photo) {
         ReadBmpSize(place);
         return PhotoLoad::Nothing;

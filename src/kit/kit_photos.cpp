@@ -1,6 +1,7 @@
 #include "kit/kit_photos.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "convert/photo_import.h"
 #include "convert/picture_name.h"
@@ -15,7 +16,7 @@ namespace {
 // Of the outputs asked for: what fits is made.
 std::string LongestEnding(const Workplace& place, const KitOptions& options) {
     const KitName kit{"", std::string(DifficultyWord(place.State))};
-    const std::string crop = options.Crop == CropPart::Whole ? "" : " crop";
+    const std::string crop = PartOf(options.Chosen.Fit) == CropPart::Whole ? "" : " crop";
     std::string longest = crop + ".bmp";
     for (const Output& output : AllOutputs()) {
         const std::string ending = crop + FileOf(output, place.Folder, kit).filename().string();
@@ -28,11 +29,12 @@ std::string LongestEnding(const Workplace& place, const KitOptions& options) {
 
 }  // namespace
 
-std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
-                              const std::filesystem::path& file) {
+TakenPhoto KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
+                             const std::filesystem::path& file) {
     const CropTarget target = TargetOf(place);
+    const CropPart part = PartOf(options.Chosen.Fit);
     IncomingPhoto photo(file, decoder_);
-    RequirePaintable(photo, target, options.Crop);
+    RequirePaintable(photo, target, part);
     const bool plain = photo.IsPlainBitmap();
     if (plain) {
         RequireResultNames(file, LongestEnding(place, options));
@@ -42,12 +44,13 @@ std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
         MentionColors(place, file);
     }
     const std::string taken = plain ? TakeIntoPictures(place.Folder, photo) : Decode(place, photo);
-    std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
+    std::string picture = CropInPictures(place.Folder, taken, target, part);
     // Decoded photos and crops are numbered where their name is taken: it is known only now.
     if (!plain || picture != taken) {
         Claim(file, PictureNameOf(picture));
     }
-    return picture;
+    const bool cropped = picture != taken;
+    return {std::move(picture), cropped};
 }
 
 std::string KitPhotos::Decode(const Workplace& place, IncomingPhoto& photo) {

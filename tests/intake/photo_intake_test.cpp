@@ -10,6 +10,7 @@
 #include "convert/bitmap_reader.h"
 #include "convert/bitmap_writer.h"
 #include "convert/bmp_bytes.h"
+#include "convert/working_size.h"
 #include "intake/picture_decoder.h"
 #include "support/error.h"
 #include "support/pictures.h"
@@ -111,7 +112,7 @@ TEST_F(PhotoIntakeTest, CropsASquarePortraitBesideItself) {
     EXPECT_EQ(CropInPictures(folder_, photo, easy_, CropPart::Top), top) << "not kept twice";
     const Surface upper = ReadBitmap(files_ / "program/Pictures/aunt crop.bmp");
     const Surface middle = ReadBitmap(files_ / "program/Pictures/aunt crop 2.bmp");
-    EXPECT_LT(SheetStretch({upper.Width(), upper.Height()}, easy_), kMaxCropStretch);
+    EXPECT_LT(SheetStretch({upper.Width(), upper.Height()}, easy_), kUnstretched);
     EXPECT_EQ(upper.Get(0, 0), 1);
     EXPECT_EQ(middle.Get(0, 0), 1 + (600 - middle.Height()) / 2);
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/aunt.bmp"), (BitmapSize{600, 600}));
