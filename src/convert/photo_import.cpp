@@ -30,8 +30,8 @@ std::optional<Photo> ReadSized(const std::filesystem::path& file, TwipsPerPixel 
     }
     BitmapFile bitmap(std::move(input));
     Photo photo{bitmap.Size(), sizeOf(bitmap.Size()), {}, bitmap.HasOwnColors()};
-    photo.Picture =
-        ReadScaled(bitmap, photo.Working.Width / twips.X, photo.Working.Height / twips.Y);
+    const BitmapSize pixels = photo.Working.Pixels(twips);
+    photo.Picture = ReadScaled(bitmap, pixels.Width, pixels.Height);
     return photo;
 }
 
@@ -48,10 +48,10 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
 }
 
 std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSize& screen,
-                               int stippleSize) {
+                               int stippleSize, PhotoFit fit) {
     return ReadSized(file, screen.Twips, [&](BitmapSize photo) {
         RequireStipples(file, photo, screen, stippleSize);
-        return ComputeWorkingSize(photo, screen, stippleSize);
+        return ComputeFittedSize(photo, screen, stippleSize, fit);
     });
 }
 
@@ -105,8 +105,9 @@ void ReadBmpSize(LoadedPhoto& photo) {
 }
 
 PhotoLoad LoadNewPicture(Workplace& place) {
-    std::optional<Photo> photo =
-        ReadPhoto(place.State->PicturePath, place.Screen.Screen(), place.State->StippleSize);
+    const WorkState& state = place.State;
+    std::optional<Photo> photo = ReadPhoto(state.PicturePath, place.Screen.Screen(),
+                                           state.StippleSize, state.Chosen.Fit);
     if (!photo) {
         ReadBmpSize(place.State);
         return PhotoLoad::Nothing;

@@ -27,10 +27,12 @@ enum class [[nodiscard]] PhotoLoad{Loaded, Nothing};
 void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const ScreenSize& screen,
                      int stippleSize);
 
-/// Reads a photo for a screen and a stipple size, row by row. Nothing for 0 x 0 pixels. Throws
-/// FileError or FormatError, also when no whole stipple fits its shape, and OverflowError.
+/// Reads a photo for a screen and a stipple size, row by row, in the size that `fit` gives it.
+/// Nothing for 0 x 0 pixels. Throws FileError or FormatError, also when no whole stipple fits its
+/// shape, and OverflowError.
 [[nodiscard]] std::optional<Photo> ReadPhoto(const std::filesystem::path& file,
-                                             const ScreenSize& screen, int stippleSize);
+                                             const ScreenSize& screen, int stippleSize,
+                                             PhotoFit fit);
 
 /// The same in the shape of a grid that was made elsewhere: `stipples` across and down, both at
 /// least 1, whatever the photo's own working size is.

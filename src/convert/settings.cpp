@@ -12,7 +12,7 @@ void SetStippleSize(Workplace& place, int size) {
     WorkState& state = place.State;
     std::optional<Photo> photo;
     if (!state.PicturePath.empty()) {
-        photo = ReadPhoto(state.PicturePath, place.Screen.Screen(), size);
+        photo = ReadPhoto(state.PicturePath, place.Screen.Screen(), size, state.Chosen.Fit);
     }
     SizeStipples(state, size);
     if (photo) {

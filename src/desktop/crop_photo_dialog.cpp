@@ -18,7 +18,7 @@ CropPhotoDialog::CropPhotoDialog(const ViewContext& context, QWidget* parent)
       turnRight_(Named<QPushButton>("TurnRight", tr("Turn right"))),
       okButton_(Named<QPushButton>("OKButton", tr("OK"))),
       cancelButton_(Named<QPushButton>("CancelButton", tr("Cancel"))) {
-    setWindowTitle(tr("Crop to Fit"));
+    setWindowTitle(tr("Crop or Turn"));
     view_->setObjectName(QStringLiteral("CropView"));
     view_->setAccessibleName(tr("Photo with the crop frame"));
     Arrange();

@@ -22,6 +22,7 @@ struct Keys {
 constexpr Keys kKeys[] = {
     {FileHeader, 'P'},
     {LoadBMP, 'L', "Ctrl+O"},
+    {CropOrTurn, 'r'},
     {LoadStipples, 'S'},
     {StartupPaintShop, 'h'},
     {ChangeToStipples, 'C'},

@@ -134,6 +134,10 @@ void CropPhoto::TurnPhoto(Turn turn) {
 }
 
 void CropPhoto::OKButton_Click() {
+    if (frame_->KeepsPhoto()) {
+        Close();
+        return;
+    }
     std::string file;
     {
         const BusyPointer busy(place_.Screen);

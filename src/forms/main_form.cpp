@@ -30,6 +30,7 @@ struct ClickHandler {
 
 constexpr ClickHandler kHandlers[] = {
     {LoadBMP, &MainForm::LoadBMP_Click},
+    {CropOrTurn, &MainForm::CropOrTurn_Click},
     {LoadStipples, &MainForm::LoadStipples_Click},
     {StartupPaintShop, &MainForm::StartupPaintShop_Click},
     {ChangeToStipples, &MainForm::ChangeToStipples_Click},
@@ -137,6 +138,14 @@ void MainForm::LoadBMP_Click() {
     chooser_.ShowFolder(place_.Folder.Path("Pictures"));
     place_.MainMenu[PrintMenu].Enabled = false;
     place_.Screen.OpenForm(FormId::FileImport);
+}
+
+void MainForm::CropOrTurn_Click() {
+    if (!place_.State->PictureLoaded) {
+        place_.Screen.ShowMessage("No Photo Loaded", "Choose a photo first: Picture, Load Photo.");
+        return;
+    }
+    chooser_.CropLoaded();
 }
 
 void MainForm::TakePhoto(const fs::path& photo) {

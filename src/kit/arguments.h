@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "convert/crop.h"
 #include "kitset/outputs.h"
 #include "plan/plan_layout.h"
 #include "shell/settings.h"
@@ -28,7 +27,6 @@ struct KitOptions {
     Settings Chosen;
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
-    CropPart Crop = CropPart::Whole;
     ScreenSize Screen = kDrawingBoard;
     KitOutputs Outputs;
     PlanSettings Plan;  // of the PDF

@@ -1,6 +1,7 @@
 #include "kit/kit_photos.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "convert/photo_import.h"
 #include "convert/picture_name.h"
@@ -16,7 +17,7 @@ namespace {
 std::string LongestEnding(const ProgramFolder& folder, std::string_view difficulty,
                           const KitOptions& options) {
     const KitName kit{"", std::string(difficulty)};
-    const std::string crop = options.Crop == CropPart::Whole ? "" : " crop";
+    const std::string crop = PartOf(options.Chosen.Fit) == CropPart::Whole ? "" : " crop";
     std::string longest = crop + ".bmp";
     for (const Output& output : AllOutputs()) {
         const std::string ending = crop + FileOf(output, folder, kit).filename().string();
@@ -29,11 +30,12 @@ std::string LongestEnding(const ProgramFolder& folder, std::string_view difficul
 
 }  // namespace
 
-std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
-                              const std::filesystem::path& file) {
+TakenPhoto KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
+                             const std::filesystem::path& file) {
     const CropTarget target = TargetOf(place.Screen, place.State);
+    const CropPart part = PartOf(options.Chosen.Fit);
     IncomingPhoto photo(file, decoder_);
-    RequirePaintable(photo, target, options.Crop);
+    RequirePaintable(photo, target, part);
     const bool plain = photo.IsPlainBitmap();
     if (plain) {
         RequireResultNames(file, LongestEnding(place.Folder, DifficultyWord(place.State), options));
@@ -44,12 +46,13 @@ std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
     }
     const std::string taken =
         plain ? TakeIntoPictures(place.Folder, photo) : Decode(place.Screen, place.Folder, photo);
-    std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
+    std::string picture = CropInPictures(place.Folder, taken, target, part);
     // Decoded photos and crops are numbered where their name is taken: it is known only now.
     if (!plain || picture != taken) {
         Claim(file, PictureNameOf(picture));
     }
-    return picture;
+    const bool cropped = picture != taken;
+    return {std::move(picture), cropped};
 }
 
 std::string KitPhotos::Decode(Ui& screen, const ProgramFolder& folder, IncomingPhoto& photo) {
@@ -65,11 +68,6 @@ std::string KitPhotos::Decode(Ui& screen, const ProgramFolder& folder, IncomingP
 // Two kits of one name would take each other's place; letters of another case do not help, as some
 // disks do not tell them apart.
 void KitPhotos::Claim(const std::filesystem::path& photo, std::string_view name) {
-    if (name.empty()) {
-        throw FileError(photo,
-                        "has nothing before its first dot, which is what a kit is named "
-                        "after. Rename it.");
-    }
     if (std::ranges::any_of(
             names_, [name](const std::string& other) { return SameIgnoringCase(name, other); })) {
         throw FileError(photo, "another photo of this run is named \"" + std::string(name) +

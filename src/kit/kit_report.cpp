@@ -1,5 +1,6 @@
 #include "kit/kit_report.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <nlohmann/json.hpp>
@@ -33,6 +34,24 @@ void AddLine(std::string& text, std::string label, const std::string& value) {
     text += "  " + label + Printable(value) + "\n";
 }
 
+struct FitWords {
+    PhotoFit Fit;
+    std::string_view Option;
+    std::string_view Sentence;
+};
+
+constexpr FitWords kFits[] = {
+    {PhotoFit::Keep, "keep", ", its shape kept"},
+    {PhotoFit::Crop, "crop", ", cropped"},
+    {PhotoFit::CropTop, "top", ", cropped below its top"},
+    {PhotoFit::Stretch, "stretch", ""},
+};
+constexpr FitWords kFitsByItself{PhotoFit::Keep, "none", ""};
+
+const FitWords& WordsOf(const std::optional<PhotoFit>& fit) {
+    return fit ? *std::ranges::find(kFits, *fit, &FitWords::Fit) : kFitsByItself;
+}
+
 std::string MillisecondsLine(const KitReport& report) {
     std::string line;
     double total = 0;
@@ -63,6 +82,7 @@ Json JsonOf(const KitReport& report) {
                  {"mark", report.Mark},
                  {"photoSize", JsonOf(report.PhotoSize)},
                  {"workingSize", JsonOf(report.WorkingSize)},
+                 {"fit", WordsOf(report.Fit).Option},
                  {"stretchPercent", StretchPercent(report.PhotoSize, report.WorkingSize)},
                  {"stipples", {{"across", report.CellsAcross}, {"down", report.CellsDown}}}};
     if (!report.FromGrid) {
@@ -118,7 +138,8 @@ std::string SummaryOf(const KitReport& report) {
     AddLine(text, "worked at",
             SizeText(report.WorkingSize.Width, report.WorkingSize.Height) +
                 " pixels, stretched by " +
-                OneDecimal(StretchPercent(report.PhotoSize, report.WorkingSize)) + " %");
+                OneDecimal(StretchPercent(report.PhotoSize, report.WorkingSize)) + " %" +
+                std::string(WordsOf(report.Fit).Sentence));
     AddLine(text, "stipples", SizeText(report.CellsAcross, report.CellsDown));
     AddLine(text, "paints",
             (report.FromGrid ? "" : std::to_string(report.PaintsMatched) + " matched, ") +

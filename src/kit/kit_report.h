@@ -7,6 +7,7 @@
 
 #include "convert/bitmap_header.h"
 #include "output/sheet_record.h"
+#include "shell/settings.h"
 
 namespace vendrel {
 
@@ -19,6 +20,7 @@ struct KitReport {
     std::string Mark;        // see KitMark
     BitmapSize PhotoSize;
     BitmapSize WorkingSize;
+    std::optional<PhotoFit> Fit;  // how a photo that did not fit by itself was brought on the sheet
     int CellsAcross = 0;
     int CellsDown = 0;
     bool FromGrid = false;

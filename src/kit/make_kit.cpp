@@ -1,6 +1,7 @@
 #include "kit/make_kit.h"
 
 #include <chrono>
+#include <optional>
 #include <utility>
 
 #include "cleanup/area_search.h"
@@ -9,6 +10,7 @@
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "convert/working_size.h"
+#include "intake/photo_intake.h"
 #include "kitset/save_kit.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
@@ -33,7 +35,7 @@ void Timed(KitReport& report, const char* name, Step step) {
 void ImportPhoto(Workplace& place, const fs::path& photo, const std::string& picture) {
     if (!ChoosePhoto(place.State, place.Folder, picture) ||
         LoadNewPicture(place) == PhotoLoad::Nothing) {
-        throw FileError(photo, "is no .bmp file with pixels. Choose another photo.");
+        throw FileError(photo, "has no pixels. Choose another photo.");
     }
 }
 
@@ -112,8 +114,22 @@ void FillFigures(const Workplace& place, KitReport& report) {
     if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
             "The photo's shape does not fit whole stipples on this screen, so it is stretched; "
-            "--crop, or --crop top for faces, cuts off what is too much.");
+            "--fit keep keeps its shape, --fit crop, or top for faces, cuts off what is too "
+            "much.");
     }
+}
+
+// Most photos fit without.
+std::optional<PhotoFit> FitUsed(const Workplace& place, const TakenPhoto& taken) {
+    const WorkState& state = place.State;
+    const PhotoFit fit = state.Chosen.Fit;
+    if (taken.Cropped) {
+        return fit;
+    }
+    if (SheetStretch({state.BmpWidth, state.BmpHeight}, TargetOf(place.Screen, place.State)) <= kStretchThatShows) {
+        return std::nullopt;
+    }
+    return fit == PhotoFit::Stretch ? fit : PhotoFit::Keep;
 }
 
 }  // namespace
@@ -131,9 +147,9 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     KitReport report;
     report.Photo = photo.string();
     report.FromGrid = options.FromGrid;
-    std::string picture;
-    Timed(report, "photo", [&] { picture = photos.TakeIn(place, options, photo); });
-    Timed(report, "import", [&] { ImportPhoto(place, photo, picture); });
+    TakenPhoto taken;
+    Timed(report, "photo", [&] { taken = photos.TakeIn(place, options, photo); });
+    Timed(report, "import", [&] { ImportPhoto(place, photo, taken.File); });
     if (options.FromGrid) {
         Timed(report, "load", [&] { TakeSavedGrid(place); });
     } else {
@@ -141,6 +157,7 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     }
     Timed(report, "paint", [&] { PaintItNow_Click(place); });
     FillFigures(place, report);
+    report.Fit = FitUsed(place, taken);
     WriteOutputs(place, options, exporter, report);
     return report;
 }

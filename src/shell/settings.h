@@ -34,6 +34,14 @@ inline constexpr std::array<DifficultyTraits, 3> kDifficulties = {{
 
 enum class Sampling { Average, Pixel };
 
+/// How a photo comes onto the sheet that would be stretched there so much that it shows.
+enum class PhotoFit {
+    Keep,     // in its own shape, on a smaller sheet
+    Crop,     // cut to the sheet's shape round its middle
+    CropTop,  // cut at its foot
+    Stretch,
+};
+
 /// The final paints that can be asked for.
 inline constexpr std::array kFinalPaints = {16, 32, 40, 50};
 
@@ -43,6 +51,7 @@ struct Settings {
     int FinalPaints = 50;  // of kFinalPaints; 0 while a loaded grid has another number
     Sampling Sample = Sampling::Average;
     bool WatchItPaint = true;
+    PhotoFit Fit = PhotoFit::Keep;  // for the photos that need it
 
     bool operator==(const Settings&) const = default;
 };

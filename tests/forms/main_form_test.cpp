@@ -247,9 +247,9 @@ TEST_F(MainFormTest, TheChooserShowsFoldersPreviewsAndTakesPhotosFromElsewhere) 
                 ElementsAre("..", "Album", "Data", "Pictures", "Results"));
     chooser.ImportDir_Change(1);
     chooser.ImportFile_Click(0);
-    EXPECT_EQ(chooser.Controls().Preview.Width(), 260);
-    EXPECT_EQ(chooser.Controls().Preview.Height(), 130);
-    EXPECT_THAT(chooser.Controls().Description, HasSubstr("600 x 300"));
+    EXPECT_EQ(chooser.Fit().Controls().Preview.Width(), 260);
+    EXPECT_EQ(chooser.Fit().Controls().Preview.Height(), 130);
+    EXPECT_THAT(chooser.Fit().Controls().Description, HasSubstr("600 x 300"));
     chooser.OKButton_Click();
     EXPECT_EQ(studio_.State.PictureName, "my");
     EXPECT_EQ(studio_.State.PicturePath, (studio_.Files / "Pictures/my.holiday.bmp").string());
