@@ -1,5 +1,6 @@
 #include "paints/paint_list.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "shell/palette.h"
 #include "shell/warnings.h"
 #include "support/disk.h"
+#include "support/error.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
 
@@ -16,6 +18,7 @@ namespace vendrel {
 namespace {
 
 constexpr const char* kPaintList = "data/paintlist.txt";
+constexpr const char* kCatalogue = "data/studiopaint.csv";
 
 // False when there is no such set.
 bool Select(WorkState& state, const std::string& name) {
@@ -32,16 +35,37 @@ bool Select(WorkState& state, const std::string& name) {
 void WarnOfUnknown(const Workplace& place, const std::filesystem::path& file,
                    const std::string& names) {
     if (!names.empty()) {
-        WarnOnce(place, file.string() + ": the catalogue has no paint set " + names +
+        WarnOnce(place, Shown(file) + ": the catalogue has no paint set " + names +
                             ". It is left out; choose others in the paint shop or correct the "
                             "name.");
     }
+}
+
+// Its own catalogue makes a folder strange to the list that ships with the program.
+bool IsOfAnotherCatalogue(const Workplace& place, const std::filesystem::path& list) {
+    if (place.Folder.Exists(kPaintList) || !place.Folder.Exists(kCatalogue)) {
+        return false;
+    }
+    const std::vector<std::string> names = SplitLines(ReadTextFile(list));
+    return std::ranges::none_of(place.State.PaintSets, [&names](const PaintSet& set) {
+        return std::ranges::find(names, set.Name) != names.end();
+    });
 }
 
 void StartPaintList(Workplace& place) {
     if (place.State.PaintSetCount > 0) {
         place.State.PaintSets[1].Selected = true;
         SavePaintList(place);
+    }
+}
+
+void WarnOfStartedList(const Workplace& place) {
+    if (place.State.PaintSetCount > 0) {
+        WarnOnce(place, Shown(place.Folder.Path(kPaintList)) +
+                            ": was not there, and the catalogue has none of the paint sets that "
+                            "come with the program. The catalogue's first one, \"" +
+                            place.State.PaintSets[1].Name +
+                            "\", is chosen; choose others in the paint shop or in that file.");
     }
 }
 
@@ -53,6 +77,11 @@ void LoadPaintList(Workplace& place) {
     const auto file = place.Folder.DataFile(kPaintList);
     if (!Stands(file)) {
         StartPaintList(place);
+        return;
+    }
+    if (IsOfAnotherCatalogue(place, file)) {
+        StartPaintList(place);
+        WarnOfStartedList(place);
         return;
     }
     PaintList paints;
