@@ -212,7 +212,7 @@ void TemplateShopDialog::AskName(const QString& title, const QString& first,
 
 void TemplateShopDialog::ChooseImport() {
     const QString file = QFileDialog::getOpenFileName(this, tr("Import a Palette"), {},
-                                                      tr("Palettes (*.gpl *.csv)"));
+                                                      tr("Palettes and templates (*.gpl *.csv)"));
     if (!file.isEmpty()) {
         form_.Import_Click(PathOf(file));
     }

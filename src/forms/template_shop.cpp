@@ -221,10 +221,13 @@ void TemplateShop::FillFromPhoto_Click() {
 }
 
 void TemplateShop::Import_Click(const std::filesystem::path& file) {
-    const PaintList paints = ReadPaletteFile(file);
+    const PaintFile read = ReadPaletteFile(file);
     const std::string name = FreeTemplateName(place_, CleanTemplateName(file.stem().string()));
-    WriteTemplate(TemplatePath(place_, name), paints);
+    WriteTemplate(TemplatePath(place_, name), read.Paints);
     ListAndChoose(name);
+    for (const std::string& warning : read.Warnings) {
+        place_.Screen.ShowMessage("Warning", warning);
+    }
 }
 
 void TemplateShop::Export_Click(const std::filesystem::path& file) const {
