@@ -59,6 +59,25 @@ TEST(ColorMatcher, PreviewShowsWhatAcceptingGives) {
     EXPECT_TRUE(matcher.MainMenu[MenuId::PaintItNow].Enabled);
 }
 
+TEST(ColorMatcher, CountsWhatAcceptingGivesAtOnce) {
+    Matcher matcher;
+    ASSERT_EQ(matcher.Form.Rows()[2].ShareTenths, 500);
+    matcher.State.MasterColors.Add({160, 60, 0, "Cold", "PO1", "Rust", 0});
+    matcher.Form.PaintList_Click(2);
+    matcher.Form.Exchange_Click(1);  // Green gives way to Rust, which is no nearer to anything
+    EXPECT_EQ(matcher.Form.Rows()[2].Current.PaintName, "Rust");
+    matcher.Form.PaintList_Click(1);
+    matcher.Form.Exchange_Click(0);
+    int stipples = 0;
+    for (const MatcherRow& row : matcher.Form.Rows()) {
+        stipples += row.Stipples;
+    }
+    EXPECT_EQ(stipples, 16);
+    EXPECT_NE(matcher.Form.Rows()[2].ShareTenths, 500);
+    matcher.Form.PutAllBack_Click();
+    EXPECT_EQ(matcher.Form.Rows()[2].ShareTenths, 500);
+}
+
 TEST(ColorMatcher, PutsBackOneOrAll) {
     Matcher matcher;
     matcher.Form.Source_Click(MatchSource::WholeCatalogue);
