@@ -99,9 +99,8 @@ TEST(KitFiles, SettingsChangeThePaintingForThisRunOnly) {
     studio.Files.Write("templates/Two.csv",
                        " 2\r\n250,250,250,\"Own\",\"W\",\"White\"\r\n90,20,10,\"Own\",\"R\","
                        "\"Brick\"\r\n");
-    const std::string set = SplitLines(list).at(0);
     for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"--sample", "pixel"}, {"--sets", set}, {"--template", "Two"}}) {
+         {std::vector<std::string>{"--sample", "pixel"}, {"--sets", "Artist Acrylics"}, {"--template", "Two"}}) {
         std::vector<std::string> all = {"ball.bmp", "--outputs", "painting", "--json"};
         all.insert(all.end(), words.begin(), words.end());
         ASSERT_EQ(studio.Kit(all), 0) << studio.Err;
