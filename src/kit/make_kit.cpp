@@ -83,6 +83,10 @@ void WriteOutputs(const Workplace& place, const KitOptions& options, const Expor
         report.Milliseconds.emplace_back(step, took);
     }
     report.Notes.insert(report.Notes.end(), saved.Notes.begin(), saved.Notes.end());
+    report.Plan = saved.Plan;
+    if (report.Plan && report.Plan->Small > 0) {
+        report.Notes.push_back(WarningOf(*report.Plan));
+    }
 }
 
 int CountLoners(const WorkState& state) {
