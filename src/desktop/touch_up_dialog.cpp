@@ -71,16 +71,16 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       zoomIn_(Button("ZoomIn", QStringLiteral("+"), tr("Zoom in (+)"))),
       zoomOut_(Button("ZoomOut", QStringLiteral("\u2212"), tr("Zoom out (\u2212)"))),
       fit_(Button("Fit", tr("Fit"), tr("Show the whole picture (0)"))),
-      zoom_(Named<QLabel>("Zoom", tr("Zoom"))),
+      zoom_(Value("Zoom")),
       palette_(new PaintRows),
       blinkLoners_(Named<QCheckBox>("BlinkLoners", tr("Blink loners"))),
       blinkPaint_(Named<QCheckBox>("BlinkPaint", tr("Blink the chosen paint"))),
       nextLoner_(Named<QPushButton>("NextLoner", tr("Next loner"))),
-      loners_(Named<QLabel>("Loners", tr("Loners"))),
+      loners_(Value("Loners")),
       lowerLevel_(Button("LowerLevel", QStringLiteral("\u2212"), tr("Lower the clean-up level"))),
       raiseLevel_(Button("RaiseLevel", QStringLiteral("+"), tr("Raise the clean-up level"))),
-      cleanLevel_(Named<QLabel>("CleanLevel", tr("Clean-up level"))),
-      cleanPreview_(Named<QLabel>("CleanPreview", tr("What a clean-up would do"))),
+      cleanLevel_(Value("CleanLevel")),
+      cleanPreview_(Value("CleanPreview")),
       cleanUp_(Named<QPushButton>("CleanUp", tr("Clean up"))),
       gridLines_(Named<QCheckBox>("GridLines", tr("Grid lines"))),
       symbols_(Named<QCheckBox>("Symbols", tr("Symbols"))),
@@ -89,8 +89,8 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       save_(Named<QPushButton>("SaveIt", tr("Save"))),
       accept_(Named<QPushButton>("Accept", tr("Accept"))),
       cancel_(Named<QPushButton>("Cancel", tr("Cancel"))),
-      pointed_(Named<QLabel>("Pointed", tr("The stipple pointed at"))),
-      status_(Named<QLabel>("Status", tr("Status"))) {
+      pointed_(Value("Pointed")),
+      status_(Value("Status")) {
     setWindowTitle(tr("Touch Up"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     Arrange();
@@ -313,6 +313,7 @@ void TouchUpDialog::ConnectCanvas() {
         const double edge = canvas_->Edge();
         zoom_->setText(edge == static_cast<int>(edge) ? tr("%1 pixels").arg(static_cast<int>(edge))
                                                       : tr("%1 pixels").arg(edge, 0, 'f', 1));
+        zoom_->setAccessibleName(tr("Zoom: %1 a stipple").arg(zoom_->text()));
     });
 }
 
@@ -379,6 +380,7 @@ void TouchUpDialog::Mirror() {
     const TouchUpControls& shown = form_.Controls();
     loners_->setText(Text(shown.Loners));
     cleanLevel_->setText(tr("Level %1").arg(shown.CleanLevel));
+    cleanLevel_->setAccessibleName(tr("Clean-up level %1").arg(shown.CleanLevel));
     cleanPreview_->setText(Text(shown.CleanPreview));
     lowerLevel_->setEnabled(shown.LowerEnabled);
     raiseLevel_->setEnabled(shown.RaiseEnabled);
