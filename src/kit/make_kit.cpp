@@ -132,7 +132,7 @@ void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
 KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
                   const fs::path& photo, const Exporter* exporter) {
     KitReport report;
-    report.Photo = photo.string();
+    report.Photo = Shown(photo);
     report.FromGrid = options.FromGrid;
     std::string picture;
     Timed(report, "photo", [&] { picture = photos.TakeIn(place, options, photo); });

@@ -94,9 +94,8 @@ double KeptShare(Difficulty level) {
 }
 
 std::optional<Difficulty> LevelThatDoes(const PlanSketch& sketch, PrintScale scale) {
-    const int now = TraitsOf(sketch.Level).StippleSize;
     for (auto level = kDifficulties.rbegin(); level != kDifficulties.rend(); ++level) {
-        if (level->StippleSize > now &&
+        if (level->StippleSize > sketch.StippleSize &&
             scale.Mm(KeptShare(level->Level) *
                      HeightInStipple(level->StippleSize, sketch.Aspects)) >=
                 kLegibleSymbolMm - kHairMm) {
@@ -145,10 +144,9 @@ PlanSketch SketchPlan(const Workplace& place, const SymbolAspects& aspects) {
     sketch.Width = picture.Width();
     sketch.Height = picture.Height();
     sketch.StippleSize = state.StippleSize;
-    sketch.Level = state.Chosen.Level;
     sketch.Aspects = AspectsOf(state.PaintColors, aspects);
     sketch.Regions = FindRegionsWithoutCrumbs(PaintPerPixel(state, sketch.Width, sketch.Height),
-                                              TraitsOf(sketch.Level).FewestOwnPixels);
+                                              TraitsOf(state.Chosen.Level).FewestOwnPixels);
     sketch.SymbolHeights = LargestSymbols(sketch.Regions, sketch.Aspects);
     sketch.HeightInStipple = HeightInStipple(sketch.StippleSize, sketch.Aspects);
     return sketch;

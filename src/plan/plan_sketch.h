@@ -55,7 +55,6 @@ struct PlanSketch {
     int Width = 0;                      // of the picture, in pixels
     int Height = 0;
     int StippleSize = 0;
-    Difficulty Level = Difficulty::Easy;
 };
 
 /// `aspects` are those of the symbols as they will be drawn. Throws Error for an unpainted picture
