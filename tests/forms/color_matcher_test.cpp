@@ -61,19 +61,15 @@ TEST(ColorMatcher, PreviewShowsWhatAcceptingGives) {
 
 TEST(ColorMatcher, CountsWhatAcceptingGivesAtOnce) {
     Matcher matcher;
-    ASSERT_EQ(matcher.Form.Rows()[2].ShareTenths, 500);
-    matcher.State.MasterColors.Add({160, 60, 0, "Cold", "PO1", "Rust", 0});
-    matcher.Form.PaintList_Click(2);
-    matcher.Form.Exchange_Click(1);  // Green gives way to Rust, which is no nearer to anything
-    EXPECT_EQ(matcher.Form.Rows()[2].Current.PaintName, "Rust");
+    EXPECT_EQ(matcher.Form.Rows()[2].ShareTenths, 500);
+    matcher.State.MasterColors.Add({0, 255, 255, "Cold", "PB2", "Cyan", 0});
     matcher.Form.PaintList_Click(1);
-    matcher.Form.Exchange_Click(0);
-    int stipples = 0;
-    for (const MatcherRow& row : matcher.Form.Rows()) {
-        stipples += row.Stipples;
-    }
-    EXPECT_EQ(stipples, 16);
-    EXPECT_NE(matcher.Form.Rows()[2].ShareTenths, 500);
+    matcher.Form.Exchange_Click(1);  // further from red than the green is
+    EXPECT_EQ(matcher.Form.Rows()[1].Current.PaintName, "Cyan");
+    EXPECT_EQ(matcher.Form.Rows()[1].Stipples, 0);
+    EXPECT_EQ(matcher.Form.Rows()[1].ShareTenths, 0);
+    EXPECT_EQ(matcher.Form.Rows()[2].Stipples, 16);
+    EXPECT_EQ(matcher.Form.Rows()[2].ShareTenths, 1000);
     matcher.Form.PutAllBack_Click();
     EXPECT_EQ(matcher.Form.Rows()[2].ShareTenths, 500);
 }
