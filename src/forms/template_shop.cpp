@@ -221,11 +221,14 @@ void TemplateShop::FillFromPhoto_Click() {
 }
 
 void TemplateShop::Import_Click(const std::filesystem::path& file) {
-    const PaintList paints = ReadPaletteFile(file);
+    const PaintFile read = ReadPaletteFile(file);
     const std::string name =
         FreeTemplateName(place_.Folder, CleanTemplateName(file.stem().string()));
-    WriteTemplate(TemplatePath(place_.Folder, name), paints);
+    WriteTemplate(TemplatePath(place_.Folder, name), read.Paints);
     ListAndChoose(name);
+    for (const std::string& warning : read.Warnings) {
+        place_.Screen.ShowMessage("Warning", warning);
+    }
 }
 
 void TemplateShop::Export_Click(const std::filesystem::path& file) const {

@@ -74,6 +74,14 @@ Json JsonOf(const NumberingCounts& counts) {
             {"borderDots", counts.BorderDots}};
 }
 
+Json JsonOf(const PlanFigures& plan) {
+    return {{"pages", plan.Pages},
+            {"canvasCm", {{"width", plan.Canvas.Width / 10}, {"height", plan.Canvas.Height / 10}}},
+            {"symbols", plan.Symbols},
+            {"below2mm", plan.Small},
+            {"smallestMm", plan.SmallestMm}};
+}
+
 Json JsonOf(const KitReport& report) {
     Json json = {{"photo", report.Photo},
                  {"picture", report.Picture},
@@ -93,6 +101,9 @@ Json JsonOf(const KitReport& report) {
     json["loners"] = report.Loners;
     if (report.Numbering) {
         json["numbering"] = JsonOf(*report.Numbering);
+    }
+    if (report.Plan) {
+        json["plan"] = JsonOf(*report.Plan);
     }
     json["milliseconds"] = Json::object();
     for (const auto& [step, number] : report.Milliseconds) {
@@ -155,6 +166,14 @@ std::string SummaryOf(const KitReport& report) {
                 std::to_string(n.Symbols) + " stamped, " + std::to_string(n.SymbolsAstray) +
                     " outside a stipple of their paint");
         AddLine(text, "border dots", std::to_string(n.BorderDots));
+    }
+    if (report.Plan) {
+        AddLine(text, "plan",
+                std::to_string(report.Plan->Pages) +
+                    (report.Plan->Pages == 1 ? " page, canvas " : " pages, canvas ") +
+                    OneDecimal(report.Plan->Canvas.Width / 10) + " x " +
+                    OneDecimal(report.Plan->Canvas.Height / 10) + " cm, symbols from " +
+                    SmallestText(*report.Plan) + " mm");
     }
     AddLine(text, "mark", report.Mark);
     AddLine(text, "milliseconds", MillisecondsLine(report));

@@ -7,6 +7,7 @@
 
 #include "convert/bitmap_header.h"
 #include "output/sheet_record.h"
+#include "plan/plan_sketch.h"
 #include "shell/settings.h"
 
 namespace vendrel {
@@ -29,6 +30,7 @@ struct KitReport {
     int Areas = 0;
     int Loners = 0;
     std::optional<NumberingCounts> Numbering;                  // when a sheet was made
+    std::optional<PlanFigures> Plan;                           // when the pdf was
     std::vector<std::pair<std::string, double>> Milliseconds;  // per step, in order
     std::vector<std::pair<std::string, std::string>> Files;    // output name and path
     std::string List;                                          // of the kit; empty without files

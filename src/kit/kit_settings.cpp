@@ -27,9 +27,7 @@ void SelectSets(WorkState& state, const std::vector<std::string>& names) {
         set.Selected = false;
     }
     for (const std::string& name : names) {
-        const auto set =
-            std::find_if(state.PaintSets.begin() + 1, state.PaintSets.end(),
-                         [&name](const PaintSet& candidate) { return candidate.Name == name; });
+        const auto set = std::ranges::find(state.PaintSets, name, &PaintSet::Name);
         if (set == state.PaintSets.end()) {
             RefuseSet(state, name);
         }

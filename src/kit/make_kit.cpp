@@ -86,6 +86,10 @@ void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* e
         report.Milliseconds.emplace_back(step, took);
     }
     report.Notes.insert(report.Notes.end(), saved.Notes.begin(), saved.Notes.end());
+    report.Plan = saved.Plan;
+    if (report.Plan && report.Plan->Small > 0) {
+        report.Notes.push_back(WarningOf(*report.Plan));
+    }
 }
 
 int CountLoners(const Grid<StippleCell>& stipples) {
@@ -145,7 +149,7 @@ void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
 KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
                   const fs::path& photo, const Exporter* exporter) {
     KitReport report;
-    report.Photo = photo.string();
+    report.Photo = Shown(photo);
     report.FromGrid = options.FromGrid;
     TakenPhoto taken;
     Timed(report, "photo", [&] { taken = photos.TakeIn(place, options, photo); });

@@ -32,6 +32,7 @@ struct SavedKit {
     std::filesystem::path List;  // empty when there was nothing to save
     std::vector<File> Files;     // in the order of the outputs
     std::optional<NumberingCounts> Numbering;
+    std::optional<PlanFigures> Plan;                           // when the pages were printed
     std::vector<std::pair<std::string, double>> Milliseconds;  // per output, and of the set
     std::vector<std::string> Notes;                            // what the painter should know
 };

@@ -1,5 +1,6 @@
 #include "paints/paint_list.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -8,6 +9,7 @@
 #include "paints/paint_sets.h"
 #include "shell/warnings.h"
 #include "support/disk.h"
+#include "support/error.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
 
@@ -15,6 +17,7 @@ namespace vendrel {
 namespace {
 
 constexpr const char* kPaintList = "data/paintlist.txt";
+constexpr const char* kCatalogue = "data/studiopaint.csv";
 
 // False when there is no such set.
 bool Select(Catalogue& catalogue, const std::string& name) {
@@ -32,16 +35,40 @@ void WarnOfUnknown(GivenWarnings& given, Ui& screen, const std::filesystem::path
                    const std::string& names) {
     if (!names.empty()) {
         WarnOnce(given, screen,
-                 file.string() + ": the catalogue has no paint set " + names +
+                 Shown(file) + ": the catalogue has no paint set " + names +
                      ". It is left out; choose others in the paint shop or correct the "
                      "name.");
     }
+}
+
+// Its own catalogue makes a folder strange to the list that ships with the program.
+bool IsOfAnotherCatalogue(const Catalogue& catalogue, const ProgramFolder& folder,
+                          const std::filesystem::path& list) {
+    if (folder.Exists(kPaintList) || !folder.Exists(kCatalogue)) {
+        return false;
+    }
+    const std::vector<std::string> names = SplitLines(ReadTextFile(list));
+    return std::ranges::none_of(catalogue.PaintSets, [&names](const PaintSet& set) {
+        return std::ranges::find(names, set.Name) != names.end();
+    });
 }
 
 void StartPaintList(Catalogue& catalogue, const ProgramFolder& folder) {
     if (catalogue.PaintSetCount > 0) {
         catalogue.PaintSets[1].Selected = true;
         SavePaintList(catalogue, folder);
+    }
+}
+
+void WarnOfStartedList(const Catalogue& catalogue, GivenWarnings& given, Ui& screen,
+                       const ProgramFolder& folder) {
+    if (catalogue.PaintSetCount > 0) {
+        WarnOnce(given, screen,
+                 Shown(folder.Path(kPaintList)) +
+                     ": was not there, and the catalogue has none of the paint sets that "
+                     "come with the program. The catalogue's first one, \"" +
+                     catalogue.PaintSets[1].Name +
+                     "\", is chosen; choose others in the paint shop or in that file.");
     }
 }
 
@@ -53,6 +80,11 @@ void LoadPaintList(Catalogue& catalogue, Palette& palette, GivenWarnings& given,
     const auto file = folder.DataFile(kPaintList);
     if (!Stands(file)) {
         StartPaintList(catalogue, folder);
+        return;
+    }
+    if (IsOfAnotherCatalogue(catalogue, folder, file)) {
+        StartPaintList(catalogue, folder);
+        WarnOfStartedList(catalogue, given, screen, folder);
         return;
     }
     PaintList paints;

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 std::string Quoted(const fs::path& file, const std::string& text) {
     if (text.find('"') != std::string::npos) {
-        throw Error(file.string() + ": the paint text " + text +
+        throw Error(Shown(file) + ": the paint text " + text +
                     " holds a double quote, which a template cannot keep. Rename the paint.");
     }
     return '"' + text + '"';

@@ -11,7 +11,7 @@
 namespace vendrel {
 
 // The named templates of the templates folder. Names are compared without regard to the case of
-// ASCII letters, since kits travel between systems.
+// letters, since kits travel between systems.
 
 /// Throws Error with a sentence unless `name` can become a new template: not empty, not there
 /// already, without characters that cannot stand in a file name or would leave the folder.

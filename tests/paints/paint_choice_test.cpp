@@ -74,6 +74,21 @@ TEST_F(PaintChoice, AShippedListStandsInAndIsNeverWritten) {
     EXPECT_EQ(shipped.Read("Data/paintlist.txt"), "Greys\r\n");
 }
 
+TEST_F(PaintChoice, AShippedListThatAFoldersOwnCatalogueDoesNotKnowGivesWayToItsFirstSet) {
+    test::TempFolder shipped;
+    shipped.Write("Data/paintlist.txt", "Chalks\r\n");
+    Bench.Files.Write("Data/studiopaint.csv", "0\r\n");
+    const ProgramFolder folder(Bench.Files.Path(), shipped.Path());
+    Workplace place{State, Bench.Frames, Bench.MainMenu, Bench.Screen, folder};
+    LoadPaintList(place);
+    EXPECT_EQ(Selected(), "Oils;");
+    EXPECT_EQ(Bench.Files.Read("Data/paintlist.txt"), "Oils\r\n");
+    ASSERT_EQ(Bench.Screen.Messages.size(), 1U);
+    EXPECT_THAT(Bench.Screen.Messages[0].second, testing::HasSubstr("first one, \"Oils\""));
+    RestorePaintColors(place);
+    EXPECT_EQ(test::NamesOf(State), "o1 o2");
+}
+
 TEST_F(PaintChoice, ThePaletteFollowsTheListOfChosenSets) {
     State.SelectedPaintsList = {"Inks, dark", "Oils"};
     State.PaintShopLoaded = true;
