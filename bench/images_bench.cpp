@@ -54,7 +54,7 @@ void Import(benchmark::State& state) {
     const PhotoFile file(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     const ScreenSize screen = ScreenSize::FromPixels(1920, 1080);
     for ([[maybe_unused]] const auto step : state) {
-        benchmark::DoNotOptimize(ReadPhoto(file.Path(), screen, 8));
+        benchmark::DoNotOptimize(ReadPhoto(file.Path(), screen, 8, PhotoFit::Keep));
     }
     CountPixels(state);
 }

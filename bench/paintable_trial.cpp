@@ -54,7 +54,7 @@ Made MakeOne(const Wish& wish, const std::string& photo, bool paintable) {
     const ProgramFolder folder(wish.Folder, VENDREL_SOURCE_DIR);
     Workplace place{state, frames, menu, ui, folder};
     PrepareSettings(place);
-    (void)PrepareFolders(place);
+    (void)PrepareFolders(folder);
     PreparePaints(place);
     KitOptions options;
     options.Chosen.Level = wish.Level;
@@ -65,7 +65,7 @@ Made MakeOne(const Wish& wish, const std::string& photo, bool paintable) {
     ApplySettings(place, options);
 
     const std::clock_t start = std::clock();
-    (void)ChoosePhoto(place, photo);
+    (void)ChoosePhoto(state, folder, photo);
     (void)LoadNewPicture(place);
     (void)ChangeToStipples_Click(place);
     PaintItNow_Click(place);

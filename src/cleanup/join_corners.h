@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/workplace.h"
+#include "drawing/easel.h"
 
 namespace vendrel {
 
@@ -8,6 +8,6 @@ namespace vendrel {
 /// painting then has the areas of the stipple grid, one for one, and each keeps the limits it keeps
 /// there. For kits that are to be painted as they are printed; the plain painting keeps its
 /// corners.
-void JoinCorners(const Workplace& place);
+void JoinCorners(const Easel& easel, const StippleGrid& grid);
 
 }  // namespace vendrel

@@ -2,19 +2,40 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 
 #include "convert/working_size.h"
 
 namespace vendrel {
 namespace {
 
+// A part that fits at every difficulty is worth this much of the one that fits at Easy.
+constexpr std::int64_t kWorthFitting = 80;  // percent
+
+using StretchOf = double (*)(BitmapSize photo, const ScreenSize& screen);
+
+double EasyStretch(BitmapSize photo, const ScreenSize& screen) {
+    return SheetStretch(photo, {screen, TraitsOf(Difficulty::Easy).StippleSize});
+}
+
+double WorstStretch(BitmapSize photo, const ScreenSize& screen) {
+    double worst = 0;
+    for (const DifficultyTraits& traits : kDifficulties) {
+        worst = std::max(worst, SheetStretch(photo, {screen, traits.StippleSize}));
+    }
+    return worst;
+}
+
+std::int64_t Area(BitmapSize size) {
+    return std::int64_t{size.Width} * size.Height;
+}
+
 // The shape of the working picture follows a photo's in steps (whole stipples; a photo's sides
 // count in units of some fifteen pixels), so no formula leads back: the part is made smaller until
 // it comes out with its own shape.
 class CropSearch {
   public:
-    CropSearch(BitmapSize photo, const CropTarget& target) : photo_(photo), target_(target) {}
+    CropSearch(BitmapSize photo, const ScreenSize& screen, StretchOf stretchOf)
+        : photo_(photo), screen_(screen), stretchOf_(stretchOf) {}
 
     BitmapSize Find() {
         // Near a full side there may be one a few pixels shorter that the steps suit better.
@@ -38,43 +59,53 @@ class CropSearch {
         }
     }
 
-    [[nodiscard]] static std::int64_t Area(BitmapSize size) {
-        return std::int64_t{size.Width} * size.Height;
-    }
     [[nodiscard]] bool CanImprove(BitmapSize size) const {
         const bool inside = size.Width > 0 && size.Height > 0;
-        return inside && (stretch_ >= kMaxCropStretch || Area(size) > Area(best_));
+        return inside && (stretch_ >= kUnstretched || Area(size) > Area(best_));
     }
     void Try(BitmapSize size) {
-        const double stretch = SheetStretch(size, target_);
-        if (stretch < std::max(stretch_, kMaxCropStretch)) {
+        const double stretch = stretchOf_(size, screen_);
+        if (stretch < std::max(stretch_, kUnstretched)) {
             best_ = size;
             stretch_ = stretch;
         }
     }
 
     BitmapSize photo_;
-    CropTarget target_;
+    ScreenSize screen_;
+    StretchOf stretchOf_;
     BitmapSize best_ = photo_;
-    double stretch_ = SheetStretch(photo_, target_);
+    double stretch_ = stretchOf_(photo_, screen_);
 };
 
 }  // namespace
 
+CropPart PartOf(PhotoFit fit) {
+    switch (fit) {
+        case PhotoFit::Crop:
+            return CropPart::Centre;
+        case PhotoFit::CropTop:
+            return CropPart::Top;
+        default:
+            return CropPart::Whole;
+    }
+}
+
 double SheetStretch(BitmapSize photo, const CropTarget& target) {
     const WorkingSize working = ComputeWorkingSize(photo, target.Screen, target.StippleSize);
     if (!working.HoldsStipples()) {
-        return std::numeric_limits<double>::max();
+        return kNoSheet;
     }
-    return StretchPercent(
-        photo, {working.Width / target.Screen.Twips.X, working.Height / target.Screen.Twips.Y});
+    return StretchPercent(photo, working.Pixels(target.Screen.Twips));
 }
 
 BitmapSize LargestCrop(BitmapSize photo, const CropTarget& target) {
-    if (SheetStretch(photo, target) < kMaxCropStretch) {
+    if (SheetStretch(photo, target) < kUnstretched) {
         return photo;
     }
-    return CropSearch(photo, target).Find();
+    const BitmapSize easy = CropSearch(photo, target.Screen, EasyStretch).Find();
+    const BitmapSize every = CropSearch(photo, target.Screen, WorstStretch).Find();
+    return 100 * Area(every) > kWorthFitting * Area(easy) ? every : easy;
 }
 
 CropRect CropCentre(BitmapSize photo, const CropTarget& target) {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <limits>
+
 #include "convert/bitmap_header.h"
+#include "shell/settings.h"
 #include "support/surface.h"
 #include "support/twips.h"
 
@@ -24,17 +27,20 @@ struct CropTarget {
 /// Which part of a photo is kept when its shape asks for less than the whole.
 enum class CropPart { Whole, Centre, Top };
 
-/// A crop is stretched by less than this many percent: a quarter of what a face begins to show.
-inline constexpr double kMaxCropStretch = 0.5;
-/// A photo stretched by more than this many percent should be cropped.
-inline constexpr double kStretchThatShows = 2.0;
+/// The part that a way of fitting keeps.
+[[nodiscard]] CropPart PartOf(PhotoFit fit);
 
-/// By how many percent a photo is stretched to become a working picture; huge when no whole
-/// stipple fits its shape. Sides at least 1.
+/// The stretch of a photo whose shape leaves no whole stipple.
+inline constexpr double kNoSheet = std::numeric_limits<double>::max();
+
+/// By how many percent a photo is stretched to become a working picture the plain way, or kNoSheet.
+/// Sides at least 1.
 [[nodiscard]] double SheetStretch(BitmapSize photo, const CropTarget& target);
 
 /// The largest part of a photo that becomes a working picture without being stretched: the whole
-/// photo when its shape is right. Of a photo too small for that the least stretched part.
+/// photo when its shape is right. A smaller part is the same at every difficulty, so that a crop
+/// is one picture: one that fits at each, unless a screen of odd proportions leaves only much less
+/// than what fits at Easy. Of a photo too small for that the least stretched part.
 [[nodiscard]] BitmapSize LargestCrop(BitmapSize photo, const CropTarget& target);
 
 /// That part, cut from the middle.

@@ -98,12 +98,12 @@ bool CropFrame::FindHeight(int width, BitmapSize most, BitmapSize& found) const 
     const double exact = static_cast<double>(width) * shape_.Height / shape_.Width *
                          target_.Screen.Twips.X / target_.Screen.Twips.Y;
     const int nearest = static_cast<int>(std::lround(exact));
-    const int reach = static_cast<int>(exact * kMaxCropStretch / 100) + 1;
+    const int reach = static_cast<int>(exact * kUnstretched / 100) + 1;
     for (int off = 0; off <= reach; ++off) {
         for (const int height : {nearest - off, nearest + off}) {
             const BitmapSize size{width, height};
             if (height >= 1 && height <= most.Height && WorkingShape(size, target_) == shape_ &&
-                SheetStretch(size, target_) < kMaxCropStretch) {
+                SheetStretch(size, target_) < kUnstretched) {
                 found = size;
                 return true;
             }

@@ -62,7 +62,7 @@ double MeanSeen(const StipplePicture& picture, const SeenTable& table, const Val
 
 void MakeStipplesPaintable(Workplace& place) {
     WorkState& state = place.State;
-    const Surface& photo = place.Frames.CaptureFrame.Picture;
+    const Surface& photo = place.Frames->CaptureFrame.Picture;
     const int size = state.StippleSize;
     const DistinctColors distinct = FindDistinctColors(
         StippleColors(photo, {state.CellsAcross, state.CellsDown}, size, state.Chosen.Sample));

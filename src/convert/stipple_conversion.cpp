@@ -15,6 +15,7 @@
 #include "paints/reduction.h"
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
+#include "shell/found_palette.h"
 #include "shell/menu.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
@@ -26,15 +27,19 @@ namespace {
 /// Turns photo colours into found colours.
 class FoundPaints {
   public:
-    explicit FoundPaints(Workplace& place)
-        : place_(place), table_(place.State.PaintColors), foundAs_(place.State.PaintCount) {}
+    FoundPaints(const Palette& palette, FoundPalette& foundPalette, Ui& screen)
+        : palette_(palette),
+          found_(foundPalette),
+          screen_(screen),
+          table_(palette.PaintColors),
+          foundAs_(palette.PaintCount) {}
 
     /// Index into FoundColors of the paint nearest to `color`, added there when it is new.
     int Match(const Channels& color) {
         const int paint = table_.Find(color);
         int& found = foundAs_[paint];
         if (found == 0) {
-            found = Find(place_.State.PaintColors[paint]);
+            found = Find(palette_.PaintColors[paint]);
         }
         return found;
     }
@@ -42,22 +47,22 @@ class FoundPaints {
   private:
     // Paints of different sets that look the same are one found colour.
     int Find(const PaintColor& paint) {
-        WorkState& state = place_.State;
-        for (int k = 1; k <= state.FoundCount; ++k) {
-            if (ColorOf(state.FoundColors[k]) == ColorOf(paint)) {
+        for (int k = 1; k <= found_.FoundCount; ++k) {
+            if (ColorOf(found_.FoundColors[k]) == ColorOf(paint)) {
                 return k;
             }
         }
-        AddFoundColor(state, paint);
-        state.FoundColors.Last().CellCount = 0;
-        const std::string count = std::to_string(state.FoundCount);
-        place_.Screen.SetCaption(state.FoundCount == 1
-                                     ? "Found " + count + " so far."
-                                     : "Matching Paint Sets to " + count + " Colors");
-        return state.FoundCount;
+        AddFoundColor(found_, paint);
+        found_.FoundColors.Last().CellCount = 0;
+        const std::string count = std::to_string(found_.FoundCount);
+        screen_.SetCaption(found_.FoundCount == 1 ? "Found " + count + " so far."
+                                                  : "Matching Paint Sets to " + count + " Colors");
+        return found_.FoundCount;
     }
 
-    Workplace& place_;
+    const Palette& palette_;
+    FoundPalette& found_;
+    Ui& screen_;
     NearestPaintTable table_;
     OneBased<int> foundAs_;  // per paint of the palette, 0 while it is not found
 };
@@ -70,15 +75,14 @@ void SizeGrid(Workplace& place) {
                                      state.PictureHeight / twips.Y / state.StippleSize));
 }
 
-void FillBlock(Workplace& place, const StippleCell& cell) {
-    const int half = place.State.HalfStipple;
-    place.Frames.WorkFrame.Picture.FillRect(cell.X - half, cell.Y - half, cell.X + half,
-                                            cell.Y + half, kBlack);
+void FillBlock(Surface& picture, const StippleCell& cell, int half) {
+    picture.FillRect(cell.X - half, cell.Y - half, cell.X + half, cell.Y + half, kBlack);
 }
 
 void ConvertRow(Workplace& place, FoundPaints& found, int j) {
     WorkState& state = place.State;
-    const Surface& photo = place.Frames.WorkFrame.Picture;
+    const Easel easel = EaselOf(place);
+    const Surface& photo = easel.Picture;
     const bool watched = place.Screen.Watched();
     const int size = state.StippleSize;
     const int half = state.HalfStipple;
@@ -90,73 +94,61 @@ void ConvertRow(Workplace& place, FoundPaints& found, int j) {
         cell.ColorIndex = found.Match(color);
         cell.X = left + half;
         cell.Y = top + half;
-        FillBlock(place, cell);
+        FillBlock(easel.Picture, cell, half);
         if (watched) {
-            DrawTempStipple(place, cell.X, cell.Y, cell.ColorIndex);
+            DrawTempStipple(easel, state, cell.X, cell.Y, cell.ColorIndex);
         }
     }
 }
 
-void EndRow(Workplace& place, int row) {
-    place.Screen.Yield();
-    place.Screen.RefreshWorkFrame();
-    place.Screen.ReportProgress(row, place.State.CellsDown);
+void EndRow(Ui& screen, int row, int rows) {
+    screen.Yield();
+    screen.RefreshWorkFrame();
+    screen.ReportProgress(row, rows);
 }
 
 void CheckPaints(Workplace& place) {
-    if (place.State.FinalColors < 1 && !place.State.KeepAllColors) {
+    if (place.State->FinalColors < 1 && !place.State->KeepAllColors) {
         throw Error("No number of final paints is chosen: choose Final Paints.");
     }
-    if (place.State.PaintCount == 0) {
+    if (place.State->PaintCount == 0) {
         RestorePaintColors(place);
     }
-    if (place.State.PaintCount == 0) {
+    if (place.State->PaintCount == 0) {
         throw Error(
             "There are no paints to paint with. Choose paint sets or a template in the Paint "
             "Shop.");
     }
 }
 
-int Convert(Workplace& place) {
-    CheckPaints(place);
-    RefreshPhotoImage(place);
-    const BusyPointer busy(place.Screen);
-    place.State.WorkStage = 1;
-    place.State.StipplesMade = false;
-    const int matched = ApplyStipples(place);
-    DrawStipplePicture(place);
-    SetupMenuItems(place.MainMenu, 3);
-    place.MainMenu[MenuId::NextBestColors].Enabled = true;
-    return matched;
-}
-
 int ApplyPlainly(Workplace& place) {
     WorkState& state = place.State;
-    FoundPaints found(place);
+    FoundPaints found(state, state, place.Screen);
     for (int j = 1; j <= state.CellsDown; ++j) {
         ConvertRow(place, found, j);
-        EndRow(place, j);
+        EndRow(place.Screen, j, state.CellsDown);
     }
     state.StipplesMade = true;
     const int matched = state.FoundCount;
     SetPalette(state, std::move(state.FoundColors));
     SetFoundColors(state, {});
     if (!state.KeepAllColors) {
-        ReduceColors(place, state.FinalColors);
+        ReduceColors(state, state, place.Screen, state.FinalColors);
     }
     return matched;
 }
 
 void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
     WorkState& state = place.State;
+    const Easel easel = EaselOf(place);
     for (int i = 1; i <= state.CellsAcross; ++i) {
         StippleCell& cell = state.Stipples(i, j);
         cell.ColorIndex = paints[static_cast<std::size_t>(i - 1)];
         cell.X = 1 + (i - 1) * state.StippleSize + state.HalfStipple;
         cell.Y = 1 + (j - 1) * state.StippleSize + state.HalfStipple;
-        FillBlock(place, cell);
+        FillBlock(easel.Picture, cell, state.HalfStipple);
         if (place.Screen.Watched()) {
-            DrawTempStipple(place, cell.X, cell.Y, cell.ColorIndex);
+            DrawColorStipple(easel, cell.X, cell.Y, ColorOf(state.PaintColors[cell.ColorIndex]));
         }
     }
 }
@@ -166,7 +158,7 @@ void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
 int ApplyByEye(Workplace& place) {
     WorkState& state = place.State;
     const std::vector<Color> stipples =
-        StippleColors(place.Frames.WorkFrame.Picture, {state.CellsAcross, state.CellsDown},
+        StippleColors(place.Frames->WorkFrame.Picture, {state.CellsAcross, state.CellsDown},
                       state.StippleSize, state.Chosen.Sample);
     EyeMatch match = MatchByEye(stipples, state.PaintColors,
                                 state.KeepAllColors ? state.PaintCount : state.FinalColors);
@@ -176,7 +168,7 @@ int ApplyByEye(Workplace& place) {
         PlaceRow(place,
                  std::span(match.Paints).subspan(static_cast<std::size_t>(j - 1) * across, across),
                  j);
-        EndRow(place, j);
+        EndRow(place.Screen, j, state.CellsDown);
     }
     state.StipplesMade = true;
     return match.Considered;
@@ -198,28 +190,41 @@ int ApplyStipples(Workplace& place) {
 }
 
 void DrawStipplePicture(Workplace& place) {
-    const WorkState& state = place.State;
+    const StippleGrid& grid = place.State;
+    const Easel easel = EaselOf(place);
     const BusyPointer busy(place.Screen);
     place.Screen.SetCaption("Redrawing Stipples");
     place.Screen.RefreshWorkFrame();
-    for (int j = 1; j <= state.CellsDown; ++j) {
-        for (int i = 1; i <= state.CellsAcross; ++i) {
-            const StippleCell& cell = state.Stipples(i, j);
-            DrawOneStipple(place, cell.X, cell.Y, cell.ColorIndex);
+    for (int j = 1; j <= grid.CellsDown; ++j) {
+        for (int i = 1; i <= grid.CellsAcross; ++i) {
+            const StippleCell& cell = grid.Stipples(i, j);
+            DrawOneStipple(easel, cell.X, cell.Y, cell.ColorIndex);
         }
-        EndRow(place, j);
+        EndRow(place.Screen, j, grid.CellsDown);
     }
     place.Screen.ReportProgress(0, 0);
-    place.Screen.SetCaption("Vendrel -" + state.PictureName);
-    place.Frames.StippleFrame.Picture = place.Frames.WorkFrame.Picture;
+    place.Screen.SetCaption("Vendrel -" + place.State->PictureName);
+    place.Frames->StippleFrame.Picture = easel.Picture;
 }
 
 int ChangeToStipples_Click(Workplace& place) {
-    return Convert(place);
+    CheckPaints(place);
+    if (place.State->ShapedByGrid) {
+        (void)LoadNewPicture(place);  // what is converted afresh has the photo's own shape
+    }
+    RefreshPhotoImage(place.Frames, place.Screen);
+    const BusyPointer busy(place.Screen);
+    place.State->WorkStage = 1;
+    place.State->StipplesMade = false;
+    const int matched = ApplyStipples(place);
+    DrawStipplePicture(place);
+    SetupMenuItems(place.MainMenu, 3);
+    place.MainMenu[MenuId::NextBestColors].Enabled = true;
+    return matched;
 }
 
 int AutoChangeToStipples(Workplace& place) {
-    return Convert(place);
+    return ChangeToStipples_Click(place);
 }
 
 }  // namespace vendrel

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 #include "support/counter.h"
@@ -26,6 +27,8 @@ struct Axes {
     int PixelShort;
     int AspectLong;
     int AspectShort;
+    int PhotoLong;  // pixels
+    int PhotoShort;
     int Allowance;  // twips the window needs beside the short side
 };
 
@@ -81,13 +84,38 @@ Sides FitScreen(const Axes& axes, int stippleSize) {
     return sides;
 }
 
+// All that fits is tried: the shape comes in steps of both sides, which no formula follows.
+Sides KeepShape(const Axes& axes, int stippleSize) {
+    const Sides step{stippleSize * axes.PixelLong, stippleSize * axes.PixelShort};
+    const Sides most{CutToStipples(axes.ScreenLong - axes.PixelLong, kLongSide, step.Long),
+                     CutToStipples(axes.ScreenShort - axes.Allowance, kShortSide, step.Short)};
+    Sides best;
+    double bestStretch = std::numeric_limits<double>::max();
+    for (int down = step.Short; down <= most.Short; down += step.Short) {
+        for (int along = step.Long; along <= most.Long; along += step.Long) {
+            const double stretch = StretchPercent({axes.PhotoLong, axes.PhotoShort},
+                                                  {along / axes.PixelLong, down / axes.PixelShort});
+            const std::int64_t larger =
+                std::int64_t{along} * down - std::int64_t{best.Long} * best.Short;
+            const bool equal =
+                std::max(stretch, bestStretch) < kUnstretched || stretch == bestStretch;
+            if (equal ? larger > 0 || (larger == 0 && stretch < bestStretch)
+                      : stretch < bestStretch) {
+                best = {along, down};
+                bestStretch = stretch;
+            }
+        }
+    }
+    return best;
+}
+
 int Nearest(int pixels, int twips) {
     return RoundHalfEven(static_cast<double>(pixels) / twips);
 }
 
-}  // namespace
-
-WorkingSize ComputeWorkingSize(BitmapSize photo, const ScreenSize& screen, int stippleSize) {
+// The size whose sides `sidesOf` settles.
+WorkingSize Lay(BitmapSize photo, const ScreenSize& screen, int stippleSize,
+                Sides (*sidesOf)(const Axes&, int)) {
     const TwipsPerPixel pixel = screen.Twips;
     WorkingSize size;
     size.AspectWidth = Nearest(photo.Width, pixel.X);
@@ -95,21 +123,41 @@ WorkingSize ComputeWorkingSize(BitmapSize photo, const ScreenSize& screen, int s
     size.Landscape = photo.Height <= photo.Width;
     if (size.Landscape) {
         const int below = kBelowLandscape + kPixelsBelowLandscape * pixel.Y;
-        const Sides sides = FitScreen({screen.Width, screen.Height, pixel.X, pixel.Y,
-                                       size.AspectWidth, size.AspectHeight, below},
-                                      stippleSize);
+        const Sides sides =
+            sidesOf({screen.Width, screen.Height, pixel.X, pixel.Y, size.AspectWidth,
+                     size.AspectHeight, photo.Width, photo.Height, below},
+                    stippleSize);
         size.Width = sides.Long;
         size.Height = sides.Short;
         size.Window = {screen.Width - pixel.X, sides.Short + below};
     } else {
-        const Sides sides = FitScreen({screen.Height, screen.Width, pixel.Y, pixel.X,
-                                       size.AspectHeight, size.AspectWidth, kBesidePortrait},
-                                      stippleSize);
+        const Sides sides =
+            sidesOf({screen.Height, screen.Width, pixel.Y, pixel.X, size.AspectHeight,
+                     size.AspectWidth, photo.Height, photo.Width, kBesidePortrait},
+                    stippleSize);
         size.Height = sides.Long;
         size.Width = sides.Short;
         size.Window = {sides.Short + kBesidePortrait, screen.Height - pixel.Y};
     }
     return size;
+}
+
+}  // namespace
+
+WorkingSize ComputeWorkingSize(BitmapSize photo, const ScreenSize& screen, int stippleSize) {
+    return Lay(photo, screen, stippleSize, FitScreen);
+}
+
+WorkingSize ComputeKeptSize(BitmapSize photo, const ScreenSize& screen, int stippleSize) {
+    return Lay(photo, screen, stippleSize, KeepShape);
+}
+
+WorkingSize ComputeFittedSize(BitmapSize photo, const ScreenSize& screen, int stippleSize,
+                              PhotoFit fit) {
+    const WorkingSize plain = ComputeWorkingSize(photo, screen, stippleSize);
+    const bool shows = plain.HoldsStipples() &&
+                       StretchPercent(photo, plain.Pixels(screen.Twips)) > kStretchThatShows;
+    return shows && fit != PhotoFit::Stretch ? ComputeKeptSize(photo, screen, stippleSize) : plain;
 }
 
 double StretchPercent(BitmapSize photo, BitmapSize working) {

@@ -16,6 +16,15 @@ namespace {
 
 constexpr QSize kPreview(300, 300);
 
+QString Spoken(const MatcherRow& row, QChar symbol) {
+    const QString paint = QObject::tr("%1, %2 of the picture, symbol %3")
+                              .arg(Text(PaintLabel(row.Current)), Text(ShareText(row.ShareTenths)))
+                              .arg(symbol);
+    return row.Exchanged()
+               ? QObject::tr("%1, instead of %2").arg(paint, Text(PaintLabel(row.Original)))
+               : paint;
+}
+
 }  // namespace
 
 ColorMatcherDialog::ColorMatcherDialog(const ViewContext& context, QWidget* parent)
@@ -24,7 +33,7 @@ ColorMatcherDialog::ColorMatcherDialog(const ViewContext& context, QWidget* pare
       paintList_(Named<QListWidget>("MatcherPaints", tr("Paints of the palette"))),
       selectedSets_(Named<QRadioButton>("FromSelectedSets", tr("From the selected sets"))),
       wholeCatalogue_(Named<QRadioButton>("FromCatalogue", tr("From the whole catalogue"))),
-      offersFrame_(new QGroupBox(tr("Next best paints"))),
+      offersFrame_(new QGroupBox(tr("&Next best paints"))),
       offerList_(Named<QListWidget>("NextBestPaints", tr("Next best paints"))),
       preview_(Named<QLabel>("MatcherPreview", tr("Preview"))) {
     setWindowTitle(tr("Color Matcher"));
@@ -39,7 +48,7 @@ ColorMatcherDialog::ColorMatcherDialog(const ViewContext& context, QWidget* pare
 }
 
 QWidget* ColorMatcherDialog::MakePalette() {
-    auto* frame = new QGroupBox(tr("Paints of the palette"));
+    auto* frame = new QGroupBox(tr("Paints of the &palette"));
     auto* column = new QVBoxLayout(frame);
     column->addWidget(paintList_);
     OnChosen(*paintList_,
@@ -60,7 +69,7 @@ QWidget* ColorMatcherDialog::MakeOffers() {
     column->addWidget(offerList_, 1);
     exchange_ = MakeButton("Exchange", tr("E&xchange"),
                            [this] { form_.Exchange_Click(offerList_->currentRow()); });
-    connect(offerList_, &QListWidget::itemActivated, exchange_, &QPushButton::click);
+    OnTaken(*offerList_, [this] { exchange_->click(); });
     connect(offerList_, &QListWidget::currentRowChanged, this,
             [this](int row) { exchange_->setEnabled(row >= 0); });
     column->addWidget(exchange_);
@@ -102,11 +111,11 @@ void ColorMatcherDialog::Mirror() {
     std::vector<PaintItem> items;
     for (const MatcherRow& row : form_.Rows()) {
         const QLatin1Char symbol(CharacterOf(Context().Place.State, row.Symbol));
-        items.push_back(
-            {ColorOf(row.Original), ColorOf(row.Current),
-             tr("%1   %2   %3")
-                 .arg(QChar(symbol))
-                 .arg(Text(ShareText(row.ShareTenths)), Text(PaintLabel(row.Current)))});
+        items.push_back({ColorOf(row.Original), ColorOf(row.Current),
+                         tr("%1   %2   %3")
+                             .arg(QChar(symbol))
+                             .arg(Text(ShareText(row.ShareTenths)), Text(PaintLabel(row.Current))),
+                         Spoken(row, symbol)});
     }
     MirrorPaints(*paintList_, items, form_.Chosen() - 1);
     selectedSets_->setChecked(form_.Source() == MatchSource::SelectedSets);
@@ -124,13 +133,18 @@ void ColorMatcherDialog::MirrorOffers() {
     for (const NextBestPaint& offer : form_.Offers()) {
         items.push_back(
             {ColorOf(form_.Rows()[chosen].Original), ColorOf(offer.Paint),
-             tr("%1   %2").arg(offer.Difference, 0, 'f', 1).arg(Text(PaintLabel(offer.Paint)))});
+             tr("%1   %2").arg(offer.Difference, 0, 'f', 1).arg(Text(PaintLabel(offer.Paint))),
+             tr("%1, difference %2")
+                 .arg(Text(PaintLabel(offer.Paint)))
+                 .arg(offer.Difference, 0, 'f', 1)});
     }
     MirrorPaints(*offerList_, items, items.empty() ? -1 : std::max(offerList_->currentRow(), 0));
     exchange_->setEnabled(!items.empty());
 }
 
 void ColorMatcherDialog::MirrorPreview() {
+    const auto exchanged = std::ranges::count_if(form_.Rows(), &MatcherRow::Exchanged);
+    preview_->setAccessibleName(tr("Preview with %1 paints exchanged").arg(exchanged));
     const QImage image = ToImage(form_.Preview());
     preview_->setPixmap(QPixmap::fromImage(
         image.scaled(preview_->size().expandedTo(kPreview) * 0.95, Qt::KeepAspectRatio)));

@@ -5,6 +5,7 @@
 #include "desktop/color_matcher_dialog.h"
 #include "desktop/crop_photo_dialog.h"
 #include "desktop/file_import_dialog.h"
+#include "desktop/fit_photo_dialog.h"
 #include "desktop/kit_pdf_dialog.h"
 #include "desktop/make_paintable_dialog.h"
 #include "desktop/paint_shop_dialog.h"
@@ -19,6 +20,8 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<FileImportDialog>(context, parent);
         case FormId::CropPhoto:
             return std::make_unique<CropPhotoDialog>(context, parent);
+        case FormId::FitPhoto:
+            return std::make_unique<FitPhotoDialog>(context, parent);
         case FormId::PaintShop:
             return std::make_unique<PaintShopDialog>(context, parent);
         case FormId::ColorChart:

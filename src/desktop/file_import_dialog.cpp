@@ -11,12 +11,9 @@
 #include "desktop/list_box.h"
 #include "desktop/named.h"
 #include "desktop/text.h"
-#include "export/qt_image.h"
 
 namespace vendrel {
 namespace {
-
-constexpr int kPreviewSide = 270;
 
 QVBoxLayout* Column(std::initializer_list<QWidget*> widgets) {
     auto* column = new QVBoxLayout;
@@ -35,17 +32,17 @@ FileImportDialog::FileImportDialog(const ViewContext& context, QWidget* parent)
       folder_(new QLabel),
       importDir_(Named<QListWidget>("ImportDir", tr("Folders"))),
       importFile_(Named<QListWidget>("ImportFile", tr("Photos"))),
-      preview_(Named<QLabel>("Preview", tr("Preview of the photo"))),
-      description_(Named<QLabel>("Description", tr("About the photo"))),
-      cropButton_(Named<QPushButton>("CropButton", tr("Crop to Fit"))),
+      panel_(new FitPanel(FitPanel::Shows::ChosenWay)),
       okButton_(Named<QPushButton>("OKButton", tr("OK"))),
       cancelButton_(Named<QPushButton>("CancelButton", tr("Cancel"))) {
     setWindowTitle(tr("Load Photo"));
     Arrange();
     Connect();
-    SetTabOrder({importDrive_, importDir_, importFile_, cropButton_, okButton_, cancelButton_});
+    const auto ways = panel_->Controls();
+    SetTabOrder({importDrive_, importDir_, importFile_, ways[0], ways[1], ways[2], ways[3],
+                 okButton_, cancelButton_});
     importFile_->setFocus();
-    resize(820, 500);
+    resize(820, 560);
 }
 
 void FileImportDialog::Arrange() {
@@ -53,19 +50,9 @@ void FileImportDialog::Arrange() {
     okButton_->setDefault(true);
     cancelButton_->setText(tr("Cancel"));
     cancelButton_->setAutoDefault(false);
-    cropButton_->setText(tr("&Crop to Fit"));
-    cropButton_->setAutoDefault(false);
-    cropButton_->setToolTip(tr("Keep the part of the photo that the sheet shows unstretched"));
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(okButton_, QDialogButtonBox::AcceptRole);
     buttons->addButton(cancelButton_, QDialogButtonBox::RejectRole);
-    preview_->setFixedSize(kPreviewSide, kPreviewSide);
-    preview_->setAlignment(Qt::AlignCenter);
-    preview_->setFrameShape(QFrame::StyledPanel);
-    description_->setWordWrap(true);
-    description_->setAlignment(Qt::AlignTop);
-    description_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    description_->setFixedWidth(kPreviewSide);
     folder_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto* columns = new QHBoxLayout;
@@ -73,7 +60,7 @@ void FileImportDialog::Arrange() {
                                LabelFor(*importDir_, tr("F&olders")), importDir_}),
                        2);
     columns->addLayout(Column({LabelFor(*importFile_, tr("&Photos")), importFile_}), 3);
-    columns->addLayout(Column({new QLabel(tr("Preview")), preview_, description_, cropButton_}));
+    columns->addLayout(Column({new QLabel(tr("Preview")), panel_}));
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(columns, 1);
     rows->addWidget(folder_);
@@ -88,7 +75,9 @@ void FileImportDialog::Connect() {
     OnChosen(*importFile_,
              [this](int file) { Run([this, file] { form_.ImportFile_Click(file); }); });
     connect(importFile_, &QListWidget::itemDoubleClicked, okButton_, &QPushButton::click);
-    connect(cropButton_, &QPushButton::clicked, this,
+    connect(panel_, &FitPanel::WayChosen, this,
+            [this](PhotoFit way) { Run([&] { form_.Fit().Way_Click(way); }); });
+    connect(panel_, &FitPanel::CropAsked, this,
             [this] { Run([this] { form_.CropButton_Click(); }); });
     connect(okButton_, &QPushButton::clicked, this,
             [this] { Run([this] { form_.OKButton_Click(); }); });
@@ -124,18 +113,7 @@ void FileImportDialog::Mirror() {
     folder_->setText(folder);
     MirrorList(*importDir_, shown.ImportDir, moved ? -1 : importDir_->currentRow());
     MirrorList(*importFile_, shown.ImportFile, shown.FileIndex);
-    ShowPreview();
-}
-
-void FileImportDialog::ShowPreview() {
-    const FileImportControls& shown = form_.Controls();
-    description_->setText(Text(shown.Description));
-    cropButton_->setEnabled(shown.CropEnabled);
-    if (shown.Preview.Empty()) {
-        preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));
-    } else {
-        preview_->setPixmap(QPixmap::fromImage(ToImage(shown.Preview)));
-    }
+    panel_->Mirror(form_.Fit().Controls());
 }
 
 }  // namespace vendrel

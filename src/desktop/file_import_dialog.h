@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QListWidget>
 
+#include "desktop/fit_panel.h"
 #include "desktop/form_dialog.h"
 #include "forms/file_import.h"
 
@@ -27,16 +28,13 @@ class FileImportDialog : public FormDialog {
     void Arrange();
     void Connect();
     void OpenFolder();
-    void ShowPreview();
 
     FileImport& form_;
     QComboBox* importDrive_;
     QLabel* folder_;
     QListWidget* importDir_;
     QListWidget* importFile_;
-    QLabel* preview_;
-    QLabel* description_;
-    QPushButton* cropButton_;
+    FitPanel* panel_;
     QPushButton* okButton_;
     QPushButton* cancelButton_;
 };

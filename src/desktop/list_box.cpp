@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <QStringList>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/text.h"
 
@@ -41,6 +42,27 @@ class ArrowChooses : public QObject {
     QListWidget& list_;
 };
 
+class EnterTakes : public QObject {
+  public:
+    EnterTakes(QListWidget& list, std::function<void()> taken)
+        : QObject(&list), list_(list), taken_(std::move(taken)) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress && !list_.selectedItems().isEmpty()) {
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+                taken_();
+                return true;
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+  private:
+    QListWidget& list_;
+    std::function<void()> taken_;
+};
+
 }  // namespace
 
 void MirrorList(QListWidget& list, const std::vector<std::string>& entries, int index) {
@@ -69,6 +91,11 @@ void OnChosen(QListWidget& list, const std::function<void(int)>& chosen) {
             chosen(list.row(list.selectedItems().front()));
         }
     });
+}
+
+void OnTaken(QListWidget& list, const std::function<void()>& taken) {
+    list.installEventFilter(new EnterTakes(list, taken));
+    QObject::connect(&list, &QListWidget::itemDoubleClicked, &list, taken);
 }
 
 }  // namespace vendrel

@@ -13,4 +13,8 @@ void MirrorList(QListWidget& list, const std::vector<std::string>& entries, int 
 /// Calls `chosen` with the row whenever mouse or keyboard choose one.
 void OnChosen(QListWidget& list, const std::function<void(int)>& chosen);
 
+/// Calls `taken` when Enter or a double click takes the row chosen. Enter then stays with the list:
+/// it would press the window's default button too.
+void OnTaken(QListWidget& list, const std::function<void()>& taken);
+
 }  // namespace vendrel

@@ -16,6 +16,14 @@ template <class Control>
     return control;
 }
 
+/// A label for a value that tells all by itself: what it shows is what is read out for it.
+[[nodiscard]] inline QLabel* Value(const char* name) {
+    auto* label = new QLabel;
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
 /// A label whose underlined letter moves the keyboard to `control`.
 [[nodiscard]] inline QLabel* LabelFor(QWidget& control, const QString& text) {
     auto* label = new QLabel(text);

@@ -4,6 +4,8 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 
+#include "support/list.h"
+
 namespace vendrel {
 namespace {
 
@@ -11,30 +13,33 @@ constexpr int kSwatch = 20;  // pixels
 constexpr int kSwatchRole = Qt::UserRole;
 constexpr int kSecondRole = Qt::UserRole + 1;
 
-PaintItem ItemAt(const QListWidget& list, int row) {
-    const QListWidgetItem& item = *list.item(row);
-    return {item.data(kSwatchRole).toInt(), item.data(kSecondRole).toInt(), item.text()};
+PaintItem ItemOf(const QListWidgetItem& line) {
+    return {line.data(kSwatchRole).toInt(), line.data(kSecondRole).toInt(), line.text(),
+            line.data(Qt::AccessibleTextRole).toString()};
 }
 
-bool Shows(const QListWidget& list, const std::vector<PaintItem>& items) {
-    if (list.count() != static_cast<int>(items.size())) {
-        return false;
-    }
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (ItemAt(list, static_cast<int>(i)) != items[i]) {
-            return false;
-        }
-    }
-    return true;
+void Show(QListWidgetItem& line, const PaintItem& item) {
+    line.setIcon(SwatchIcon(item.Swatch, item.Second));
+    line.setText(item.Label);
+    line.setData(kSwatchRole, item.Swatch);
+    line.setData(kSecondRole, item.Second);
+    line.setData(Qt::AccessibleTextRole, item.Spoken.isEmpty() ? QVariant() : item.Spoken);
+    line.setToolTip(item.Label);
 }
 
+// Line by line, so that a list whose figures change keeps its place.
 void Fill(QListWidget& list, const std::vector<PaintItem>& items) {
-    list.clear();
-    for (const PaintItem& item : items) {
-        auto* line = new QListWidgetItem(SwatchIcon(item.Swatch, item.Second), item.Label, &list);
-        line->setData(kSwatchRole, item.Swatch);
-        line->setData(kSecondRole, item.Second);
-        line->setToolTip(item.Label);
+    const int count = static_cast<int>(items.size());
+    while (list.count() > count) {
+        delete list.takeItem(list.count() - 1);
+    }
+    for (int row = 0; row < count; ++row) {
+        if (row == list.count()) {
+            list.addItem(new QListWidgetItem);
+        }
+        if (ItemOf(*list.item(row)) != At(items, row) || list.item(row)->icon().isNull()) {
+            Show(*list.item(row), At(items, row));
+        }
     }
 }
 
@@ -61,13 +66,11 @@ QIcon SwatchIcon(Color first, Color second) {
 
 void MirrorPaints(QListWidget& list, const std::vector<PaintItem>& items, int index) {
     const QSignalBlocker quiet(list);
-    if (!Shows(list, items)) {
-        const bool pairs = !items.empty() && items.front().Second != kNoColor;
-        list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // long names are elided
-        list.setTextElideMode(Qt::ElideRight);
-        list.setIconSize(QSize(kSwatch * (pairs ? 2 : 1), kSwatch));
-        Fill(list, items);
-    }
+    const bool pairs = !items.empty() && items.front().Second != kNoColor;
+    list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // long names are elided
+    list.setTextElideMode(Qt::ElideRight);
+    list.setIconSize(QSize(kSwatch * (pairs ? 2 : 1), kSwatch));
+    Fill(list, items);
     if (index < 0) {
         list.clearSelection();
     } else {

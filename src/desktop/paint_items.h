@@ -14,6 +14,7 @@ struct PaintItem {
     Color Swatch = kBlack;
     Color Second = kNoColor;  // beside the first, kNoColor for none
     QString Label;
+    QString Spoken{};  // what is read out instead of the label, which leaves much to the swatches
 
     bool operator==(const PaintItem&) const = default;
 };

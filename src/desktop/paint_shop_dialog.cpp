@@ -34,7 +34,7 @@ PaintShopDialog::PaintShopDialog(const ViewContext& context, QWidget* parent)
     column->addWidget(allDone_, 0, Qt::AlignRight);
     Connect();
     SetTabOrder({mfgSelected_, useTemplate_, mfgList_, transfer_, selectedPaintsList_,
-                 templateList_, allDone_});
+                 templateList_, paintPalette_, allDone_});
     resize(760, 560);
 }
 
@@ -114,8 +114,8 @@ void PaintShopDialog::Mirror() {
     transfer_->setText(Text(shown.TransferCaption));
     transfer_->setEnabled(shown.TransferEnabled);
     decoFrame_->setVisible(shown.DecoFrameShown);
-    paletteFrame_->setTitle(Text(shown.PaletteCaption));
-    paintPalette_->setAccessibleName(paletteFrame_->title());
+    paletteFrame_->setTitle(WithoutMnemonics(Text(shown.PaletteCaption)));
+    paintPalette_->SetTitle(Text(shown.PaletteCaption));
     paintPalette_->SetLayout(shown.Swatches);
     allDone_->setEnabled(shown.AllDoneEnabled);
 }

@@ -60,7 +60,7 @@ TemplateShopDialog::TemplateShopDialog(const ViewContext& context, QWidget* pare
 }
 
 QWidget* TemplateShopDialog::MakeTemplates() {
-    auto* frame = new QGroupBox(tr("Templates"));
+    auto* frame = new QGroupBox(tr("T&emplates"));
     auto* column = new QVBoxLayout(frame);
     column->addWidget(templateList_, 1);
     OnChosen(*templateList_,
@@ -100,7 +100,6 @@ QWidget* TemplateShopDialog::MakeTemplates() {
 QWidget* TemplateShopDialog::MakePaints() {
     auto* column = new QVBoxLayout(paintsFrame_);
     swatches_->setObjectName(QStringLiteral("TemplatePalette"));
-    swatches_->setAccessibleName(tr("Swatches of the template"));
     swatches_->setMinimumSize(240, 90);
     connect(swatches_, &SwatchBox::Resized, this, [this] { MirrorTemplate(); });
     column->addWidget(swatches_);
@@ -118,7 +117,7 @@ QWidget* TemplateShopDialog::MakePaints() {
 }
 
 QWidget* TemplateShopDialog::MakeCatalogue() {
-    auto* frame = new QGroupBox(tr("Catalogue"));
+    auto* frame = new QGroupBox(tr("&Catalogue"));
     auto* column = new QVBoxLayout(frame);
     column->addWidget(setBox_);
     searchText_->setPlaceholderText(tr("Search set, name or code"));
@@ -132,8 +131,7 @@ QWidget* TemplateShopDialog::MakeCatalogue() {
     column->addWidget(needTemplate_.back());
     connect(setBox_, &QComboBox::activated, this, [this] { Search(); });
     connect(searchText_, &QLineEdit::textChanged, this, [this] { Search(); });
-    connect(foundList_, &QListWidget::itemDoubleClicked, this,
-            [this] { Run([this] { AddChosenPaint(); }); });
+    OnTaken(*foundList_, [this] { Run([this] { AddChosenPaint(); }); });
     return frame;
 }
 
@@ -159,9 +157,11 @@ void TemplateShopDialog::Mirror() {
 void TemplateShopDialog::MirrorTemplate() {
     const TemplateShopControls& shown = form_.Controls();
     const int count = shown.Paints.Count();
-    paintsFrame_->setTitle(shown.TemplateIndex < 0
-                               ? tr("No template chosen")
-                               : tr("%1 [%2 paints]").arg(Text(form_.Chosen())).arg(count));
+    const QString title = shown.TemplateIndex < 0
+                              ? tr("No template chosen")
+                              : tr("%1 [%2 paints]").arg(Text(form_.Chosen())).arg(count);
+    paintsFrame_->setTitle(WithoutMnemonics(title));
+    swatches_->SetTitle(title);
     MirrorPaints(*paintList_, ItemsOf(shown.Paints), std::min(paintList_->currentRow(), count - 1));
     swatches_->SetLayout(LayOutSwatches(swatches_->width(), swatches_->height(), count,
                                         Context().Place.Screen.Screen().Twips.X));
@@ -170,7 +170,7 @@ void TemplateShopDialog::MirrorTemplate() {
 void TemplateShopDialog::MirrorCatalogue() {
     std::vector<PaintItem> items;
     for (const int row : form_.Controls().Found) {
-        const PaintColor& paint = Context().Place.State.MasterColors[row];
+        const PaintColor& paint = Context().Place.State->MasterColors[row];
         items.push_back({ColorOf(paint), kNoColor, Text(PaintLabel(paint))});
     }
     MirrorPaints(*foundList_, items,
@@ -212,7 +212,7 @@ void TemplateShopDialog::AskName(const QString& title, const QString& first,
 
 void TemplateShopDialog::ChooseImport() {
     const QString file = QFileDialog::getOpenFileName(this, tr("Import a Palette"), {},
-                                                      tr("Palettes (*.gpl *.csv)"));
+                                                      tr("Palettes and templates (*.gpl *.csv)"));
     if (!file.isEmpty()) {
         form_.Import_Click(PathOf(file));
     }

@@ -10,4 +10,9 @@ namespace vendrel {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// For titles that hold names: an & there underlines nothing.
+[[nodiscard]] inline QString WithoutMnemonics(QString title) {
+    return title.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 }  // namespace vendrel

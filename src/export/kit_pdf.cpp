@@ -103,7 +103,8 @@ void FixDate(QByteArray& pdf) {
 void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
     const PrintSymbols symbols;
-    const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
+    const PrintPlan plan =
+        MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
     const KitPages kit{place,         plan,
                        symbols,       SizeOf(settings.Sheet),
                        BoxesOf(plan), PaintingOf(plan.Regions, place.State)};

@@ -2,15 +2,20 @@
 
 #include "export/color_chart_image.h"
 #include "export/kit_pdf.h"
+#include "export/print_fonts.h"
 #include "support/error.h"
 
 namespace vendrel {
+
+SymbolAspects QtExporter::Aspects() const {
+    return PrintSymbols().Aspects();
+}
 
 void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettings& settings,
                        const Target& target) const {
     switch (output) {
         case OutputId::Chart:
-            WriteColorChart(place, target);
+            WriteColorChart(place.State, target);
             return;
         case OutputId::Pdf:
             WriteKitPdf(place, settings, target);

@@ -43,14 +43,13 @@ void ColorMatcher::Form_Load() {
     const WorkState& state = place_.State;
     RequireGrid(state);
     if (!state.PaintShopLoaded) {
-        FillSelectedPaintsList(place_.State);
+        FillSelectedPaintsList(place_.State, place_.State);
     }
-    const OneBased<int> counts = CountStipples(state.Stipples, state.PaintCount);
-    const std::vector<int> shares = SharesInTenths(counts.Entries());
     rows_.Clear();
     for (int k = 1; k <= state.PaintCount; ++k) {
-        rows_.Add({state.PaintColors[k], state.PaintColors[k], counts[k], At(shares, k - 1),
-                   SymbolOf(state.PaintColors, k)});
+        rows_.Add({.Original = state.PaintColors[k],
+                   .Current = state.PaintColors[k],
+                   .Symbol = SymbolOf(state.PaintColors, k)});
     }
     chosen_ = 1;
     Changed();
@@ -136,6 +135,24 @@ void ColorMatcher::ShowPreview() {
     SetPalette(scratch.State, Palette());
     AutoChangeToStipples(scratch.Place);
     preview_ = DrawSmall(scratch.State);
+    CountRows(scratch.State);
+}
+
+// The conversion lists the paints in the order it meets them, and only those it meets.
+void ColorMatcher::CountRows(const WorkState& converted) {
+    const OneBased<int> counts = CountStipples(converted.Stipples, converted.PaintCount);
+    const std::vector<int> shares = SharesInTenths(counts.Entries());
+    for (MatcherRow& row : rows_) {
+        row.Stipples = 0;
+        row.ShareTenths = 0;
+        for (int k = 1; k <= converted.PaintCount; ++k) {
+            const PaintColor& paint = converted.PaintColors[k];
+            if (ColorOf(paint) == ColorOf(row.Current) && SamePaint(paint, row.Current)) {
+                row.Stipples = counts[k];
+                row.ShareTenths = At(shares, k - 1);
+            }
+        }
+    }
 }
 
 void ColorMatcher::AcceptButton_Click() {
@@ -158,11 +175,11 @@ void ColorMatcher::CancelButton_Click() {
 
 std::string ColorMatcher::SaveTemplate_Click() {
     RequireGrid(place_.State);
-    const std::string name =
-        FreeTemplateName(place_, CleanTemplateName(place_.State.PictureName + " " +
-                                                   std::string(DifficultyWord(place_.State)) + " " +
-                                                   std::to_string(rows_.Count()) + " Paints"));
-    WriteTemplate(TemplatePath(place_, name), Palette());
+    const std::string name = FreeTemplateName(
+        place_.Folder, CleanTemplateName(place_.State->PictureName + " " +
+                                         std::string(DifficultyWord(place_.State)) + " " +
+                                         std::to_string(rows_.Count()) + " Paints"));
+    WriteTemplate(TemplatePath(place_.Folder, name), Palette());
     return name;
 }
 

@@ -15,8 +15,8 @@ enum class MatchSource { SelectedSets, WholeCatalogue };
 struct MatcherRow {
     PaintColor Original;
     PaintColor Current;
-    int Stipples = 0;     // of the work in hand
-    int ShareTenths = 0;  // of the picture, in tenths of a percent
+    int Stipples = 0;     // in what accepting gives
+    int ShareTenths = 0;  // of that picture, in tenths of a percent
     int Symbol = 0;
     /// Also true for the same paint in another color: the catalogue may have been corrected.
     [[nodiscard]] bool Exchanged() const {
@@ -64,6 +64,7 @@ class ColorMatcher {
     [[nodiscard]] PaintList Taken() const;
     void FindOffers();
     void ShowPreview();
+    void CountRows(const WorkState& converted);
     void Changed();
 
     Workplace& place_;

@@ -43,7 +43,8 @@ class CropPhoto {
     void Grow(int steps);
     void TurnLeft_Click() { TurnPhoto(Turn::Left); }
     void TurnRight_Click() { TurnPhoto(Turn::Right); }
-    /// Throws FileError; the window stays open then.
+    /// Does nothing more than Cancel where the frame shows the whole photo as it was. Throws
+    /// FileError; the window stays open then.
     void OKButton_Click();
     void CancelButton_Click();
 

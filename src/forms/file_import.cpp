@@ -1,6 +1,7 @@
 #include "forms/file_import.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "convert/photo_import.h"
 #include "forms/list_entries.h"
@@ -22,8 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kPreviewEdge = 260;  // pixels
-
 const PhotoDecoder& OrNone(const PhotoDecoder* decoder) {
     static const NoPhotoDecoder none;
     return decoder != nullptr ? *decoder : none;
@@ -32,7 +31,7 @@ const PhotoDecoder& OrNone(const PhotoDecoder* decoder) {
 }  // namespace
 
 FileImport::FileImport(Workplace& place, const PhotoDecoder* decoder)
-    : place_(place), decoder_(OrNone(decoder)), crop_(place) {}
+    : place_(place), decoder_(OrNone(decoder)), crop_(place), asking_(place, crop_), fit_(place) {}
 
 void FileImport::Remember() {
     const WorkState& state = place_.State;
@@ -43,9 +42,10 @@ void FileImport::Remember() {
                state.PictureLoaded,
                state.BmpWidth,
                state.BmpHeight,
-               place_.Frames.CaptureFrame.Visible,
-               place_.Frames.WorkFrame.Visible,
-               place_.MainMenu[MenuId::PrintMenu].Enabled};
+               place_.Frames->CaptureFrame.Visible,
+               place_.Frames->WorkFrame.Visible,
+               place_.MainMenu[MenuId::PrintMenu].Enabled,
+               state.Chosen.Fit};
 }
 
 void FileImport::PutBack() {
@@ -57,14 +57,16 @@ void FileImport::PutBack() {
     state.PictureLoaded = before_.PictureLoaded;
     state.BmpWidth = before_.BmpWidth;
     state.BmpHeight = before_.BmpHeight;
-    place_.Frames.CaptureFrame.Visible = before_.CaptureShown;
-    place_.Frames.WorkFrame.Visible = before_.WorkShown;
+    place_.Frames->CaptureFrame.Visible = before_.CaptureShown;
+    place_.Frames->WorkFrame.Visible = before_.WorkShown;
     place_.MainMenu[MenuId::PrintMenu].Enabled = before_.SaveEnabled;
+    state.Chosen.Fit = before_.Fit;
 }
 
 void FileImport::Form_Load() {
     controls_ = {};
     clicked_.clear();
+    fit_.Clear();
     controls_.ImportDrive = ListDrives();
     controls_.DriveIndex = DriveOf(controls_.ImportDrive, FullPath(place_.Folder.Root()));
 }
@@ -78,7 +80,7 @@ void FileImport::ShowFolder(const fs::path& folder) {
     const bool listed = chosen != controls_.ImportFile.end() &&
                         FullPath(ChosenPhoto()).parent_path() == controls_.Folder;
     controls_.FileIndex = listed ? static_cast<int>(chosen - controls_.ImportFile.begin()) : -1;
-    if (controls_.Description.empty()) {
+    if (fit_.Controls().Description.empty()) {
         ShowPreview();
     }
 }
@@ -101,14 +103,14 @@ void FileImport::ImportDir_Change(int folder) {
 void FileImport::ImportFile_Click(int file) {
     if (Holds(controls_.ImportFile, file)) {
         controls_.FileIndex = file;
-        place_.State.PictureFile = At(controls_.ImportFile, file);
-        clicked_ = controls_.Folder / place_.State.PictureFile;
+        place_.State->PictureFile = At(controls_.ImportFile, file);
+        clicked_ = controls_.Folder / place_.State->PictureFile;
         ShowPreview();
     }
 }
 
 fs::path FileImport::ChosenPhoto() const {
-    const std::string& file = place_.State.PictureFile;
+    const std::string& file = place_.State->PictureFile;
     if (file.empty() || !clicked_.empty()) {
         return clicked_;
     }
@@ -116,10 +118,8 @@ fs::path FileImport::ChosenPhoto() const {
 }
 
 void FileImport::ShowPreview() {
-    controls_.Preview = {};
-    controls_.Description.clear();
-    controls_.CropEnabled = false;
     const fs::path photo = ChosenPhoto();
+    fit_.Clear();
     if (photo.empty()) {
         return;
     }
@@ -127,77 +127,123 @@ void FileImport::ShowPreview() {
         Describe(photo);
     } catch (const Error& error) {
         // Looking is not choosing: OK is where a broken photo is refused.
-        controls_.Description = error.what();
+        fit_.Clear(error.what());
     }
 }
 
 void FileImport::Describe(const fs::path& photo) {
     const std::string name = photo.filename().string();
-    controls_.Description = name + "\nReading ...";
+    fit_.Clear(name + "\nReading ...");
     IncomingPhoto incoming(photo, decoder_);
-    const Surface picture = ReadAnyPhoto(place_, incoming);
-    const BitmapSize size = incoming.Size();
-    PhotoLook look = LookAt(picture, TargetOf(place_), kPreviewEdge);
-    controls_.Description = name + "\n" + std::to_string(size.Width) + " x " +
-                            std::to_string(size.Height) + " pixels\n" + look.Stretch;
-    controls_.Preview = std::move(look.Picture);
-    controls_.CropEnabled = look.CropHelps;
+    const Surface picture = ReadAnyPhoto(place_.Screen, incoming);
+    fit_.Show(name, picture, incoming.Size(), lastWay_);
 }
 
 void FileImport::CropButton_Click() {
-    if (!controls_.CropEnabled) {
-        return;
+    if (fit_.Controls().CropEnabled) {
+        OpenCrop(ChosenPhoto(), [this](const std::string& file) { ChooseCrop(file); });
     }
-    IncomingPhoto photo(ChosenPhoto(), decoder_);
-    if (photo.HasOwnColors()) {
-        MentionColors(place_, photo.File());
+}
+
+void FileImport::OpenCrop(const fs::path& photo, CropPhoto::Kept kept) {
+    IncomingPhoto incoming(photo, decoder_);
+    if (incoming.HasOwnColors()) {
+        MentionColors(place_.State, place_.Screen, photo);
     }
-    crop_.Open(ReadAnyPhoto(place_, photo), photo.Stem(),
-               [this](const std::string& file) { ChooseCrop(file); });
+    crop_.Open(ReadAnyPhoto(place_.Screen, incoming), incoming.Stem(), std::move(kept));
 }
 
 void FileImport::ChooseCrop(const std::string& pictureFile) {
-    place_.State.PictureFile = pictureFile;
+    place_.State->PictureFile = pictureFile;
     clicked_.clear();
-    controls_.Description.clear();
+    fit_.Clear();
     ShowFolder(place_.Folder.Path("Pictures"));
     controls_.DriveIndex = DriveOf(controls_.ImportDrive, controls_.Folder);
 }
 
-std::string FileImport::TakeIn(const fs::path& photo) {
+std::string FileImport::TakeIn(const fs::path& photo, PhotoFit way) {
     IncomingPhoto incoming(photo, decoder_);
     if (incoming.IsPlainBitmap()) {
         RequireResultNames(photo, kLongestResult);
     }
     if (!IsInPictures(place_.Folder, incoming)) {
-        RequirePaintable(incoming, TargetOf(place_));
+        RequirePaintable(incoming, TargetOf(place_.Screen, place_.State), PartOf(way));
+    }
+    if (PartOf(way) != CropPart::Whole && incoming.HasOwnColors()) {
+        MentionColors(place_.State, place_.Screen, photo);  // a crop no longer tells
     }
     const ReadingShown reading(place_.Screen);
-    return TakeIntoPictures(place_.Folder, incoming, reading.Progress());
+    return Cropped(TakeIntoPictures(place_.Folder, incoming, reading.Progress()), way);
+}
+
+std::string FileImport::Cropped(const std::string& pictureFile, PhotoFit way) {
+    return CropInPictures(place_.Folder, pictureFile, TargetOf(place_.Screen, place_.State),
+                          PartOf(way));
+}
+
+// One that no part of would fit is refused where it is taken.
+bool FileImport::MustAsk(BitmapSize photo) const {
+    const CropTarget target = TargetOf(place_.Screen, place_.State);
+    return photo.Width > 0 && photo.Height > 0 && SheetStretch(photo, target) > kStretchThatShows &&
+           SheetStretch(LargestCrop(photo, target), target) != kNoSheet;
 }
 
 void FileImport::TakePhoto(const fs::path& photo) {
-    GridReplacement replacement(place_);
-    if (replacement.Allowed() && LoadUnchosen(TakeIn(photo))) {
-        replacement.Done();
+    IncomingPhoto incoming(photo, decoder_);
+    if (!MustAsk(incoming.Size())) {
+        TakeAndLoad([&] { return TakeIn(photo, PhotoFit::Keep); }, PhotoFit::Keep);
+        return;
     }
+    if (incoming.HasOwnColors()) {
+        MentionColors(place_.State, place_.Screen, photo);
+    }
+    Surface picture = ReadAnyPhoto(place_.Screen, incoming);
+    asking_.Open(
+        {std::move(picture), incoming.Size(), photo.filename().string(), incoming.Stem()}, lastWay_,
+        [this, photo](PhotoFit way, const Surface& /*picture*/) {
+            lastWay_ = way;
+            TakeAndLoad([&] { return TakeIn(photo, way); }, way);
+        },
+        [this](const std::string& file) { LoadCrop(file); });
 }
 
 void FileImport::TakePicture(const Surface& picture) {
-    GridReplacement replacement(place_);
-    if (replacement.Allowed() && LoadUnchosen(KeepPicture(place_.Folder, kPastedStem, picture))) {
-        replacement.Done();
+    const auto take = [this](PhotoFit way, const Surface& pasted) {
+        TakeAndLoad([&] { return Cropped(KeepPicture(place_.Folder, kPastedStem, pasted), way); },
+                    way);
+    };
+    const BitmapSize size{picture.Width(), picture.Height()};
+    if (!MustAsk(size)) {
+        take(PhotoFit::Keep, picture);
+        return;
     }
+    asking_.Open(
+        {picture, size, kPastedStem, kPastedStem}, lastWay_,
+        [this, take](PhotoFit way, const Surface& pasted) {
+            lastWay_ = way;
+            take(way, pasted);
+        },
+        [this](const std::string& file) { LoadCrop(file); });
 }
 
-bool FileImport::LoadUnchosen(const std::string& pictureFile) {
-    Remember();
-    place_.MainMenu[MenuId::PrintMenu].Enabled = false;
-    const bool isPhoto = ChoosePhoto(place_, pictureFile);
-    if (isPhoto) {
-        LoadChosen();
+void FileImport::CropLoaded() {
+    OpenCrop(place_.State->PicturePath, [this](const std::string& file) { LoadCrop(file); });
+}
+
+void FileImport::LoadCrop(const std::string& pictureFile) {
+    TakeAndLoad([&] { return pictureFile; }, PhotoFit::Keep);
+}
+
+void FileImport::TakeAndLoad(const Take& take, PhotoFit way) {
+    GridReplacement replacement(place_);
+    if (replacement.Allowed()) {
+        const std::string file = take();
+        Remember();
+        place_.MainMenu[MenuId::PrintMenu].Enabled = false;
+        (void)ChoosePhoto(place_.State, place_.Folder, file);  // of Pictures, so it has a name
+        Load(way);
+        replacement.Done();
     }
-    return isPhoto;
 }
 
 void FileImport::OKButton_Click() {
@@ -211,19 +257,25 @@ void FileImport::OKButton_Click() {
     if (!replacement.Allowed()) {
         return;
     }
-    const std::string file = clicked_.empty() ? state.PictureFile : TakeIn(clicked_);
-    if (ChoosePhoto(place_, file)) {
+    const PhotoFit way = fit_.Way();
+    const std::string file =
+        clicked_.empty() ? Cropped(state.PictureFile, way) : TakeIn(clicked_, way);
+    if (ChoosePhoto(place_.State, place_.Folder, file)) {
+        if (fit_.Asks()) {
+            lastWay_ = way;
+        }
         place_.Screen.CloseForm(FormId::FileImport);
-        LoadChosen();
+        Load(way);
         replacement.Done();
     }
 }
 
-void FileImport::LoadChosen() {
+void FileImport::Load(PhotoFit way) {
     WorkState& state = place_.State;
     const std::string path = state.PicturePath;
     const bool hadGrid = state.StipplesMade || state.CellsAcross > 0;
     try {
+        state.Chosen.Fit = way;
         if (LoadNewPicture(place_) == PhotoLoad::Nothing) {
             throw FormatError(path, 0, "the photo has no pixels. Choose another photo.");
         }

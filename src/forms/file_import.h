@@ -1,11 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "convert/photo_decoder.h"
 #include "forms/crop_photo.h"
+#include "forms/fit_choice.h"
+#include "forms/fit_photo.h"
 #include "forms/folder_lists.h"
 #include "shell/workplace.h"
 #include "support/surface.h"
@@ -20,9 +23,6 @@ struct FileImportControls {
     std::vector<std::string> ImportDir;  // ".." first where there is a parent
     std::vector<std::string> ImportFile;
     int FileIndex = -1;
-    Surface Preview;          // the photo that OK takes, small and in the sheet's shape, or empty
-    std::string Description;  // its name, size and stretch, or why it cannot be read
-    bool CropEnabled = false;
 };
 
 /// The photo chooser. Load Photo empties the work area before it opens; Cancel and photos that
@@ -47,13 +47,19 @@ class FileImport {
     /// Opens the crop window over the chosen photo. Throws Error.
     void CropButton_Click();
 
-    /// Takes a photo without the chooser, as OK does. Throws Error; nothing has changed then.
+    /// Takes a photo without the chooser, as OK does; asks first how it is to come onto the sheet
+    /// when it does not fit. Throws Error; nothing has changed then.
     void TakePhoto(const std::filesystem::path& photo);
     /// The same for a picture that is no file yet; it has pixels.
     void TakePicture(const Surface& picture);
+    /// Opens the crop window over the photo that is loaded. Throws Error.
+    void CropLoaded();
 
     [[nodiscard]] const FileImportControls& Controls() const { return controls_; }
+    /// How the photo that OK takes comes onto the sheet.
+    [[nodiscard]] FitChoice& Fit() { return fit_; }
     [[nodiscard]] CropPhoto& Crop() { return crop_; }
+    [[nodiscard]] FitPhoto& Asking() { return asking_; }
 
   private:
     /// What Load Photo and an import that fails change.
@@ -68,20 +74,30 @@ class FileImport {
         bool CaptureShown = false;
         bool WorkShown = false;
         bool SaveEnabled = false;
+        PhotoFit Fit = PhotoFit::Keep;
     };
+    /// Brings a photo into Pictures and gives its file name there.
+    using Take = std::function<std::string()>;
 
     [[nodiscard]] std::filesystem::path ChosenPhoto() const;
     void ShowPreview();
     void Describe(const std::filesystem::path& photo);
     void ChooseCrop(const std::string& pictureFile);
-    [[nodiscard]] std::string TakeIn(const std::filesystem::path& photo);
-    [[nodiscard]] bool LoadUnchosen(const std::string& pictureFile);
-    void LoadChosen();
+    [[nodiscard]] bool MustAsk(BitmapSize photo) const;
+    void OpenCrop(const std::filesystem::path& photo, CropPhoto::Kept kept);
+    [[nodiscard]] std::string TakeIn(const std::filesystem::path& photo, PhotoFit way);
+    [[nodiscard]] std::string Cropped(const std::string& pictureFile, PhotoFit way);
+    void TakeAndLoad(const Take& take, PhotoFit way);
+    void Load(PhotoFit way);
+    void LoadCrop(const std::string& pictureFile);
     void PutBack();
 
     Workplace& place_;
     const PhotoDecoder& decoder_;
     CropPhoto crop_;
+    FitPhoto asking_;
+    FitChoice fit_;
+    PhotoFit lastWay_ = PhotoFit::Keep;  // chosen for the photo that needed it last
     FileImportControls controls_;
     std::filesystem::path clicked_;  // empty until a file is clicked
     Before before_;

@@ -6,6 +6,31 @@
 
 namespace vendrel {
 
+void KitPdfForm::Form_Load() {
+    sketch_ = SketchPlan(place_.State, place_.Frames->WorkFrame.Picture, exporter_.Aspects());
+    Measure();
+}
+
+void KitPdfForm::Measure() {
+    if (sketch_) {
+        figures_ = FiguresOf(*sketch_, settings_);
+    }
+}
+
+void KitPdfForm::Paper_Click(Paper paper) {
+    settings_.Sheet = paper;
+    Measure();
+}
+
+void KitPdfForm::Canvas_Change(double centimetres) {
+    settings_.CanvasCm = centimetres;
+    Measure();
+}
+
+double KitPdfForm::WidestCm() const {
+    return sketch_ ? WidestCanvasCm(*sketch_) : kLargestCanvasCm;
+}
+
 void KitPdfForm::SaveButton_Click() {
     KitOrder order{.Outputs = {}, .Fonts = &exporter_, .Plan = settings_};
     order.Outputs.Add(OutputId::Pdf);

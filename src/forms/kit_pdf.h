@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "plan/exporter.h"
+#include "plan/plan_sketch.h"
 #include "shell/workplace.h"
 
 namespace vendrel {
@@ -10,19 +13,29 @@ class KitPdfForm {
   public:
     KitPdfForm(Workplace& place, const Exporter& exporter) : place_(place), exporter_(exporter) {}
 
-    void Paper_Click(Paper paper) { settings_.Sheet = paper; }
+    /// Measures the painting. Throws Error when it cannot be printed.
+    void Form_Load();
+    void Paper_Click(Paper paper);
     /// Width of the canvas in centimetres; 0 to fill the pages that legible symbols need.
-    void Canvas_Change(double centimetres) { settings_.CanvasCm = centimetres; }
+    void Canvas_Change(double centimetres);
     /// Writes the PDF, closes, and offers to open its folder.
     void SaveButton_Click();
     void CancelButton_Click();
 
     [[nodiscard]] const PlanSettings& Settings() const { return settings_; }
+    /// Of the settings; nothing before the painting is measured.
+    [[nodiscard]] const std::optional<PlanFigures>& Figures() const { return figures_; }
+    /// The widest canvas that can be chosen, in centimeters.
+    [[nodiscard]] double WidestCm() const;
 
   private:
+    void Measure();
+
     Workplace& place_;
     const Exporter& exporter_;
     PlanSettings settings_;
+    std::optional<PlanSketch> sketch_;
+    std::optional<PlanFigures> figures_;
 };
 
 }  // namespace vendrel

@@ -31,6 +31,7 @@ class MainForm {
     [[nodiscard]] std::string StatusHint() const;
 
     void LoadBMP_Click();
+    void CropOrTurn_Click();
     void LoadStipples_Click();
     void StartupPaintShop_Click();
     void ChangeToStipples_Click();

@@ -35,7 +35,7 @@ void MakePaintable::Form_Load() {
     wish_.CanvasCm = wish_.CanvasCm > 0 ? wish_.CanvasCm : kUsualCanvasCm;
     wish_.FinalPaints = wish_.FinalPaints > 0 ? wish_.FinalPaints : kFinalPaints.back();
     preview_ = std::make_unique<PaintablePreview>(place_);
-    before_ = place_.Frames.WorkFrame.Picture;
+    before_ = place_.Frames->WorkFrame.Picture;
     protected_ = state.Protected.All().empty()
                      ? ValueGrid(state.CellsAcross - 1, state.CellsDown - 1)
                      : state.Protected;

@@ -51,7 +51,7 @@ class MakePaintable {
     [[nodiscard]] bool CanRedo() const { return !redo_.empty(); }
     /// Per stipple from 0, other than 0 where it is protected.
     [[nodiscard]] const ValueGrid& Protected() const { return protected_; }
-    [[nodiscard]] int StippleSize() const { return place_.State.StippleSize; }
+    [[nodiscard]] int StippleSize() const { return place_.State->StippleSize; }
     /// All of one size.
     [[nodiscard]] const Surface& Photo() const { return preview_->Photo(); }
     [[nodiscard]] const Surface& Before() const { return before_; }

@@ -31,7 +31,7 @@ void PaintablePreview::Convert(const Settings& wish) {
     WorkState& state = scratch_.State;
     state.Chosen.Paintable = false;
     state.FinalColors = wish.FinalPaints;
-    RefreshPhotoImage(scratch_.Place);
+    RefreshPhotoImage(scratch_.Frames, scratch_.Place.Screen);
     RestorePaintColors(scratch_.Place);
     (void)ApplyStipples(scratch_.Place);
     state.Chosen = wish;

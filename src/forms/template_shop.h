@@ -56,7 +56,7 @@ class TemplateShop {
     /// Replaces the paints by all that the photo is matched to with the selected sets. The work on
     /// the photo itself stays as it is.
     void FillFromPhoto_Click();
-    /// A palette file becomes a new template, which is chosen.
+    /// A palette file, or a template from elsewhere, becomes a new template, which is chosen.
     void Import_Click(const std::filesystem::path& file);
     void Export_Click(const std::filesystem::path& file) const;
     void Done_Click();

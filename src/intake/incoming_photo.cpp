@@ -54,7 +54,7 @@ bool NeedsDecoder(std::string_view lead, const fs::path& photo) {
 }  // namespace
 
 IncomingPhoto::IncomingPhoto(fs::path file, const PhotoDecoder& decoder)
-    : file_(std::move(file)), decoder_(decoder) {
+    : file_(std::move(file)), decoder_(decoder), named_(NamesAPicture(file_)) {
     BitmapInput input(file_);
     if (!NeedsDecoder(ReadLead(input), file_)) {
         plain_ = std::move(input);
@@ -62,7 +62,8 @@ IncomingPhoto::IncomingPhoto(fs::path file, const PhotoDecoder& decoder)
 }
 
 std::string IncomingPhoto::Stem() const {
-    return plain_ ? std::string(PictureNameOf(file_.filename().string())) : PictureStem(file_);
+    return IsPlainBitmap() ? std::string(PictureNameOf(file_.filename().string()))
+                           : PictureStem(file_);
 }
 
 const BitmapHeader& IncomingPhoto::Header() {

@@ -5,13 +5,14 @@
 
 #include "convert/crop.h"
 #include "intake/incoming_photo.h"
-#include "shell/workplace.h"
+#include "shell/ui.h"
+#include "shell/work_settings.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
 
 /// The sheet that a photo would be painted on now.
-[[nodiscard]] CropTarget TargetOf(const Workplace& place);
+[[nodiscard]] CropTarget TargetOf(const Ui& screen, const WorkSettings& settings);
 
 /// Throws FileError when the shape of a photo, or of the part to be kept of it, leaves no whole
 /// stipple, and FormatError when it is no photo at all: such a file should not take a name in
@@ -23,9 +24,10 @@ void RequirePaintable(IncomingPhoto& photo, const CropTarget& target,
 [[nodiscard]] bool IsInPictures(const ProgramFolder& folder, const IncomingPhoto& photo);
 
 /// Makes a photo one of the Pictures folder and gives its file name there. A plain bitmap is copied
-/// from elsewhere; one that is there already is taken as it is. Others are decoded and kept as a
-/// bitmap, under another name rather than over another photo. Throws FileError when a different
-/// bitmap of that name is there, or when copying fails, and FormatError.
+/// from elsewhere; one that is there already is taken as it is. Others, and bitmaps that nothing
+/// could be named after, are read and kept as a bitmap, under another name rather than over another
+/// photo. Throws FileError when a different bitmap of that name is there, or when copying fails,
+/// and FormatError.
 [[nodiscard]] std::string TakeIntoPictures(const ProgramFolder& folder, IncomingPhoto& photo,
                                            const ReadProgress& progress = {});
 

@@ -36,6 +36,12 @@ std::string PictureStem(const fs::path& photo) {
     return stem.empty() ? "Photo" : stem;
 }
 
+bool NamesAPicture(const fs::path& bitmap) {
+    const std::string file = bitmap.filename().string();
+    const std::size_t name = PictureNameOf(file).size();
+    return name > 0 && name < file.size();
+}
+
 void RequireResultNames(const fs::path& photo, std::string_view longest) {
     if (PictureNameOf(photo.filename().string()).size() + longest.size() > kLongestName) {
         throw FileError(photo, "its name is too long for what is made of it, as in \"..." +

@@ -9,10 +9,15 @@ namespace vendrel {
 /// What a picture from the clipboard is called.
 inline constexpr const char* kPastedStem = "Pasted picture";
 
-/// The name under which a photo that is no plain bitmap is kept, without an ending: its own, with
+/// The name under which a photo that cannot stand in Pictures as it is is kept, without an ending:
+/// its own, with
 /// "-" for every "." inside, since everything made from a photo is named after what stands before
 /// its first ".".
 [[nodiscard]] std::string PictureStem(const std::filesystem::path& photo);
+
+/// Whether a bitmap can stand in Pictures under its own name: everything made from it is named
+/// after what stands before the first ".", so there must be something, and a ".".
+[[nodiscard]] bool NamesAPicture(const std::filesystem::path& bitmap);
 
 /// What follows a photo's name in the longest name of a result.
 inline constexpr std::string_view kLongestResult = " Difficult Symbol Reference.BMP";

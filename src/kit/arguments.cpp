@@ -17,6 +17,7 @@ constexpr std::string_view kHelp =
     R"(Vendrel turns a photograph into a paint-by-symbol kit.
 
   vendrel [--folder DIR] opens the window
+  vendrel --documents    opens it in the folder Vendrel of your documents
   vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
   vendrel symbols [--folder DIR]
                          draws the symbols anew into Data/Symbols.txt
@@ -78,8 +79,12 @@ constexpr auto kMatchings =
     std::to_array<Choice<Matching>>({{"plain", Matching::Plain}, {"eye", Matching::ByEye}});
 constexpr auto kPapers =
     std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
+constexpr auto kFits = std::to_array<Choice<PhotoFit>>({{"keep", PhotoFit::Keep},
+                                                        {"crop", PhotoFit::Crop},
+                                                        {"top", PhotoFit::CropTop},
+                                                        {"stretch", PhotoFit::Stretch}});
 constexpr auto kCropParts =
-    std::to_array<Choice<CropPart>>({{"center", CropPart::Centre}, {"top", CropPart::Top}});
+    std::to_array<Choice<PhotoFit>>({{"center", PhotoFit::Crop}, {"top", PhotoFit::CropTop}});
 
 [[noreturn]] void RefuseValue(std::string_view option, std::string_view value,
                               std::string_view choices) {
@@ -240,13 +245,17 @@ void AddPictureOptions(CLI::App& app, KitOptions& kit) {
              [&kit](const std::string& option, const std::string& value) {
                  kit.Screen = ToScreen(option, value);
              });
+    AddChoice(app,
+              {"--fit", "WAY",
+               "a photo that does not fit the sheet can keep (default)\n"
+               "its shape, lose what is too much (crop round the center,\n"
+               "or keep its top) or stretch"},
+              kFits, kit.Chosen.Fit);
     AddValue(app,
              {"--crop", "[PART]",
-              "instead of stretching the photo, cuts off what does not\n"
-              "fit the sheet; keeps the center (default) or the top"},
-             [&kit](const std::string& option, const std::string& value) {
-                 kit.Crop = Chosen(option, American(value), kCropParts);
-             });
+              "another word for --fit crop; keeps the center (default)\n"
+              "or the top"},
+             [](const std::string&, const std::string&) {});  // always replaced by --fit
 }
 
 // An option that makes kits paintable; its value is a number that goes to `target`.
@@ -327,14 +336,19 @@ void AddKit(CLI::App& app, KitOptions& kit) {
     app.add_option("PHOTO", kit.Photos);
 }
 
-// A part behind --crop belongs to it; any other word there is a photo.
-std::string CropWord(std::span<const std::string_view>& rest) {
-    std::string_view part = kCropParts.front().Word;
-    if (!rest.empty() && FindChoice(kCropParts, American(rest.front())) != nullptr) {
-        part = rest.front();
-        rest = rest.subspan(1);
+// The word for --fit that --crop stands for, so that the last of both counts. A part behind it
+// belongs to it; any other word there is a photo.
+std::string CropWord(std::string_view word, std::span<const std::string_view>& rest) {
+    std::string_view part = word.substr(std::min(word.size(), word.find('=') + 1));
+    if (word == "--crop") {
+        part = kCropParts.front().Word;
+        if (!rest.empty() && FindChoice(kCropParts, American(rest.front())) != nullptr) {
+            part = rest.front();
+            rest = rest.subspan(1);
+        }
     }
-    return "--crop=" + std::string(part);
+    const PhotoFit fit = Chosen("--crop", American(part), kCropParts);
+    return "--fit=" + std::string(std::ranges::find(kFits, fit, &Choice<PhotoFit>::Meaning)->Word);
 }
 
 // What the library would take for something else: "--json=" and "--folder=" without a value.
@@ -360,7 +374,8 @@ std::vector<std::string> Prepared(const CLI::App& app, std::span<const std::stri
         const std::string_view word = words.front();
         words = words.subspan(1);
         CheckValueInside(app, word);
-        prepared.push_back(word == "--crop" ? CropWord(words) : std::string(word));
+        const bool crop = word == "--crop" || word.starts_with("--crop=");
+        prepared.push_back(crop ? CropWord(word, words) : std::string(word));
     }
     prepared.insert(prepared.end(), words.begin(), words.end());
     std::ranges::reverse(prepared);
@@ -437,9 +452,13 @@ Arguments ParseFolder(Command command, std::span<const std::string_view> words) 
     AddText(app, {"--folder", "DIR", ""}, arguments.Folder);
     if (command == Command::Window) {
         AddSwitch(app, {"--version", "", ""}, version);
+        AddSwitch(app, {"--documents", "", ""}, arguments.InDocuments);
     }
     if (AsksForHelp(app, words, "vendrel --help")) {
         return {Command::Help, {}, {}};
+    }
+    if (arguments.InDocuments && arguments.Folder != ".") {
+        throw UsageError("Choose the folder by --folder or by --documents, not by both.");
     }
     return version ? Arguments{Command::Version, {}, {}} : arguments;
 }

@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "convert/crop.h"
 #include "kitset/outputs.h"
 #include "plan/plan_layout.h"
 #include "shell/settings.h"
@@ -31,8 +30,7 @@ struct KitOptions {
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
     std::string Title;  // names the files in place of the photo's name
-    CropPart Crop = CropPart::Whole;
-    ScreenSize Screen = ScreenSize::FromPixels(1920, 1080);
+    ScreenSize Screen = kDrawingBoard;
     KitOutputs Outputs;
     PlanSettings Plan;  // of the PDF; its canvas is that of the settings where they need one
     bool ReplaceGrid = false;
@@ -48,6 +46,7 @@ struct Arguments {
     Command What = Command::Window;
     KitOptions Kit;                      // for Command::Kit
     std::filesystem::path Folder = ".";  // for Command::Window and Command::Symbols
+    bool InDocuments = false;            // for Command::Window: among the painter's documents
 };
 
 /// Reads the words behind the program's name. Throws UsageError with a sentence.

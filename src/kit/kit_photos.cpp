@@ -1,6 +1,7 @@
 #include "kit/kit_photos.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "convert/photo_import.h"
 #include "convert/picture_name.h"
@@ -13,12 +14,13 @@ namespace vendrel {
 namespace {
 
 // Of the outputs asked for: what fits is made.
-std::string LongestEnding(const Workplace& place, const KitOptions& options) {
-    const KitName kit{"", std::string(DifficultyWord(place.State))};
-    const std::string crop = options.Crop == CropPart::Whole ? "" : " crop";
+std::string LongestEnding(const ProgramFolder& folder, std::string_view difficulty,
+                          const KitOptions& options) {
+    const KitName kit{"", std::string(difficulty)};
+    const std::string crop = PartOf(options.Chosen.Fit) == CropPart::Whole ? "" : " crop";
     std::string longest = crop + ".bmp";
     for (const Output& output : AllOutputs()) {
-        const std::string ending = crop + FileOf(output, place.Folder, kit).filename().string();
+        const std::string ending = crop + FileOf(output, folder, kit).filename().string();
         if (options.Outputs.Chosen.Has(output.Id) && ending.size() > longest.size()) {
             longest = ending;
         }
@@ -28,32 +30,34 @@ std::string LongestEnding(const Workplace& place, const KitOptions& options) {
 
 }  // namespace
 
-std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
-                              const std::filesystem::path& file) {
-    const CropTarget target = TargetOf(place);
+TakenPhoto KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
+                             const std::filesystem::path& file) {
+    const CropTarget target = TargetOf(place.Screen, place.State);
+    const CropPart part = PartOf(options.Chosen.Fit);
     IncomingPhoto photo(file, decoder_);
-    RequirePaintable(photo, target, options.Crop);
+    RequirePaintable(photo, target, part);
     const bool plain = photo.IsPlainBitmap();
     if (plain) {
-        RequireResultNames(file, LongestEnding(place, options));
+        RequireResultNames(file, LongestEnding(place.Folder, DifficultyWord(place.State), options));
         Claim(file, photo.Stem());
     }
     if (photo.HasOwnColors()) {
-        MentionColors(place, file);
+        MentionColors(place.State, place.Screen, file);
     }
-    const std::string taken = plain ? TakeIntoPictures(place.Folder, photo) : Decode(place, photo);
-    std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
+    const std::string taken =
+        plain ? TakeIntoPictures(place.Folder, photo) : Decode(place.Screen, place.Folder, photo);
+    std::string picture = CropInPictures(place.Folder, taken, target, part);
     // Decoded photos and crops are numbered where their name is taken: it is known only now.
     if (!plain || picture != taken) {
         Claim(file, PictureNameOf(picture));
     }
-    return picture;
+    const bool cropped = picture != taken;
+    return {std::move(picture), cropped};
 }
 
-std::string KitPhotos::Decode(const Workplace& place, IncomingPhoto& photo) {
-    Ui& screen = place.Screen;
+std::string KitPhotos::Decode(Ui& screen, const ProgramFolder& folder, IncomingPhoto& photo) {
     screen.SetCaption("Reading " + photo.File().filename().string());
-    std::string file = TakeIntoPictures(place.Folder, photo, [&screen](int percent) {
+    std::string file = TakeIntoPictures(folder, photo, [&screen](int percent) {
         screen.ReportProgress(percent, 100);
         screen.Yield();
     });
@@ -64,11 +68,6 @@ std::string KitPhotos::Decode(const Workplace& place, IncomingPhoto& photo) {
 // Two kits of one name would take each other's place; letters of another case do not help, as some
 // disks do not tell them apart.
 void KitPhotos::Claim(const std::filesystem::path& photo, std::string_view name) {
-    if (name.empty()) {
-        throw FileError(photo,
-                        "has nothing before its first dot, which is what a kit is named "
-                        "after. Rename it.");
-    }
     if (std::ranges::any_of(
             names_, [name](const std::string& other) { return SameIgnoringCase(name, other); })) {
         throw FileError(photo, "another photo of this run is named \"" + std::string(name) +

@@ -11,18 +11,24 @@
 
 namespace vendrel {
 
+struct TakenPhoto {
+    std::string File;  // in Pictures
+    bool Cropped = false;
+};
+
 /// Brings the photos of one run into Pictures, and knows which names the run has used.
 class KitPhotos {
   public:
     explicit KitPhotos(const PhotoDecoder& decoder) : decoder_(decoder) {}
 
-    /// Decodes what is no plain bitmap, crops as asked, and gives the file's name in Pictures.
+    /// Decodes what is no plain bitmap and crops as asked.
     /// Throws Error, also when a kit of this run has the photo's name already.
-    [[nodiscard]] std::string TakeIn(Workplace& place, const KitOptions& options,
-                                     const std::filesystem::path& file);
+    [[nodiscard]] TakenPhoto TakeIn(Workplace& place, const KitOptions& options,
+                                    const std::filesystem::path& file);
 
   private:
-    [[nodiscard]] static std::string Decode(const Workplace& place, IncomingPhoto& photo);
+    [[nodiscard]] static std::string Decode(Ui& screen, const ProgramFolder& folder,
+                                            IncomingPhoto& photo);
     void Claim(const std::filesystem::path& photo, std::string_view name);
 
     const PhotoDecoder& decoder_;

@@ -1,5 +1,6 @@
 #include "kit/kit_report.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "convert/working_size.h"
@@ -24,6 +25,24 @@ void AddLine(std::string& text, std::string label, const std::string& value) {
     text += "  " + label + Printable(value) + "\n";
 }
 
+struct FitWords {
+    PhotoFit Fit;
+    std::string_view Option;
+    std::string_view Sentence;
+};
+
+constexpr FitWords kFits[] = {
+    {PhotoFit::Keep, "keep", ", its shape kept"},
+    {PhotoFit::Crop, "crop", ", cropped"},
+    {PhotoFit::CropTop, "top", ", cropped below its top"},
+    {PhotoFit::Stretch, "stretch", ""},
+};
+constexpr FitWords kFitsByItself{PhotoFit::Keep, "none", ""};
+
+const FitWords& WordsOf(const std::optional<PhotoFit>& fit) {
+    return fit ? *std::ranges::find(kFits, *fit, &FitWords::Fit) : kFitsByItself;
+}
+
 std::string MillisecondsLine(const KitReport& report) {
     std::string line;
     double total = 0;
@@ -44,6 +63,14 @@ Json JsonOf(const NumberingCounts& counts) {
             {"symbols", counts.Symbols},
             {"outsideStipples", counts.SymbolsAstray},
             {"borderDots", counts.BorderDots}};
+}
+
+Json JsonOf(const PlanFigures& plan) {
+    return {{"pages", plan.Pages},
+            {"canvasCm", {{"width", plan.Canvas.Width / 10}, {"height", plan.Canvas.Height / 10}}},
+            {"symbols", plan.Symbols},
+            {"below2mm", plan.Small},
+            {"smallestMm", plan.SmallestMm}};
 }
 
 Json JsonOf(const KitFigures& figures) {
@@ -69,6 +96,7 @@ Json JsonOf(const KitReport& report) {
                  {"mark", report.Mark},
                  {"photoSize", JsonOf(report.PhotoSize)},
                  {"workingSize", JsonOf(report.WorkingSize)},
+                 {"fit", WordsOf(report.Fit).Option},
                  {"stretchPercent", StretchPercent(report.PhotoSize, report.WorkingSize)},
                  {"stipples", {{"across", report.CellsAcross}, {"down", report.CellsDown}}}};
     if (!report.FromGrid) {
@@ -86,6 +114,9 @@ Json JsonOf(const KitReport& report) {
     }
     if (report.Numbering) {
         json["numbering"] = JsonOf(*report.Numbering);
+    }
+    if (report.Plan) {
+        json["plan"] = JsonOf(*report.Plan);
     }
     json["milliseconds"] = Json::object();
     for (const auto& [step, number] : report.Milliseconds) {
@@ -158,7 +189,8 @@ std::string SummaryOf(const KitReport& report) {
     AddLine(text, "worked at",
             SizeText(report.WorkingSize.Width, report.WorkingSize.Height) +
                 " pixels, stretched by " +
-                OneDecimal(StretchPercent(report.PhotoSize, report.WorkingSize)) + " %");
+                OneDecimal(StretchPercent(report.PhotoSize, report.WorkingSize)) + " %" +
+                std::string(WordsOf(report.Fit).Sentence));
     AddLine(text, "stipples", SizeText(report.CellsAcross, report.CellsDown));
     AddLine(text, "paints",
             (report.FromGrid ? "" : std::to_string(report.PaintsMatched) + " matched, ") +
@@ -175,6 +207,14 @@ std::string SummaryOf(const KitReport& report) {
                 std::to_string(n.Symbols) + " stamped, " + std::to_string(n.SymbolsAstray) +
                     " outside a stipple of their paint");
         AddLine(text, "border dots", std::to_string(n.BorderDots));
+    }
+    if (report.Plan) {
+        AddLine(text, "plan",
+                std::to_string(report.Plan->Pages) +
+                    (report.Plan->Pages == 1 ? " page, canvas " : " pages, canvas ") +
+                    OneDecimal(report.Plan->Canvas.Width / 10) + " x " +
+                    OneDecimal(report.Plan->Canvas.Height / 10) + " cm, symbols from " +
+                    SmallestText(*report.Plan) + " mm");
     }
     AddLine(text, "mark", report.Mark);
     AddLine(text, "milliseconds", MillisecondsLine(report));

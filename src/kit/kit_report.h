@@ -8,6 +8,8 @@
 #include "convert/bitmap_header.h"
 #include "output/kit_figures.h"
 #include "output/sheet_record.h"
+#include "plan/plan_sketch.h"
+#include "shell/settings.h"
 
 namespace vendrel {
 
@@ -20,6 +22,7 @@ struct KitReport {
     std::string Mark;        // see KitMark
     BitmapSize PhotoSize;
     BitmapSize WorkingSize;
+    std::optional<PhotoFit> Fit;  // how a photo that did not fit by itself was brought on the sheet
     int CellsAcross = 0;
     int CellsDown = 0;
     bool FromGrid = false;
@@ -32,6 +35,7 @@ struct KitReport {
     KitFigures Figures;
     std::optional<SeenFigures> Seen;                           // when asked for
     std::optional<NumberingCounts> Numbering;                  // when a sheet was made
+    std::optional<PlanFigures> Plan;                           // when the pdf was
     std::vector<std::pair<std::string, double>> Milliseconds;  // per step, in order
     std::vector<std::pair<std::string, std::string>> Files;    // output name and path
     std::string List;                                          // of the kit; empty without files

@@ -1,14 +1,16 @@
 #include "kit/make_kit.h"
 
 #include <chrono>
+#include <optional>
 #include <utility>
 
-#include "cleanup/cell_marking.h"
+#include "cleanup/area_search.h"
 #include "cleanup/paint_pass.h"
 #include "convert/crop.h"
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "convert/working_size.h"
+#include "intake/photo_intake.h"
 #include "kitset/save_kit.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
@@ -31,14 +33,15 @@ void Timed(KitReport& report, const char* name, Step step) {
 }
 
 void ImportPhoto(Workplace& place, const fs::path& photo, const std::string& picture) {
-    if (!ChoosePhoto(place, picture) || LoadNewPicture(place) == PhotoLoad::Nothing) {
-        throw FileError(photo, "is no .bmp file with pixels. Choose another photo.");
+    if (!ChoosePhoto(place.State, place.Folder, picture) ||
+        LoadNewPicture(place) == PhotoLoad::Nothing) {
+        throw FileError(photo, "has no pixels. Choose another photo.");
     }
 }
 
 void TakeSavedGrid(Workplace& place) {
-    if (!StippleFileExists(place)) {
-        throw FileError(StippleFilePath(place),
+    if (!StippleFileExists(place.Folder, place.State, place.State)) {
+        throw FileError(StippleFilePath(place.Folder, place.State, place.State),
                         "there is no saved grid to take. Make the kit once without --from-grid.");
     }
     LoadStipples_Click(place);
@@ -64,7 +67,7 @@ OutputChoice Possible(const KitOptions& options, const Exporter* exporter, KitRe
     return outputs;
 }
 
-void WriteOutputs(const Workplace& place, const KitOptions& options, const Exporter* exporter,
+void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* exporter,
                   KitReport& report) {
     const SavedKit saved = SaveKit(
         place, {.Outputs = Possible(options, exporter, report),
@@ -83,13 +86,17 @@ void WriteOutputs(const Workplace& place, const KitOptions& options, const Expor
         report.Milliseconds.emplace_back(step, took);
     }
     report.Notes.insert(report.Notes.end(), saved.Notes.begin(), saved.Notes.end());
+    report.Plan = saved.Plan;
+    if (report.Plan && report.Plan->Small > 0) {
+        report.Notes.push_back(WarningOf(*report.Plan));
+    }
 }
 
-int CountLoners(const WorkState& state) {
+int CountLoners(const Grid<StippleCell>& stipples) {
     int loners = 0;
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            loners += CheckLoner(state, x, y, state.Stipples(x, y).ColorIndex) ? 1 : 0;
+    for (int y = 1; y <= stipples.Down(); ++y) {
+        for (int x = 1; x <= stipples.Across(); ++x) {
+            loners += CheckLoner(stipples, x, y, stipples(x, y).ColorIndex) ? 1 : 0;
         }
     }
     return loners;
@@ -98,8 +105,8 @@ int CountLoners(const WorkState& state) {
 // Measured while painting: it costs little beside it, and nobody paints 5,000 areas.
 void FillBrushFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
     constexpr double kTooMany = 1.0 / 3;
-    report.Matched = place.State.Chosen.Match == Matching::ByEye ? "eye" : "plain";
-    report.Paintable = place.State.PaintableKit;
+    report.Matched = place.State->Chosen.Match == Matching::ByEye ? "eye" : "plain";
+    report.Paintable = place.State->PaintableKit;
     if (options.Quiet && !options.Json) {
         return;  // nobody reads them
     }
@@ -131,12 +138,27 @@ void FillFigures(const Workplace& place, KitReport& report) {
     report.CellsDown = state.CellsDown;
     report.PaintsKept = state.PaintCount;
     report.Areas = state.AreaCount - 1;
-    report.Loners = CountLoners(state);
+    report.Loners = CountLoners(state.Stipples);
     if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
             "The photo's shape does not fit whole stipples on this screen, so it is stretched; "
-            "--crop, or --crop top for faces, cuts off what is too much.");
+            "--fit keep keeps its shape, --fit crop, or top for faces, cuts off what is too "
+            "much.");
     }
+}
+
+// Most photos fit without.
+std::optional<PhotoFit> FitUsed(const Workplace& place, const TakenPhoto& taken) {
+    const WorkState& state = place.State;
+    const PhotoFit fit = state.Chosen.Fit;
+    if (taken.Cropped) {
+        return fit;
+    }
+    if (SheetStretch({state.BmpWidth, state.BmpHeight}, TargetOf(place.Screen, place.State)) <=
+        kStretchThatShows) {
+        return std::nullopt;
+    }
+    return fit == PhotoFit::Stretch ? fit : PhotoFit::Keep;
 }
 
 }  // namespace
@@ -152,22 +174,23 @@ void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
 KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
                   const fs::path& photo, const Exporter* exporter) {
     KitReport report;
-    report.Photo = photo.string();
+    report.Photo = Shown(photo);
     report.FromGrid = options.FromGrid;
-    std::string picture;
-    Timed(report, "photo", [&] { picture = photos.TakeIn(place, options, photo); });
-    Timed(report, "import", [&] { ImportPhoto(place, photo, picture); });
+    TakenPhoto taken;
+    Timed(report, "photo", [&] { taken = photos.TakeIn(place, options, photo); });
+    Timed(report, "import", [&] { ImportPhoto(place, photo, taken.File); });
     if (!options.Title.empty()) {
-        place.State.PictureName = options.Title;
+        place.State->PictureName = options.Title;
     }
     if (options.FromGrid) {
         Timed(report, "load", [&] { TakeSavedGrid(place); });
-        place.State.PaintableKit = options.Chosen.Paintable;
+        place.State->PaintableKit = options.Chosen.Paintable;
     } else {
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
     }
     Timed(report, "paint", [&] { PaintItNow_Click(place); });
     FillFigures(place, report);
+    report.Fit = FitUsed(place, taken);
     Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
     WriteOutputs(place, options, exporter, report);
     return report;

@@ -25,14 +25,14 @@ using namespace std::chrono_literals;
 constexpr auto kLongestWait = 10s;
 constexpr auto kLook = 20ms;
 
-KitLock WaitForLock(const Workplace& place, const KitPaths& paths) {
+KitLock WaitForLock(Ui& screen, const KitPaths& paths) {
     auto lock = KitLock::Try(paths.WaitingFolder());
     if (!lock) {
-        place.Screen.SetCaption("Waiting for another Vendrel that writes " + paths.Kit().Text());
+        screen.SetCaption("Waiting for another Vendrel that writes " + paths.Kit().Text());
     }
     const auto start = std::chrono::steady_clock::now();
     while (!lock) {
-        place.Screen.Yield();
+        screen.Yield();
         if (std::chrono::steady_clock::now() - start > kLongestWait) {
             throw FileError(paths.List(),
                             "another Vendrel is still writing this kit. Wait until it is done, "
@@ -69,10 +69,8 @@ void RequireFree(const fs::path& file) {
 
 }  // namespace
 
-KitSet::KitSet(const Workplace& place, std::string mark)
-    : paths_(place.Folder, KitNameOf(place)),
-      mark_(std::move(mark)),
-      lock_(WaitForLock(place, paths_)) {
+KitSet::KitSet(const ProgramFolder& folder, const KitName& kit, Ui& screen, std::string mark)
+    : paths_(folder, kit), mark_(std::move(mark)), lock_(WaitForLock(screen, paths_)) {
     SettleKit(paths_);
 }
 

@@ -32,6 +32,7 @@ struct SavedKit {
     std::filesystem::path List;  // empty when there was nothing to save
     std::vector<File> Files;     // in the order of the outputs
     std::optional<NumberingCounts> Numbering;
+    std::optional<PlanFigures> Plan;                           // when the pages were printed
     std::vector<std::pair<std::string, double>> Milliseconds;  // per output, and of the set
     std::vector<std::string> Notes;                            // what the painter should know
 };
@@ -39,6 +40,6 @@ struct SavedKit {
 /// Writes the outputs as one set, all or none: sheet, reference and whatever else was ordered, and
 /// the list of the kit, see KitSet. Pictures that earlier runs left stay; those that are of another
 /// kit are named in the notes. Throws Error, FileError.
-SavedKit SaveKit(const Workplace& place, const KitOrder& order);
+SavedKit SaveKit(Workplace& place, const KitOrder& order);
 
 }  // namespace vendrel

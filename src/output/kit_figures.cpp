@@ -50,8 +50,8 @@ std::size_t ClassOf(double mm2) {
 }  // namespace
 
 KitFigures MeasureKit(const Workplace& place) {
-    const Surface& picture = place.Frames.WorkFrame.Picture;
-    const Settings& chosen = place.State.Chosen;
+    const Surface& picture = place.Frames->WorkFrame.Picture;
+    const Settings& chosen = place.State->Chosen;
     const PrintScale scale = CanvasScale(chosen, picture.Width());
     const AreaFigures measured = MeasureAreas(PixelPaints(place.State, picture), scale);
     KitFigures figures;
@@ -75,9 +75,9 @@ double PaintingHours(int areas, double mm2) {
 }
 
 SeenFigures CompareWithPhoto(const Workplace& place) {
-    const Surface& painting = place.Frames.WorkFrame.Picture;
-    const Surface& photo = place.Frames.CaptureFrame.Picture;
-    const double sigma = CanvasScale(place.State.Chosen, painting.Width()).Pixels(kBlurMm);
+    const Surface& painting = place.Frames->WorkFrame.Picture;
+    const Surface& photo = place.Frames->CaptureFrame.Picture;
+    const double sigma = CanvasScale(place.State->Chosen, painting.Width()).Pixels(kBlurMm);
     return {MeanDifference(PixelsOf(photo), PixelsOf(painting)),
             MeanDifference(PixelsOf(Blurred(photo, sigma)), PixelsOf(Blurred(painting, sigma)))};
 }

@@ -8,6 +8,7 @@
 #include "shell/paint_id.h"
 #include "shell/warnings.h"
 #include "support/counter.h"
+#include "support/error.h"
 #include "support/field_reader.h"
 #include "support/text_file.h"
 
@@ -39,7 +40,7 @@ void WarnOfRowsLeft(const FieldReader& in, PaintFile& read) {
         first == last ? "line " + std::to_string(first) + " was"
                       : "lines " + std::to_string(first) + " to " + std::to_string(last) + " were";
     read.Warnings.push_back(
-        in.File().string() + ": " + lines + " not read, as the number in line 1 counts only " +
+        Shown(in.File()) + ": " + lines + " not read, as the number in line 1 counts only " +
         std::to_string(read.Paints.Count()) + " paints. Correct that number to have them.");
 }
 
@@ -62,7 +63,7 @@ void WarnOfRepeats(const std::filesystem::path& file, PaintFile& read) {
         repeats += " and " + std::to_string(count - kMostNamed) + " more";
     }
     if (count > 0) {
-        read.Warnings.push_back(file.string() + ": lists more than once " + repeats +
+        read.Warnings.push_back(Shown(file) + ": lists more than once " + repeats +
                                 ". The first of a set, name and code stands; rename the others or "
                                 "take them out.");
     }
@@ -79,10 +80,10 @@ PaintFile ReadPaintFile(const std::filesystem::path& file) {
     return read;
 }
 
-PaintList ReadPaints(const Workplace& place, const std::filesystem::path& file) {
+PaintList ReadPaints(GivenWarnings& given, Ui& screen, const std::filesystem::path& file) {
     PaintFile read = ReadPaintFile(file);
     for (const std::string& warning : read.Warnings) {
-        WarnOnce(place, warning);
+        WarnOnce(given, screen, warning);
     }
     return std::move(read.Paints);
 }

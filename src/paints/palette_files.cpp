@@ -41,6 +41,85 @@ PaintColor MakePaint(const std::array<int, 3>& rgb, std::string_view set, std::s
     return {rgb[0], rgb[1], rgb[2], WithoutQuotes(set), "", WithoutQuotes(name), 0};
 }
 
+// Our templates begin with the number of their paints, alone on its line.
+bool IsTemplate(std::string_view text) {
+    const std::string_view line = Trim(text.substr(0, text.find_first_of("\r\n")));
+    return !line.empty() && line.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// A .gpl palette has one text per color: "set: name [code]". So that it can be taken apart again, a
+// colon in a set and a [ in a code are doubled, and a name that ends like a code gets an empty one.
+std::string Doubled(std::string_view text, char c) {
+    std::string doubled;
+    for (const char each : text) {
+        doubled.append(each == c ? 2 : 1, each);
+    }
+    return doubled;
+}
+
+std::string Halved(std::string_view text, char c) {
+    std::string halved;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        halved += text[i];
+        i += text[i] == c && i + 1 < text.size() && text[i + 1] == c ? 1 : 0;
+    }
+    return halved;
+}
+
+std::string GplTitle(const PaintColor& paint) {
+    std::string title = Doubled(paint.Mfg, ':') + ": " + paint.PaintName;
+    if (!paint.PaintCode.empty() || paint.PaintName.ends_with(']')) {
+        title += " [" + Doubled(paint.PaintCode, '[') + "]";
+    }
+    std::ranges::replace_if(
+        title, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    return title;
+}
+
+// The colon that is not doubled; npos where there is none.
+std::size_t EndOfSet(std::string_view title) {
+    std::size_t at = title.find(':');
+    while (at != std::string_view::npos && title.substr(at).starts_with("::")) {
+        at = title.find(':', at + 2);
+    }
+    const bool ends =
+        at != std::string_view::npos && (at + 1 == title.size() || title[at + 1] == ' ');
+    return ends ? at : std::string_view::npos;
+}
+
+// The " [" of the code, of which an odd number of [ stands together; npos where there is none.
+std::size_t StartOfCode(std::string_view name) {
+    std::size_t last = name.ends_with(']') ? name.rfind('[') : std::string_view::npos;
+    while (last != std::string_view::npos) {
+        std::size_t first = last;
+        while (first > 0 && name[first - 1] == '[') {
+            --first;
+        }
+        if ((last - first) % 2 == 0) {
+            return first > 0 && name[first - 1] == ' ' ? first - 1 : std::string_view::npos;
+        }
+        last = first == 0 ? std::string_view::npos : name.rfind('[', first - 1);
+    }
+    return std::string_view::npos;
+}
+
+bool IsGplTitle(const PaintColor& paint) {
+    return EndOfSet(paint.PaintName) != std::string::npos;
+}
+
+void TakeTitleApart(PaintColor& paint) {
+    const std::string title = paint.PaintName;
+    const std::size_t colon = EndOfSet(title);
+    paint.Mfg = Halved(title.substr(0, colon), ':');
+    paint.PaintName = title.substr(std::min(colon + 2, title.size()));
+    if (const std::size_t code = StartOfCode(paint.PaintName); code != std::string::npos) {
+        paint.PaintCode = Halved(
+            std::string_view(paint.PaintName).substr(code + 2, paint.PaintName.size() - code - 3),
+            '[');
+        paint.PaintName.resize(code);
+    }
+}
+
 // Takes the next blank-separated word off the front.
 std::string_view TakeWord(std::string_view& line) {
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
@@ -151,6 +230,9 @@ PaintList ParseGplPalette(std::string_view text, const fs::path& file) {
         const std::string_view name = Trim(line);
         paints.Add(MakePaint(rgb, set, name.empty() ? "Unnamed" : name));
     }
+    if (std::ranges::all_of(paints, IsGplTitle)) {
+        std::ranges::for_each(paints, TakeTitleApart);
+    }
     return paints;
 }
 
@@ -173,17 +255,24 @@ PaintList ParseColorCsv(std::string_view text, const fs::path& file) {
     return paints;
 }
 
-PaintList ReadPaletteFile(const fs::path& file) {
+PaintFile ReadPaletteFile(const fs::path& file) {
     const std::string ending = ToLower(file.extension().string());
     if (ending != ".gpl" && ending != ".csv") {
         throw FileError(file, "is no palette that can be read. Choose a .gpl or a .csv file.");
     }
     const std::string text = ReadTextFile(file);
-    PaintList paints = ending == ".gpl" ? ParseGplPalette(text, file) : ParseColorCsv(text, file);
-    if (paints.Empty()) {
+    PaintFile read;
+    if (ending == ".gpl") {
+        read.Paints = ParseGplPalette(text, file);
+    } else if (IsTemplate(text)) {
+        read = ReadPaintFile(file);
+    } else {
+        read.Paints = ParseColorCsv(text, file);
+    }
+    if (read.Paints.Empty()) {
         throw FileError(file, "holds no colors. Choose another palette.");
     }
-    return paints;
+    return read;
 }
 
 std::string GplText(std::string_view name, const PaintList& paints) {
@@ -194,11 +283,7 @@ std::string GplText(std::string_view name, const PaintList& paints) {
             text += std::string(3 - number.size(), ' ') + number + ' ';
         }
         text.back() = '\t';
-        text += paint.Mfg + ": " + paint.PaintName;
-        if (!paint.PaintCode.empty()) {
-            text += " [" + paint.PaintCode + "]";
-        }
-        text += '\n';
+        text += GplTitle(paint) + '\n';
     }
     return text;
 }

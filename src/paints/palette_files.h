@@ -5,18 +5,21 @@
 #include <string_view>
 #include <vector>
 
+#include "paints/paint_fields.h"
 #include "shell/records.h"
 
 namespace vendrel {
 
-// Palettes of other programs. Lists of paints keep an empty element 0. A double quote in a name
-// becomes an apostrophe, since templates cannot hold one.
+// Palettes of other programs, and templates from elsewhere. A double quote in a name becomes an
+// apostrophe, since templates cannot hold one.
 
-/// Reads a palette by its ending: .gpl, or .csv with red, green, blue and name columns, in this
-/// order or as a heading line names them. Throws FormatError naming file and line.
-[[nodiscard]] PaintList ReadPaletteFile(const std::filesystem::path& file);
+/// Reads a palette by its ending: .gpl, or .csv, which is one of our templates or has red, green,
+/// blue and name columns, in this order or as a heading line names them. Throws FormatError naming
+/// file and line.
+[[nodiscard]] PaintFile ReadPaletteFile(const std::filesystem::path& file);
 
 /// The two formats alone, from text; `file` is named in errors and its stem names the paints' set.
+/// A .gpl palette whose colors are all named as GplText does gives set, name and code of each.
 [[nodiscard]] PaintList ParseGplPalette(std::string_view text, const std::filesystem::path& file);
 [[nodiscard]] PaintList ParseColorCsv(std::string_view text, const std::filesystem::path& file);
 

@@ -211,10 +211,13 @@ bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own, const
                         box.Top >= shown.Top && box.Bottom <= shown.Bottom);
 }
 
-double SmallestSymbol(const PaintedRegions& regions, const PaintAspects& aspects) {
-    const auto aspectOf = [&](int region) { return aspects[regions[region].Value]; };
-    const auto boxes = FindRoomiestBoxes(regions, aspectOf);
-    return std::ranges::min_element(boxes, {}, &InscribedBox::Height)->Height * kFill;
+std::vector<double> LargestSymbols(const PaintedRegions& regions, const PaintAspects& aspects) {
+    std::vector<double> heights;
+    for (const InscribedBox& box :
+         FindRoomiestBoxes(regions, [&](int region) { return aspects[regions[region].Value]; })) {
+        heights.push_back(box.Height * kFill);
+    }
+    return heights;
 }
 
 double SymbolHeightInStipple(int stippleSize, double aspect) {

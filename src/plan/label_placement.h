@@ -46,8 +46,9 @@ struct LabelRules {
 [[nodiscard]] bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own,
                              const PlanRect& shown);
 
-/// Height in pixels of the smallest symbol when every region has one as tall as fits.
-[[nodiscard]] double SmallestSymbol(const PaintedRegions& regions, const PaintAspects& aspects);
+/// Heights in pixels of the regions' symbols, each as tall as fits; by region.
+[[nodiscard]] std::vector<double> LargestSymbols(const PaintedRegions& regions,
+                                                 const PaintAspects& aspects);
 
 /// How tall a symbol of such an aspect fits into a lone stipple of that size, in pixels.
 [[nodiscard]] double SymbolHeightInStipple(int stippleSize, double aspect);

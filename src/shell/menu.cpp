@@ -10,6 +10,7 @@ using enum MenuId;
 constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {FileHeader, "FileHeader", "Picture", kMenuBar},
     {LoadBMP, "LoadBMP", "Load Photo", FileHeader},
+    {CropOrTurn, "CropOrTurn", "Crop or Turn Photo", FileHeader, false},
     {LoadStipples, "LoadStipples", "Load Stipple Picture", FileHeader},
     {StartupPaintShop, "StartupPaintShop", "Paint Shop", FileHeader},
     {ChangeToStipples, "ChangeToStipples", "Change To Stipples", FileHeader},
@@ -61,6 +62,7 @@ void SetupMenuItems(Menu& menu, int stage) {
     if (stage == 1) {
         menu[LoadStipples].Enabled = false;
     }
+    menu[CropOrTurn].Enabled = stage >= 2 && stage <= 4;
     if (stage == 1 || stage == 2) {
         Enable(menu, {StartupPaintShop, TemplateMenu}, stage == 2);
     }

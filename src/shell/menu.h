@@ -12,6 +12,7 @@ namespace vendrel {
 enum class MenuId {
     FileHeader,
     LoadBMP,
+    CropOrTurn,
     LoadStipples,
     StartupPaintShop,
     ChangeToStipples,

@@ -4,12 +4,14 @@
 #include <string>
 
 #include "shell/records.h"
+#include "support/letter_case.h"
 
 namespace vendrel {
 
 /// What a painter orders a paint by, whatever its color looks like on a screen: set, name and code.
 /// Set and code alone are not enough, for a range may give two of its paints one code. Where a
-/// list has several paints of one identity, the first stands.
+/// list has several paints of one identity, the first stands. The case of letters makes no other
+/// paint: kept in small letters, not for showing.
 struct PaintId {
     std::string Set;
     std::string Name;
@@ -21,7 +23,7 @@ struct PaintId {
 };
 
 [[nodiscard]] inline PaintId IdOf(const PaintColor& paint) {
-    return {paint.Mfg, paint.PaintName, paint.PaintCode};
+    return {ToLower(paint.Mfg), ToLower(paint.PaintName), ToLower(paint.PaintCode)};
 }
 
 }  // namespace vendrel

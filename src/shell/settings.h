@@ -40,6 +40,14 @@ enum class Sampling { Average, Pixel };
 /// How paints are matched to stipples: by the distance of their channels, or as the eye sees it.
 enum class Matching { Plain, ByEye };
 
+/// How a photo comes onto the sheet that would be stretched there so much that it shows.
+enum class PhotoFit {
+    Keep,     // in its own shape, on a smaller sheet
+    Crop,     // cut to the sheet's shape round its middle
+    CropTop,  // cut at its foot
+    Stretch,
+};
+
 /// The final paints that can be asked for.
 inline constexpr std::array kFinalPaints = {16, 32, 40, 50};
 
@@ -53,7 +61,8 @@ struct Settings {
     bool Paintable = false;  // no area below Limits
     PaintLimits Limits;
     int Detail = kUsualDetail;
-    double CanvasCm = 0;  // width of the finished canvas; 0: none was named
+    double CanvasCm = 0;            // width of the finished canvas; 0: none was named
+    PhotoFit Fit = PhotoFit::Keep;  // for the photos that need it
 
     bool operator==(const Settings&) const = default;
 };

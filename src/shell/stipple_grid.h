@@ -1,12 +1,27 @@
 #pragma once
 
-#include "shell/work_state.h"
+#include "shell/records.h"
+#include "support/grid.h"
 
 namespace vendrel {
 
+/// The photo as stipples.
+struct StippleGrid {
+    Grid<StippleCell> Stipples;
+    Grid<CellMark> CellMarks;  // the area search's
+    int CellsAcross = 0;
+    int CellsDown = 0;
+    bool StipplesMade = false;
+    bool StipplesShown = false;
+    int WorkStage = 0;
+    bool PaintableKit = false;  // what the brush leaves of corners joins a neighbor
+    ValueGrid Protected;  // per stipple from 0, other than 0 where limits are a third; or empty
+    double SeenPerStipple = 0;  // of a paintable kit: mean seen difference of stipple and paint
+};
+
 /// Makes `cells` the kit's grid, with marks of its size: the only one that changes CellsAcross and
 /// CellsDown.
-void SetGrid(WorkState& state, Grid<StippleCell> cells);
+void SetGrid(StippleGrid& grid, Grid<StippleCell> cells);
 
 /// Stipples of every paint 1..paintCount in columns 1..across of rows 1..down.
 [[nodiscard]] OneBased<int> CountStipples(const Grid<StippleCell>& cells, int across, int down,

@@ -15,6 +15,7 @@ enum class Pointer { Normal, Busy };
 enum class FormId {
     FileImport,
     CropPhoto,
+    FitPhoto,
     PaintShop,
     TouchUp,
     ColorChart,

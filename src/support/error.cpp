@@ -5,11 +5,15 @@
 
 namespace vendrel {
 
+std::string Shown(const std::filesystem::path& file) {
+    return file.lexically_normal().string();
+}
+
 FileError::FileError(const std::filesystem::path& file, const std::string& problem)
-    : Error(file.string() + ": " + problem) {}
+    : Error(Shown(file) + ": " + problem) {}
 
 FormatError::FormatError(const std::filesystem::path& file, int line, const std::string& problem)
-    : Error(file.string() + (line > 0 ? ", line " + std::to_string(line) : "") + ": " + problem) {}
+    : Error(Shown(file) + (line > 0 ? ", line " + std::to_string(line) : "") + ": " + problem) {}
 
 std::string SentenceOf(const std::exception& failure, const std::string& subject) {
     const std::string lead = subject.empty() ? "" : subject + ": ";
@@ -25,7 +29,7 @@ std::string SentenceOf(const std::exception& failure, const std::string& subject
     }
     if (const auto* disk = dynamic_cast<const std::filesystem::filesystem_error*>(&failure)) {
         const std::filesystem::path& file = disk->path1();
-        return (file.empty() ? lead : file.string() + ": ") + "cannot be used (" +
+        return (file.empty() ? lead : Shown(file) + ": ") + "cannot be used (" +
                disk->code().message() + "). Check its name, and that you may read and write there.";
     }
     return lead + "the program failed (" + failure.what() +

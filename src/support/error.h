@@ -12,6 +12,9 @@ namespace vendrel {
 [[nodiscard]] std::string SentenceOf(const std::exception& failure,
                                      const std::string& subject = {});
 
+/// A file's path as sentences name it: "Results/x.BMP" rather than "./Results/x.BMP".
+[[nodiscard]] std::string Shown(const std::filesystem::path& file);
+
 /// A failure with a sentence for the user: what went wrong and what to do.
 class Error : public std::runtime_error {
   public:

@@ -1,26 +1,17 @@
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
 namespace vendrel {
 
-// Case of ASCII letters only: names of files and paints must compare alike on every system,
-// whatever its language.
+// Case of letters in every script, by one table whatever the system's language: names of files and
+// paints must compare alike everywhere. Bytes that are no UTF-8 stay as they are.
 
-[[nodiscard]] constexpr char ToLower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+/// Small letters; a letter with several small ones (the Greek sigmas, the i with and without its
+/// dot) gives one of them.
+[[nodiscard]] std::string ToLower(std::string_view text);
 
-[[nodiscard]] inline std::string ToLower(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(), [](char c) { return ToLower(c); });
-    return lower;
-}
-
-[[nodiscard]] inline bool SameIgnoringCase(std::string_view a, std::string_view b) {
-    return std::ranges::equal(a, b, [](char x, char y) { return ToLower(x) == ToLower(y); });
-}
+[[nodiscard]] bool SameIgnoringCase(std::string_view a, std::string_view b);
 
 }  // namespace vendrel

@@ -6,7 +6,7 @@
 namespace vendrel {
 
 /// `relative` ("Data/paintlist.txt") under `folder`, each part as it is spelled on disk whatever
-/// the case of its ASCII letters; parts that do not exist keep the given spelling.
+/// the case of its letters; parts that do not exist keep the given spelling.
 [[nodiscard]] std::filesystem::path FindIgnoringCase(const std::filesystem::path& folder,
                                                      std::string_view relative);
 

@@ -6,34 +6,10 @@
 
 #include "support/disk.h"
 #include "support/error.h"
+#include "support/utf8.h"
 
 namespace vendrel {
 namespace {
-
-// How many bytes the UTF-8 character at the front takes; 0 when it is none.
-std::size_t Utf8Length(std::string_view text) {
-    const auto first = static_cast<unsigned char>(text[0]);
-    if (first < 0x80) {
-        return 1;
-    }
-    const std::size_t length = first >= 0xC2 && first < 0xE0   ? 2
-                               : first >= 0xE0 && first < 0xF0 ? 3
-                               : first >= 0xF0 && first < 0xF5 ? 4
-                                                               : 0;
-    if (length == 0 || text.size() < length) {
-        return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80) {
-            return 0;
-        }
-    }
-    const auto second = static_cast<unsigned char>(text[1]);
-    const bool overlongOrSurrogate =
-        (first == 0xE0 && second < 0xA0) || (first == 0xED && second > 0x9F) ||
-        (first == 0xF0 && second < 0x90) || (first == 0xF4 && second > 0x8F);
-    return overlongOrSurrogate ? 0 : length;
-}
 
 bool IsUtf8(std::string_view text) {
     while (!text.empty()) {
@@ -51,19 +27,6 @@ constexpr std::array<std::uint16_t, 32> kWindows1252 = {
     0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
-
-void AppendUtf8(std::string& out, unsigned code) {
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xC0 | (code >> 6));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-        out += static_cast<char>(0xE0 | (code >> 12));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    }
-}
 
 }  // namespace
 

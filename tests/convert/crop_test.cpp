@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "convert/crop_frame.h"
+#include "convert/working_size.h"
 #include "support/pictures.h"
 
 namespace vendrel {
@@ -48,9 +49,12 @@ TEST(Crop, EveryShapeEndsUnstretchedAtEveryDifficulty) {
             SCOPED_TRACE(testing::Message() << photo.Width << " x " << photo.Height << ", "
                                             << target.StippleSize << " on " << target.Screen.Width);
             for (const CropRect& part : {CropCentre(photo, target), CropTop(photo, target)}) {
-                EXPECT_LT(StretchOf(part, target), kMaxCropStretch);
+                EXPECT_LT(StretchOf(part, target), kUnstretched);
                 EXPECT_TRUE(LiesInside(part, photo));
             }
+            const BitmapSize easy = LargestCrop(photo, {target.Screen, 8});
+            const BitmapSize size = LargestCrop(photo, target);
+            EXPECT_TRUE(size == photo || easy == photo || size == easy) << "one crop for all";
         }
     }
 }
@@ -99,7 +103,7 @@ TEST(CropFrame, StaysInsideThePhotoAndInShapeWhateverIsDoneToIt) {
                 frame.TurnPhoto(i % 40 == 39 ? Turn::Left : Turn::Right);
             }
             ASSERT_TRUE(LiesInside(frame.Rect(), frame.Photo())) << i;
-            ASSERT_LT(StretchOf(frame.Rect(), target), kMaxCropStretch) << i;
+            ASSERT_LT(StretchOf(frame.Rect(), target), kUnstretched) << i;
         }
     }
 }

@@ -95,12 +95,64 @@ TEST(WorkingSize, TellsHowFarAPhotoIsStretched) {
     EXPECT_DOUBLE_EQ(StretchPercent({100, 100}, {768, 960}), 25);
 }
 
+TEST(WorkingSize, KeepsTheShapeOfEveryPhotoLessThanHalfAPercentOff) {
+    for (const auto& [width, height, longest, off] : {std::tuple{1920, 1080, 2000, 0.5},
+                                                      {1280, 1024, 2000, 0.5},
+                                                      {1366, 768, 600, 0.51},
+                                                      {1024, 768, 600, 0.51}}) {
+        const ScreenSize screen = ScreenSize::FromPixels(width, height);
+        for (int ratio = 100; ratio <= longest; ++ratio) {
+            for (const BitmapSize photo : {BitmapSize{60 * ratio, 6000}, {6000, 60 * ratio}}) {
+                const int stipple = 4 + 2 * (ratio % 3);
+                const WorkingSize kept = ComputeKeptSize(photo, screen, stipple);
+                const BitmapSize size = kept.Pixels(screen.Twips);
+                ASSERT_LT(StretchPercent(photo, size), off) << ratio << " by " << stipple;
+                ASSERT_EQ(size.Width % stipple + size.Height % stipple, 0);
+                // Inside what the plain way may take up, and as far as one of its sides or nearly.
+                const BitmapSize most = ComputeWorkingSize(kept.Landscape ? BitmapSize{6000, 6000}
+                                                                          : BitmapSize{5999, 6000},
+                                                           screen, stipple)
+                                            .Pixels(screen.Twips);
+                ASSERT_LE(size.Width, most.Width);
+                ASSERT_LE(size.Height, most.Height);
+                ASSERT_TRUE(size.Width > 0.8 * most.Width || size.Height > 0.8 * most.Height)
+                    << ratio << " by " << stipple;
+            }
+        }
+    }
+}
+
+TEST(WorkingSize, KeepsTheShapeOnlyWhereStretchingShows) {
+    struct Case {
+        BitmapSize Photo;
+        PhotoFit Fit;
+        BitmapSize Working;
+    };
+    using enum PhotoFit;
+    for (const Case& c : {Case{{1200, 1200}, Keep, {768, 768}},
+                          {{1200, 1200}, Stretch, {960, 768}},
+                          {{1200, 1200}, Crop, {768, 768}},
+                          {{3000, 2000}, Keep, {960, 632}},
+                          {{6000, 1529}, Keep, {960, 240}},  // by 1.9 %
+                          {{6000, 1535}, Keep, {936, 240}},  // by 2.3 %
+                          {{6000, 1545}, Keep, {960, 248}},  // by 3.0 %
+                          {{1200, 7}, Keep, {960, 0}}}) {
+        const WorkingSize size = ComputeFittedSize(c.Photo, kScreen, 8, c.Fit);
+        EXPECT_EQ(size.Pixels(kScreen.Twips), c.Working)
+            << c.Photo.Width << " x " << c.Photo.Height;
+    }
+    EXPECT_EQ(ComputeKeptSize({1200, 1200}, kScreen, 8).Window.Height, 768 * 15 + 1950 + 75);
+}
+
 /// A workplace with a photo in its folder of pictures.
 class PhotoImport : public testing::Test {
   protected:
-    PhotoImport() { WriteBitmap(bench_.Files / "pictures/my.holiday.bmp", photo_); }
+    PhotoImport() {
+        WriteBitmap(bench_.Files / "pictures/my.holiday.bmp", photo_);
+        state_.Chosen.Fit = PhotoFit::Stretch;
+    }
     PhotoLoad Load(std::string_view name) {
-        EXPECT_TRUE(ChoosePhoto(bench_.Place, name));
+        EXPECT_TRUE(ChoosePhoto(bench_.State, bench_.Program, name));
         return LoadNewPicture(bench_.Place);
     }
 
@@ -132,7 +184,7 @@ TEST_F(PhotoImport, SetsUpTheWorkArea) {
     EXPECT_THAT(bench_.Screen.Captions, ElementsAre("Vendrel - my"));
 
     frames_.WorkFrame.Picture.Fill(kBlack);
-    RefreshPhotoImage(bench_.Place);
+    RefreshPhotoImage(bench_.Frames, bench_.Screen);
     EXPECT_EQ(frames_.WorkFrame.Picture, ScaleTo(photo_, 960, 736));
 }
 
@@ -162,7 +214,7 @@ TEST_F(PhotoImport, LoadsNothingOfAnEmptyPictureOrANameWithoutADot) {
     EXPECT_TRUE(bench_.Screen.Captions.empty());
 
     state_ = {};
-    EXPECT_FALSE(ChoosePhoto(bench_.Place, "holiday"));
+    EXPECT_FALSE(ChoosePhoto(bench_.State, bench_.Program, "holiday"));
     EXPECT_EQ(state_.PictureFile, "holiday");
     EXPECT_TRUE(state_.PicturePath.empty());
 }

@@ -1,12 +1,15 @@
 #include <QClipboard>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QRadioButton>
 #include <QUrl>
 
 #include "convert/child_decoder.h"
+#include "desktop/arrivals.h"
 #include "desktop/crop_view.h"
 #include "desktop/studio.h"
 #include "desktop/text.h"
+#include "export/qt_image.h"
 
 namespace vendrel::test {
 
@@ -49,11 +52,20 @@ class ArrivalsTest : public QObject {
             QApplication::sendEvent(&window, &busy);
         });
         QApplication::processEvents();
-        QVERIFY2(!desktop.Place().State.PictureLoaded, "not while work runs");
+        QVERIFY2(!desktop.Place().State->PictureLoaded, "not while work runs");
         QApplication::sendEvent(&window, &enter);
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&window, &drop);
-        QTRY_VERIFY(desktop.Place().State.PictureLoaded);
+        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+        QWidget& asking = *QApplication::activeModalWidget();
+        auto& keep = Find<QRadioButton>(asking, "KeepWay");
+        QTRY_VERIFY(keep.isChecked() && keep.hasFocus());
+        QTest::keyClick(&keep, Qt::Key_Right);
+        QTest::keyClick(&Find<QRadioButton>(asking, "CropWay"), Qt::Key_Right);
+        QCOMPARE(desktop.Form().Chooser().Asking().Fit().Way(), PhotoFit::Stretch);
+        QTest::keyClick(&asking, Qt::Key_Return);
+        QVERIFY(!asking.isVisible());
+        QVERIFY(desktop.Place().State->PictureLoaded);
         QCOMPARE(window.windowTitle(), "Vendrel - sea side");
         QVERIFY(std::filesystem::exists(studio.Files / "Pictures/sea side.bmp"));
     }
@@ -66,11 +78,18 @@ class ArrivalsTest : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(&desktop.Window()));
         QApplication::clipboard()->setImage(Square());
         QTest::keySequence(&desktop.Window(), QKeySequence::Paste);
-        QTRY_COMPARE(desktop.Window().windowTitle(), "Vendrel - Pasted picture");
+        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+        QVERIFY(!desktop.Place().State->PictureLoaded);
+        desktop.Form().PastePicture(ToSurface(Square()));
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
         NextMessage message;
-        QApplication::clipboard()->setText(QStringLiteral("no photo"));
-        QTest::keySequence(&desktop.Window(), QKeySequence::Paste);
-        QTRY_VERIFY(message.Text.contains("Copy a picture"));
+        QMimeData text;
+        text.setText(QStringLiteral("no photo"));
+        desktop.Form().PastePicture(ArrivalOf(text).Picture);
+        QVERIFY(message.Text.contains("Copy a picture"));
+        QCOMPARE(desktop.Window().windowTitle(), "Vendrel - Pasted picture");
     }
 
     void AFrameIsDraggedOverTheChosenPhoto() {

@@ -1,8 +1,12 @@
+#include <QAccessible>
 #include <QApplication>
+#include <QDoubleSpinBox>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <memory>
@@ -26,10 +30,16 @@ class ToolsTest : public QObject {
     }
     void TemplateShopKeepsWhatIsAddedAndRemoved();
     void ColorMatcherExchangesAndConverts();
+    void ThePdfWindowTellsWhatACanvasDoesToTheSymbols();
+    void ValuesAreReadOutAndReachedByKeys();
 
   private:
     static void Press(QWidget& window, const char* button) {
         QTest::mouseClick(&Find<QPushButton>(window, button), Qt::LeftButton);
+    }
+
+    static QString Spoken(QObject& of) {
+        return QAccessible::queryAccessibleInterface(&of)->text(QAccessible::Name);
     }
 
     std::unique_ptr<Studio> studio_;
@@ -66,7 +76,7 @@ void ToolsTest::TemplateShopKeepsWhatIsAddedAndRemoved() {
 
 void ToolsTest::ColorMatcherExchangesAndConverts() {
     QVERIFY(Choose(desktop_->Window(), "ChangeToStipples"));
-    const std::string before = desktop_->Place().State.PaintColors[1].PaintName;
+    const std::string before = desktop_->Place().State->PaintColors[1].PaintName;
     QVERIFY(Choose(desktop_->Window(), "NextBestColors"));
     QWidget& matcher = *QApplication::activeModalWidget();
     QCOMPARE(Find<QListWidget>(matcher, "MatcherPaints").count(), 50);
@@ -75,10 +85,53 @@ void ToolsTest::ColorMatcherExchangesAndConverts() {
     QVERIFY(Find<QPushButton>(matcher, "PutBack").isEnabled());
     Press(matcher, "AcceptButton");
     QVERIFY(!matcher.isVisible());
-    for (const PaintColor& paint : desktop_->Place().State.PaintColors) {
+    for (const PaintColor& paint : desktop_->Place().State->PaintColors) {
         QVERIFY(paint.PaintName != before);
     }
     QVERIFY(desktop_->Place().MainMenu[MenuId::PaintItNow].Enabled);
+}
+
+void ToolsTest::ThePdfWindowTellsWhatACanvasDoesToTheSymbols() {
+    MainWindow& main = desktop_->Window();
+    QVERIFY(Choose(main, "WatchItPaint") && Choose(main, "ChangeToStipples"));
+    QVERIFY(Choose(main, "PaintItNow") && Choose(main, "SaveKitPdf"));
+    QWidget& window = *QApplication::activeModalWidget();
+    const auto text = [&window](const char* label) { return Find<QLabel>(window, label).text(); };
+    QVERIFY(text("PlanSmallest").startsWith("2."));
+    QVERIFY(!text("PlanWarning").contains("smaller"));
+    const QString pages = text("PlanPages");
+    Find<QRadioButton>(window, "ChosenCanvas").click();
+    Find<QDoubleSpinBox>(window, "CanvasWidth").setValue(12);
+    QVERIFY(text("PlanCanvas").startsWith("12.0"));
+    QVERIFY(text("PlanPages") != pages);
+    QVERIFY2(text("PlanWarning").contains("smaller than 2 mm"), qPrintable(text("PlanWarning")));
+    QCOMPARE(Spoken(Find<QLabel>(window, "PlanWarning")), text("PlanWarning"));
+    Press(window, "CancelPdf");
+}
+
+void ToolsTest::ValuesAreReadOutAndReachedByKeys() {
+    MainWindow& main = desktop_->Window();
+    QVERIFY(Choose(main, "StartupPaintShop"));
+    QWidget& shop = *QApplication::activeModalWidget();
+    auto& swatches = Find<QWidget>(shop, "PaintPalette");
+    QVERIFY(QTest::qWaitForWindowActive(&shop));
+    swatches.setFocus();
+    QTest::keyClick(&swatches, Qt::Key_Right);
+    QVERIFY2(Spoken(swatches).contains(", paint 2 of "), qPrintable(Spoken(swatches)));
+    Press(shop, "AllDone");
+    QVERIFY(Choose(main, "ChangeToStipples") && Choose(main, "NextBestColors"));
+    QWidget& matcher = *QApplication::activeModalWidget();
+    auto& rows = Find<QListWidget>(matcher, "MatcherPaints");
+    QTest::keyClick(&Find<QListWidget>(matcher, "NextBestPaints"), Qt::Key_Return);
+    QVERIFY2(matcher.isVisible(), "Enter exchanges and does not accept too");
+    QVERIFY(rows.item(0)->data(Qt::AccessibleTextRole).toString().contains(", instead of "));
+    Press(matcher, "CancelButton");
+    QVERIFY(Choose(main, "ColorPickerSelect"));
+    QWidget& editor = *QApplication::activeModalWidget();
+    QVERIFY(Spoken(Find<QLabel>(editor, "Loners")).contains("loners"));
+    QVERIFY(Spoken(Find<QLabel>(editor, "CleanLevel")).endsWith("level 8"));
+    QVERIFY(Spoken(Find<QLabel>(editor, "Zoom")).contains("pixels"));
+    Press(editor, "Cancel");
 }
 
 }  // namespace vendrel::test

@@ -59,6 +59,21 @@ TEST(ColorMatcher, PreviewShowsWhatAcceptingGives) {
     EXPECT_TRUE(matcher.MainMenu[MenuId::PaintItNow].Enabled);
 }
 
+TEST(ColorMatcher, CountsWhatAcceptingGivesAtOnce) {
+    Matcher matcher;
+    EXPECT_EQ(matcher.Form.Rows()[2].ShareTenths, 500);
+    matcher.State.MasterColors.Add({0, 255, 255, "Cold", "PB2", "Cyan", 0});
+    matcher.Form.PaintList_Click(1);
+    matcher.Form.Exchange_Click(1);  // further from red than the green is
+    EXPECT_EQ(matcher.Form.Rows()[1].Current.PaintName, "Cyan");
+    EXPECT_EQ(matcher.Form.Rows()[1].Stipples, 0);
+    EXPECT_EQ(matcher.Form.Rows()[1].ShareTenths, 0);
+    EXPECT_EQ(matcher.Form.Rows()[2].Stipples, 16);
+    EXPECT_EQ(matcher.Form.Rows()[2].ShareTenths, 1000);
+    matcher.Form.PutAllBack_Click();
+    EXPECT_EQ(matcher.Form.Rows()[2].ShareTenths, 500);
+}
+
 TEST(ColorMatcher, PutsBackOneOrAll) {
     Matcher matcher;
     matcher.Form.Source_Click(MatchSource::WholeCatalogue);

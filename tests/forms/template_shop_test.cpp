@@ -91,6 +91,9 @@ TEST(TemplateShop, FindsPaintsByTextSetAndNearness) {
     EXPECT_THAT(shop.Form.Controls().Found, ElementsAre(3));
     shop.Form.Search_Change({"", "Warm, soft", Rgb(110, 70, 40)});
     EXPECT_THAT(shop.Form.Controls().Found, ElementsAre(2, 1));
+    shop.State.MasterColors[3].PaintName = "\u00c9meraude";
+    shop.Form.Search_Change({"\u00e9MER", "", {}});
+    EXPECT_THAT(shop.Form.Controls().Found, ElementsAre(3));
 }
 
 TEST(TemplateShop, FillsFromThePhotoAndLeavesTheWorkAlone) {
@@ -120,6 +123,12 @@ TEST(TemplateShop, ImportsUnderAFreeNameAndExports) {
     EXPECT_EQ(shop.Form.Chosen(), "Sea 2");
     shop.Form.Export_Click(shop.Files / "out.gpl");
     EXPECT_THAT(shop.Files.Read("out.gpl"), HasSubstr("  1   2   3\tSea: Ink\n"));
+    shop.Form.Import_Click(shop.Files.Write(
+        "ours.csv", " 1\r\n7,8,9,\"Set\",\"PB29\",\"Sky\"\r\n1,2,3,\"Set\",\"\",\"Ink\"\r\n"));
+    const PaintList sky = {{7, 8, 9, "Set", "PB29", "Sky", 0}};
+    EXPECT_EQ(ReadTemplate(shop.Files / "templates/ours.csv"), sky);
+    ASSERT_EQ(shop.Screen.Messages.size(), 1U);
+    EXPECT_THAT(shop.Screen.Messages[0].second, HasSubstr("line 3 was not read"));
 }
 
 TEST(TemplateShop, CommandSetsStageTwo) {

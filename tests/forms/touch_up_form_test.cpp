@@ -233,7 +233,7 @@ TEST_F(TouchUpFormTest, SavesAndLoadsAsOneStep) {
 }
 
 TEST_F(TouchUpFormTest, ABrokenLoadShowsWhatItReadUntilItIsTakenBack) {
-    studio_.Files.Write(kSaved, "4,8,6,50\r\n1,2,3,\"Odd\",1,\"Set\",\"R\"\r\noops\r\n");
+    studio_.Files.Write(kSaved, "1,1,1,50\r\n1,2,3,\"Odd\",1,\"Set\",\"R\"\r\noops\r\n");
     const CellRect whole = form_->TakeDirty();
     EXPECT_THROW(form_->LoadIt_Click(), FormatError);
     EXPECT_EQ(form_->TakeDirty(), whole);
@@ -318,12 +318,12 @@ TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothingNorDoesPainting) {
     main_.Click(LoadBMP);
     ClickPhoto(main_.Chooser(), "broken.bmp");
     EXPECT_THROW(main_.Chooser().OKButton_Click(), Error);
-    EXPECT_THAT(studio_.Screen.Questions, SizeIs(4));
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(3));
     EXPECT_EQ(State().Stipples, accepted);
     main_.Chooser().CancelButton_Click();
     main_.Click(PaintItNow);
     main_.Click(PrintAll);
-    EXPECT_THAT(studio_.Screen.Questions, SizeIs(4)) << "painting loses nothing";
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(3)) << "painting loses nothing";
     EXPECT_TRUE(State().HasUnsavedWork);
     EXPECT_TRUE(Exists(kRecovery));
 }

@@ -5,9 +5,12 @@
 #include <barrier>
 #include <thread>
 #include <tuple>
+#include <utility>
 
 #include "convert/bitmap_reader.h"
 #include "convert/bitmap_writer.h"
+#include "convert/bmp_bytes.h"
+#include "convert/working_size.h"
 #include "intake/picture_decoder.h"
 #include "support/error.h"
 #include "support/pictures.h"
@@ -44,6 +47,21 @@ TEST_F(PhotoIntakeTest, DecodesOnlyWhatTheBitmapReaderCannotRead) {
     WriteBitmap(files_ / "uncle.bmp", Surface(4, 3));
     EXPECT_EQ(TakeIn(folder_, files_ / "uncle.bmp", decoder), "uncle.bmp");
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/uncle.bmp"), (BitmapSize{4, 3}));
+}
+
+TEST_F(PhotoIntakeTest, ABitmapThatNothingCouldBeNamedAfterIsKeptUnderANameThatCan) {
+    const Surface red(4, 3, Rgb(200, 10, 10));
+    for (const auto& [name, kept] : {std::pair{"holiday", "holiday.bmp"},
+                                     {".bmp", "bmp.bmp"},
+                                     {".my.aunt.bmp", "my-aunt.bmp"},
+                                     {"aunt.dat", "aunt.dat"}}) {
+        WriteBitmap(files_ / name, red);
+        EXPECT_EQ(TakeIn(folder_, files_ / name), kept);
+        EXPECT_EQ(ReadBitmap(files_ / "program/Pictures" / kept), red);
+        EXPECT_EQ(TakeIn(folder_, files_ / name), kept) << "not kept twice";
+    }
+    const std::string nothing = test::BmpBytes{.Width = 0, .Height = 0}.Make();
+    EXPECT_THROW(std::ignore = TakeIn(folder_, files_.Write("nothing", nothing)), FormatError);
 }
 
 TEST_F(PhotoIntakeTest, CopiesAPhotoFromElsewhereOnceAndNeverOverAnother) {
@@ -94,7 +112,7 @@ TEST_F(PhotoIntakeTest, CropsASquarePortraitBesideItself) {
     EXPECT_EQ(CropInPictures(folder_, photo, easy_, CropPart::Top), top) << "not kept twice";
     const Surface upper = ReadBitmap(files_ / "program/Pictures/aunt crop.bmp");
     const Surface middle = ReadBitmap(files_ / "program/Pictures/aunt crop 2.bmp");
-    EXPECT_LT(SheetStretch({upper.Width(), upper.Height()}, easy_), kMaxCropStretch);
+    EXPECT_LT(SheetStretch({upper.Width(), upper.Height()}, easy_), kUnstretched);
     EXPECT_EQ(upper.Get(0, 0), 1);
     EXPECT_EQ(middle.Get(0, 0), 1 + (600 - middle.Height()) / 2);
     EXPECT_EQ(ReadBitmapSize(files_ / "program/Pictures/aunt.bmp"), (BitmapSize{600, 600}));

@@ -72,17 +72,19 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
 
 TEST(Arguments, CropTakesAPartOrKeepsTheCentre) {
     const Arguments behind = Parse({"kit", "--crop", "a.bmp"});
-    EXPECT_EQ(behind.Kit.Crop, CropPart::Centre);
+    EXPECT_EQ(behind.Kit.Chosen.Fit, PhotoFit::Crop);
     EXPECT_THAT(behind.Kit.Photos, ElementsAre("a.bmp"));
-    EXPECT_EQ(Parse({"kit", "a.bmp"}).Kit.Crop, CropPart::Whole);
-    EXPECT_EQ(Parse({"kit", "a.bmp", "--crop", "top"}).Kit.Crop, CropPart::Top);
-    EXPECT_EQ(Parse({"kit", "a.bmp", "--crop=top"}).Kit.Crop, CropPart::Top);
+    EXPECT_EQ(Parse({"kit", "a.bmp"}).Kit.Chosen.Fit, PhotoFit::Keep);
+    EXPECT_EQ(Parse({"kit", "a.bmp", "--crop", "top"}).Kit.Chosen.Fit, PhotoFit::CropTop);
+    EXPECT_EQ(Parse({"kit", "a.bmp", "--crop=top"}).Kit.Chosen.Fit, PhotoFit::CropTop);
+    EXPECT_EQ(Parse({"kit", "a.bmp", "--crop", "--fit", "stretch"}).Kit.Chosen.Fit,
+              PhotoFit::Stretch);
     for (const std::string_view center : {"center", "centre"}) {
         const Arguments arguments = Parse({"kit", "--crop", center, "top"});
-        EXPECT_EQ(arguments.Kit.Crop, CropPart::Centre);
+        EXPECT_EQ(arguments.Kit.Chosen.Fit, PhotoFit::Crop);
         EXPECT_THAT(arguments.Kit.Photos, ElementsAre("top"));
-        EXPECT_EQ(Parse({"kit", "top", "--crop=" + std::string(center)}).Kit.Crop,
-                  CropPart::Centre);
+        EXPECT_EQ(Parse({"kit", "top", "--crop=" + std::string(center)}).Kit.Chosen.Fit,
+                  PhotoFit::Crop);
     }
 }
 
@@ -90,6 +92,8 @@ TEST(Arguments, OtherCommandsAreTold) {
     EXPECT_EQ(Parse({}).What, Command::Window);
     EXPECT_EQ(Parse({"--folder", "x"}).What, Command::Window);
     EXPECT_EQ(Parse({"--folder", "x"}).Folder, "x");
+    EXPECT_FALSE(Parse({"--folder", "x"}).InDocuments);
+    EXPECT_TRUE(Parse({"--documents"}).InDocuments);
     EXPECT_EQ(Parse({"--help"}).What, Command::Help);
     EXPECT_EQ(Parse({"--version"}).What, Command::Version);
     EXPECT_EQ(Parse({"kit", "a.bmp", "--help"}).What, Command::KitHelp);
@@ -104,6 +108,7 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
     };
     const Case cases[] = {
         {{"paint"}, "\"paint\""},
+        {{"--documents", "--folder", "x"}, "not by both"},
         {{"kit"}, "at least one photo"},
         {{"kit", "--json"}, "at least one photo"},
         {{"kit", "a.bmp", "--colour"}, "no option --colour"},
@@ -122,6 +127,7 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--screen", "800x600x2"}, "WIDTHxHEIGHT"},
         {{"kit", "a.bmp", "--outputs", "sheet,poster"}, "\"poster\""},
         {{"kit", "a.bmp", "--crop=left"}, "center or top"},
+        {{"kit", "a.bmp", "--fit", "squash"}, "keep, crop, top or stretch"},
         {{"kit", "a.bmp", "--paper", "A5"}, "A4, Letter or A3"},
         {{"kit", "a.bmp", "--canvas", "9cm"}, "10cm to 300cm"},
         {{"kit", "a.bmp", "--canvas", "nan"}, "10cm to 300cm"},

@@ -5,7 +5,7 @@
 
 #include <csignal>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "kitset/kit_mark.h"
 #include "kitset/save_kit.h"
@@ -26,11 +26,11 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 // A painted kit, and files of it with words in place of pictures.
-struct Shelf : test::Easel {
-    Shelf() : Easel(8, {"111", "121", "111"}) { SetupBMPSymbols(Place); }
+struct Shelf : test::PaintBench {
+    Shelf() : PaintBench(8, {"111", "121", "111"}) { SetupBMPSymbols(State, Program); }
 
     std::vector<std::string> Save(const std::string& mark, const std::vector<OutputId>& outputs) {
-        KitSet set(Place, mark);
+        KitSet set(Program, KitNameOf(State, State), Screen, mark);
         Fill(set, outputs);
         return set.Commit();
     }
@@ -78,16 +78,17 @@ TEST(Sums, AreThoseOfSha256sumWhetherReadOrWatched) {
 
 TEST(Mark, ChangesWithPaintsStipplesAndDifficultyAlone) {
     Shelf kit;
-    const std::string mark = KitMark(kit.Place);
+    const std::string mark = KitMark(kit.State, kit.State, kit.State);
     EXPECT_EQ(mark.size(), 8U);
     kit.State.Stipples(2, 2).AreaNumber = 7;
-    EXPECT_EQ(KitMark(kit.Place), mark);
+    EXPECT_EQ(KitMark(kit.State, kit.State, kit.State), mark);
     kit.State.Stipples(2, 2).ColorIndex = 1;
-    const std::string touchedUp = KitMark(kit.Place);
+    const std::string touchedUp = KitMark(kit.State, kit.State, kit.State);
     kit.State.PaintColors[3].PaintCode = "other";
-    const std::string repainted = KitMark(kit.Place);
+    const std::string repainted = KitMark(kit.State, kit.State, kit.State);
     kit.State.Chosen.Level = Difficulty::Medium;
-    EXPECT_THAT((std::set{mark, touchedUp, repainted, KitMark(kit.Place)}), testing::SizeIs(4));
+    EXPECT_THAT((std::set{mark, touchedUp, repainted, KitMark(kit.State, kit.State, kit.State)}),
+                testing::SizeIs(4));
 }
 
 TEST(SavedKit, IsListedWithTheSumsOfItsFiles) {
@@ -102,7 +103,7 @@ TEST(SavedKit, IsListedWithTheSumsOfItsFiles) {
     EXPECT_THAT(kit.Hidden(), IsEmpty());
     EXPECT_EQ(saved.Files.size(), 4U);
     const KitList list = kit.List();
-    EXPECT_EQ(list.Mark, KitMark(kit.Place));
+    EXPECT_EQ(list.Mark, KitMark(kit.State, kit.State, kit.State));
     for (const SavedKit::File& file : saved.Files) {
         EXPECT_EQ(list.Find(file.Output)->Sum, SumOfFile(file.Path)) << file.Path;
     }
@@ -173,7 +174,7 @@ TEST(KitSet, ThatFailsLeavesTheOldOneAndNothingElse) {
     fs::create_directories(kit.Files / "Results/Lady Easy Color Chart.BMP");
     EXPECT_THROW(kit.Save("NEW", {Sheet, Chart}), FileError);
     {
-        KitSet givenUp(kit.Place, "NEW");
+        KitSet givenUp(kit.Program, KitNameOf(kit.State, kit.State), kit.Screen, "NEW");
         Shelf::Fill(givenUp, {Sheet});
     }
     {
@@ -197,7 +198,7 @@ TEST(KitSet, ThatFailsLeavesTheOldOneAndNothingElse) {
 TEST(KitSet, WaitsForAnotherThatIsWritten) {
     Shelf kit;
     {
-        KitSet first(kit.Place, "ONE");
+        KitSet first(kit.Program, KitNameOf(kit.State, kit.State), kit.Screen, "ONE");
         Shelf::Fill(first, {Sheet});
         SettleKits(kit.Program);  // leaves what somebody writes alone
         kit.Screen.StopAfterYields = 1;

@@ -30,9 +30,15 @@ TEST(PaletteFiles, ReadsPalettesOfOtherPrograms) {
          "1,2,3,\"Red, \"\"hot\"\"\"\n4,5,6",
          {Paint(1, 2, 3, "plain", "Red, 'hot'"), Paint(4, 5, 6, "plain", "Unnamed")}},
         {"heading.CSV", "Name;B;G;R\nSky;9;8;7\n", {Paint(7, 8, 9, "heading", "Sky")}},
+        {"ours.csv",
+         " 2\r\n7,8,9,\"Set\",\"PB29\",\"Sky, deep\"\r\n1,2,3,\"Set\",\"\",\"Ink\"\r\n",
+         {{7, 8, 9, "Set", "PB29", "Sky, deep", 0}, Paint(1, 2, 3, "Set", "Ink")}},
+        {"colons.gpl",
+         "GIMP Palette\n1 2 3 Mix: one\n4 5 6 Two\n",
+         {Paint(1, 2, 3, "colons", "Mix: one"), Paint(4, 5, 6, "colons", "Two")}},
     };
     for (const auto& [file, text, expected] : cases) {
-        EXPECT_EQ(ReadPaletteFile(folder.Write(file, text)), expected) << file;
+        EXPECT_EQ(ReadPaletteFile(folder.Write(file, text)).Paints, expected) << file;
     }
 }
 
@@ -41,6 +47,8 @@ TEST(PaletteFiles, NamesTheLineThatIsBroken) {
     for (const auto& [file, text, says] : {std::tuple{"a.gpl", "no palette", "line 1"},
                                            {"a.gpl", "GIMP Palette\n1 2 300 x\n", "line 2"},
                                            {"a.csv", "1,2,3,x\n1,2\n", "line 2"},
+                                           {"a.csv", " 2\n1,2,3,a,b,c\n1,2,x,a,b,c\n", "line 3"},
+                                           {"a.csv", " 0\n", "no colors"},
                                            {"a.csv", "name,red,green\nx,1,2\n", "line 1"},
                                            {"a.csv", "red,green,blue,name\n", "no colors"},
                                            {"a.txt", "", ".gpl or a .csv"}}) {
@@ -56,7 +64,22 @@ TEST(PaletteFiles, WritesWhatItReads) {
     EXPECT_EQ(text,
               "GIMP Palette\nName: Mine\nColumns: 8\n#\n  7  80 255\tSet: Sky\n"
               "  1   2   3\tSet: Ultra [PB29]\n");
-    EXPECT_EQ(ParseGplPalette(text, "x.gpl")[2], Paint(1, 2, 3, "Mine", "Set: Ultra [PB29]"));
+}
+
+TEST(PaletteFiles, GplGivesSetNameAndCodeBackWhateverIsInThem) {
+    Paints paints;
+    for (const char* set : {"Set", "", "Warm: soft", "::", "a:b:"}) {
+        for (const char* name : {"Ultra", "Sky: deep", ": x", "Ochre [dark]", "a [", "[[]]", ""}) {
+            for (const char* code : {"", "PB29", "A [1]", "[[x", "]", "[1] [2]"}) {
+                paints.Add({1, 2, 3, set, code, name, 0});
+            }
+        }
+    }
+    const Paints read = ParseGplPalette(GplText("Mine", paints), "x.gpl");
+    ASSERT_EQ(read.Count(), paints.Count());
+    for (int i = 1; i <= paints.Count(); ++i) {
+        EXPECT_EQ(read[i], paints[i]) << GplText("Mine", {paints[i]});
+    }
 }
 
 TEST(NextBest, NearestFirstWithoutTheColoursInUse) {
@@ -75,10 +98,13 @@ TEST(SamePaint, GoesByNamesAndByColorOnlyWhereThereAreNone) {
     const PaintColor ochre{9, 8, 7, "Oils", "PY43", "Ochre", 3};
     for (const auto& [other, same] :
          {std::pair{PaintColor{1, 1, 1, "Oils", "PY43", "Ochre", 0}, true},
+          {{1, 1, 1, "OILS", "py43", "ochre", 0}, true},
           {{9, 8, 7, "Oils", "PY43", "Ochre, pale", 3}, false},
           {{9, 8, 7, "Inks", "PY43", "Ochre", 3}, false}}) {
         EXPECT_EQ(SamePaint(ochre, other), same) << other.PaintName << other.Mfg;
     }
+    EXPECT_TRUE(
+        SamePaint(Paint(1, 2, 3, "\u00c9mail", "\u0416"), Paint(4, 5, 6, "\u00e9MAIL", "\u0436")));
     EXPECT_FALSE(SamePaint(Paint(1, 2, 3, "Oils", ""), Paint(1, 2, 4, "Oils", "")));
     EXPECT_TRUE(SamePaint(Paint(1, 2, 3, "Oils", ""), Paint(1, 2, 3, "Oils", "")));
 }

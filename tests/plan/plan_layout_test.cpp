@@ -5,12 +5,18 @@
 #include <algorithm>
 #include <cmath>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "support/error.h"
 
 namespace vendrel {
 namespace {
+
+std::vector<double> OneThousandAnd(double smallest) {
+    std::vector<double> heights(1000, 5);
+    heights.push_back(smallest);
+    return heights;
+}
 
 // Six by five stipples of three paints, painted as the program paints.
 class PlannedPicture : public testing::Test {
@@ -20,10 +26,10 @@ class PlannedPicture : public testing::Test {
         aspects_.fill(0.7);
     }
     [[nodiscard]] PrintPlan Plan(const PlanSettings& settings) const {
-        return MakePrintPlan(easel_.Place, settings, aspects_);
+        return MakePrintPlan(easel_.State, easel_.Frames.WorkFrame.Picture, settings, aspects_);
     }
 
-    test::Easel easel_;
+    test::PaintBench easel_;
     SymbolAspects aspects_{};
 };
 
@@ -75,6 +81,25 @@ TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndEveryPageHasOne) {
             }
         }
     }
+}
+
+TEST_F(PlannedPicture, TellsWhichCanvasOrDifficultyMakesSymbolsLegible) {
+    PlanSketch sketch = SketchPlan(easel_.State, easel_.Frames.WorkFrame.Picture, aspects_);
+    EXPECT_EQ(WarningOf(FiguresOf(sketch, {})), "");
+    EXPECT_EQ(FiguresOf(sketch, {}).Symbols, 5);
+    EXPECT_EQ(FiguresOf(sketch, {}).Pages, 1);
+    sketch.SymbolHeights = {0.6, 0.5, 1, 3, 5};
+    const PlanSettings small{.Sheet = Paper::A4, .CanvasCm = 10};
+    EXPECT_EQ(
+        WarningOf(FiguresOf(sketch, small)),
+        "2 of 5 symbols are smaller than 2 mm, the smallest 1.3 mm; a canvas of 15 cm or easy "
+        "difficulty shows them at 2 mm or more.");
+    sketch.StippleSize = 8;
+    sketch.SymbolHeights = OneThousandAnd(0.01);
+    EXPECT_EQ(WarningOf(FiguresOf(sketch, small)),
+              "1 of 1,001 symbols is smaller than 2 mm, the smallest 0.0 mm.");
+    sketch.SymbolHeights = {0.5};
+    EXPECT_EQ(FiguresOf(sketch, {.Sheet = Paper::A4, .CanvasCm = 15}).Small, 0);
 }
 
 TEST_F(PlannedPicture, RefusesWhatCannotBePrinted) {

@@ -99,9 +99,9 @@ TEST(KitFiles, SettingsChangeThePaintingForThisRunOnly) {
     studio.Files.Write("templates/Two.csv",
                        " 2\r\n250,250,250,\"Own\",\"W\",\"White\"\r\n90,20,10,\"Own\",\"R\","
                        "\"Brick\"\r\n");
-    const std::string set = SplitLines(list).at(0);
-    for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"--sample", "pixel"}, {"--sets", set}, {"--template", "Two"}}) {
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"--sample", "pixel"},
+                                                  {"--sets", "Artist Acrylics"},
+                                                  {"--template", "Two"}}) {
         std::vector<std::string> all = {"ball.bmp", "--outputs", "painting", "--json"};
         all.insert(all.end(), words.begin(), words.end());
         ASSERT_EQ(studio.Kit(all), 0) << studio.Err;
@@ -149,6 +149,11 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
 class NamingExporter final : public Exporter {
   public:
     explicit NamingExporter(std::vector<std::string>& asked) : asked_(asked) {}
+    SymbolAspects Aspects() const override {
+        SymbolAspects aspects;
+        aspects.fill(0.7);
+        return aspects;
+    }
     void Write(OutputId output, const Workplace& /*place*/, const PlanSettings& settings,
                const Target& target) const override {
         WriteWholeFile(target.File, "drawn");
@@ -169,8 +174,14 @@ TEST(KitFiles, ChartAndPdfComeFromTheHalfWithFonts) {
     EXPECT_EQ(studio.Kit({"ball.bmp"}), 0);
     EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "pdf", "--canvas", "50cm"}), 0);
     EXPECT_THAT(studio.Out, HasSubstr("ball Easy Kit.pdf"));
+    EXPECT_THAT(studio.Out, Not(HasSubstr("smaller than 2 mm")));
+    EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "pdf", "--canvas", "12cm", "--difficulty",
+                          "difficult", "--json"}),
+              0);
+    EXPECT_GT(Figure(studio.Out, "plan", "below2mm"), 0);
+    EXPECT_THAT(studio.Out, HasSubstr(" mm; a canvas of "));
     EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "sheet"}), 0);
-    EXPECT_THAT(asked, testing::ElementsAre("chart", "pdf 50"));
+    EXPECT_THAT(asked, testing::ElementsAre("chart", "pdf 50", "pdf 12"));
 }
 
 TEST(KitFiles, WithoutFontsAKitHasNoChartUnlessItWasAskedFor) {

@@ -45,7 +45,40 @@ TEST_F(KitPhotos, APhotoOfAnotherFormatIsKeptAsABitmap) {
     EXPECT_THAT(studio_.Names("Results"),
                 UnorderedElementsAre("my-aunt Easy Painting.BMP", "my-aunt Easy Kit.json"));
     EXPECT_THAT(studio_.Err, HasSubstr("Reading my.aunt.jpg\n"));
-    EXPECT_THAT(studio_.Out, HasSubstr("--crop top"));
+    EXPECT_THAT(studio_.Out, HasSubstr("stretched by 0.0 %, its shape kept"));
+}
+
+TEST_F(KitPhotos, ASquarePortraitIsFittedAsAskedAndOneCropHasOneName) {
+    studio_.Files.Write("aunt.jpg", "12345");
+    struct Case {
+        const char* Fit;
+        const char* Name;
+        double Least;  // percent of stretch
+        double Most;
+    };
+    for (const std::string difficulty : {"easy", "medium", "difficult"}) {
+        for (const Case& c : {Case{"keep", "aunt", 0, 0},
+                              {"stretch", "aunt", 70, 90},
+                              {"crop", "aunt crop", 0, 0.5}}) {
+            ASSERT_EQ(studio_.Kit({studio_.Path("aunt.jpg"), "--fit", c.Fit, "--difficulty",
+                                   difficulty, "--outputs", "grid", "--replace-grid", "--json"}),
+                      0)
+                << studio_.Err;
+            EXPECT_THAT(studio_.Out, HasSubstr("\"fit\": \"" + std::string(c.Fit) + "\""));
+            EXPECT_THAT(studio_.Out, HasSubstr("\"name\": \"" + std::string(c.Name) + "\""));
+            EXPECT_GE(Stretch(studio_.Out), c.Least);
+            EXPECT_LE(Stretch(studio_.Out), c.Most);
+            EXPECT_EQ(studio_.Kit({studio_.Path("aunt.jpg"), "--fit", c.Fit, "--difficulty",
+                                   difficulty, "--outputs", "sheet", "--from-grid"}),
+                      0)
+                << studio_.Err;
+            EXPECT_THAT(studio_.Out + studio_.Err, Not(HasSubstr("saved for")));
+        }
+    }
+    EXPECT_THAT(studio_.Names("Pictures"), UnorderedElementsAre("aunt.bmp", "aunt crop.bmp"));
+    WriteBitmap(studio_.Files / "wide.bmp", test::SmallPhoto(885, 495));
+    ASSERT_EQ(studio_.Kit({studio_.Path("wide.bmp"), "--json"}), 0);
+    EXPECT_THAT(studio_.Out, HasSubstr("\"fit\": \"none\""));
 }
 
 TEST_F(KitPhotos, ACropIsAPhotoOfItsOwnAndNotStretched) {

@@ -19,12 +19,12 @@ using testing::UnorderedElementsAre;
 TEST(KitTroubles, OnePhotoThatFailsDoesNotStopTheOthers) {
     Studio studio;
     studio.AddPhoto("good.bmp");
-    studio.AddPhoto("later.bmp", 20);
+    studio.AddPhoto(".later", 20);
     const std::string whole = studio.Files.Read("good.bmp");
     studio.Files.Write("cut.bmp", whole.substr(0, whole.size() / 2));
     studio.Files.Write("text.bmp", "this is no bitmap");
     EXPECT_EQ(studio.Kit({studio.Path("good.bmp"), studio.Path("cut.bmp"), studio.Path("text.bmp"),
-                          "missing.bmp", std::string(300, 'x') + ".bmp", studio.Path("later.bmp"),
+                          "missing.bmp", std::string(300, 'x') + ".bmp", studio.Path(".later"),
                           "--outputs", "painting", "--json"}),
               1);
     EXPECT_THAT(studio.Err,

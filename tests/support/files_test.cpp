@@ -100,6 +100,11 @@ TEST(Leftovers, OfDeadProgramsGoAndThoseOfLivingOnesStay) {
     EXPECT_FALSE(fs::exists(held));
 }
 
+TEST(FileError, NamesFilesWithoutDetours) {
+    EXPECT_STREQ(FileError("./Results/x.BMP", "is gone.").what(), "Results/x.BMP: is gone.");
+    EXPECT_STREQ(FormatError("./Data/x.csv", 2, "is odd.").what(), "Data/x.csv, line 2: is odd.");
+}
+
 TEST(ProgramFolder, FindsNamesWhateverTheirCase) {
     const test::TempFolder folder;
     folder.Write("data/StudioPaint.CSV", "0");

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include "support/error.h"
+#include "support/letter_case.h"
 #include "support/temp_folder.h"
 
 namespace vendrel {
@@ -17,6 +18,21 @@ TEST(TextFile, TakesBytesThatAreNotUtf8ForWindows1252) {
     EXPECT_EQ(ToUtf8("\xC3"), "\xC3\x83");
     EXPECT_EQ(ToUtf8("\xED\xA0\x80").size(),
               7U);  // a surrogate is not UTF-8: i-diaeresis, nbsp, euro
+}
+
+TEST(LetterCase, IsOneInEveryScriptWhateverTheSystemsLanguage) {
+    for (const auto& [a, b, same] : {std::tuple{"Aa-9[", "aA-9[", true},
+                                     {"@[", "`{", false},
+                                     {"\u00c9meraude", "\u00e9MERAUDE", true},
+                                     {"\u0416\u0401", "\u0436\u0451", true},
+                                     {"\u0391\u03a3", "\u03b1\u03c2", true},
+                                     {"KIRMIZI", "k\u0131rm\u0131z\u0131", true},
+                                     {"\u00e9", "e", false},
+                                     {"\xC9", "\xE9", false},
+                                     {"\U00010400", "\U00010428", true}}) {
+        EXPECT_EQ(SameIgnoringCase(a, b), same) << a << ' ' << b;
+    }
+    EXPECT_EQ(ToLower("\u00c9T\u00c9\xFF \u20ac"), "\u00e9t\u00e9\xFF \u20ac");
 }
 
 TEST(TextFile, SplitsBothKindsOfLineEnds) {

@@ -1,0 +1,212 @@
+#include "plan/plan_sketch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "output/cell_numbering.h"
+#include "regions/crumbs.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+// A canvas has a round width where nothing speaks against it.
+constexpr double kRoundMm = 5;
+// The share of a stipple's symbol that is left where its neighbours nibbled at it.
+constexpr double kNibbled = 0.65;
+// What a height reckoned in millimeters may be off.
+constexpr double kHairMm = 1e-6;
+
+void RequireCanvas(double widthCm, const PlanSketch& sketch) {
+    const double heightCm = widthCm * sketch.Height / sketch.Width;
+    if (widthCm < kSmallestCanvasCm || std::max(widthCm, heightCm) > kLargestCanvasCm) {
+        throw Error("A canvas of " + std::to_string(std::lround(widthCm)) + " x " +
+                    std::to_string(std::lround(heightCm)) +
+                    " cm cannot be printed. Choose a width of 10 cm or more, and no side longer "
+                    "than 300 cm.");
+    }
+}
+
+double HeightInStipple(int stippleSize, const PaintAspects& aspects) {
+    double height = stippleSize;
+    for (const double aspect : aspects) {
+        height = std::min(height, SymbolHeightInStipple(stippleSize, aspect));
+    }
+    return height;
+}
+
+double SmallestHeight(const PlanSketch& sketch) {
+    return *std::ranges::min_element(sketch.SymbolHeights);
+}
+
+// So large that every symbol can be read. A stipple that its neighbours nibbled at may take a
+// somewhat smaller one: a single odd shape shall not blow up the whole canvas.
+PrintScale LegibleScale(const PlanSketch& sketch) {
+    return PrintScale::OfPixel(kLegibleSymbolMm /
+                               std::max(SmallestHeight(sketch), kNibbled * sketch.HeightInStipple));
+}
+
+PrintScale ScaleOf(const PlanSketch& sketch, double canvasCm) {
+    RequireCanvas(canvasCm, sketch);
+    return PrintScale::OfCanvas(canvasCm, sketch.Width);
+}
+
+std::vector<PaperChoice> ChoicesFor(Paper paper) {
+    using Design = PlanPageDesign;
+    const PageFrame frame{Design::kMargin + Design::kMarks,
+                          Design::kMargin + Design::kHeading + Design::kMarks,
+                          Design::kMargin + Design::kMarks};
+    const SizeMm upright = SizeOf(paper);
+    return {{upright, frame}, {{upright.Height, upright.Width}, frame}};
+}
+
+// Paper that is printed anyway may as well carry larger symbols.
+double Growth(const PagePlan& pages) {
+    const double largest = std::min(RoomToGrow(pages), kLargestSymbolMm / kLegibleSymbolMm);
+    const double width = std::floor(pages.Canvas.Width * largest / kRoundMm) * kRoundMm;
+    return std::max(1.0, width / pages.Canvas.Width);
+}
+
+PagePlan PagesAt(const PlanSketch& sketch, PrintScale scale, Paper sheet) {
+    const auto listHeight = [&sketch, scale](const PaperChoice& paper, const PlanRect& own) {
+        const auto paints = PaintsWithin(sketch.Regions, InPixels(own, scale));
+        return PlanPageDesign::LegendHeight(paper.Sheet.Width, static_cast<int>(paints.size()));
+    };
+    return PlanPages({{scale.Mm(sketch.Width), scale.Mm(sketch.Height)},
+                      // Pixel 0 is before the first stipple.
+                      {scale.MmPerPixel(), scale.MmPerStipple(sketch.StippleSize)},
+                      listHeight},
+                     ChoicesFor(sheet));
+}
+
+int CanvasThatDoesCm(const PlanSketch& sketch) {
+    const double width = kLegibleSymbolMm * sketch.Width / SmallestHeight(sketch) / 10;
+    const double whole = std::max(std::ceil(width - kHairMm), kSmallestCanvasCm);
+    return whole <= WidestCanvasCm(sketch) ? static_cast<int>(whole) : 0;
+}
+
+// What the brush leaves of a stipple's symbol where the neighbours nibble most: it stamps a stipple
+// again before less is left. Of photos of all kinds.
+double KeptShare(Difficulty level) {
+    return level == Difficulty::Easy ? 0.83 : level == Difficulty::Medium ? 0.71 : 1;
+}
+
+std::optional<Difficulty> LevelThatDoes(const PlanSketch& sketch, PrintScale scale) {
+    for (auto level = kDifficulties.rbegin(); level != kDifficulties.rend(); ++level) {
+        if (level->StippleSize > sketch.StippleSize &&
+            scale.Mm(KeptShare(level->Level) *
+                     HeightInStipple(level->StippleSize, sketch.Aspects)) >=
+                kLegibleSymbolMm - kHairMm) {
+            return level->Level;
+        }
+    }
+    return std::nullopt;
+}
+
+// "3,120"
+std::string Grouped(int number) {
+    std::string text = std::to_string(number);
+    for (std::size_t at = text.size(); at > 3;) {
+        at -= 3;
+        text.insert(at, 1, ',');
+    }
+    return text;
+}
+
+}  // namespace
+
+PlanRect InPixels(const PlanRect& part, PrintScale scale) {
+    return {scale.Pixels(part.Left), scale.Pixels(part.Top), scale.Pixels(part.Right),
+            scale.Pixels(part.Bottom)};
+}
+
+double PlanPageDesign::ListWidth(double paperWidth) {
+    return paperWidth - kLeft - kMargin;
+}
+
+int PlanPageDesign::LegendColumns(double paperWidth) {
+    return static_cast<int>(ListWidth(paperWidth) / kLegendColumn);
+}
+
+double PlanPageDesign::LegendHeight(double paperWidth, int paints) {
+    const int columns = LegendColumns(paperWidth);
+    const int rows = (paints + columns - 1) / columns;
+    return rows * kLegendRow;
+}
+
+PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
+                      const SymbolAspects& aspects) {
+    RequireSymbols(state);
+    PlanSketch sketch;
+    sketch.Width = picture.Width();
+    sketch.Height = picture.Height();
+    sketch.StippleSize = state.StippleSize;
+    sketch.Aspects = AspectsOf(state.PaintColors, aspects);
+    // The areas of a paintable kit have joined their crumbs before they were painted.
+    sketch.Regions = FindRegionsWithoutCrumbs(
+        PaintPerPixel(state, state, sketch.StippleSize, sketch.Width, sketch.Height),
+        state.PaintableKit ? 0 : TraitsOf(state.Chosen.Level).FewestOwnPixels);
+    sketch.SymbolHeights = LargestSymbols(sketch.Regions, sketch.Aspects);
+    sketch.HeightInStipple = HeightInStipple(sketch.StippleSize, sketch.Aspects);
+    return sketch;
+}
+
+PlanSheets LayOutSheets(const PlanSketch& sketch, const PlanSettings& settings) {
+    if (settings.CanvasCm > 0) {
+        const PrintScale scale = ScaleOf(sketch, settings.CanvasCm);
+        return {PagesAt(sketch, scale, settings.Sheet), scale};
+    }
+    const PrintScale scale = LegibleScale(sketch);
+    const PagePlan pages = PagesAt(sketch, scale, settings.Sheet);
+    const double growth = Growth(pages);
+    return {Enlarged(pages, growth), scale.Enlarged(growth)};
+}
+
+double WidestCanvasCm(const PlanSketch& sketch) {
+    return std::floor(kLargestCanvasCm * std::min(1.0, double(sketch.Width) / sketch.Height));
+}
+
+PlanFigures FiguresOf(const PlanSketch& sketch, const PlanSettings& settings) {
+    const PlanSheets sheets = LayOutSheets(sketch, settings);
+    const double legible = sheets.Scale.Pixels(kLegibleSymbolMm - kHairMm);
+    PlanFigures figures;
+    figures.Canvas = sheets.Pages.Canvas;
+    figures.Pages = static_cast<int>(sheets.Pages.Tiles.size());
+    figures.Symbols = static_cast<int>(sketch.SymbolHeights.size());
+    figures.Small = static_cast<int>(std::ranges::count_if(
+        sketch.SymbolHeights, [legible](double height) { return height < legible; }));
+    figures.SmallestMm = std::min(sheets.Scale.Mm(SmallestHeight(sketch)), kLargestSymbolMm);
+    if (figures.Small > 0) {
+        figures.CanvasThatDoesCm = CanvasThatDoesCm(sketch);
+        figures.LevelThatDoes =
+            settings.CanvasCm > 0 ? LevelThatDoes(sketch, sheets.Scale) : std::nullopt;
+    }
+    return figures;
+}
+
+std::string SmallestText(const PlanFigures& figures) {
+    const int tenths = static_cast<int>(std::floor((figures.SmallestMm + kHairMm) * 10));
+    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
+}
+
+std::string WarningOf(const PlanFigures& figures) {
+    if (figures.Small == 0) {
+        return {};
+    }
+    std::string remedy;
+    if (figures.CanvasThatDoesCm > 0) {
+        remedy = "a canvas of " + std::to_string(figures.CanvasThatDoesCm) + " cm";
+    }
+    if (figures.LevelThatDoes) {
+        remedy += (remedy.empty() ? "" : " or ") +
+                  std::string(TraitsOf(*figures.LevelThatDoes).Option) + " difficulty";
+    }
+    return Grouped(figures.Small) + " of " + Grouped(figures.Symbols) + " symbols " +
+           (figures.Small == 1 ? "is" : "are") + " smaller than 2 mm, the smallest " +
+           SmallestText(figures) + " mm" +
+           (remedy.empty() ? "." : "; " + remedy + " shows them at 2 mm or more.");
+}
+
+}  // namespace vendrel

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "plan/label_placement.h"
+#include "plan/page_tiling.h"
+#include "plan/painted_regions.h"
+#include "shell/work_state.h"
+#include "support/print_scale.h"
+#include "support/surface.h"
+
+namespace vendrel {
+
+/// What a painter chooses for the printed plan.
+struct PlanSettings {
+    Paper Sheet = Paper::A4;
+    double CanvasCm = 0;  // width of the finished canvas; 0: chosen by MakePrintPlan
+};
+
+/// Height of the smallest symbol when the canvas may be as large as it likes, in millimetres.
+inline constexpr double kLegibleSymbolMm = 2;
+/// A symbol larger than this wastes paint.
+inline constexpr double kLargestSymbolMm = 3;
+
+/// Where things stand on a page of the plan, in millimetres.
+struct PlanPageDesign {
+    static constexpr double kMargin = 7;  // what printers cannot reach
+    static constexpr double kHeading = 14;
+    static constexpr double kMarks = 5;  // crop marks around the picture
+    // The picture, the heading and the list begin where the left margin is cut off.
+    static constexpr double kLeft = kMargin + kMarks;
+    static constexpr double kLegendColumn = 46;
+    static constexpr double kLegendRow = 4.3;
+
+    [[nodiscard]] static double ListWidth(double paperWidth);
+    [[nodiscard]] static int LegendColumns(double paperWidth);
+    [[nodiscard]] static double LegendHeight(double paperWidth, int paints);
+};
+
+/// A part of the canvas in millimeters as one of the painted picture in pixels.
+[[nodiscard]] PlanRect InPixels(const PlanRect& part, PrintScale scale);
+
+/// A painted picture measured for printing: what it asks of a canvas can be answered at once, for
+/// one canvas after the other.
+struct PlanSketch {
+    PaintedRegions Regions;
+    PaintAspects Aspects;
+    std::vector<double> SymbolHeights;  // of each region's largest symbol, in pixels
+    double HeightInStipple = 0;         // of the symbol that fits a lone stipple, in pixels
+    int Width = 0;                      // of the picture, in pixels
+    int Height = 0;
+    int StippleSize = 0;
+};
+
+/// `aspects` are those of the symbols as they will be drawn. Throws Error for an unpainted picture
+/// or more paints than symbols.
+[[nodiscard]] PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
+                                    const SymbolAspects& aspects);
+
+/// The pages of a plan and how large the picture is on them.
+struct PlanSheets {
+    PagePlan Pages;
+    PrintScale Scale;
+};
+
+/// Without a canvas asked for the fewest pages on which symbols can be read, and then the largest
+/// canvas that those pages hold. Throws Error for a canvas outside
+/// kSmallestCanvasCm..kLargestCanvasCm.
+[[nodiscard]] PlanSheets LayOutSheets(const PlanSketch& sketch, const PlanSettings& settings);
+
+/// The widest canvas of the picture's shape, in whole centimeters.
+[[nodiscard]] double WidestCanvasCm(const PlanSketch& sketch);
+
+/// What a painter should know of a plan before printing it.
+struct PlanFigures {
+    SizeMm Canvas;
+    int Pages = 0;    // without those in front of the plan
+    int Symbols = 0;  // one an area: its largest
+    int Small = 0;    // of them below kLegibleSymbolMm
+    double SmallestMm = 0;
+    int CanvasThatDoesCm = 0;                 // whole centimeters of width; 0 where none can be
+    std::optional<Difficulty> LevelThatDoes;  // on the same canvas, as far as can be told
+};
+
+/// Throws as LayOutSheets.
+[[nodiscard]] PlanFigures FiguresOf(const PlanSketch& sketch, const PlanSettings& settings);
+
+/// "0.8", rounded down: no symbol is smaller.
+[[nodiscard]] std::string SmallestText(const PlanFigures& figures);
+
+/// A sentence on the symbols that cannot be read well and on what would help; empty when all can.
+[[nodiscard]] std::string WarningOf(const PlanFigures& figures);
+
+}  // namespace vendrel
