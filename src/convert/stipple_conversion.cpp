@@ -148,7 +148,7 @@ void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
         cell.Y = 1 + (j - 1) * state.StippleSize + state.HalfStipple;
         FillBlock(easel.Picture, cell, state.HalfStipple);
         if (place.Screen.Watched()) {
-            DrawColorStipple(easel, cell.X, cell.Y, ColorOf(state.PaintColors[cell.ColorIndex]));
+            DrawColorStipple(easel, state, i, j, ColorOf(state.PaintColors[cell.ColorIndex]));
         }
     }
 }
