@@ -3,6 +3,7 @@
 #include "export/gui_application.h"
 #include "export/text_canvas.h"
 #include "output/symbol_set.h"
+#include "shell/work_settings.h"
 
 namespace vendrel {
 namespace {
@@ -15,9 +16,9 @@ constexpr int kCanvasSize = 32;
 std::filesystem::path MakeSymbols(const ProgramFolder& folder) {
     const GuiApplication application;
     std::filesystem::path file = folder.Path("Data/Symbols.txt");
-    WorkState state;
+    Symbols symbols;
     TextCanvas canvas(kCanvasSize, kCanvasSize);
-    MakeSymbolFile(state, file, canvas);
+    MakeSymbolFile(symbols, WorkSettings().SymbolColor, file, canvas);
     return file;
 }
 

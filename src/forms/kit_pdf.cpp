@@ -7,7 +7,7 @@
 namespace vendrel {
 
 void KitPdfForm::Form_Load() {
-    sketch_ = SketchPlan(place_, exporter_.Aspects());
+    sketch_ = SketchPlan(place_.State, place_.Frames->WorkFrame.Picture, exporter_.Aspects());
     Measure();
 }
 

@@ -7,16 +7,16 @@
 namespace vendrel {
 namespace {
 
-SavedKit SaveBusily(const Workplace& place, const KitOrder& order) {
+SavedKit SaveBusily(Workplace& place, const KitOrder& order) {
     const BusyPointer busy(place.Screen);
     SavedKit saved = SaveKit(place, order);
-    place.Screen.SetCaption("Vendrel -" + place.State.PictureName);
+    place.Screen.SetCaption("Vendrel -" + place.State->PictureName);
     return saved;
 }
 
 }  // namespace
 
-std::vector<std::filesystem::path> SaveFromWindow(const Workplace& place, const KitOrder& order) {
+std::vector<std::filesystem::path> SaveFromWindow(Workplace& place, const KitOrder& order) {
     const SavedKit saved = SaveBusily(place, order);
     std::string sentences;
     for (const std::string& note : saved.Notes) {
@@ -32,7 +32,7 @@ std::vector<std::filesystem::path> SaveFromWindow(const Workplace& place, const 
     return files;
 }
 
-std::filesystem::path SaveFromWindow(const Workplace& place, OutputId output) {
+std::filesystem::path SaveFromWindow(Workplace& place, OutputId output) {
     KitOrder order;
     order.Outputs.Add(output);
     return SaveFromWindow(place, order).front();

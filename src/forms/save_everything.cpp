@@ -10,7 +10,7 @@ namespace vendrel {
 
 namespace fs = std::filesystem;
 
-void SaveEverything(const Workplace& place, const Exporter& exporter) {
+void SaveEverything(Workplace& place, const Exporter& exporter) {
     const std::vector<fs::path> files = SaveFromWindow(
         place, {.Outputs = OutputChoice(IsInEverything), .Fonts = &exporter, .Plan = {}});
     const fs::path folder = files.front().parent_path();

@@ -42,7 +42,7 @@ std::string StepCaption(const std::string& verb, const std::string& step) {
 }
 
 void RedrawStipples(Workplace& place) {
-    EraseToColor(place, kBlack);
+    EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
     SetupMenuItems(place.MainMenu, 3);
     CheckSavedStipples(place);
@@ -63,7 +63,7 @@ void TouchUpForm::OfferRecovery() {
     if (!editor_->RecoveryOffered()) {
         return;
     }
-    const std::string& photo = place_.State.PictureName;
+    const std::string& photo = place_.State->PictureName;
     if (place_.Screen.Ask(kTitle, "The touch-up of " + photo +
                                       " ended without being saved, but its work was kept. "
                                       "Take it up again?")) {
@@ -216,14 +216,16 @@ void TouchUpForm::LoadIt_Click() {
         Follow();
         throw;
     }
-    controls_.Status = "Loaded " + StippleFilePath(place_).filename().string();
+    controls_.Status =
+        "Loaded " + StippleFilePath(place_.Folder, place_.State, place_.State).filename().string();
     Follow();
 }
 
 void TouchUpForm::SaveIt_Click() {
     controls_.Status.clear();
     editor_->SaveIt_Click();
-    controls_.Status = "Saved " + StippleFilePath(place_).filename().string();
+    controls_.Status =
+        "Saved " + StippleFilePath(place_.Folder, place_.State, place_.State).filename().string();
     Follow();
 }
 
@@ -323,7 +325,7 @@ void TouchUpForm::FollowPalette() {
 
 void TouchUpForm::FollowCleanUp() {
     const CleanUpPreview preview = editor_->PreviewCleanUp();
-    controls_.CleanLevel = place_.State.CleanLevel;
+    controls_.CleanLevel = place_.State->CleanLevel;
     controls_.RaiseEnabled = controls_.CleanLevel < kHighestCleanLevel;
     controls_.LowerEnabled = controls_.CleanLevel > kLowestCleanLevel;
     controls_.CleanEnabled = preview.Changes > 0;

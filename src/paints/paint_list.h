@@ -1,6 +1,10 @@
 #pragma once
 
-#include "shell/workplace.h"
+#include "shell/catalogue.h"
+#include "shell/given_warnings.h"
+#include "shell/palette.h"
+#include "shell/ui.h"
+#include "support/program_folder.h"
 
 namespace vendrel {
 
@@ -9,9 +13,10 @@ namespace vendrel {
 /// one, the first set is selected and the file written; the palette then stays empty until it is
 /// next restored. So, with a warning, in a folder with a catalogue of its own in which no set has a
 /// name of the shipped list. Throws FileError.
-void LoadPaintList(Workplace& place);
+void LoadPaintList(Catalogue& catalogue, Palette& palette, GivenWarnings& given, Ui& screen,
+                   const ProgramFolder& folder);
 
 /// Writes data/paintlist.txt: one selected paint set a line, in PaintSets order.
-void SavePaintList(Workplace& place);
+void SavePaintList(const Catalogue& catalogue, const ProgramFolder& folder);
 
 }  // namespace vendrel

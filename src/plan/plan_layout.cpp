@@ -36,9 +36,9 @@ CutPixels CutsInPixels(const PrintPlan& plan) {
 
 }  // namespace
 
-PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
-                        const SymbolAspects& aspects) {
-    PlanSketch sketch = SketchPlan(place, aspects);
+PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
+                        const PlanSettings& settings, const SymbolAspects& aspects) {
+    PlanSketch sketch = SketchPlan(state, picture, aspects);
     PlanSheets sheets = LayOutSheets(sketch, settings);
     PrintPlan plan;
     plan.Aspects = std::move(sketch.Aspects);

@@ -136,17 +136,17 @@ double PlanPageDesign::LegendHeight(double paperWidth, int paints) {
     return rows * kLegendRow;
 }
 
-PlanSketch SketchPlan(const Workplace& place, const SymbolAspects& aspects) {
-    const WorkState& state = place.State;
-    const Surface& picture = place.Frames.WorkFrame.Picture;
+PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
+                      const SymbolAspects& aspects) {
     RequireSymbols(state);
     PlanSketch sketch;
     sketch.Width = picture.Width();
     sketch.Height = picture.Height();
     sketch.StippleSize = state.StippleSize;
     sketch.Aspects = AspectsOf(state.PaintColors, aspects);
-    sketch.Regions = FindRegionsWithoutCrumbs(PaintPerPixel(state, sketch.Width, sketch.Height),
-                                              TraitsOf(state.Chosen.Level).FewestOwnPixels);
+    sketch.Regions = FindRegionsWithoutCrumbs(
+        PaintPerPixel(state, state, sketch.StippleSize, sketch.Width, sketch.Height),
+        TraitsOf(state.Chosen.Level).FewestOwnPixels);
     sketch.SymbolHeights = LargestSymbols(sketch.Regions, sketch.Aspects);
     sketch.HeightInStipple = HeightInStipple(sketch.StippleSize, sketch.Aspects);
     return sketch;

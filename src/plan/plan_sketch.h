@@ -7,8 +7,9 @@
 #include "plan/label_placement.h"
 #include "plan/page_tiling.h"
 #include "plan/painted_regions.h"
-#include "shell/workplace.h"
+#include "shell/work_state.h"
 #include "support/print_scale.h"
+#include "support/surface.h"
 
 namespace vendrel {
 
@@ -59,7 +60,8 @@ struct PlanSketch {
 
 /// `aspects` are those of the symbols as they will be drawn. Throws Error for an unpainted picture
 /// or more paints than symbols.
-[[nodiscard]] PlanSketch SketchPlan(const Workplace& place, const SymbolAspects& aspects);
+[[nodiscard]] PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
+                                    const SymbolAspects& aspects);
 
 /// The pages of a plan and how large the picture is on them.
 struct PlanSheets {

@@ -2,46 +2,45 @@
 
 #include <utility>
 
-#include "shell/palette.h"
-#include "shell/stipple_grid.h"
 #include "shell/symbol_of.h"
 
 namespace vendrel {
 namespace {
 
 // New palette index of every old one, 0 for a paint that drops out.
-OneBased<int> MovePaints(WorkState& state, AcceptReport& report) {
-    OneBased<int> moved(state.FoundCount);
-    PaintList kept;
+OneBased<int> MovePaints(const PaintList& found, PaintList& kept, AcceptReport& report) {
+    OneBased<int> moved(found.Count());
     for (int old = 1; old <= moved.Count(); ++old) {
-        const PaintColor& paint = state.FoundColors[old];
+        const PaintColor& paint = found[old];
         if (paint.CellCount == 0) {
             report.Dropped.push_back(paint.PaintName);
             continue;
         }
         kept.Add(paint);
         moved[old] = kept.Count();
-        const int before = SymbolOf(state.FoundColors, old);
+        const int before = SymbolOf(found, old);
         const int now = SymbolOf(kept, moved[old]);
         if (now != before) {
             report.Moves.push_back({paint.PaintName, before, now});
         }
     }
-    SetPalette(state, std::move(kept));
     return moved;
 }
 
 }  // namespace
 
-AcceptReport TakeOverCopies(WorkState& state) {
+AcceptReport TakeOverCopies(Palette& palette, StippleGrid& grid, FoundPalette& found,
+                            EditedGrid& edited) {
     AcceptReport report;
-    const OneBased<int> moved = MovePaints(state, report);
-    for (StippleCell& cell : state.EditStipples.All()) {
+    PaintList kept;
+    const OneBased<int> moved = MovePaints(found.FoundColors, kept, report);
+    SetPalette(palette, std::move(kept));
+    for (StippleCell& cell : edited.EditStipples.All()) {
         cell.ColorIndex = moved[cell.ColorIndex];
         cell.AreaNumber = 0;
     }
-    SetGrid(state, std::exchange(state.EditStipples, {}));
-    SetFoundColors(state, state.PaintColors);
+    SetGrid(grid, std::exchange(edited.EditStipples, {}));
+    SetFoundColors(found, palette.PaintColors);
     return report;
 }
 

@@ -3,7 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "shell/work_state.h"
+#include "shell/edited_grid.h"
+#include "shell/found_palette.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
 
 namespace vendrel {
 
@@ -25,6 +28,7 @@ struct AcceptReport {
 /// Makes the editor's copies the kit's own palette and grid: paints without a stipple drop out and
 /// the ones after them move up, no area is numbered, CellMarks are fresh. The copies must be
 /// without flaw and of the photo's size.
-AcceptReport TakeOverCopies(WorkState& state);
+AcceptReport TakeOverCopies(Palette& palette, StippleGrid& grid, FoundPalette& found,
+                            EditedGrid& edited);
 
 }  // namespace vendrel

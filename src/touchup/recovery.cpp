@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "storage/stipple_file.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/folders.h"
 
@@ -16,14 +17,9 @@ namespace fs = std::filesystem;
 constexpr std::chrono::seconds kRecoveryPause{5};
 constexpr int kMostLeft = 9;  // nobody edits a photo in more windows at once
 
-fs::path NumberedPath(const Workplace& place, int number) {
-    return StippleFilePath(place).replace_extension(
-        ".recovery" + (number == 1 ? "" : "-" + std::to_string(number)) + ".stp");
-}
-
-bool IsFile(const fs::path& path) {
-    std::error_code unreadable;
-    return fs::is_regular_file(path, unreadable);
+fs::path NumberedPath(fs::path grid, int number) {
+    return grid.replace_extension(".recovery" + (number == 1 ? "" : "-" + std::to_string(number)) +
+                                  ".stp");
 }
 
 // Offered again after a power cut, it would take the painter back behind the saved grid.
@@ -40,19 +36,15 @@ void Remove(const fs::path& recovery) {
 
 }  // namespace
 
-std::filesystem::path RecoveryPath(const Workplace& place) {
-    return place.State.Recovery ? place.State.Recovery->Path() : NumberedPath(place, 1);
+std::filesystem::path RecoveryPath(const UnsavedWork& unsaved, const std::filesystem::path& grid) {
+    return unsaved.Recovery ? unsaved.Recovery->Path() : NumberedPath(grid, 1);
 }
 
-bool RecoveryExists(const Workplace& place) {
-    return IsFile(RecoveryPath(place));
-}
-
-bool HoldLeftRecovery(const Workplace& place) {
-    std::shared_ptr<const HeldFile>& held = place.State.Recovery;
+bool HoldLeftRecovery(UnsavedWork& unsaved, const std::filesystem::path& grid) {
+    std::shared_ptr<const HeldFile>& held = unsaved.Recovery;
     held.reset();
     for (int number = 1; number <= kMostLeft && !held; ++number) {
-        const fs::path path = NumberedPath(place, number);
+        const fs::path path = NumberedPath(grid, number);
         if (IsFile(path)) {
             held = HeldFile::Hold(path);
         }
@@ -60,13 +52,13 @@ bool HoldLeftRecovery(const Workplace& place) {
     return held != nullptr;
 }
 
-std::filesystem::path HoldRecovery(const Workplace& place) {
-    std::shared_ptr<const HeldFile>& held = place.State.Recovery;
+std::filesystem::path HoldRecovery(UnsavedWork& unsaved, const std::filesystem::path& grid) {
+    std::shared_ptr<const HeldFile>& held = unsaved.Recovery;
     // The lock lies beside the file. What keeps the folder from being made, the writing tells.
     std::error_code toldLater;
-    fs::create_directories(NumberedPath(place, 1).parent_path(), toldLater);
+    fs::create_directories(NumberedPath(grid, 1).parent_path(), toldLater);
     for (int number = 1; !held; ++number) {
-        const fs::path path = NumberedPath(place, number);
+        const fs::path path = NumberedPath(grid, number);
         if (!IsFile(path)) {
             held = HeldFile::Hold(path);
         }
@@ -74,20 +66,21 @@ std::filesystem::path HoldRecovery(const Workplace& place) {
     return held->Path();
 }
 
-void WriteRecoveryOfGrid(const Workplace& place) {
-    const WorkState& state = place.State;
-    WriteStippleFile(HoldRecovery(place), {state.PaintColors, state.Stipples, state.CellsAcross,
-                                           state.CellsDown, state.FinalColors});
+void WriteRecoveryOfGrid(Workplace& place) {
+    WorkState& state = place.State;
+    const fs::path file = HoldRecovery(state, StippleFilePath(place.Folder, state, state));
+    WriteStippleFile(file, {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown,
+                            state.FinalColors});
 }
 
-void RemoveRecovery(const Workplace& place) {
-    if (place.State.Recovery) {
-        Remove(place.State.Recovery->Path());
+void RemoveRecovery(const UnsavedWork& unsaved) {
+    if (unsaved.Recovery) {
+        Remove(unsaved.Recovery->Path());
     }
 }
 
-void SetRecoveryAside(const Workplace& place) {
-    const fs::path file = RecoveryPath(place);
+void SetRecoveryAside(const UnsavedWork& unsaved, const std::filesystem::path& grid) {
+    const fs::path file = RecoveryPath(unsaved, grid);
     std::error_code failure;
     fs::rename(file, file.parent_path() / (file.stem().string() + "-old.stp"), failure);
     if (failure) {
@@ -104,7 +97,7 @@ bool RecoveryTimer::Tick(EditTime now) {
     return true;
 }
 
-GridReplacement::GridReplacement(const Workplace& place) : place_(place) {
+GridReplacement::GridReplacement(Workplace& place) : place_(place) {
     const WorkState& state = place_.State;
     if (!state.HasUnsavedWork) {
         return;
@@ -121,8 +114,8 @@ GridReplacement::GridReplacement(const Workplace& place) : place_(place) {
 GridReplacement::~GridReplacement() {
     // Marked as unsaved, whatever took its place would be kept over the work's recovery file.
     if (unsaved_ && !StillInKit()) {
-        place_.State.HasUnsavedWork = false;
-        place_.State.Recovery.reset();
+        place_.State->HasUnsavedWork = false;
+        place_.State->Recovery.reset();
     }
 }
 
@@ -136,15 +129,15 @@ bool GridReplacement::StillInKit() const {
 void GridReplacement::Done() {
     if (unsaved_) {
         const auto recovery = std::exchange(unsaved_, std::nullopt)->Recovery;
-        place_.State.HasUnsavedWork = false;
-        place_.State.Recovery.reset();
+        place_.State->HasUnsavedWork = false;
+        place_.State->Recovery.reset();
         if (recovery) {
             Remove(recovery->Path());
         }
     }
 }
 
-bool MayReplaceGrid(const Workplace& place) {
+bool MayReplaceGrid(Workplace& place) {
     GridReplacement replacement(place);
     if (replacement.Allowed()) {
         replacement.Done();

@@ -16,23 +16,24 @@ using EditTime = std::chrono::steady_clock::time_point;
 
 /// A stipple file of the editor's unsaved work on this photo and difficulty, for after a crash:
 /// "Saved Stipples/<PictureName>-<word>.recovery.stp", or "... .recovery-2.stp" and so on for
-/// programs that edit the same photo at once. Never taken for the saved grid. This is the one held
-/// in State.Recovery, else the first.
-[[nodiscard]] std::filesystem::path RecoveryPath(const Workplace& place);
-[[nodiscard]] bool RecoveryExists(const Workplace& place);
+/// programs that edit the same photo at once. Never taken for the saved grid, the StippleFilePath
+/// `grid`, beside which it lies. This is the one held in Recovery, else the first.
+[[nodiscard]] std::filesystem::path RecoveryPath(const UnsavedWork& unsaved,
+                                                 const std::filesystem::path& grid);
 /// Lets go of what was held and holds a recovery file that a program left behind, if there is one;
 /// that of a living program is none.
-[[nodiscard]] bool HoldLeftRecovery(const Workplace& place);
+[[nodiscard]] bool HoldLeftRecovery(UnsavedWork& unsaved, const std::filesystem::path& grid);
 /// The file to keep unsaved work in; holds a new one where none is held yet.
-[[nodiscard]] std::filesystem::path HoldRecovery(const Workplace& place);
+[[nodiscard]] std::filesystem::path HoldRecovery(UnsavedWork& unsaved,
+                                                 const std::filesystem::path& grid);
 /// Keeps the kit's own accepted grid there, whole or not at all. Throws FileError.
-void WriteRecoveryOfGrid(const Workplace& place);
+void WriteRecoveryOfGrid(Workplace& place);
 /// Removes the one held, if any. Throws FileError when it cannot be removed.
-void RemoveRecovery(const Workplace& place);
+void RemoveRecovery(const UnsavedWork& unsaved);
 
 /// Renames a recovery file that could be neither taken nor given up, so that newer work does not
 /// replace it: "... .recovery-old.stp". Throws FileError.
-void SetRecoveryAside(const Workplace& place);
+void SetRecoveryAside(const UnsavedWork& unsaved, const std::filesystem::path& grid);
 
 /// When the recovery file is due: with the first tick after a change, then at most every five
 /// seconds, so that with a tick a second no change waits for ten.
@@ -54,7 +55,7 @@ class RecoveryTimer {
 class GridReplacement {
   public:
     /// Asks when the grid holds accepted but unsaved work; "yes" does not lose it yet.
-    explicit GridReplacement(const Workplace& place);
+    explicit GridReplacement(Workplace& place);
     /// A step that broke off before Done has lost nothing: work that is no longer in the kit is
     /// offered again from its recovery file.
     ~GridReplacement();
@@ -78,13 +79,13 @@ class GridReplacement {
 
     [[nodiscard]] bool StillInKit() const;
 
-    Workplace place_;
+    Workplace& place_;
     std::optional<Work> unsaved_;
     bool allowed_ = true;
 };
 
 /// Asks, and gives the unsaved work up at once: for the end of the program. True when nothing is
 /// left to lose.
-[[nodiscard]] bool MayReplaceGrid(const Workplace& place);
+[[nodiscard]] bool MayReplaceGrid(Workplace& place);
 
 }  // namespace vendrel

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "shell/palette.h"
+#include "shell/found_palette.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
 #include "support/size_text.h"
@@ -36,7 +36,8 @@ void RefuseFlaw(const EditSheet& sheet, const char* refusal) {
 
 }  // namespace
 
-TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
+TouchUp::TouchUp(Workplace& place)
+    : place_(place), sheet_(*place.State, *place.State, *place.State) {
     WorkState& state = place_.State;
     if (state.CellsAcross < 1 || state.CellsDown < 1 || state.Stipples.Across() < 1) {
         throw Error("There are no stipples to touch up. Change the photo to stipples first.");
@@ -46,8 +47,12 @@ TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
     wantedAtOpening_ = state.Chosen.FinalPaints;
     unsavedAtOpening_ = state.HasUnsavedWork;
     // The file of work that was only accepted is still in use, not left over.
-    recoveryOffered_ = !state.HasUnsavedWork && HoldLeftRecovery(place_);
-    sheet_.Open();
+    recoveryOffered_ = !state.HasUnsavedWork && HoldLeftRecovery(state, GridFile());
+    sheet_.Open(state, state);
+}
+
+std::filesystem::path TouchUp::GridFile() const {
+    return StippleFilePath(place_.Folder, place_.State, place_.State);
 }
 
 CellRect TouchUp::BeginStroke(CellPos at, EditBrush brush) {
@@ -98,23 +103,23 @@ CellRect TouchUp::Replace(int from, int to) {
 }
 
 void TouchUp::RaiseCleanLevel() {
-    int& level = place_.State.CleanLevel;
+    int& level = place_.State->CleanLevel;
     level = std::clamp(level + 1, kLowestCleanLevel, kHighestCleanLevel);
 }
 
 void TouchUp::LowerCleanLevel() {
-    int& level = place_.State.CleanLevel;
+    int& level = place_.State->CleanLevel;
     level = std::clamp(level - 1, kLowestCleanLevel, kHighestCleanLevel);
 }
 
 CleanUpPreview TouchUp::PreviewCleanUp() const {
-    const std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State.CleanLevel);
+    const std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
     return {static_cast<int>(changes.size()), CountAreasAfter(sheet_, changes)};
 }
 
 CellRect TouchUp::CleanUp() {
     EndStroke();
-    for (const CellChange& change : PlanCleanUp(sheet_, place_.State.CleanLevel)) {
+    for (const CellChange& change : PlanCleanUp(sheet_, place_.State->CleanLevel)) {
         pen_.Paint({change.X, change.Y}, change.To);
     }
     PushStroke("Clean Up");
@@ -142,37 +147,38 @@ CellRect TouchUp::AfterStep(CellRect dirty) {
 // The kit itself may use fewer paints than its menu asks for, as with a small template; only a
 // load or a recovery brings another count.
 void TouchUp::ShowFinalColors() {
-    const int finalColors = place_.State.FinalColors;
-    SetColorChecks(place_.State.Chosen,
+    const int finalColors = place_.State->FinalColors;
+    SetColorChecks(place_.State->Chosen,
                    finalColors == finalAtOpening_ ? wantedAtOpening_ : finalColors);
 }
 
 void TouchUp::SaveIt_Click() {
     EndStroke();
     RefuseFlaw(sheet_, "The stipples cannot be saved");
-    WriteSheet(StippleFilePath(place_), sheet_, place_.State.FinalColors);
+    WriteSheet(GridFile(), sheet_, place_.State->FinalColors);
     place_.MainMenu[MenuId::LoadStipples].Enabled = true;
     savedId_ = history_.StateId();
-    place_.State.HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
+    place_.State->HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
     timer_.NoteKept();
     recoveryOffered_ = false;
-    RemoveRecovery(place_);
+    RemoveRecovery(place_.State);
 }
 
 bool TouchUp::CanLoad() const {
-    return StippleFileExists(place_);
+    return StippleFileExists(place_.Folder, place_.State, place_.State);
 }
 
 CellRect TouchUp::LoadIt_Click() {
     EndStroke();
-    const std::filesystem::path path = StippleFilePath(place_);
+    const std::filesystem::path path = GridFile();
     const std::string text = ReadTextFile(path);
+    RequireFit(text, path, sheet_);
     StippleFileReader reader(text, path);
     const CellRect before = sheet_.Bounds();
     PushLoad("Load");
     {
         const RecountAtEnd recount(sheet_);
-        ReadIntoSheet(reader, path, place_.State, sheet_);
+        ReadIntoSheet(reader, sheet_);
     }
     savedId_ = history_.StateId();
     ShowFinalColors();
@@ -200,10 +206,11 @@ AcceptReport TouchUp::Accept() {
     if (sheet_.Across() != photo.Across() || sheet_.Down() != photo.Down()) {
         throw Error("The loaded grid has " + SizeText(sheet_.Across(), sheet_.Down()) +
                     " stipples, but the photo has " + SizeText(photo.Across(), photo.Down()) +
-                    " stipples. Take the load back with Undo first.");
+                    " stipples. Take the load back with Undo; or save it, close the editor and "
+                    "choose Picture, Load Stipple Picture, which keeps the grid's shape.");
     }
     state.HasUnsavedWork = !IsSaved() && (unsavedAtOpening_ || history_.StateId() != 0);
-    return TakeOverCopies(state);
+    return TakeOverCopies(state, state, state, state);
 }
 
 void TouchUp::Cancel() {
@@ -218,7 +225,7 @@ void TouchUp::Cancel() {
 CellRect TouchUp::TakeRecovery() {
     EndStroke();
     WorkState& state = place_.State;
-    const std::filesystem::path path = RecoveryPath(place_);
+    const std::filesystem::path path = RecoveryPath(state, GridFile());
     const std::string text = ReadTextFile(path);
     StippleFileReader reader(text, path);
     const StippleHeader header = reader.Header();
@@ -227,8 +234,8 @@ CellRect TouchUp::TakeRecovery() {
             path, 1,
             "the work was done on " + SizeText(header.Across, header.Down) +
                 " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
-                " stipples. Choose the photo again on the screen it was made on, or give the "
-                "work up.");
+                " stipples. Take up the saved stipples of that shape first (Picture, Load Stipple "
+                "Picture), or give the work up.");
     }
     SheetContents found{reader.ReadPalette(),
                         {},
@@ -248,7 +255,7 @@ CellRect TouchUp::TakeRecovery() {
 
 void TouchUp::DiscardRecovery() {
     recoveryOffered_ = false;
-    RemoveRecovery(place_);
+    RemoveRecovery(place_.State);
 }
 
 void TouchUp::KeepRecovery(EditTime now) {
@@ -268,27 +275,27 @@ void TouchUp::WriteRecovery() {
         return;
     }
     MakeRoomForRecovery();
-    WriteSheet(HoldRecovery(place_), sheet_, place_.State.FinalColors);
+    WriteSheet(HoldRecovery(place_.State, GridFile()), sheet_, place_.State->FinalColors);
     timer_.NoteKept();
 }
 
 void TouchUp::MakeRoomForRecovery() {
     if (recoveryOffered_) {
-        SetRecoveryAside(place_);
+        SetRecoveryAside(place_.State, GridFile());
         recoveryOffered_ = false;
     }
 }
 
 void TouchUp::SettleRecovery() {
-    if (place_.State.HasUnsavedWork) {
+    if (place_.State->HasUnsavedWork) {
         MakeRoomForRecovery();
         WriteRecoveryOfGrid(place_);
         return;
     }
     if (!recoveryOffered_) {
-        RemoveRecovery(place_);
+        RemoveRecovery(place_.State);
     }
-    place_.State.Recovery.reset();
+    place_.State->Recovery.reset();
 }
 
 }  // namespace vendrel

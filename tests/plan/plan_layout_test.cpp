@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "support/error.h"
 
@@ -26,10 +26,10 @@ class PlannedPicture : public testing::Test {
         aspects_.fill(0.7);
     }
     [[nodiscard]] PrintPlan Plan(const PlanSettings& settings) const {
-        return MakePrintPlan(easel_.Place, settings, aspects_);
+        return MakePrintPlan(easel_.State, easel_.Frames.WorkFrame.Picture, settings, aspects_);
     }
 
-    test::Easel easel_;
+    test::PaintBench easel_;
     SymbolAspects aspects_{};
 };
 
@@ -84,7 +84,7 @@ TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndEveryPageHasOne) {
 }
 
 TEST_F(PlannedPicture, TellsWhichCanvasOrDifficultyMakesSymbolsLegible) {
-    PlanSketch sketch = SketchPlan(easel_.Place, aspects_);
+    PlanSketch sketch = SketchPlan(easel_.State, easel_.Frames.WorkFrame.Picture, aspects_);
     EXPECT_EQ(WarningOf(FiguresOf(sketch, {})), "");
     EXPECT_EQ(FiguresOf(sketch, {}).Symbols, 5);
     EXPECT_EQ(FiguresOf(sketch, {}).Pages, 1);

@@ -152,6 +152,27 @@ TEST(Loading, BringsGridPaintsAndFinalPaintsAsOneStep) {
     EXPECT_EQ(bench.State.FinalColors, 12);
 }
 
+TEST(BrokenLoad, ThatIsShortOrDoesNotFitTouchesNothing) {
+    const std::string paints = kRed + kRed;
+    const std::pair<std::string, const char*> cases[] = {
+        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n", "2 of the 4 stipples (2 x 2)"},
+        {"3,2,2,16\r\n" + paints + kRed + kFourReds, "3 paints"},
+        {"2,3,2,16\r\n" + paints + kFourReds + kFourReds, "3 x 2 stipples"},
+        {"2,1,3,16\r\n" + paints + kFourReds, "1 x 3 stipples"},
+    };
+    for (const auto& [file, message] : cases) {
+        KitBench bench({"12", "12"}, 2);
+        TouchUp editor(bench.Place);
+        const PaintList before = bench.State.FoundColors;
+        bench.Files.Write(kSaved, file);
+        EXPECT_THAT([&] { editor.LoadIt_Click(); }, ThrowsMessage<FormatError>(HasSubstr(message)));
+        EXPECT_EQ(bench.Edited(), (Rows{"12", "12"}));
+        EXPECT_EQ(bench.State.FoundColors, before);
+        EXPECT_EQ(bench.State.FinalColors, 50);
+        EXPECT_FALSE(editor.CanUndo());
+    }
+}
+
 TEST(BrokenLoad, LeavesWhatWasReadUntilItIsTakenBack) {
     struct Case {
         std::string File;
@@ -159,14 +180,12 @@ TEST(BrokenLoad, LeavesWhatWasReadUntilItIsTakenBack) {
         Rows Left;            // the grid after the break
         bool Usable = false;  // every stipple has a paint all the same
     };
-    const std::string paints = kRed + kRed;
     const Case cases[] = {
-        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n", "line", {"11", "22"}, true},
-        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,x,5,5\r\n", "line 5", {"12", "22"}, true},
-        {"3,2,2,16\r\n" + paints + kRed, "3 paints", {"22", "22"}},
-        {"2,3,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n0,1,5,5\r\n", "3 columns", {"11", "22"}},
-        {"2,1,3,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n0,1,5,5\r\n", "3 rows", {"12", "12"}},
-        {"1,2,2,16\r\n" + kRed + "0,1,5,5\r\n0,2,5,5\r\n", "line 4", {"12", "22"}},
+        {"2,2,2,16\r\n" + kRed + kRed + "0,1,5,5\r\n0,x,5,5\r\n\r\n\r\n0,1,5,5\r\n",
+         "line 5",
+         {"12", "22"},
+         true},
+        {"1,2,2,16\r\n" + kRed + "0,1,5,5\r\n0,2,5,5\r\n\r\n0,1,5,5\r\n", "line 4", {"12", "22"}},
     };
     for (const Case& test : cases) {
         SCOPED_TRACE(test.Message);
@@ -238,7 +257,7 @@ TEST(Recovery, FollowsTheChangesWithinTenSecondsAndGoesWithTheSave) {
     EXPECT_FALSE(editor.CanLoad()) << "it never shows as the saved grid";
     editor.SaveIt_Click();
     editor.KeepRecovery(At(90));
-    EXPECT_FALSE(RecoveryExists(bench.Place)) << "nothing has changed since the save";
+    EXPECT_FALSE(fs::exists(bench.Files / kRecovery)) << "nothing has changed since the save";
 }
 
 TEST(Recovery, IsOfferedAfterACrashAndTakenAsOneStep) {
@@ -287,7 +306,7 @@ TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
     saving.SaveIt_Click();
     saving.Cancel();
     EXPECT_FALSE(bench.State.HasUnsavedWork);
-    EXPECT_FALSE(RecoveryExists(bench.Place));
+    EXPECT_FALSE(fs::exists(bench.Files / kRecovery));
 }
 
 TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
@@ -296,7 +315,7 @@ TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
     TouchUp editor(bench.Place);
     EXPECT_THAT([&] { editor.TakeRecovery(); }, ThrowsMessage<FormatError>(HasSubstr("5 x 5")));
     editor.SettleRecovery();
-    EXPECT_TRUE(RecoveryExists(bench.Place));
+    EXPECT_TRUE(fs::exists(bench.Files / kRecovery));
     editor.Fill({1, 1}, 2);
     editor.KeepRecovery(At(1));
     EXPECT_THAT(bench.Files.Read("Saved Stipples/Lady-Easy.recovery-old.stp"), HasSubstr("5,5"));
@@ -311,7 +330,7 @@ TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
     const std::string living = first.Files.Read(kRecovery);
     KitBench second({"12", "12"}, 2);
     const ProgramFolder shared(first.Files.Path());
-    const Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
+    Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
     {
         TouchUp other(place);
         EXPECT_FALSE(other.RecoveryOffered());
@@ -343,7 +362,7 @@ TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
         {
             GridReplacement replacement(bench.Place);
             ASSERT_TRUE(replacement.Allowed());
-            EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
+            EXPECT_TRUE(bench.State.HasUnsavedWork && fs::exists(bench.Files / kRecovery));
             if (replacesGrid) {
                 bench.State.PictureName = "Other";
                 bench.State.Stipples = Grid<StippleCell>(2, 2);
