@@ -106,8 +106,8 @@ void ReadBmpSize(LoadedPhoto& photo) {
 
 PhotoLoad LoadNewPicture(Workplace& place) {
     const WorkState& state = place.State;
-    std::optional<Photo> photo = ReadPhoto(state.PicturePath, place.Screen.Screen(),
-                                           state.StippleSize, state.Chosen.Fit);
+    std::optional<Photo> photo =
+        ReadPhoto(state.PicturePath, place.Screen.Screen(), state.StippleSize, state.Chosen.Fit);
     if (!photo) {
         ReadBmpSize(place.State);
         return PhotoLoad::Nothing;

@@ -177,7 +177,8 @@ std::string FileImport::TakeIn(const fs::path& photo, PhotoFit way) {
 }
 
 std::string FileImport::Cropped(const std::string& pictureFile, PhotoFit way) {
-    return CropInPictures(place_.Folder, pictureFile, TargetOf(place_.Screen, place_.State), PartOf(way));
+    return CropInPictures(place_.Folder, pictureFile, TargetOf(place_.Screen, place_.State),
+                          PartOf(way));
 }
 
 // One that no part of would fit is refused where it is taken.

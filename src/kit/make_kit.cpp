@@ -130,7 +130,8 @@ std::optional<PhotoFit> FitUsed(const Workplace& place, const TakenPhoto& taken)
     if (taken.Cropped) {
         return fit;
     }
-    if (SheetStretch({state.BmpWidth, state.BmpHeight}, TargetOf(place.Screen, place.State)) <= kStretchThatShows) {
+    if (SheetStretch({state.BmpWidth, state.BmpHeight}, TargetOf(place.Screen, place.State)) <=
+        kStretchThatShows) {
         return std::nullopt;
     }
     return fit == PhotoFit::Stretch ? fit : PhotoFit::Keep;
