@@ -65,8 +65,8 @@ void WarnOfStartedList(const Catalogue& catalogue, GivenWarnings& given, Ui& scr
     if (catalogue.PaintSetCount > 0) {
         WarnOnce(given, screen,
                  Shown(folder.Path(kPaintList)) +
-                     ": was not there, and the catalogue has none of the paint sets that "
-                     "come with the program. The catalogue's first one, \"" +
+                     ": was not there, and the catalogue has none of the paint sets that come with "
+                     "the program. The catalogue's first one, \"" +
                      catalogue.PaintSets[1].Name +
                      "\", is chosen; choose others in the paint shop or in that file.");
     }

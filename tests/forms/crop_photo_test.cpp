@@ -144,7 +144,7 @@ TEST_F(CropPhotoTest, AGridOfAKeptShapeIsLoadedAgain) {
     chooser_.Asking().OKButton_Click();
     form_.Click(MenuId::ChangeToStipples);
     const WorkState& state = studio_.State;
-    WriteStippleFile(StippleFilePath(studio_.Place),
+    WriteStippleFile(StippleFilePath(studio_.Place.Folder, state, state),
                      {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, 50});
     form_.Click(MenuId::MediumSet);
     EXPECT_EQ(state.PictureWidth, state.PictureHeight);

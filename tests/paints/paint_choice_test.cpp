@@ -80,7 +80,7 @@ TEST_F(PaintChoice, AShippedListThatAFoldersOwnCatalogueDoesNotKnowGivesWayToIts
     Bench.Files.Write("Data/studiopaint.csv", "0\r\n");
     const ProgramFolder folder(Bench.Files.Path(), shipped.Path());
     Workplace place{State, Bench.Frames, Bench.MainMenu, Bench.Screen, folder};
-    LoadPaintList(place);
+    LoadPaintList(State, State, State, Bench.Screen, folder);
     EXPECT_EQ(Selected(), "Oils;");
     EXPECT_EQ(Bench.Files.Read("Data/paintlist.txt"), "Oils\r\n");
     ASSERT_EQ(Bench.Screen.Messages.size(), 1U);
