@@ -1,6 +1,7 @@
 #include "export/symbol_maker.h"
 
 #include "export/gui_application.h"
+#include "export/symbol_font.h"
 #include "export/text_canvas.h"
 #include "output/symbol_set.h"
 
@@ -12,13 +13,13 @@ constexpr int kCanvasSize = 32;
 
 }  // namespace
 
-std::filesystem::path MakeSymbols(const ProgramFolder& folder) {
+MadeSymbols MakeSymbols(const ProgramFolder& folder) {
     const GuiApplication application;
-    std::filesystem::path file = folder.Path("Data/Symbols.txt");
+    MadeSymbols made{folder.Path("Data/Symbols.txt"), UseVersion(kSymbolFont)};
     WorkState state;
     TextCanvas canvas(kCanvasSize, kCanvasSize);
-    MakeSymbolFile(state, file, canvas);
-    return file;
+    MakeSymbolFile(state, made.File, canvas);
+    return made;
 }
 
 }  // namespace vendrel
