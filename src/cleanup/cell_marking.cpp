@@ -61,7 +61,8 @@ void MarkCells(const Workplace& place, std::span<const CellPos> cells, PassProgr
         ClaimCell(place.State, cell, areaNumber);
         progress.Step();
         MarkOneCell(place, cell, areaNumber, progress);
-        CountUp(place.State.NextAreaNumber, "areas to paint");
+        CountUp(place.State.NextAreaNumber, "areas to paint",
+                "an easier difficulty, fewer final paints, or a clean-up in Touch Up");
     }
 }
 

@@ -22,7 +22,7 @@ void SetFoundColors(WorkState& state, PaintList paints) {
 }
 
 void AddFoundColor(WorkState& state, PaintColor paint) {
-    CountUp(state.FoundCount, "paints found in the photo");
+    CountUp(state.FoundCount, "paints found in the photo", "fewer paint sets");
     state.FoundColors.Add(std::move(paint));
 }
 
