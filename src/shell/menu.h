@@ -13,6 +13,7 @@ enum class MenuId {
     FileHeader,
     LoadBMP,
     LoadStipples,
+    SaveStipples,
     StartupPaintShop,
     ChangeToStipples,
     ColorPickerSelect,
