@@ -23,6 +23,7 @@ constexpr Keys kKeys[] = {
     {FileHeader, 'P'},
     {LoadBMP, 'L', "Ctrl+O"},
     {LoadStipples, 'S'},
+    {SaveStipples, 'e', "Ctrl+Shift+S"},
     {StartupPaintShop, 'h'},
     {ChangeToStipples, 'C'},
     {ColorPickerSelect, 'T'},
