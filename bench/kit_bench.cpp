@@ -63,7 +63,7 @@ struct Studio {
         : Ui(Nowhere, Chatter::None, ScreenSize::FromPixels(1920, 1080)),
           Folder(ThePhotos().Folder, VENDREL_SOURCE_DIR) {
         PrepareSettings(Place);
-        (void)PrepareFolders(Place);
+        (void)PrepareFolders(Folder);
         PreparePaints(Place);
         KitOptions options;
         options.Chosen.Level = stippleSize == 8   ? Difficulty::Easy
@@ -72,7 +72,7 @@ struct Studio {
         ApplySettings(Place, options);
     }
     void Choose(int width, int height) {
-        (void)ChoosePhoto(Place, ThePhotos().Photo(width, height));
+        (void)ChoosePhoto(State, Folder, ThePhotos().Photo(width, height));
         (void)LoadNewPicture(Place);
     }
     void Convert() {
@@ -182,7 +182,8 @@ void Painting(benchmark::State& run) {
     studio.Convert();
     PaintItNow_Click(studio.Place);
     for ([[maybe_unused]] const auto step : run) {
-        WritePainting(studio.Place, studio.Place.Folder.Path("Results/painting.BMP"));
+        WritePainting(studio.Ui, studio.Frames.WorkFrame.Picture,
+                      studio.Place.Folder.Path("Results/painting.BMP"));
     }
 }
 BENCHMARK(Painting)->Unit(benchmark::kMillisecond);
@@ -193,7 +194,7 @@ void SavedGridFile(benchmark::State& run) {
     studio.Convert();
     const WorkState& state = studio.State;
     for ([[maybe_unused]] const auto step : run) {
-        WriteStippleFile(StippleFilePath(studio.Place),
+        WriteStippleFile(StippleFilePath(studio.Folder, studio.State, studio.State),
                          {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown,
                           state.FinalColors});
     }

@@ -49,7 +49,7 @@ class PaintedBench {
         state.PictureHeight = 720 * 15;
         state.PixelMap = Grid<MapPixel>(960, 720);
         bench.Frames.WorkFrame.Picture = Surface(960, 720);
-        SetupBMPSymbols(bench.Place);
+        SetupBMPSymbols(bench.State, bench.Program);
         PaintAllCells(bench.Place);
     }
 

@@ -54,7 +54,7 @@ struct Studio {
         : Ui(Nowhere, Chatter::None, ScreenSize::FromPixels(1920, 1080)),
           Folder(folder, VENDREL_SOURCE_DIR) {
         PrepareSettings(Place);
-        (void)PrepareFolders(Place);
+        (void)PrepareFolders(Folder);
         PreparePaints(Place);
         KitOptions options;
         options.Chosen.Level = level;
@@ -140,7 +140,7 @@ class Trial {
   public:
     Trial(const Wish& wish, const std::string& photo)
         : wish_(wish), name_(photo), studio_(wish.Folder, wish.Level) {
-        (void)ChoosePhoto(studio_.Place, photo);
+        (void)ChoosePhoto(studio_.State, studio_.Folder, photo);
         (void)LoadNewPicture(studio_.Place);
         photo_ = studio_.Frames.WorkFrame.Picture;
         scale_ = PrintScale::OfCanvas(kCanvasCm, photo_.Width());

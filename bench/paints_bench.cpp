@@ -9,6 +9,7 @@
 #include "shell/palette.h"
 #include "shell/records.h"
 #include "shell/stipple_grid.h"
+#include "shell/work_state.h"
 
 namespace vendrel {
 namespace {
@@ -88,7 +89,7 @@ void Reduce(benchmark::State& bench) {
         while (reduction.PaintCount() > 16) {
             reduction.Remove(LeastUsed(reduction.Counts()));
         }
-        reduction.Commit(state);
+        reduction.Commit(state, state);
         benchmark::DoNotOptimize(state.PaintCount);
     }
 }

@@ -68,6 +68,7 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
         .Decoder = parts.Decoder,
         .MakeSymbols = parts.MakeSymbols,
         .MakeExporter = parts.MakeExporter,
+        .Documents = parts.Documents,
         .OpenWindow = {},
         .StopAsked = &stopAsked,
     };

@@ -19,6 +19,7 @@ struct QtParts {
     const PhotoDecoder* Decoder = nullptr;
     std::function<MadeSymbols(const ProgramFolder&)> MakeSymbols = {};
     std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
+    std::function<std::filesystem::path()> Documents = {};
     std::function<int(const std::filesystem::path& folder, const std::filesystem::path& shipped)>
         OpenWindow = {};
 };

@@ -23,5 +23,6 @@ int main(int argc, char** argv) {
         words, {.Decoder = &decoder,
                 .MakeSymbols = vendrel::MakeSymbols,
                 .MakeExporter = [] { return std::make_unique<vendrel::QtExporter>(); },
+                .Documents = vendrel::DocumentsFolder,
                 .OpenWindow = openWindow});
 }

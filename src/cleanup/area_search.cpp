@@ -4,7 +4,7 @@
 
 namespace vendrel {
 
-bool IsLoner(const Grid<StippleCell>& stipples, int x, int y, int colorIndex) {
+bool CheckLoner(const Grid<StippleCell>& stipples, int x, int y, int colorIndex) {
     return std::none_of(kNeighbours.begin(), kNeighbours.end(), [&](const CellPos& step) {
         const CellPos to{x + step.X, y + step.Y};
         return SearchMayStep(step, to, stipples.Across(), stipples.Down()) &&
@@ -27,7 +27,7 @@ int CountAreas(const Grid<StippleCell>& stipples) {
             }
             ++areas;
             marks(x, y).Visited = true;
-            if (!IsLoner(stipples, x, y, paint)) {
+            if (!CheckLoner(stipples, x, y, paint)) {
                 search.Grow({x, y}, paint, nothing, nothing, nothing);
             }
         }

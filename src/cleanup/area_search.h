@@ -11,7 +11,7 @@
 namespace vendrel {
 
 /// True when none of the neighbours that the search may step to carries paint `colorIndex`.
-[[nodiscard]] bool IsLoner(const Grid<StippleCell>& stipples, int x, int y, int colorIndex);
+[[nodiscard]] bool CheckLoner(const Grid<StippleCell>& stipples, int x, int y, int colorIndex);
 
 /// How many areas the search would find on a grid; cells without a paint belong to none.
 [[nodiscard]] int CountAreas(const Grid<StippleCell>& stipples);

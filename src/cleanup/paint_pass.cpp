@@ -41,28 +41,28 @@ class MenusOff {
     Menu& menu_;
 };
 
-void FindAreas(const Workplace& place, const CellsByPaint& cells, PassProgress& progress) {
-    WorkState& state = place.State;
-    place.Screen.SetCaption("Finding Paintable Areas");
-    state.NextAreaNumber = 1;
-    state.TestCells = CellQueue(state.Stipples.Across(), state.Stipples.Down());
-    for (int paint = 1; paint <= state.PaintCount; ++paint) {
-        MarkCells(place, cells.Of(paint), progress);
-        place.Screen.Yield();
+void FindAreas(const Easel& easel, StippleGrid& grid, PaintPass& pass, const CellsByPaint& cells,
+               PassProgress& progress) {
+    easel.Screen.SetCaption("Finding Paintable Areas");
+    pass.NextAreaNumber = 1;
+    pass.TestCells = CellQueue(grid.Stipples.Across(), grid.Stipples.Down());
+    for (int paint = 1; paint <= easel.Paints.PaintCount; ++paint) {
+        MarkCells(easel, grid, pass, cells.Of(paint), progress);
+        easel.Screen.Yield();
     }
-    state.AreaCount = state.NextAreaNumber;
+    pass.AreaCount = pass.NextAreaNumber;
 }
 
 // One walk over the grid hands every cell to its area; row-major, so the members stay in order.
-void CollectAreas(WorkState& state) {
-    state.Areas = OneBased<PaintArea>(state.AreaCount);
-    for (int y = 1; y <= state.Stipples.Down(); ++y) {
-        for (int x = 1; x <= state.Stipples.Across(); ++x) {
-            const StippleCell& cell = state.Stipples(x, y);
-            if (cell.AreaNumber < 1 || cell.AreaNumber > state.AreaCount) {
+void CollectAreas(const Grid<StippleCell>& stipples, PaintPass& pass) {
+    pass.Areas = OneBased<PaintArea>(pass.AreaCount);
+    for (int y = 1; y <= stipples.Down(); ++y) {
+        for (int x = 1; x <= stipples.Across(); ++x) {
+            const StippleCell& cell = stipples(x, y);
+            if (cell.AreaNumber < 1 || cell.AreaNumber > pass.AreaCount) {
                 continue;
             }
-            PaintArea& area = state.Areas[cell.AreaNumber];
+            PaintArea& area = pass.Areas[cell.AreaNumber];
             CountUp(area.StippleCount, "stipples in one area",
                     "an easier difficulty or more final paints");
             area.ColorIndex = cell.ColorIndex;
@@ -73,129 +73,132 @@ void CollectAreas(WorkState& state) {
 
 // Dots of all areas, area by area: they are wiped before the painting starts, so they are drawn
 // only for somebody who watches.
-void ShowAreas(const Workplace& place) {
-    for (const PaintArea& area : place.State.Areas) {
-        if (!place.Screen.Watched()) {
+void ShowAreas(const Easel& easel, const StippleGrid& grid, const PaintPass& pass) {
+    for (const PaintArea& area : pass.Areas) {
+        if (!easel.Screen.Watched()) {
             break;
         }
         for (const CellPos& member : area.Members) {
-            const StippleCell& cell = place.State.Stipples(member.X, member.Y);
-            DrawOneStipple(place, cell.X, cell.Y, cell.ColorIndex);
+            const StippleCell& cell = grid.Stipples(member.X, member.Y);
+            DrawOneStipple(easel, cell.X, cell.Y, cell.ColorIndex);
         }
     }
-    place.Screen.RefreshWorkFrame();
+    easel.Screen.RefreshWorkFrame();
 }
 
-void SetUpAreas(const Workplace& place) {
-    place.Screen.SetCaption("Setting Up to Paint");
-    CollectAreas(place.State);
-    ShowAreas(place);
+void SetUpAreas(const Easel& easel, const StippleGrid& grid, PaintPass& pass) {
+    easel.Screen.SetCaption("Setting Up to Paint");
+    CollectAreas(grid.Stipples, pass);
+    ShowAreas(easel, grid, pass);
 }
 
 // The neighbours of a cell that carry its paint, whatever their area.
-Directions LikePainted(const WorkState& state, CellPos cell, int colorIndex) {
+Directions LikePainted(const StippleGrid& grid, CellPos cell, int colorIndex) {
     Directions directions = 0;
     for (std::size_t d = 0; d < kNeighbours.size(); ++d) {
         const CellPos to{cell.X + kNeighbours[d].X, cell.Y + kNeighbours[d].Y};
-        if (BrushMaySweep(kNeighbours[d], to, state.Stipples.Across(), state.Stipples.Down()) &&
-            state.CellMarks(to.X, to.Y).Visited &&
-            state.Stipples(to.X, to.Y).ColorIndex == colorIndex) {
+        if (BrushMaySweep(kNeighbours[d], to, grid.Stipples.Across(), grid.Stipples.Down()) &&
+            grid.CellMarks(to.X, to.Y).Visited &&
+            grid.Stipples(to.X, to.Y).ColorIndex == colorIndex) {
             directions |= 1U << d;
         }
     }
     return directions;
 }
 
-void PaintOneCell(const Workplace& place, int areaNumber, PassProgress& progress) {
-    WorkState& state = place.State;
-    const PaintArea& area = state.Areas[areaNumber];
+void PaintOneCell(const Easel& easel, StippleGrid& grid, const PaintArea& area,
+                  PassProgress& progress) {
     if (area.StippleCount == 1) {  // a lone dot, drawn with the loners
-        state.CellMarks(area.Members[0].X, area.Members[0].Y).Loner = true;
+        grid.CellMarks(area.Members[0].X, area.Members[0].Y).Loner = true;
         progress.Step();
         return;
     }
     for (const CellPos& member : area.Members) {
-        MoveSpot(place, LikePainted(state, member, area.ColorIndex), member, area.ColorIndex);
+        MoveSpot(easel, LikePainted(grid, member, area.ColorIndex),
+                 grid.Stipples(member.X, member.Y), area.ColorIndex);
         progress.Step();
     }
 }
 
 // The last one, when no area is left, names paint 0.
-OneBased<std::string> PaintingCaptions(const WorkState& state) {
-    OneBased<std::string> captions(state.PaintCount);
-    for (int p = 0; p <= state.PaintCount; ++p) {
-        const PaintColor& paint = state.PaintColors[p];
+OneBased<std::string> PaintingCaptions(const Palette& palette) {
+    OneBased<std::string> captions(palette.PaintCount);
+    for (int p = 0; p <= palette.PaintCount; ++p) {
+        const PaintColor& paint = palette.PaintColors[p];
         captions[p] =
             "Painting with " + paint.Mfg + " " + paint.PaintName + " [" + std::to_string(p) + "]";
     }
     return captions;
 }
 
-void PaintAreas(const Workplace& place, PassProgress& progress) {
-    WorkState& state = place.State;
-    const OneBased<std::string> captions = PaintingCaptions(state);
-    PaintingOrder order(state.Areas);
+void PaintAreas(const Easel& easel, StippleGrid& grid, OneBased<PaintArea>& areas,
+                PassProgress& progress) {
+    const OneBased<std::string> captions = PaintingCaptions(easel.Paints);
+    PaintingOrder order(areas);
     for (;;) {
-        const int area = order.GetBiggestCell(state.Areas);
-        const int paint = area == 0 ? 0 : state.Areas[area].ColorIndex;
-        place.Screen.SetCaption(captions[paint]);
+        const int area = order.GetBiggestCell(areas);
+        const int paint = area == 0 ? 0 : areas[area].ColorIndex;
+        easel.Screen.SetCaption(captions[paint]);
         if (area == 0) {
             return;
         }
-        PaintOneCell(place, area, progress);
+        PaintOneCell(easel, grid, areas[area], progress);
     }
 }
 
-void RedrawAllLoners(const Workplace& place, const CellsByPaint& cells, BrushShape shape) {
-    for (int paint = 1; paint <= place.State.PaintCount; ++paint) {
-        RedrawLoners(place, paint, cells.Of(paint), shape);
+void RedrawAllLoners(const Easel& easel, StippleGrid& grid, const CellsByPaint& cells,
+                     BrushShape shape) {
+    for (int paint = 1; paint <= easel.Paints.PaintCount; ++paint) {
+        RedrawLoners(easel, grid, paint, cells.Of(paint), shape);
     }
-    place.Screen.RefreshWorkFrame();
+    easel.Screen.RefreshWorkFrame();
 }
 
-void CleanCorners(const Workplace& place) {
-    place.Screen.SetCaption("Cleaning Up, Please Wait...");
-    switch (place.State.StippleSize) {
+void CleanCorners(const Easel& easel, const StippleGrid& grid) {
+    easel.Screen.SetCaption("Cleaning Up, Please Wait...");
+    switch (easel.Settings.StippleSize) {
         case 4:
-            SmartClean4(place);
+            SmartClean4(easel, grid);
             break;
         case 6:
-            SmartClean6(place);
+            SmartClean6(easel, grid);
             break;
         case 8:
-            SmartClean8(place);
+            SmartClean8(easel, grid);
             break;
         default:
             break;
     }
-    place.Screen.RefreshWorkFrame();
+    easel.Screen.RefreshWorkFrame();
 }
 
 // What an earlier pass recorded must not show through in this one.
-void EmptyPixelMap(WorkState& state) {
-    std::ranges::fill(state.PixelMap.All(), MapPixel{});
+void EmptyPixelMap(PaintedPixels& pixels) {
+    std::ranges::fill(pixels.PixelMap.All(), MapPixel{});
 }
 
 }  // namespace
 
-void PaintAllCells(const Workplace& place) {
-    const CellsByPaint cells(place.State.Stipples, place.State.PaintCount);
-    EmptyPixelMap(place.State);
+void PaintAllCells(Workplace& place) {
+    WorkState& state = place.State;
+    const Easel easel = EaselOf(place);
+    const CellsByPaint cells(state.Stipples, state.PaintCount);
+    EmptyPixelMap(state);
     {
         PassProgress progress(place.Screen, 2 * cells.CellCount());
-        FindAreas(place, cells, progress);
-        SetUpAreas(place);
-        EraseToColor(place, kBlack);
-        RedrawAllLoners(place, cells, BrushShape::Square);
-        PaintAreas(place, progress);
+        FindAreas(easel, state, state, cells, progress);
+        SetUpAreas(easel, state, state);
+        EraseToColor(easel, kBlack);
+        RedrawAllLoners(easel, state, cells, BrushShape::Square);
+        PaintAreas(easel, state, state.Areas, progress);
     }
-    RedrawAllLoners(place, cells, BrushShape::Rounded);
-    CleanCorners(place);
-    FixSmallSpots(place);
+    RedrawAllLoners(easel, state, cells, BrushShape::Rounded);
+    CleanCorners(easel, state);
+    FixSmallSpots(easel, state);
     place.Screen.RefreshWorkFrame();
     place.MainMenu[PrintMenu].Enabled = true;
     place.MainMenu[PrintAll].Enabled = true;
-    place.Screen.SetCaption("Vendrel -" + place.State.PictureName);
+    place.Screen.SetCaption("Vendrel -" + state.PictureName);
 }
 
 namespace {
@@ -204,7 +207,7 @@ namespace {
 // for its own, and the painting would be a mixture.
 class WholeOrNothing {
   public:
-    explicit WholeOrNothing(const Workplace& place) : place_(place) {}
+    explicit WholeOrNothing(Workplace& place) : place_(place) {}
     ~WholeOrNothing() {
         if (!done_) {
             WorkState& state = place_.State;
@@ -214,7 +217,7 @@ class WholeOrNothing {
             std::ranges::fill(state.CellMarks.All(), CellMark{});
             state.Areas.Clear();
             EmptyPixelMap(state);
-            place_.Frames.WorkFrame.Picture = place_.Frames.StippleFrame.Picture;
+            place_.Frames->WorkFrame.Picture = place_.Frames->StippleFrame.Picture;
             place_.MainMenu[PaintItNow].Enabled = false;
             place_.Screen.SetCaption("Vendrel -" + state.PictureName);
         }
@@ -224,19 +227,19 @@ class WholeOrNothing {
     void Done() { done_ = true; }
 
   private:
-    const Workplace& place_;
+    Workplace& place_;
     bool done_ = false;
 };
 
 }  // namespace
 
-void PaintItNow_Click(const Workplace& place) {
+void PaintItNow_Click(Workplace& place) {
     const BusyPointer busy(place.Screen);
     WholeOrNothing pass(place);
     const MenusOff menusOff(place.MainMenu);
-    place.Frames.WorkFrame.Picture = place.Frames.StippleFrame.Picture;
+    place.Frames->WorkFrame.Picture = place.Frames->StippleFrame.Picture;
     PaintAllCells(place);
-    place.State.PaintingDone = true;
+    place.State->PaintingDone = true;
     SetupMenuItems(place.MainMenu, 4);
     pass.Done();
 }

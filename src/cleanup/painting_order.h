@@ -14,7 +14,7 @@ class PaintingOrder {
     /// Areas without cells or already painted are left out.
     explicit PaintingOrder(const OneBased<PaintArea>& areas);
 
-    /// Number of the next area and marks it Painted; 0, marking entry 0, when none is left.
+    /// Number of the next area and marks it Painted; 0 when none is left.
     [[nodiscard]] int GetBiggestCell(OneBased<PaintArea>& areas);
 
   private:

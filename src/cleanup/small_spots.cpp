@@ -17,17 +17,16 @@ int CountPixels(const Surface& picture, int left, int top, int size, Color color
 
 }  // namespace
 
-void FixSmallSpots(const Workplace& place) {
-    const WorkState& state = place.State;
-    const int size = state.StippleSize;
-    const int fewest = TraitsOf(state.Chosen.Level).FewestOwnPixels;
-    for (int y = 1; y <= state.Stipples.Down(); ++y) {
-        for (int x = 1; x <= state.Stipples.Across(); ++x) {
-            const StippleCell& cell = state.Stipples(x, y);
-            const Color own = ColorOf(state.PaintColors[cell.ColorIndex]);
-            if (CountPixels(place.Frames.WorkFrame.Picture, 1 + (x - 1) * size, 1 + (y - 1) * size,
-                            size, own) < fewest) {
-                DrawOneStipple(place, cell.X, cell.Y, cell.ColorIndex, Record::Yes,
+void FixSmallSpots(const Easel& easel, const StippleGrid& grid) {
+    const int size = easel.Settings.StippleSize;
+    const int fewest = TraitsOf(easel.Settings.Chosen.Level).FewestOwnPixels;
+    for (int y = 1; y <= grid.Stipples.Down(); ++y) {
+        for (int x = 1; x <= grid.Stipples.Across(); ++x) {
+            const StippleCell& cell = grid.Stipples(x, y);
+            const Color own = ColorOf(easel.Paints.PaintColors[cell.ColorIndex]);
+            if (CountPixels(easel.Picture, 1 + (x - 1) * size, 1 + (y - 1) * size, size, own) <
+                fewest) {
+                DrawOneStipple(easel, cell.X, cell.Y, cell.ColorIndex, Record::Yes,
                                BrushShape::Rounded);
             }
         }

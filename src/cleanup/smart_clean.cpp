@@ -64,13 +64,12 @@ Flanks FlanksOf(const Grid<StippleCell>& stipples, CellPos cell, std::size_t cor
 
 class CornerCleaner {
   public:
-    CornerCleaner(const Workplace& place, const Corners& corners)
-        : place_(place), corners_(corners) {}
+    CornerCleaner(const Easel& easel, const StippleGrid& grid, const Corners& corners)
+        : easel_(easel), stipples_(grid.Stipples), corners_(corners) {}
 
     void CleanAll() const {
-        const Grid<StippleCell>& stipples = place_.State.Stipples;
-        for (int y = 1; y <= stipples.Down(); ++y) {
-            for (int x = 1; x <= stipples.Across(); ++x) {
+        for (int y = 1; y <= stipples_.Down(); ++y) {
+            for (int x = 1; x <= stipples_.Across(); ++x) {
                 for (std::size_t corner = 0; corner < corners_.size(); ++corner) {
                     CleanCorner({x, y}, corner);
                 }
@@ -80,12 +79,12 @@ class CornerCleaner {
 
   private:
     void CleanCorner(CellPos at, std::size_t corner) const {
-        const StippleCell& cell = place_.State.Stipples(at.X, at.Y);
-        const Flanks flanks = FlanksOf(place_.State.Stipples, at, corner);
+        const StippleCell& cell = stipples_(at.X, at.Y);
+        const Flanks flanks = FlanksOf(stipples_, at, corner);
         const bool agree = flanks.Horizontal == flanks.Vertical;
         const int fill = agree ? flanks.Horizontal : cell.ColorIndex;
         for (const CellPos& pixel : corners_[corner].ByNeighbours) {
-            const bool waits = agree && place_.State.StippleSize == 6 && pixel == kThirdPixelOf6;
+            const bool waits = agree && easel_.Settings.StippleSize == 6 && pixel == kThirdPixelOf6;
             if (!waits || IsBlack(cell, kTestedForThirdOf6)) {
                 FillPixel(cell, pixel, fill);
             }
@@ -96,29 +95,30 @@ class CornerCleaner {
     }
 
     bool IsBlack(const StippleCell& cell, CellPos pixel) const {
-        return place_.Frames.WorkFrame.Picture.Get(cell.X + pixel.X, cell.Y + pixel.Y) == kBlack;
+        return easel_.Picture.Get(cell.X + pixel.X, cell.Y + pixel.Y) == kBlack;
     }
     void FillPixel(const StippleCell& cell, CellPos pixel, int colorIndex) const {
-        const auto& paint = place_.State.PaintColors[colorIndex];
-        ColorPset(place_, cell.X + pixel.X, cell.Y + pixel.Y, ColorOf(paint), colorIndex);
+        const auto& paint = easel_.Paints.PaintColors[colorIndex];
+        ColorPset(easel_, cell.X + pixel.X, cell.Y + pixel.Y, ColorOf(paint), colorIndex);
     }
 
-    const Workplace& place_;
+    const Easel& easel_;
+    const Grid<StippleCell>& stipples_;
     const Corners& corners_;
 };
 
 }  // namespace
 
-void SmartClean8(const Workplace& place) {
-    CornerCleaner(place, CornersOf8()).CleanAll();
+void SmartClean8(const Easel& easel, const StippleGrid& grid) {
+    CornerCleaner(easel, grid, CornersOf8()).CleanAll();
 }
 
-void SmartClean6(const Workplace& place) {
-    CornerCleaner(place, CornersOf6()).CleanAll();
+void SmartClean6(const Easel& easel, const StippleGrid& grid) {
+    CornerCleaner(easel, grid, CornersOf6()).CleanAll();
 }
 
-void SmartClean4(const Workplace& place) {
-    CornerCleaner(place, CornersOf4()).CleanAll();
+void SmartClean4(const Easel& easel, const StippleGrid& grid) {
+    CornerCleaner(easel, grid, CornersOf4()).CleanAll();
 }
 
 }  // namespace vendrel

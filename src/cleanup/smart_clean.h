@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/workplace.h"
+#include "drawing/easel.h"
+#include "shell/stipple_grid.h"
 
 namespace vendrel {
 
@@ -8,8 +9,8 @@ namespace vendrel {
 // flanking the corner where they agree, else with the cell's own. A neighbour in the last column
 // or the last row counts as absent.
 
-void SmartClean8(const Workplace& place);
-void SmartClean6(const Workplace& place);
-void SmartClean4(const Workplace& place);
+void SmartClean8(const Easel& easel, const StippleGrid& grid);
+void SmartClean6(const Easel& easel, const StippleGrid& grid);
+void SmartClean4(const Easel& easel, const StippleGrid& grid);
 
 }  // namespace vendrel

@@ -53,9 +53,9 @@ void PackRow(std::span<const Color> row, std::uint8_t* bytes) {
 
 BitmapStream::BitmapStream(const Target& target, int width, int height, PrintScale scale,
                            Lasting lasting)
-    : file_(target.File, lasting), watcher_(target.Watcher) {
+    : file_(target, lasting), watcher_(target.Watcher) {
     if (width < 1 || height < 1) {
-        throw FileError(target.File, "there is no picture to save yet. Load a photo first.");
+        throw FileError(target.Place, "there is no picture to save yet. Load a photo first.");
     }
     const Header header = MakeHeader(MakeInfoHeader(width, height), scale);
     Put(std::as_bytes(std::span(header)));
@@ -64,7 +64,7 @@ BitmapStream::BitmapStream(const Target& target, int width, int height, PrintSca
 void BitmapStream::Put(std::span<const std::byte> bytes) {
     file_.Write(bytes);
     if (watcher_ != nullptr) {
-        watcher_->See(bytes);
+        watcher_->Grew(file_.Descriptor());
     }
 }
 

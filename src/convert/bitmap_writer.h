@@ -36,7 +36,7 @@ class BitmapStream {
     void Put(std::span<const std::byte> bytes);
 
     WholeFile file_;
-    ByteWatcher* watcher_;
+    FileWatcher* watcher_;
 };
 
 }  // namespace vendrel

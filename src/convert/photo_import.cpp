@@ -20,6 +20,21 @@ Surface ReadScaled(BitmapFile& file, int width, int height) {
     return scaler.Take();
 }
 
+// Nothing for 0 x 0 pixels; `sizeOf` answers the working size of a photo's size.
+template <class SizeOf>
+std::optional<Photo> ReadSized(const std::filesystem::path& file, TwipsPerPixel twips,
+                               const SizeOf& sizeOf) {
+    BitmapInput input(file);
+    if (ReadHeaderSize(input) == BitmapSize{}) {
+        return std::nullopt;
+    }
+    BitmapFile bitmap(std::move(input));
+    Photo photo{bitmap.Size(), sizeOf(bitmap.Size()), {}, bitmap.HasOwnColors()};
+    photo.Picture =
+        ReadScaled(bitmap, photo.Working.Width / twips.X, photo.Working.Height / twips.Y);
+    return photo;
+}
+
 }  // namespace
 
 void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const ScreenSize& screen,
@@ -27,40 +42,43 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
     if (!ComputeWorkingSize(photo, screen, stippleSize).HoldsStipples()) {
         throw FileError(file, "its shape of " + std::to_string(photo.Width) + " x " +
                                   std::to_string(photo.Height) +
-                                  " pixels leaves no whole stipple on this screen. Choose a "
+                                  " pixels leaves no whole stipple. Choose a "
                                   "larger photo or crop it to a less extreme shape.");
     }
 }
 
 std::optional<Photo> ReadPhoto(const std::filesystem::path& file, const ScreenSize& screen,
                                int stippleSize) {
-    BitmapInput input(file);
-    if (ReadHeaderSize(input) == BitmapSize{}) {
-        return std::nullopt;
-    }
-    BitmapFile bitmap(std::move(input));
-    Photo photo{bitmap.Size(),
-                ComputeWorkingSize(bitmap.Size(), screen, stippleSize),
-                {},
-                bitmap.HasOwnColors()};
-    RequireStipples(file, photo.Bmp, screen, stippleSize);
-    photo.Picture = ReadScaled(bitmap, photo.Working.Width / screen.Twips.X,
-                               photo.Working.Height / screen.Twips.Y);
-    return photo;
+    return ReadSized(file, screen.Twips, [&](BitmapSize photo) {
+        RequireStipples(file, photo, screen, stippleSize);
+        return ComputeWorkingSize(photo, screen, stippleSize);
+    });
+}
+
+std::optional<Photo> ReadPhotoInShape(const std::filesystem::path& file, const ScreenSize& screen,
+                                      CellPos stipples, int stippleSize) {
+    return ReadSized(file, screen.Twips, [&](BitmapSize photo) {
+        WorkingSize size = ComputeWorkingSize(photo, screen, stippleSize);
+        size.Width = stipples.X * stippleSize * screen.Twips.X;
+        size.Height = stipples.Y * stippleSize * screen.Twips.Y;
+        return size;
+    });
 }
 
 // By the name alone: a copy in Pictures is the same photo.
-void MentionColors(const Workplace& place, const std::filesystem::path& bitmap) {
-    WarnOnce(place, bitmap.filename().string() +
-                        ": its own description of its colors (a profile) is not used; they are "
-                        "taken as sRGB. If they look wrong, convert the photo to sRGB in a picture "
-                        "program.");
+void MentionColors(GivenWarnings& given, Ui& screen, const std::filesystem::path& bitmap) {
+    WarnOnce(given, screen,
+             bitmap.filename().string() +
+                 ": its own description of its colors (a profile) is not used; they are "
+                 "taken as sRGB. If they look wrong, convert the photo to sRGB in a picture "
+                 "program.");
 }
 
 void ShowPhoto(Workplace& place, Photo photo) {
     WorkState& state = place.State;
+    Surfaces& frames = place.Frames;
     if (photo.HasOwnColors) {
-        MentionColors(place, state.PicturePath);
+        MentionColors(state, place.Screen, state.PicturePath);
     }
     state.BmpWidth = photo.Bmp.Width;
     state.BmpHeight = photo.Bmp.Height;
@@ -69,49 +87,49 @@ void ShowPhoto(Workplace& place, Photo photo) {
     state.Landscape = photo.Working.Landscape;
     state.PictureWidth = photo.Working.Width;
     state.PictureHeight = photo.Working.Height;
-    place.Frames.MainWindow = photo.Working.Window;
-    place.Frames.CaptureFrame.Picture = std::move(photo.Picture);
-    RefreshPhotoImage(place);
-    place.Frames.CaptureFrame.Visible = false;
-    place.Frames.WorkFrame.Visible = true;
+    state.ShapedByGrid = false;
+    frames.MainWindow = photo.Working.Window;
+    frames.CaptureFrame.Picture = std::move(photo.Picture);
+    RefreshPhotoImage(frames, place.Screen);
+    frames.CaptureFrame.Visible = false;
+    frames.WorkFrame.Visible = true;
     state.PictureLoaded = true;
-    ResizePixelMap(place);
+    ResizePixelMap(state, frames.WorkFrame.Picture);
     place.Screen.SetCaption("Vendrel - " + state.PictureName);
 }
 
-void ReadBmpSize(Workplace& place) {
-    const BitmapSize size = ReadBitmapSize(place.State.PicturePath);
-    place.State.BmpWidth = size.Width;
-    place.State.BmpHeight = size.Height;
+void ReadBmpSize(LoadedPhoto& photo) {
+    const BitmapSize size = ReadBitmapSize(photo.PicturePath);
+    photo.BmpWidth = size.Width;
+    photo.BmpHeight = size.Height;
 }
 
 PhotoLoad LoadNewPicture(Workplace& place) {
     std::optional<Photo> photo =
-        ReadPhoto(place.State.PicturePath, place.Screen.Screen(), place.State.StippleSize);
+        ReadPhoto(place.State->PicturePath, place.Screen.Screen(), place.State->StippleSize);
     if (!photo) {
-        ReadBmpSize(place);
+        ReadBmpSize(place.State);
         return PhotoLoad::Nothing;
     }
     ShowPhoto(place, std::move(*photo));
     return PhotoLoad::Loaded;
 }
 
-bool ChoosePhoto(Workplace& place, std::string_view fileName) {
-    WorkState& state = place.State;
-    state.PictureFile = fileName;
-    state.PicturesFolder = place.Folder.Path("Pictures").string() + "/";
+bool ChoosePhoto(LoadedPhoto& photo, const ProgramFolder& folder, std::string_view fileName) {
+    photo.PictureFile = fileName;
+    photo.PicturesFolder = folder.Path("Pictures").string() + "/";
     const std::string_view name = PictureNameOf(fileName);
     if (name.size() == fileName.size()) {
         return false;
     }
-    state.PicturePath = place.Folder.Path("Pictures/" + state.PictureFile).string();
-    state.PictureName = name;
+    photo.PicturePath = folder.Path("Pictures/" + photo.PictureFile).string();
+    photo.PictureName = name;
     return true;
 }
 
-void RefreshPhotoImage(Workplace& place) {
-    place.Frames.WorkFrame.Picture = place.Frames.CaptureFrame.Picture;
-    place.Screen.RefreshWorkFrame();
+void RefreshPhotoImage(Surfaces& frames, Ui& screen) {
+    frames.WorkFrame.Picture = frames.CaptureFrame.Picture;
+    screen.RefreshWorkFrame();
 }
 
 }  // namespace vendrel

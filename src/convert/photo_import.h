@@ -7,6 +7,7 @@
 #include "convert/bitmap_header.h"
 #include "convert/working_size.h"
 #include "shell/workplace.h"
+#include "support/cell_pos.h"
 #include "support/surface.h"
 
 namespace vendrel {
@@ -31,14 +32,20 @@ void RequireStipples(const std::filesystem::path& file, BitmapSize photo, const 
 [[nodiscard]] std::optional<Photo> ReadPhoto(const std::filesystem::path& file,
                                              const ScreenSize& screen, int stippleSize);
 
+/// The same in the shape of a grid that was made elsewhere: `stipples` across and down, both at
+/// least 1, whatever the photo's own working size is.
+[[nodiscard]] std::optional<Photo> ReadPhotoInShape(const std::filesystem::path& file,
+                                                    const ScreenSize& screen, CellPos stipples,
+                                                    int stippleSize);
+
 /// Warns once that a bitmap's own description of its colors is not used.
-void MentionColors(const Workplace& place, const std::filesystem::path& bitmap);
+void MentionColors(GivenWarnings& given, Ui& screen, const std::filesystem::path& bitmap);
 
 /// Puts a photo that was read into the work area and makes everything fit it.
 void ShowPhoto(Workplace& place, Photo photo);
 
 /// Reads `BmpWidth` and `BmpHeight` from the header of the file at `PicturePath`, signed.
-void ReadBmpSize(Workplace& place);
+void ReadBmpSize(LoadedPhoto& photo);
 
 /// Reads and shows the photo at `PicturePath`. Throws as ReadPhoto, and nothing has changed then.
 PhotoLoad LoadNewPicture(Workplace& place);
@@ -46,9 +53,10 @@ PhotoLoad LoadNewPicture(Workplace& place);
 /// Sets `PictureFile`, `PicturesFolder`, `PicturePath` and `PictureName` for a photo of the
 /// Pictures folder. False, with nothing but `PictureFile` and `PicturesFolder` set, without a "."
 /// in its name.
-[[nodiscard]] bool ChoosePhoto(Workplace& place, std::string_view fileName);
+[[nodiscard]] bool ChoosePhoto(LoadedPhoto& photo, const ProgramFolder& folder,
+                               std::string_view fileName);
 
 /// The photo as imported is on the work picture again, whatever was drawn there.
-void RefreshPhotoImage(Workplace& place);
+void RefreshPhotoImage(Surfaces& frames, Ui& screen);
 
 }  // namespace vendrel

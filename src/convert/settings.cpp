@@ -20,9 +20,8 @@ void SetStippleSize(Workplace& place, int size) {
     }
 }
 
-void ResizePixelMap(Workplace& place) {
-    Grid<MapPixel>& map = place.State.PixelMap;
-    const Surface& picture = place.Frames.WorkFrame.Picture;
+void ResizePixelMap(PaintedPixels& pixels, const Surface& picture) {
+    Grid<MapPixel>& map = pixels.PixelMap;
     if (map.Holds(picture.Width(), picture.Height()) && map.Across() == picture.Width() &&
         map.Down() == picture.Height()) {
         std::ranges::fill(map.All(), MapPixel{});

@@ -8,7 +8,7 @@ namespace vendrel {
 /// it. Throws as LoadNewPicture does; the old size and photo stay then.
 void SetStippleSize(Workplace& place, int size);
 
-/// Empties `PixelMap` and fits it to the work picture: 0..width, 0..height in pixels.
-void ResizePixelMap(Workplace& place);
+/// Empties `PixelMap` and fits it to a picture: 0..width, 0..height in pixels.
+void ResizePixelMap(PaintedPixels& pixels, const Surface& picture);
 
 }  // namespace vendrel

@@ -11,6 +11,7 @@
 #include "paints/reduction.h"
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
+#include "shell/found_palette.h"
 #include "shell/menu.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
@@ -22,15 +23,19 @@ namespace {
 /// Turns photo colours into found colours.
 class FoundPaints {
   public:
-    explicit FoundPaints(Workplace& place)
-        : place_(place), table_(place.State.PaintColors), foundAs_(place.State.PaintCount) {}
+    FoundPaints(const Palette& palette, FoundPalette& foundPalette, Ui& screen)
+        : palette_(palette),
+          found_(foundPalette),
+          screen_(screen),
+          table_(palette.PaintColors),
+          foundAs_(palette.PaintCount) {}
 
     /// Index into FoundColors of the paint nearest to `color`, added there when it is new.
     int Match(const Channels& color) {
         const int paint = table_.Find(color);
         int& found = foundAs_[paint];
         if (found == 0) {
-            found = Find(place_.State.PaintColors[paint]);
+            found = Find(palette_.PaintColors[paint]);
         }
         return found;
     }
@@ -38,22 +43,22 @@ class FoundPaints {
   private:
     // Paints of different sets that look the same are one found colour.
     int Find(const PaintColor& paint) {
-        WorkState& state = place_.State;
-        for (int k = 1; k <= state.FoundCount; ++k) {
-            if (ColorOf(state.FoundColors[k]) == ColorOf(paint)) {
+        for (int k = 1; k <= found_.FoundCount; ++k) {
+            if (ColorOf(found_.FoundColors[k]) == ColorOf(paint)) {
                 return k;
             }
         }
-        AddFoundColor(state, paint);
-        state.FoundColors.Last().CellCount = 0;
-        const std::string count = std::to_string(state.FoundCount);
-        place_.Screen.SetCaption(state.FoundCount == 1
-                                     ? "Found " + count + " so far."
-                                     : "Matching Paint Sets to " + count + " Colors");
-        return state.FoundCount;
+        AddFoundColor(found_, paint);
+        found_.FoundColors.Last().CellCount = 0;
+        const std::string count = std::to_string(found_.FoundCount);
+        screen_.SetCaption(found_.FoundCount == 1 ? "Found " + count + " so far."
+                                                  : "Matching Paint Sets to " + count + " Colors");
+        return found_.FoundCount;
     }
 
-    Workplace& place_;
+    const Palette& palette_;
+    FoundPalette& found_;
+    Ui& screen_;
     NearestPaintTable table_;
     OneBased<int> foundAs_;  // per paint of the palette, 0 while it is not found
 };
@@ -66,15 +71,14 @@ void SizeGrid(Workplace& place) {
                                      state.PictureHeight / twips.Y / state.StippleSize));
 }
 
-void FillBlock(Workplace& place, const StippleCell& cell) {
-    const int half = place.State.HalfStipple;
-    place.Frames.WorkFrame.Picture.FillRect(cell.X - half, cell.Y - half, cell.X + half,
-                                            cell.Y + half, kBlack);
+void FillBlock(Surface& picture, const StippleCell& cell, int half) {
+    picture.FillRect(cell.X - half, cell.Y - half, cell.X + half, cell.Y + half, kBlack);
 }
 
 void ConvertRow(Workplace& place, FoundPaints& found, int j) {
     WorkState& state = place.State;
-    const Surface& photo = place.Frames.WorkFrame.Picture;
+    const Easel easel = EaselOf(place);
+    const Surface& photo = easel.Picture;
     const bool sampling = state.Chosen.Sample == Sampling::Pixel;
     const bool watched = place.Screen.Watched();
     const int size = state.StippleSize;
@@ -88,44 +92,31 @@ void ConvertRow(Workplace& place, FoundPaints& found, int j) {
         cell.ColorIndex = found.Match(color);
         cell.X = left + half;
         cell.Y = top + half;
-        FillBlock(place, cell);
+        FillBlock(easel.Picture, cell, half);
         if (watched) {
-            DrawTempStipple(place, cell.X, cell.Y, cell.ColorIndex);
+            DrawTempStipple(easel, state, cell.X, cell.Y, cell.ColorIndex);
         }
     }
 }
 
-void EndRow(Workplace& place, int row) {
-    place.Screen.Yield();
-    place.Screen.RefreshWorkFrame();
-    place.Screen.ReportProgress(row, place.State.CellsDown);
+void EndRow(Ui& screen, int row, int rows) {
+    screen.Yield();
+    screen.RefreshWorkFrame();
+    screen.ReportProgress(row, rows);
 }
 
 void CheckPaints(Workplace& place) {
-    if (place.State.FinalColors < 1 && !place.State.KeepAllColors) {
+    if (place.State->FinalColors < 1 && !place.State->KeepAllColors) {
         throw Error("No number of final paints is chosen: choose Final Paints.");
     }
-    if (place.State.PaintCount == 0) {
+    if (place.State->PaintCount == 0) {
         RestorePaintColors(place);
     }
-    if (place.State.PaintCount == 0) {
+    if (place.State->PaintCount == 0) {
         throw Error(
             "There are no paints to paint with. Choose paint sets or a template in the Paint "
             "Shop.");
     }
-}
-
-int Convert(Workplace& place) {
-    CheckPaints(place);
-    RefreshPhotoImage(place);
-    const BusyPointer busy(place.Screen);
-    place.State.WorkStage = 1;
-    place.State.StipplesMade = false;
-    const int matched = ApplyStipples(place);
-    DrawStipplePicture(place);
-    SetupMenuItems(place.MainMenu, 3);
-    place.MainMenu[MenuId::NextBestColors].Enabled = true;
-    return matched;
 }
 
 }  // namespace
@@ -135,44 +126,57 @@ int ApplyStipples(Workplace& place) {
     CheckPaints(place);
     place.Screen.SetCaption("Getting Colors");
     SizeGrid(place);
-    FoundPaints found(place);
+    FoundPaints found(state, state, place.Screen);
     for (int j = 1; j <= state.CellsDown; ++j) {
         ConvertRow(place, found, j);
-        EndRow(place, j);
+        EndRow(place.Screen, j, state.CellsDown);
     }
     state.StipplesMade = true;
     const int matched = state.FoundCount;
     SetPalette(state, std::move(state.FoundColors));
     SetFoundColors(state, {});
     if (!state.KeepAllColors) {
-        ReduceColors(place, state.FinalColors);
+        ReduceColors(state, state, place.Screen, state.FinalColors);
     }
     return matched;
 }
 
 void DrawStipplePicture(Workplace& place) {
-    const WorkState& state = place.State;
+    const StippleGrid& grid = place.State;
+    const Easel easel = EaselOf(place);
     const BusyPointer busy(place.Screen);
     place.Screen.SetCaption("Redrawing Stipples");
     place.Screen.RefreshWorkFrame();
-    for (int j = 1; j <= state.CellsDown; ++j) {
-        for (int i = 1; i <= state.CellsAcross; ++i) {
-            const StippleCell& cell = state.Stipples(i, j);
-            DrawOneStipple(place, cell.X, cell.Y, cell.ColorIndex);
+    for (int j = 1; j <= grid.CellsDown; ++j) {
+        for (int i = 1; i <= grid.CellsAcross; ++i) {
+            const StippleCell& cell = grid.Stipples(i, j);
+            DrawOneStipple(easel, cell.X, cell.Y, cell.ColorIndex);
         }
-        EndRow(place, j);
+        EndRow(place.Screen, j, grid.CellsDown);
     }
     place.Screen.ReportProgress(0, 0);
-    place.Screen.SetCaption("Vendrel -" + state.PictureName);
-    place.Frames.StippleFrame.Picture = place.Frames.WorkFrame.Picture;
+    place.Screen.SetCaption("Vendrel -" + place.State->PictureName);
+    place.Frames->StippleFrame.Picture = easel.Picture;
 }
 
 int ChangeToStipples_Click(Workplace& place) {
-    return Convert(place);
+    CheckPaints(place);
+    if (place.State->ShapedByGrid) {
+        (void)LoadNewPicture(place);  // what is converted afresh has the photo's own shape
+    }
+    RefreshPhotoImage(place.Frames, place.Screen);
+    const BusyPointer busy(place.Screen);
+    place.State->WorkStage = 1;
+    place.State->StipplesMade = false;
+    const int matched = ApplyStipples(place);
+    DrawStipplePicture(place);
+    SetupMenuItems(place.MainMenu, 3);
+    place.MainMenu[MenuId::NextBestColors].Enabled = true;
+    return matched;
 }
 
 int AutoChangeToStipples(Workplace& place) {
-    return Convert(place);
+    return ChangeToStipples_Click(place);
 }
 
 }  // namespace vendrel

@@ -16,8 +16,7 @@ AboutDialog::AboutDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent) {
     const About about;
     setWindowTitle(tr("About"));
-    auto* title = Named<QLabel>("Title", tr("Title"));
-    title->setText(Text(about.Title()));
+    auto* title = new QLabel(Text(about.Title()));
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 2);
     title->setFont(large);

@@ -21,7 +21,7 @@ ColorChartDialog::ColorChartDialog(const ViewContext& context, QWidget* parent)
       form_(context.Place, context.Form.Exports()),
       order_(Named<QComboBox>("ChartOrder", tr("Order of the paints"))),
       table_(Named<QTableWidget>("ChartTable", tr("Paints of the kit"))),
-      saved_(Named<QLabel>("ChartSaved", tr("Saved file"))) {
+      saved_(new ValueLabel("ChartSaved", tr("Saved file"))) {
     setWindowTitle(tr("Color Chart"));
     order_->addItems({tr("By symbol"), tr("By share"), tr("By paint set")});
     connect(order_, &QComboBox::activated, this, [this](int index) {
@@ -85,8 +85,8 @@ void ColorChartDialog::Mirror() {
     for (const ChartRow& row : form_.Rows()) {
         FillRow(line++, row);
     }
-    saved_->setText(form_.SavedFile().empty() ? QString()
-                                              : tr("Saved %1").arg(Text(form_.SavedFile())));
+    saved_->Show(form_.SavedFile().empty() ? QString()
+                                           : tr("Saved %1").arg(Text(form_.SavedFile())));
 }
 
 }  // namespace vendrel

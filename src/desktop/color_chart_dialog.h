@@ -5,6 +5,7 @@
 #include <QTableWidget>
 
 #include "desktop/form_dialog.h"
+#include "desktop/value_label.h"
 #include "forms/color_chart.h"
 
 namespace vendrel {
@@ -28,7 +29,7 @@ class ColorChartDialog : public FormDialog {
     ColorChartForm form_;
     QComboBox* order_;
     QTableWidget* table_;
-    QLabel* saved_;
+    ValueLabel* saved_;
 };
 
 }  // namespace vendrel

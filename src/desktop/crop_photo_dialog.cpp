@@ -13,7 +13,7 @@ CropPhotoDialog::CropPhotoDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       form_(context.Form.Chooser().Crop()),
       view_(new CropView(form_)),
-      description_(Named<QLabel>("Description", tr("About the crop"))),
+      description_(new ValueLabel("Description", tr("About the crop"))),
       turnLeft_(Named<QPushButton>("TurnLeft", tr("Turn left"))),
       turnRight_(Named<QPushButton>("TurnRight", tr("Turn right"))),
       okButton_(Named<QPushButton>("OKButton", tr("OK"))),
@@ -77,7 +77,7 @@ void CropPhotoDialog::Connect() {
 
 void CropPhotoDialog::Mirror() {
     view_->Follow();
-    description_->setText(Text(form_.Controls().Description));
+    description_->Show(Text(form_.Controls().Description));
 }
 
 }  // namespace vendrel

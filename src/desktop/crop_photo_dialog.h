@@ -5,6 +5,7 @@
 
 #include "desktop/crop_view.h"
 #include "desktop/form_dialog.h"
+#include "desktop/value_label.h"
 #include "forms/crop_photo.h"
 
 namespace vendrel {
@@ -28,7 +29,7 @@ class CropPhotoDialog : public FormDialog {
 
     CropPhoto& form_;
     CropView* view_;
-    QLabel* description_;
+    ValueLabel* description_;
     QPushButton* turnLeft_;
     QPushButton* turnRight_;
     QPushButton* okButton_;

@@ -1,11 +1,24 @@
 #include "desktop/desktop.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QIcon>
+#include <QStandardPaths>
 #include <utility>
 
 #include "desktop/end_signals.h"
 
+// A macro that has to stand outside of every namespace.
+static void TakeUpPictures() {
+    Q_INIT_RESOURCE(pictures);
+}
+
 namespace vendrel {
+
+QIcon ProgramIcon() {
+    TakeUpPictures();
+    return QIcon(QStringLiteral(":/vendrel.png"));
+}
 
 Desktop::Desktop(ProgramFolder folder, const PhotoDecoder* decoder)
     : folder_(std::move(folder)), form_(place_, &exporter_, decoder) {}
@@ -22,10 +35,16 @@ std::optional<int> Desktop::Start() {
     }
 }
 
+std::filesystem::path DocumentsFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return std::filesystem::path(QFile::encodeName(documents).toStdString()) / "Vendrel";
+}
+
 int RunDesktop(int& argc, char** argv, const ProgramFolder& folder, const PhotoDecoder& decoder) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vendrel"));
     QApplication::setDesktopFileName(QStringLiteral("vendrel"));
+    QApplication::setWindowIcon(ProgramIcon());
     // A message that is answered before the window opens is not the end.
     QApplication::setQuitOnLastWindowClosed(false);
     Desktop desktop(folder, &decoder);

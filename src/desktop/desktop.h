@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QIcon>
+#include <filesystem>
 #include <optional>
 
 #include "convert/photo_decoder.h"
@@ -32,6 +34,12 @@ class Desktop {
     MainForm form_;
     MainWindow window_{place_, form_, ui_};
 };
+
+/// The program's own, as windows and task bars show it.
+[[nodiscard]] QIcon ProgramIcon();
+
+/// The folder Vendrel among the user's documents, there or not.
+[[nodiscard]] std::filesystem::path DocumentsFolder();
 
 /// Runs the window until it is closed; gives the exit status. argc and argv as main has them.
 [[nodiscard]] int RunDesktop(int& argc, char** argv, const ProgramFolder& folder,

@@ -36,7 +36,7 @@ FileImportDialog::FileImportDialog(const ViewContext& context, QWidget* parent)
       importDir_(Named<QListWidget>("ImportDir", tr("Folders"))),
       importFile_(Named<QListWidget>("ImportFile", tr("Photos"))),
       preview_(Named<QLabel>("Preview", tr("Preview of the photo"))),
-      description_(Named<QLabel>("Description", tr("About the photo"))),
+      description_(new ValueLabel("Description", tr("About the photo"))),
       cropButton_(Named<QPushButton>("CropButton", tr("Crop to Fit"))),
       okButton_(Named<QPushButton>("OKButton", tr("OK"))),
       cancelButton_(Named<QPushButton>("CancelButton", tr("Cancel"))) {
@@ -129,7 +129,7 @@ void FileImportDialog::Mirror() {
 
 void FileImportDialog::ShowPreview() {
     const FileImportControls& shown = form_.Controls();
-    description_->setText(Text(shown.Description));
+    description_->Show(Text(shown.Description));
     cropButton_->setEnabled(shown.CropEnabled);
     if (shown.Preview.Empty()) {
         preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));

@@ -5,6 +5,7 @@
 #include <QListWidget>
 
 #include "desktop/form_dialog.h"
+#include "desktop/value_label.h"
 #include "forms/file_import.h"
 
 namespace vendrel {
@@ -35,7 +36,7 @@ class FileImportDialog : public FormDialog {
     QListWidget* importDir_;
     QListWidget* importFile_;
     QLabel* preview_;
-    QLabel* description_;
+    ValueLabel* description_;
     QPushButton* cropButton_;
     QPushButton* okButton_;
     QPushButton* cancelButton_;

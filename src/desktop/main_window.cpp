@@ -5,13 +5,12 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFile>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSessionManager>
 #include <QShortcut>
-#include <QStatusBar>
-#include <QStyle>
 #include <QWindow>
 #include <memory>
 
@@ -23,7 +22,7 @@
 namespace vendrel {
 namespace {
 
-constexpr QSize kFirstSize(900, 620);
+constexpr QSize kFirstSize(1000, 800);
 // Title bar and borders as window managers draw them; known exactly only once shown.
 constexpr QSize kWindowFrame(16, 48);
 
@@ -34,13 +33,13 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
       form_(form),
       ui_(ui),
       edge_(this),
-      actions_(new MenuActions(place.MainMenu, place.State.Chosen, *menuBar())),
+      actions_(new MenuActions(place.MainMenu, place.State->Chosen, *menuBar())),
       pages_(new QStackedWidget),
-      workPage_(new QScrollArea),
-      workFrame_(new PictureView(place.Frames.WorkFrame.Picture, PictureFit::Pixels)),
-      captureFrame_(new PictureView(place.Frames.CaptureFrame.Picture, PictureFit::Window)),
+      workFrame_(new ZoomView(place.Frames->WorkFrame.Picture)),
+      captureFrame_(new ZoomView(place.Frames->CaptureFrame.Picture)),
       emptyPage_(new QWidget),
-      hint_(new QLabel),
+      zoom_(MakeZoom()),
+      hint_(new ValueLabel("StatusHint", tr("Status"))),
       progress_(new QProgressBar) {
     setObjectName(QStringLiteral("Main"));
     setAcceptDrops(true);
@@ -50,7 +49,7 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
     connect(new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, this,
             [this] { TakeIn(*QGuiApplication::clipboard()->mimeData()); });
     connect(actions_, &MenuActions::Chosen, this, &MainWindow::Choose);
-    connect(workFrame_, &PictureView::Clicked, this, [this] { ui_.EndShow(); });
+    connect(workFrame_, &ZoomView::Clicked, this, [this] { ui_.EndShow(); });
     connect(&edge_, &Edge::Started, this, [this] { ui_.StartWork(); });
     connect(&edge_, &Edge::Finished, this, [this] {
         if (!edge_.Busy()) {
@@ -63,31 +62,48 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
             Qt::DirectConnection);
 }
 
+// How a picture is looked at is no step of the kit, so the View menu is the window's own.
+ZoomControls* MainWindow::MakeZoom() {
+    auto* menu = new QMenu(tr("&View"), this);
+    menuBar()->insertMenu(actions_->ActionOf(MenuId::ShowAbout), menu);
+    return new ZoomControls(*menu);
+}
+
 void MainWindow::Arrange() {
     workFrame_->setObjectName(QStringLiteral("WorkFrame"));
     workFrame_->setAccessibleName(tr("Work picture"));
     captureFrame_->setObjectName(QStringLiteral("CaptureFrame"));
     captureFrame_->setAccessibleName(tr("Sample picture"));
-    workPage_->setWidget(workFrame_);
-    workPage_->setAlignment(Qt::AlignCenter);
-    workPage_->setFrameShape(QFrame::NoFrame);
+    emptyPage_->setBackgroundRole(QPalette::Mid);
+    emptyPage_->setAutoFillBackground(true);
     for (QWidget* page :
-         {static_cast<QWidget*>(workPage_), static_cast<QWidget*>(captureFrame_), emptyPage_}) {
-        page->setBackgroundRole(QPalette::Mid);
-        page->setAutoFillBackground(true);
+         {static_cast<QWidget*>(workFrame_), static_cast<QWidget*>(captureFrame_), emptyPage_}) {
         pages_->addWidget(page);
     }
-    setCentralWidget(pages_);
-    hint_->setObjectName(QStringLiteral("StatusHint"));
+    hint_->WrapWhole();
     progress_->setObjectName(QStringLiteral("Progress"));
     progress_->setAccessibleName(tr("Progress"));
     progress_->setFixedWidth(120);
     progress_->setTextVisible(false);
     progress_->hide();
-    // Permanent, as pointing at menus would wipe an ordinary message.
-    statusBar()->addPermanentWidget(hint_, 1);
-    statusBar()->addPermanentWidget(progress_);
+    setCentralWidget(MakeMiddle());
     resize(kFirstSize.boundedTo(screen()->availableSize() - kWindowFrame));
+}
+
+// No QStatusBar: it gives a sentence one line, and pointing at menus wipes it.
+QWidget* MainWindow::MakeMiddle() {
+    auto* status = new QHBoxLayout;
+    status->setContentsMargins(6, 2, 6, 2);
+    status->addWidget(hint_, 1);
+    status->addWidget(progress_);
+    status->addWidget(zoom_);
+    auto* middle = new QWidget;
+    auto* rows = new QVBoxLayout(middle);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(pages_, 1);
+    rows->addLayout(status);
+    return middle;
 }
 
 void MainWindow::Choose(MenuId entry) {
@@ -103,9 +119,11 @@ void MainWindow::Choose(MenuId entry) {
 void MainWindow::OpenForm(FormId form) {
     const QWidget* below = QApplication::activeModalWidget();
     std::unique_ptr<FormDialog>& dialog = dialogs_[form];
+    const QSize before = dialog ? dialog->size() : QSize();
     dialog = MakeDialog(form, {place_, form_, edge_}, this);
     if (dialog) {
-        dialog->resize(dialog->size().boundedTo(screen()->availableSize() - kWindowFrame));
+        const QSize wanted = before.isValid() ? before : dialog->size();
+        dialog->resize(wanted.boundedTo(screen()->availableSize() - kWindowFrame));
         if (below != nullptr) {
             // Over the dialog it was opened from, which waits for it.
             dialog->winId();
@@ -138,7 +156,7 @@ void MainWindow::Mirror() {
 
 // A star marks stipples that are in no file yet.
 void MainWindow::MirrorTitle() {
-    const bool unsaved = place_.State.HasUnsavedWork;
+    const bool unsaved = place_.State->HasUnsavedWork;
     QString title = ui_.Display().Caption;
     title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));  // a photo's name may hold it
     setWindowTitle(unsaved ? title + QStringLiteral("[*]") : title);
@@ -147,51 +165,24 @@ void MainWindow::MirrorTitle() {
 
 void MainWindow::MirrorPictures() {
     const Surfaces& frames = place_.Frames;
-    QWidget* page = emptyPage_;
-    if (frames.WorkFrame.Visible) {
-        page = workPage_;
-        workFrame_->Refresh();
-        workFrame_->resize(workFrame_->sizeHint());
-        FitToPicture();
-    } else if (frames.CaptureFrame.Visible) {
-        page = captureFrame_;
-        captureFrame_->Refresh();
+    ZoomView* const view = frames.WorkFrame.Visible      ? workFrame_
+                           : frames.CaptureFrame.Visible ? captureFrame_
+                                                         : nullptr;
+    if (view != nullptr) {
+        view->Refresh();
     }
-    pages_->setCurrentWidget(page);
+    zoom_->Follow(view);
+    pages_->setCurrentWidget(view != nullptr ? view : emptyPage_);
 }
 
 void MainWindow::MirrorStatus() {
     const WorkDisplay& display = ui_.Display();
-    hint_->setText(display.ShowRuns ? tr("Escape or a click on the picture ends the show.")
-                                    : Text(form_.StatusHint()));
+    hint_->Show(display.ShowRuns ? tr("Escape or a click on the picture ends the show.")
+                                 : Text(form_.StatusHint()));
     progress_->setVisible(display.Total > 0);
     if (display.Total > 0) {
         progress_->setRange(0, display.Total);
         progress_->setValue(display.Done);
-    }
-}
-
-// The window follows the picture's size, as far as the screen allows.
-void MainWindow::FitToPicture() {
-    const QSize picture = workFrame_->sizeHint();
-    if (picture == fitted_ || isMaximized() || isFullScreen()) {
-        return;
-    }
-    fitted_ = picture;
-    const QRect available = screen()->availableGeometry();
-    const QSize frame = isVisible() ? (frameGeometry().size() - size()) : kWindowFrame;
-    const QSize bars(0, menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
-    const QSize room = available.size() - frame;
-    // A bar for one direction takes room from the other.
-    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, workPage_);
-    QSize wanted = picture + bars;
-    wanted += QSize(wanted.height() > room.height() ? scrollBar : 0,
-                    wanted.width() > room.width() ? scrollBar : 0);
-    resize(wanted.boundedTo(room).expandedTo(minimumSizeHint()));
-    const QRect outer(pos(), size() + frame);
-    if (isVisible() && !available.contains(outer)) {
-        move(std::max(available.left(), std::min(outer.left(), available.right() - outer.width())),
-             std::max(available.top(), std::min(outer.top(), available.bottom() - outer.height())));
     }
 }
 

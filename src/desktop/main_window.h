@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QMimeData>
 #include <QProgressBar>
-#include <QScrollArea>
 #include <QSessionManager>
 #include <QStackedWidget>
 #include <map>
@@ -12,8 +10,9 @@
 
 #include "desktop/form_dialog.h"
 #include "desktop/menu_actions.h"
-#include "desktop/picture_view.h"
 #include "desktop/qt_ui.h"
+#include "desktop/value_label.h"
+#include "desktop/zoom_controls.h"
 
 namespace vendrel {
 
@@ -42,7 +41,9 @@ class MainWindow : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    [[nodiscard]] ZoomControls* MakeZoom();
     void Arrange();
+    [[nodiscard]] QWidget* MakeMiddle();
     void Choose(MenuId entry);
     void TakeIn(const QMimeData& arriving);
     void OpenForm(FormId form);
@@ -50,7 +51,6 @@ class MainWindow : public QMainWindow {
     void MirrorTitle();
     void MirrorPictures();
     void MirrorStatus();
-    void FitToPicture();
     [[nodiscard]] bool MayEnd();
     void KeepOpenWork();
     void EndSession(QSessionManager& session);
@@ -62,13 +62,12 @@ class MainWindow : public QMainWindow {
     Edge edge_;
     MenuActions* actions_;
     QStackedWidget* pages_;
-    QScrollArea* workPage_;
-    PictureView* workFrame_;
-    PictureView* captureFrame_;
+    ZoomView* workFrame_;
+    ZoomView* captureFrame_;
     QWidget* emptyPage_;
-    QLabel* hint_;
+    ZoomControls* zoom_;
+    ValueLabel* hint_;
     QProgressBar* progress_;
-    QSize fitted_;
     bool ending_ = false;
     std::map<FormId, std::unique_ptr<FormDialog>> dialogs_;
 };

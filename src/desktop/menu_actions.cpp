@@ -116,7 +116,8 @@ QAction* MenuActions::MakeAction(const MenuEntry& entry) {
 void MenuActions::Mirror() {
     for (const MenuEntry& entry : menu_.Entries()) {
         QAction* action = actions_[At(entry.Id)];
-        action->setEnabled(entry.Enabled);
+        // About starts no work, so none has to wait for it.
+        action->setEnabled(entry.Enabled || entry.Id == ShowAbout);
         action->setChecked(action->isCheckable() && IsChecked(settings_, entry.Id));
     }
 }

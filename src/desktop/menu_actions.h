@@ -18,6 +18,9 @@ class MenuActions : public QObject {
 
     /// Takes over what is enabled and checked.
     void Mirror();
+    [[nodiscard]] QAction* ActionOf(MenuId entry) const {
+        return actions_[static_cast<std::size_t>(entry)];
+    }
 
   signals:
     void Chosen(MenuId entry);

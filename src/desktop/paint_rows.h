@@ -13,7 +13,7 @@ class PaintRows : public QTreeWidget {
   public:
     explicit PaintRows(QWidget* parent = nullptr);
 
-    /// Shows the palette (entry 0 is left out) with one paint chosen. Cheap when little changed.
+    /// Shows the palette with one paint chosen. Cheap when little changed.
     void Follow(const OneBased<TouchUpPaint>& palette, int chosen);
 
   signals:

@@ -4,12 +4,10 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QMessageBox>
-#include <QScreen>
 #include <QThread>
 #include <QUrl>
 #include <algorithm>
 
-#include "desktop/picture_view.h"
 #include "desktop/text.h"
 #include "export/qt_image.h"
 #include "support/disk.h"
@@ -118,17 +116,6 @@ bool QtUi::PutOnClipboard(const Surface& picture) {
 
 void QtUi::ShowFolder(const std::filesystem::path& folder) {
     QDesktopServices::openUrl(QUrl::fromLocalFile(Text(FullPath(folder).string())));
-}
-
-ScreenSize QtUi::Screen() const {
-    const QScreen* screen = host_.Window != nullptr ? host_.Window->screen() : nullptr;
-    if (screen == nullptr) {
-        screen = QApplication::primaryScreen();
-    }
-    // A photo pixel is several screen pixels on a high-resolution screen.
-    const qreal ratio = screen->devicePixelRatio();
-    const QSize size = (QSizeF(screen->size()) * ratio / PictureView::Scale(ratio)).toSize();
-    return ScreenSize::FromPixels(size.width(), size.height());
 }
 
 void QtUi::StartWork() {

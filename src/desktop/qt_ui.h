@@ -47,7 +47,7 @@ class QtUi : public Ui {
     void ShowFolder(const std::filesystem::path& folder) override;
     void OpenForm(FormId form) override { host_.OpenForm(form); }
     void CloseForm(FormId form) override { host_.CloseForm(form); }
-    [[nodiscard]] ScreenSize Screen() const override;
+    [[nodiscard]] ScreenSize Screen() const override { return kDrawingBoard; }
 
     /// Work starts: an earlier show's end does not count for it.
     void StartWork();

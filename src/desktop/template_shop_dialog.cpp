@@ -170,7 +170,7 @@ void TemplateShopDialog::MirrorTemplate() {
 void TemplateShopDialog::MirrorCatalogue() {
     std::vector<PaintItem> items;
     for (const int row : form_.Controls().Found) {
-        const PaintColor& paint = Context().Place.State.MasterColors[row];
+        const PaintColor& paint = Context().Place.State->MasterColors[row];
         items.push_back({ColorOf(paint), kNoColor, Text(PaintLabel(paint))});
     }
     MirrorPaints(*foundList_, items,

@@ -54,7 +54,7 @@ void TouchUpCanvas::Follow() {
     }
 }
 
-void TouchUpCanvas::SetLook(const SheetLook& look) {
+void TouchUpCanvas::SetLook(const EditorLook& look) {
     look_ = look;
     viewport()->update();
 }
@@ -74,11 +74,19 @@ void TouchUpCanvas::Fit() {
 }
 
 void TouchUpCanvas::ZoomIn() {
-    ZoomTo(EdgeAbove(place_.Edge), pointer_ ? MiddleOf(*pointer_) : viewport()->rect().center());
+    ZoomTo(EdgeAbove(place_.Edge), ZoomSpot());
 }
 
 void TouchUpCanvas::ZoomOut() {
-    ZoomTo(EdgeBelow(place_.Edge), pointer_ ? MiddleOf(*pointer_) : viewport()->rect().center());
+    ZoomTo(EdgeBelow(place_.Edge), ZoomSpot());
+}
+
+// Where the painter looks: at the stipple stepped to, until the mouse moves again.
+QPointF TouchUpCanvas::ZoomSpot() const {
+    if (cursorLeads_) {
+        return MiddleOf(cursor_);
+    }
+    return pointer_ ? MiddleOf(*pointer_) : QPointF(viewport()->rect().center());
 }
 
 void TouchUpCanvas::ZoomTo(double edge, QPointF around) {
@@ -130,6 +138,7 @@ void TouchUpCanvas::GoTo(CellPos at) {
     viewport()->update(CursorRect());
     cursor_ = at;
     cursorShown_ = true;
+    cursorLeads_ = true;
     // With a margin, so that what surrounds a stipple shows too.
     const QRect around = CursorRect().adjusted(-60, -60, 60, 60);
     const QRect room = viewport()->rect();
@@ -179,6 +188,11 @@ void TouchUpCanvas::PanBy(QPoint way) {
     verticalScrollBar()->setValue(verticalScrollBar()->value() - way.y());
 }
 
+void TouchUpCanvas::HoldSpace(bool held) {
+    spaceHeld_ = held;
+    ShowPanPointer();
+}
+
 void TouchUpCanvas::ShowPanPointer() {
     viewport()->setCursor(drag_ == Drag::Pan ? Qt::ClosedHandCursor
                           : spaceHeld_       ? Qt::OpenHandCursor
@@ -207,6 +221,11 @@ void TouchUpCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void TouchUpCanvas::mouseMoveEvent(QMouseEvent* event) {
+    // Scrolling moves the picture under a mouse that lies still.
+    if (event->globalPosition() != mouseAt_) {
+        mouseAt_ = event->globalPosition();
+        cursorLeads_ = false;
+    }
     if (drag_ == Drag::Pan) {
         const QPoint now = event->position().toPoint();
         PanBy(now - panFrom_);
@@ -262,28 +281,9 @@ void TouchUpCanvas::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_I:
             emit Picked(cursor_);
             return;
-        case Qt::Key_Space:
-            spaceHeld_ = true;
-            ShowPanPointer();
-            return;
         default:
             event->ignore();
     }
-}
-
-void TouchUpCanvas::keyReleaseEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
-        spaceHeld_ = false;
-        ShowPanPointer();
-    } else {
-        event->ignore();
-    }
-}
-
-void TouchUpCanvas::focusOutEvent(QFocusEvent* event) {
-    spaceHeld_ = false;
-    ShowPanPointer();
-    QAbstractScrollArea::focusOutEvent(event);
 }
 
 bool TouchUpCanvas::viewportEvent(QEvent* event) {

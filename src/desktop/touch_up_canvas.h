@@ -25,6 +25,8 @@ class TouchUpCanvas : public QAbstractScrollArea {
     void Blink(bool on);
     /// Puts the keyboard's stipple there and brings it into view.
     void GoTo(CellPos at);
+    /// While Space is down, the mouse drags the picture.
+    void HoldSpace(bool held);
 
     void ZoomIn();
     void ZoomOut();
@@ -33,8 +35,8 @@ class TouchUpCanvas : public QAbstractScrollArea {
     /// The middle of a stipple, in the viewport's pixels.
     [[nodiscard]] QPoint MiddleOf(CellPos cell) const { return place_.RectOf(cell).center(); }
 
-    [[nodiscard]] const SheetLook& Look() const { return look_; }
-    void SetLook(const SheetLook& look);
+    [[nodiscard]] const EditorLook& Look() const { return look_; }
+    void SetLook(const EditorLook& look);
 
   signals:
     void Pressed(CellPos at);
@@ -54,8 +56,6 @@ class TouchUpCanvas : public QAbstractScrollArea {
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
   private:
@@ -63,6 +63,7 @@ class TouchUpCanvas : public QAbstractScrollArea {
 
     [[nodiscard]] double FitEdge() const;
     void ZoomTo(double edge, QPointF around);
+    [[nodiscard]] QPointF ZoomSpot() const;
     void Place();
     void PointTo(std::optional<CellPos> at);
     void MoveCursor(int dx, int dy);
@@ -77,7 +78,7 @@ class TouchUpCanvas : public QAbstractScrollArea {
     TouchUpForm& form_;
     SheetPainter sheet_;
     SheetPlace place_;
-    SheetLook look_;
+    EditorLook look_;
     bool fits_ = true;  // zoomed to be seen whole, at any size of the window
     bool blinkOn_ = false;
     std::vector<CellPos> marked_;
@@ -88,6 +89,8 @@ class TouchUpCanvas : public QAbstractScrollArea {
     std::optional<CellPos> pointer_;
     CellPos cursor_{1, 1};  // where the keyboard stands
     bool cursorShown_ = false;
+    bool cursorLeads_ = false;  // it moved later than the mouse
+    QPointF mouseAt_;           // on the screen
 };
 
 }  // namespace vendrel

@@ -71,17 +71,17 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       zoomIn_(Button("ZoomIn", QStringLiteral("+"), tr("Zoom in (+)"))),
       zoomOut_(Button("ZoomOut", QStringLiteral("\u2212"), tr("Zoom out (\u2212)"))),
       fit_(Button("Fit", tr("Fit"), tr("Show the whole picture (0)"))),
-      zoom_(Named<QLabel>("Zoom", tr("Zoom"))),
+      zoom_(new ValueLabel("Zoom", tr("Zoom"))),
       palette_(new PaintRows),
       tidy_(Named<QPushButton>("TidyPaints", tr("Tidy paints"))),
       blinkLoners_(Named<QCheckBox>("BlinkLoners", tr("Blink loners"))),
       blinkPaint_(Named<QCheckBox>("BlinkPaint", tr("Blink the chosen paint"))),
       nextLoner_(Named<QPushButton>("NextLoner", tr("Next loner"))),
-      loners_(Named<QLabel>("Loners", tr("Loners"))),
+      loners_(new ValueLabel("Loners", tr("Loners"))),
       lowerLevel_(Button("LowerLevel", QStringLiteral("\u2212"), tr("Lower the clean-up level"))),
       raiseLevel_(Button("RaiseLevel", QStringLiteral("+"), tr("Raise the clean-up level"))),
-      cleanLevel_(Named<QLabel>("CleanLevel", tr("Clean-up level"))),
-      cleanPreview_(Named<QLabel>("CleanPreview", tr("What a clean-up would do"))),
+      cleanLevel_(new ValueLabel("CleanLevel", tr("Clean-up level"))),
+      cleanPreview_(new ValueLabel("CleanPreview", tr("What a clean-up would do"))),
       cleanUp_(Named<QPushButton>("CleanUp", tr("Clean up"))),
       gridLines_(Named<QCheckBox>("GridLines", tr("Grid lines"))),
       symbols_(Named<QCheckBox>("Symbols", tr("Symbols"))),
@@ -91,8 +91,8 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       save_(Named<QPushButton>("SaveIt", tr("Save"))),
       accept_(Named<QPushButton>("Accept", tr("Accept"))),
       cancel_(Named<QPushButton>("Cancel", tr("Cancel"))),
-      pointed_(Named<QLabel>("Pointed", tr("The stipple pointed at"))),
-      status_(Named<QLabel>("Status", tr("Status"))),
+      pointed_(new ValueLabel("Pointed", tr("The stipple pointed at"))),
+      status_(new ValueLabel("Status", tr("Status"))),
       kept_(new KeptWorkDialog(this)) {
     setWindowTitle(tr("Touch Up[*]"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -229,10 +229,9 @@ QLayout* TouchUpDialog::MakeButtons() {
     accept_->setToolTip(tr("Take the touched-up stipples into the kit and close"));
     cancel_->setText(tr("Cancel"));
     auto* row = new QHBoxLayout;
-    for (QLabel* label : {pointed_, status_}) {
-        label->setTextFormat(Qt::PlainText);
-        // A long text is cut off rather than widening the window.
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // A long text takes more lines rather than widening the window.
+    for (ValueLabel* label : {pointed_, status_, loners_, cleanPreview_}) {
+        label->WrapWhole();
     }
     row->addWidget(pointed_, 3);
     row->addWidget(status_, 2);
@@ -300,7 +299,7 @@ void TouchUpDialog::Connect() {
     connect(photo_, &QSlider::valueChanged, this, &TouchUpDialog::ChooseLook);
     connect(palette_, &PaintRows::Chosen, this,
             [this](int paint) { RunOpen([this, paint] { form_.PaintList_Click(paint); }); });
-    palette_->installEventFilter(this);
+    qApp->installEventFilter(this);
 }
 
 void TouchUpDialog::ConnectCanvas() {
@@ -323,8 +322,8 @@ void TouchUpDialog::ConnectCanvas() {
     connect(canvas_, &TouchUpCanvas::Pointed, this, &TouchUpDialog::PointedAt);
     connect(canvas_, &TouchUpCanvas::Zoomed, this, [this] {
         const double edge = canvas_->Edge();
-        zoom_->setText(edge == static_cast<int>(edge) ? tr("%1 pixels").arg(static_cast<int>(edge))
-                                                      : tr("%1 pixels").arg(edge, 0, 'f', 1));
+        zoom_->Show(edge == static_cast<int>(edge) ? tr("%1 pixels").arg(static_cast<int>(edge))
+                                                   : tr("%1 pixels").arg(edge, 0, 'f', 1));
     });
 }
 
@@ -374,7 +373,8 @@ void TouchUpDialog::AddShortcuts() {
 
 void TouchUpDialog::Load() {
     form_.Form_Load();
-    canvas_->Start(Context().Place.Frames.CaptureFrame.Picture, Context().Place.State.StippleSize);
+    canvas_->Start(Context().Place.Frames->CaptureFrame.Picture,
+                   Context().Place.State->StippleSize);
     Mirror();
     recovery_.start();
     form_.OfferRecovery();
@@ -397,9 +397,9 @@ void TouchUpDialog::Mirror() {
     MirrorTools();
     MirrorStatus();
     const TouchUpControls& shown = form_.Controls();
-    loners_->setText(Text(shown.Loners));
-    cleanLevel_->setText(tr("Level %1").arg(shown.CleanLevel));
-    cleanPreview_->setText(Text(shown.CleanPreview));
+    loners_->Show(Text(shown.Loners));
+    cleanLevel_->Show(tr("Level %1").arg(shown.CleanLevel));
+    cleanPreview_->Show(Text(shown.CleanPreview));
     lowerLevel_->setEnabled(shown.LowerEnabled);
     raiseLevel_->setEnabled(shown.RaiseEnabled);
     cleanUp_->setEnabled(shown.CleanEnabled);
@@ -437,9 +437,8 @@ void TouchUpDialog::MirrorTools() {
 }
 
 void TouchUpDialog::MirrorStatus() {
-    pointed_->setText(Text(form_.Describe(pointedAt_)));
-    status_->setText(Text(form_.Controls().Status));
-    status_->setToolTip(status_->text());
+    pointed_->Show(Text(form_.Describe(pointedAt_)));
+    status_->Show(Text(form_.Controls().Status));
 }
 
 void TouchUpDialog::PointedAt(CellPos at) {
@@ -465,7 +464,7 @@ void TouchUpDialog::ChooseLook() {
 }
 
 void TouchUpDialog::ShowPhoto(bool only) {
-    SheetLook look = canvas_->Look();
+    EditorLook look = canvas_->Look();
     if (look.PhotoOnly != only) {
         look.PhotoOnly = only;
         canvas_->SetLook(look);
@@ -492,18 +491,28 @@ void TouchUpDialog::keyReleaseEvent(QKeyEvent* event) {
 void TouchUpDialog::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
         ShowPhoto(false);
+        canvas_->HoldSpace(false);
     }
     FormDialog::changeEvent(event);
 }
 
-// The palette would search its rows for the letter.
+// Space drags the picture wherever the keyboard is; a button has it for itself as well.
 bool TouchUpDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == palette_ && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == kPhotoKey) {
-        keyPressEvent(static_cast<QKeyEvent*>(event));
-        return true;
+    const bool pressed = event->type() == QEvent::KeyPress;
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if ((!pressed && event->type() != QEvent::KeyRelease) || widget == nullptr ||
+        widget->window() != this) {
+        return FormDialog::eventFilter(watched, event);
     }
-    return FormDialog::eventFilter(watched, event);
+    auto& key = static_cast<QKeyEvent&>(*event);
+    if (key.key() == Qt::Key_Space && !key.isAutoRepeat()) {
+        canvas_->HoldSpace(pressed);
+    }
+    // The palette would search its rows for them.
+    if (watched == palette_ && pressed && key.key() == kPhotoKey) {
+        keyPressEvent(&key);
+    }
+    return watched == palette_ && (key.key() == kPhotoKey || key.key() == Qt::Key_Space) && pressed;
 }
 
 }  // namespace vendrel

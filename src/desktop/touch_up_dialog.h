@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <QTimer>
@@ -12,6 +11,7 @@
 #include "desktop/kept_work_dialog.h"
 #include "desktop/paint_rows.h"
 #include "desktop/touch_up_canvas.h"
+#include "desktop/value_label.h"
 
 namespace vendrel {
 
@@ -68,17 +68,17 @@ class TouchUpDialog : public FormDialog {
     QToolButton* zoomIn_;
     QToolButton* zoomOut_;
     QToolButton* fit_;
-    QLabel* zoom_;
+    ValueLabel* zoom_;
     PaintRows* palette_;
     QPushButton* tidy_;
     QCheckBox* blinkLoners_;
     QCheckBox* blinkPaint_;
     QPushButton* nextLoner_;
-    QLabel* loners_;
+    ValueLabel* loners_;
     QToolButton* lowerLevel_;
     QToolButton* raiseLevel_;
-    QLabel* cleanLevel_;
-    QLabel* cleanPreview_;
+    ValueLabel* cleanLevel_;
+    ValueLabel* cleanPreview_;
     QPushButton* cleanUp_;
     QCheckBox* gridLines_;
     QCheckBox* symbols_;
@@ -88,8 +88,8 @@ class TouchUpDialog : public FormDialog {
     QPushButton* save_;
     QPushButton* accept_;
     QPushButton* cancel_;
-    QLabel* pointed_;
-    QLabel* status_;
+    ValueLabel* pointed_;
+    ValueLabel* status_;
     KeptWorkDialog* kept_;
     QTimer blink_;
     QTimer recovery_;

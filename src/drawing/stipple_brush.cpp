@@ -7,10 +7,10 @@ namespace vendrel {
 namespace {
 
 // Paints runs of pixels around a centre, cut to columns 1..width-1 and rows 1..height-1.
-void PaintRuns(const Workplace& place, std::span<const BrushRun> runs, CellPos at, int colorIndex,
+void PaintRuns(const Easel& easel, std::span<const BrushRun> runs, CellPos at, int colorIndex,
                Color color, Record record) {
-    Surface& picture = place.Frames.WorkFrame.Picture;
-    Grid<MapPixel>& map = place.State.PixelMap;
+    Surface& picture = easel.Picture;
+    Grid<MapPixel>& map = easel.Pixels.PixelMap;
     assert(record == Record::No ||
            (map.Across() >= picture.Width() - 1 && map.Down() >= picture.Height() - 1));
     for (const BrushRun& run : runs) {
@@ -37,53 +37,53 @@ const PaintColor& PaintAt(const PaintList& paints, int index) {
 
 }  // namespace
 
-void CaptureStipple(const Workplace& place, CellPos at, int colorIndex, Color color,
-                    BrushShape shape, Record record) {
-    place.Screen.Yield();
-    PaintRuns(place, BrushStamp(place.State.StippleSize, shape), at, colorIndex, color, record);
+void CaptureStipple(const Easel& easel, CellPos at, int colorIndex, Color color, BrushShape shape,
+                    Record record) {
+    easel.Screen.Yield();
+    PaintRuns(easel, BrushStamp(easel.Settings.StippleSize, shape), at, colorIndex, color, record);
 }
 
-void DrawOneStipple(const Workplace& place, int px, int py, int colorIndex, Record record,
+void DrawOneStipple(const Easel& easel, int px, int py, int colorIndex, Record record,
                     BrushShape shape) {
-    CaptureStipple(place, {px, py}, colorIndex,
-                   ColorOf(PaintAt(place.State.PaintColors, colorIndex)), shape, record);
+    CaptureStipple(easel, {px, py}, colorIndex,
+                   ColorOf(PaintAt(easel.Paints.PaintColors, colorIndex)), shape, record);
 }
 
-void DrawOneStipple(const Workplace& place, int px, int py, int colorIndex) {
-    DrawOneStipple(place, px, py, colorIndex, Record::No, BrushShape::Rounded);
+void DrawOneStipple(const Easel& easel, int px, int py, int colorIndex) {
+    DrawOneStipple(easel, px, py, colorIndex, Record::No, BrushShape::Rounded);
 }
 
-void DrawTempStipple(const Workplace& place, int px, int py, int colorIndex) {
-    CaptureStipple(place, {px, py}, colorIndex,
-                   ColorOf(PaintAt(place.State.FoundColors, colorIndex)), BrushShape::Rounded,
-                   Record::No);
+void DrawTempStipple(const Easel& easel, const FoundPalette& found, int px, int py,
+                     int colorIndex) {
+    CaptureStipple(easel, {px, py}, colorIndex, ColorOf(PaintAt(found.FoundColors, colorIndex)),
+                   BrushShape::Rounded, Record::No);
 }
 
-void DrawColorStipple(const Workplace& place, int x, int y, Color color) {
-    if (!place.State.Stipples.Holds(x, y)) {
+void DrawColorStipple(const Easel& easel, const StippleGrid& grid, int x, int y, Color color) {
+    if (!grid.Stipples.Holds(x, y)) {
         return;
     }
-    const StippleCell& cell = place.State.Stipples(x, y);
-    CaptureStipple(place, {cell.X, cell.Y}, 0, color, BrushShape::Rounded, Record::No);
+    const StippleCell& cell = grid.Stipples(x, y);
+    CaptureStipple(easel, {cell.X, cell.Y}, 0, color, BrushShape::Rounded, Record::No);
 }
 
-void MoveSpot(const Workplace& place, Directions directions, CellPos cell, int colorIndex) {
-    const StippleCell& stipple = place.State.Stipples(cell.X, cell.Y);
-    PaintRuns(place, BrushStrokes(place.State.StippleSize, directions), {stipple.X, stipple.Y},
-              colorIndex, ColorOf(PaintAt(place.State.PaintColors, colorIndex)), Record::Yes);
+void MoveSpot(const Easel& easel, Directions directions, const StippleCell& stipple,
+              int colorIndex) {
+    PaintRuns(easel, BrushStrokes(easel.Settings.StippleSize, directions), {stipple.X, stipple.Y},
+              colorIndex, ColorOf(PaintAt(easel.Paints.PaintColors, colorIndex)), Record::Yes);
 }
 
-void ColorPset(const Workplace& place, int px, int py, Color color, int colorIndex) {
-    Surface& picture = place.Frames.WorkFrame.Picture;
+void ColorPset(const Easel& easel, int px, int py, Color color, int colorIndex) {
+    Surface& picture = easel.Picture;
     if (picture.Get(px, py) == kBlack) {
         picture.Set(px, py, color);
-        place.State.PixelMap(px, py) = {colorIndex, color};
+        easel.Pixels.PixelMap(px, py) = {colorIndex, color};
     }
 }
 
-void EraseToColor(const Workplace& place, Color color) {
-    place.Frames.WorkFrame.Picture.Fill(color);
-    place.Screen.RefreshWorkFrame();
+void EraseToColor(const Easel& easel, Color color) {
+    easel.Picture.Fill(color);
+    easel.Screen.RefreshWorkFrame();
 }
 
 }  // namespace vendrel

@@ -91,17 +91,17 @@ void DrawRow(QPainter& painter, const ColorChart& chart, const ChartRow& row, do
 
 }  // namespace
 
-ColorChart MakeColorChart(const Workplace& place) {
-    RequireSymbols(place.State);
+ColorChart MakeColorChart(const WorkState& state) {
+    RequireSymbols(state);
     ColorChart chart;
-    chart.Rows = FillChart(place.State);
-    const std::string word(DifficultyWord(place.State));
-    chart.Title = ToQt(PrintedName(place.State));
+    chart.Rows = ListChart(state, state);
+    const std::string word(DifficultyWord(state));
+    chart.Title = ToQt(PrintedName(state));
     chart.Subtitle = QString("Color chart  \u2022  %1  \u2022  %2 %3  \u2022  kit %4")
                          .arg(ToQt(word))
                          .arg(chart.Rows.size())
                          .arg(chart.Rows.size() == 1 ? "paint" : "paints")
-                         .arg(ToQt(KitMark(place)));
+                         .arg(ToQt(KitMark(state, state, state)));
     return chart;
 }
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "output/chart_contents.h"
-#include "shell/workplace.h"
+#include "shell/work_state.h"
 
 namespace vendrel {
 
@@ -25,7 +25,7 @@ struct ColorChart {
 };
 
 /// The chart of the grid as it is now; counts the stipples. DrawSymbol stays empty.
-[[nodiscard]] ColorChart MakeColorChart(const Workplace& place);
+[[nodiscard]] ColorChart MakeColorChart(const WorkState& state);
 
 /// Draws the chart onto kChartWidth x kChartHeight units: one line per paint, up to 50 of them,
 /// with names cut short rather than running into their neighbours.

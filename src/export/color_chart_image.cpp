@@ -29,10 +29,10 @@ void DrawGlyph(QPainter& painter, std::span<const GlyphPoint> ink, const QRectF&
     }
 }
 
-QImage DrawChartImage(const Workplace& place) {
-    ColorChart chart = MakeColorChart(place);
-    chart.DrawSymbol = [&place](QPainter& painter, int symbol, const QRectF& box) {
-        DrawGlyph(painter, InkOf(place.State, symbol), box);
+QImage DrawChartImage(const WorkState& state) {
+    ColorChart chart = MakeColorChart(state);
+    chart.DrawSymbol = [&state](QPainter& painter, int symbol, const QRectF& box) {
+        DrawGlyph(painter, InkOf(state, symbol), box);
     };
     QImage image(kChartWidth, kChartHeight, QImage::Format_RGB32);
     image.fill(Qt::white);
@@ -43,8 +43,8 @@ QImage DrawChartImage(const Workplace& place) {
 
 }  // namespace
 
-void WriteColorChart(const Workplace& place, const Target& target) {
-    WriteBitmap(target, ToSurface(DrawChartImage(place)), kChartScale);
+void WriteColorChart(const WorkState& state, const Target& target) {
+    WriteBitmap(target, ToSurface(DrawChartImage(state)), kChartScale);
 }
 
 }  // namespace vendrel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/workplace.h"
+#include "shell/work_state.h"
 #include "support/print_scale.h"
 #include "support/target.h"
 
@@ -11,6 +11,6 @@ inline constexpr PrintScale kChartScale = PrintScale::PerMeter(11811);
 
 /// Saves the color chart as a picture of one printed page, with the symbols as the sheet shows
 /// them. The same grid gives the same bytes. Needs a running QGuiApplication.
-void WriteColorChart(const Workplace& place, const Target& target);
+void WriteColorChart(const WorkState& state, const Target& target);
 
 }  // namespace vendrel

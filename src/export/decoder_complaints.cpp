@@ -7,10 +7,9 @@
 namespace vendrel {
 namespace {
 
-// A process decodes one photo at a time.
-bool damaged = false;
-bool outOfMemory = false;
-QtMessageHandler others = nullptr;
+// Qt calls a plain function that it gives nothing of ours, so the one who listens must be found
+// here. A process decodes one photo at a time.
+DecoderComplaints* listener = nullptr;
 
 template <std::size_t Count>
 bool HoldsOneOf(const QString& text, const std::array<const char*, Count>& phrases) {
@@ -19,33 +18,31 @@ bool HoldsOneOf(const QString& text, const std::array<const char*, Count>& phras
     });
 }
 
-// Bytes between two parts of a file, of which decoders complain as well, do no harm.
 void Listen(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
-    static constexpr std::array kDamage = {"bad Huffman code", "premature end",
-                                           "bad arithmetic code", "nconsistent progression"};
-    static constexpr std::array kMemory = {"insufficient memory", "out of memory"};
-    damaged = damaged || HoldsOneOf(text, kDamage);
-    outOfMemory = outOfMemory || HoldsOneOf(text, kMemory);
+    if (listener != nullptr) {
+        listener->Hear(text);
+    }
 }
 
 }  // namespace
 
 DecoderComplaints::DecoderComplaints() {
-    damaged = false;
-    outOfMemory = false;
-    others = qInstallMessageHandler(Listen);
+    listener = this;
+    others_ = qInstallMessageHandler(Listen);
 }
 
 DecoderComplaints::~DecoderComplaints() {
-    qInstallMessageHandler(others);
+    qInstallMessageHandler(others_);
+    listener = nullptr;
 }
 
-bool DecoderComplaints::Damaged() const {
-    return damaged;
-}
-
-bool DecoderComplaints::OutOfMemory() const {
-    return outOfMemory;
+// Bytes between two parts of a file, of which decoders complain as well, do no harm.
+void DecoderComplaints::Hear(const QString& text) {
+    static constexpr std::array kDamage = {"bad Huffman code", "premature end",
+                                           "bad arithmetic code", "nconsistent progression"};
+    static constexpr std::array kMemory = {"insufficient memory", "out of memory"};
+    damaged_ = damaged_ || HoldsOneOf(text, kDamage);
+    outOfMemory_ = outOfMemory_ || HoldsOneOf(text, kMemory);
 }
 
 }  // namespace vendrel

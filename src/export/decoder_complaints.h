@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QtCore/QString>
+#include <QtCore/QtGlobal>
+
 namespace vendrel {
 
 /// Listens, while it lives, to what decoders say of a picture, and keeps it from the terminal. A
@@ -13,9 +16,16 @@ class DecoderComplaints {
     DecoderComplaints& operator=(const DecoderComplaints&) = delete;
 
     /// Whether one of them spoils the picture.
-    [[nodiscard]] bool Damaged() const;
+    [[nodiscard]] bool Damaged() const { return damaged_; }
     /// Whether there was not enough memory for it.
-    [[nodiscard]] bool OutOfMemory() const;
+    [[nodiscard]] bool OutOfMemory() const { return outOfMemory_; }
+
+    void Hear(const QString& text);
+
+  private:
+    bool damaged_ = false;
+    bool outOfMemory_ = false;
+    QtMessageHandler others_ = nullptr;
 };
 
 }  // namespace vendrel

@@ -100,11 +100,11 @@ void FixDate(QByteArray& pdf) {
 
 }  // namespace
 
-void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
-                 const std::filesystem::path& file) {
+void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
     const PrintSymbols symbols;
-    const PrintPlan plan = MakePrintPlan(place, settings, symbols.Aspects());
+    const PrintPlan plan =
+        MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
     const KitPages kit{place,         plan,
                        symbols,       SizeOf(settings.Sheet),
                        BoxesOf(plan), PaintingOf(plan.Regions, place.State)};
@@ -121,7 +121,7 @@ void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
     }
     FixDate(pdf);
     place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteWholeFile(file, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
+    WriteWholeFile(target, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
 }
 
 }  // namespace vendrel

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <filesystem>
-
 #include "plan/plan_layout.h"
 #include "shell/workplace.h"
+#include "support/target.h"
 
 namespace vendrel {
 
 /// Saves the whole kit for a printer: cover, color chart, page map and the plan, drawn in lines at
 /// its real size. The same kit gives the same bytes. Throws Error and FileError. Needs a running
 /// QGuiApplication.
-void WriteKitPdf(const Workplace& place, const PlanSettings& settings,
-                 const std::filesystem::path& file);
+void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target);
 
 }  // namespace vendrel

@@ -137,14 +137,14 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
                    Qt::AlignLeft, ToQt(kit.Title()));
     painter.setFont(TextFont(FontMm(4.5)));
     painter.setPen(kFaint);
-    DrawLineOfText(painter,
-                   {Mm(kMargin) + width - Mm(kMarkWidth), Mm(kMargin + 5.4), Mm(kMarkWidth), Mm(8)},
-                   Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place)));
+    DrawLineOfText(
+        painter, {Mm(kMargin) + width - Mm(kMarkWidth), Mm(kMargin + 5.4), Mm(kMarkWidth), Mm(8)},
+        Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place.State, kit.Place.State, kit.Place.State)));
     DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
                    KitSummary(kit));
 
     const QRectF room(Mm(kMargin), Mm(kMargin + 28), width, bottom - Mm(kMargin + 28));
-    const Surface& photo = kit.Place.Frames.CaptureFrame.Picture;
+    const Surface& photo = kit.Place.Frames->CaptureFrame.Picture;
     const CoverPlaces places = PlacesOn(room, kit.Painting, photo);
     painter.setRenderHint(QPainter::LosslessImageRendering);
     DrawPicture(painter, kit.Painting, places.Painting);
@@ -157,7 +157,7 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
 }
 
 void DrawChartPage(QPainter& painter, const KitPages& kit) {
-    ColorChart chart = MakeColorChart(kit.Place);
+    ColorChart chart = MakeColorChart(kit.Place.State);
     chart.DrawSymbol = [&kit](QPainter& on, int symbol, const QRectF& box) {
         kit.Symbols.DrawInLine(on, symbol, box.center(), std::min(box.height() * 0.54, 34.0));
     };

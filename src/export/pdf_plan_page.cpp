@@ -49,7 +49,7 @@ class PlanPage {
     }
 
     [[nodiscard]] int SymbolOf(int paint) const {
-        return vendrel::SymbolOf(kit_.Place.State.PaintColors, paint);
+        return vendrel::SymbolOf(kit_.Place.State->PaintColors, paint);
     }
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
@@ -197,7 +197,7 @@ void PlanPage::DrawLegend() {
 
 // Names alone: the chart has the codes, and beside long names there is no room for them.
 void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
-    const PaintColor& color = kit_.Place.State.PaintColors[paint];
+    const PaintColor& color = kit_.Place.State->PaintColors[paint];
     const QPointF corner = box.topLeft();
     painter_.setPen(QPen(kBorderInk, Mm(0.1)));
     painter_.setBrush(ToQt(ColorOf(color)));

@@ -10,13 +10,13 @@ void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettin
                        const Target& target) const {
     switch (output) {
         case OutputId::Chart:
-            WriteColorChart(place, target);
+            WriteColorChart(place.State, target);
             return;
         case OutputId::Pdf:
-            WriteKitPdf(place, settings, target.File);
+            WriteKitPdf(place, settings, target);
             return;
         default:
-            throw FileError(target.File, "is written without fonts.");
+            throw FileError(target.Place, "is written without fonts.");
     }
 }
 

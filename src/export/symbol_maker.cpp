@@ -4,6 +4,7 @@
 #include "export/symbol_font.h"
 #include "export/text_canvas.h"
 #include "output/symbol_set.h"
+#include "shell/work_settings.h"
 
 namespace vendrel {
 namespace {
@@ -16,9 +17,9 @@ constexpr int kCanvasSize = 32;
 MadeSymbols MakeSymbols(const ProgramFolder& folder) {
     const GuiApplication application;
     MadeSymbols made{folder.Path("Data/Symbols.txt"), UseVersion(kSymbolFont)};
-    WorkState state;
+    Symbols symbols;
     TextCanvas canvas(kCanvasSize, kCanvasSize);
-    MakeSymbolFile(state, made.File, canvas);
+    MakeSymbolFile(symbols, WorkSettings().SymbolColor, made.File, canvas);
     return made;
 }
 

@@ -6,7 +6,7 @@
 namespace vendrel {
 
 void ColorChartForm::Form_Load() {
-    rows_ = FillChart(place_.State);
+    rows_ = FillChart(place_.State, place_.State);
     SortChart(rows_, order_);
 }
 

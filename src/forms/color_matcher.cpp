@@ -43,7 +43,7 @@ void ColorMatcher::Form_Load() {
     const WorkState& state = place_.State;
     RequireGrid(state);
     if (!state.PaintShopLoaded) {
-        FillSelectedPaintsList(place_.State);
+        FillSelectedPaintsList(place_.State, place_.State);
     }
     const OneBased<int> counts = CountStipples(state.Stipples, state.PaintCount);
     const std::vector<int> shares = SharesInTenths(counts.Entries());
@@ -158,11 +158,11 @@ void ColorMatcher::CancelButton_Click() {
 
 std::string ColorMatcher::SaveTemplate_Click() {
     RequireGrid(place_.State);
-    const std::string name =
-        FreeTemplateName(place_, CleanTemplateName(place_.State.PictureName + " " +
-                                                   std::string(DifficultyWord(place_.State)) + " " +
-                                                   std::to_string(rows_.Count()) + " Paints"));
-    WriteTemplate(TemplatePath(place_, name), Palette());
+    const std::string name = FreeTemplateName(
+        place_.Folder, CleanTemplateName(place_.State->PictureName + " " +
+                                         std::string(DifficultyWord(place_.State)) + " " +
+                                         std::to_string(rows_.Count()) + " Paints"));
+    WriteTemplate(TemplatePath(place_.Folder, name), Palette());
     return name;
 }
 

@@ -56,7 +56,8 @@ std::string Sides(int width, int height) {
 }  // namespace
 
 void CropPhoto::Open(Surface photo, std::string name, Kept kept) {
-    frame_.emplace(BitmapSize{photo.Width(), photo.Height()}, TargetOf(place_));
+    frame_.emplace(BitmapSize{photo.Width(), photo.Height()},
+                   TargetOf(place_.Screen, place_.State));
     photo_ = std::move(photo);
     small_ = Shrink(photo_);
     name_ = std::move(name);

@@ -43,8 +43,8 @@ void FileImport::Remember() {
                state.PictureLoaded,
                state.BmpWidth,
                state.BmpHeight,
-               place_.Frames.CaptureFrame.Visible,
-               place_.Frames.WorkFrame.Visible,
+               place_.Frames->CaptureFrame.Visible,
+               place_.Frames->WorkFrame.Visible,
                place_.MainMenu[MenuId::PrintMenu].Enabled};
 }
 
@@ -57,8 +57,8 @@ void FileImport::PutBack() {
     state.PictureLoaded = before_.PictureLoaded;
     state.BmpWidth = before_.BmpWidth;
     state.BmpHeight = before_.BmpHeight;
-    place_.Frames.CaptureFrame.Visible = before_.CaptureShown;
-    place_.Frames.WorkFrame.Visible = before_.WorkShown;
+    place_.Frames->CaptureFrame.Visible = before_.CaptureShown;
+    place_.Frames->WorkFrame.Visible = before_.WorkShown;
     place_.MainMenu[MenuId::PrintMenu].Enabled = before_.SaveEnabled;
 }
 
@@ -101,14 +101,14 @@ void FileImport::ImportDir_Change(int folder) {
 void FileImport::ImportFile_Click(int file) {
     if (Holds(controls_.ImportFile, file)) {
         controls_.FileIndex = file;
-        place_.State.PictureFile = At(controls_.ImportFile, file);
-        clicked_ = controls_.Folder / place_.State.PictureFile;
+        place_.State->PictureFile = At(controls_.ImportFile, file);
+        clicked_ = controls_.Folder / place_.State->PictureFile;
         ShowPreview();
     }
 }
 
 fs::path FileImport::ChosenPhoto() const {
-    const std::string& file = place_.State.PictureFile;
+    const std::string& file = place_.State->PictureFile;
     if (file.empty() || !clicked_.empty()) {
         return clicked_;
     }
@@ -135,9 +135,9 @@ void FileImport::Describe(const fs::path& photo) {
     const std::string name = photo.filename().string();
     controls_.Description = name + "\nReading ...";
     IncomingPhoto incoming(photo, decoder_);
-    const Surface picture = ReadAnyPhoto(place_, incoming);
+    const Surface picture = ReadAnyPhoto(place_.Screen, incoming);
     const BitmapSize size = incoming.Size();
-    PhotoLook look = LookAt(picture, TargetOf(place_), kPreviewEdge);
+    PhotoLook look = LookAt(picture, TargetOf(place_.Screen, place_.State), kPreviewEdge);
     controls_.Description = name + "\n" + std::to_string(size.Width) + " x " +
                             std::to_string(size.Height) + " pixels\n" + look.Stretch;
     controls_.Preview = std::move(look.Picture);
@@ -150,14 +150,14 @@ void FileImport::CropButton_Click() {
     }
     IncomingPhoto photo(ChosenPhoto(), decoder_);
     if (photo.HasOwnColors()) {
-        MentionColors(place_, photo.File());
+        MentionColors(place_.State, place_.Screen, photo.File());
     }
-    crop_.Open(ReadAnyPhoto(place_, photo), photo.Stem(),
+    crop_.Open(ReadAnyPhoto(place_.Screen, photo), photo.Stem(),
                [this](const std::string& file) { ChooseCrop(file); });
 }
 
 void FileImport::ChooseCrop(const std::string& pictureFile) {
-    place_.State.PictureFile = pictureFile;
+    place_.State->PictureFile = pictureFile;
     clicked_.clear();
     controls_.Description.clear();
     ShowFolder(place_.Folder.Path("Pictures"));
@@ -170,7 +170,7 @@ std::string FileImport::TakeIn(const fs::path& photo) {
         RequireResultNames(photo, kLongestResult);
     }
     if (!IsInPictures(place_.Folder, incoming)) {
-        RequirePaintable(incoming, TargetOf(place_));
+        RequirePaintable(incoming, TargetOf(place_.Screen, place_.State));
     }
     const ReadingShown reading(place_.Screen);
     return TakeIntoPictures(place_.Folder, incoming, reading.Progress());
@@ -193,7 +193,7 @@ void FileImport::TakePicture(const Surface& picture) {
 bool FileImport::LoadUnchosen(const std::string& pictureFile) {
     Remember();
     place_.MainMenu[MenuId::PrintMenu].Enabled = false;
-    const bool isPhoto = ChoosePhoto(place_, pictureFile);
+    const bool isPhoto = ChoosePhoto(place_.State, place_.Folder, pictureFile);
     if (isPhoto) {
         LoadChosen();
     }
@@ -212,7 +212,7 @@ void FileImport::OKButton_Click() {
         return;
     }
     const std::string file = clicked_.empty() ? state.PictureFile : TakeIn(clicked_);
-    if (ChoosePhoto(place_, file)) {
+    if (ChoosePhoto(place_.State, place_.Folder, file)) {
         place_.Screen.CloseForm(FormId::FileImport);
         LoadChosen();
         replacement.Done();

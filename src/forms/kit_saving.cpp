@@ -12,7 +12,7 @@ namespace {
 class CaptionBack {
   public:
     explicit CaptionBack(const Workplace& place) : place_(place) {}
-    ~CaptionBack() { place_.Screen.SetCaption("Vendrel -" + place_.State.PictureName); }
+    ~CaptionBack() { place_.Screen.SetCaption("Vendrel -" + place_.State->PictureName); }
     CaptionBack(const CaptionBack&) = delete;
     CaptionBack& operator=(const CaptionBack&) = delete;
 
@@ -20,17 +20,18 @@ class CaptionBack {
     const Workplace& place_;
 };
 
-SavedKit SaveBusily(const Workplace& place, KitOrder order) {
+SavedKit SaveBusily(Workplace& place, KitOrder order) {
     const BusyPointer busy(place.Screen);
     const CaptionBack caption(place);
     WholeProgress whole(place.Screen);
     order.Begins = [&whole](int output, int outputs) { whole.Begin(output, outputs); };
-    return SaveKit({place.State, place.Frames, place.MainMenu, whole, place.Folder}, order);
+    Workplace within{*place.State, *place.Frames, *place.MainMenu, whole, place.Folder};
+    return SaveKit(within, order);
 }
 
 }  // namespace
 
-std::vector<std::filesystem::path> SaveFromWindow(const Workplace& place, const KitOrder& order) {
+std::vector<std::filesystem::path> SaveFromWindow(Workplace& place, const KitOrder& order) {
     const SavedKit saved = SaveBusily(place, order);
     std::string sentences;
     for (const std::string& note : saved.Notes) {
@@ -46,7 +47,7 @@ std::vector<std::filesystem::path> SaveFromWindow(const Workplace& place, const 
     return files;
 }
 
-std::filesystem::path SaveFromWindow(const Workplace& place, OutputId output) {
+std::filesystem::path SaveFromWindow(Workplace& place, OutputId output) {
     KitOrder order;
     order.Outputs.Add(output);
     return SaveFromWindow(place, order).front();

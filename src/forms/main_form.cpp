@@ -14,6 +14,7 @@
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
 #include "support/disk.h"
+#include "support/error.h"
 #include "touchup/unsaved_work.h"
 
 namespace vendrel {
@@ -57,6 +58,15 @@ constexpr ClickHandler kHandlers[] = {
     {EndItAll, &MainForm::EndItAll_Click},
 };
 
+// Photos may lie where nobody may write: no reason not to start.
+void OfferSampleIfPossible(const Workplace& place) {
+    try {
+        OfferSample(place);
+    } catch (const Error&) {
+        return;
+    }
+}
+
 }  // namespace
 
 void MainForm::Form_Load() {
@@ -64,7 +74,9 @@ void MainForm::Form_Load() {
     ShowSample();
     place_.MainMenu[LoadBMP].Enabled = true;
     place_.MainMenu[PaintItNow].Enabled = false;
-    if (PrepareFolders(place_)) {
+    const bool first = PrepareFolders(place_.Folder);
+    OfferSampleIfPossible(place_);
+    if (first) {
         place_.Screen.ShowMessage("Vendrel",
                                   "First Time Ran.. Pictures Folder Created.\n"
                                   "Program Will Exit To Allow You To Place Your .BMP Pictures "
@@ -76,12 +88,13 @@ void MainForm::Form_Load() {
 }
 
 void MainForm::ShowSample() {
-    place_.State.PictureLoaded = false;
-    place_.Frames.WorkFrame.Visible = false;
-    place_.Frames.BackFrame.Visible = false;
-    place_.Frames.CaptureFrame.Visible = true;
-    if (place_.Frames.CaptureFrame.Picture.Empty()) {
-        place_.Frames.CaptureFrame.Picture = ReadBitmap(place_.Folder.DataFile("Data/PBNLady.bmp"));
+    place_.State->PictureLoaded = false;
+    place_.Frames->WorkFrame.Visible = false;
+    place_.Frames->BackFrame.Visible = false;
+    place_.Frames->CaptureFrame.Visible = true;
+    if (place_.Frames->CaptureFrame.Picture.Empty()) {
+        place_.Frames->CaptureFrame.Picture =
+            ReadBitmap(place_.Folder.DataFile("Data/PBNLady.bmp"));
     }
 }
 
@@ -100,7 +113,7 @@ std::string MainForm::StatusHint() const {
     if (!lastSaved_.empty()) {
         return "Saved " + lastSaved_;
     }
-    if (!place_.State.PictureLoaded) {
+    if (!place_.State->PictureLoaded) {
         return "Choose a photo: Picture, Load Photo. Or drop one here.";
     }
     if (menu[PrintMenu].Enabled) {
@@ -118,9 +131,9 @@ std::string MainForm::StatusHint() const {
 
 void MainForm::LoadBMP_Click() {
     chooser_.Remember();
-    place_.State.PictureLoaded = false;
-    place_.Frames.CaptureFrame.Visible = false;
-    place_.Frames.WorkFrame.Visible = false;
+    place_.State->PictureLoaded = false;
+    place_.Frames->CaptureFrame.Visible = false;
+    place_.Frames->WorkFrame.Visible = false;
     chooser_.Form_Load();
     chooser_.ShowFolder(place_.Folder.Path("Pictures"));
     place_.MainMenu[PrintMenu].Enabled = false;
@@ -156,7 +169,7 @@ void MainForm::LoadStipples_Click() {
 void MainForm::SaveStipples_Click() {
     if (MayReplaceSaved(place_)) {
         vendrel::SaveStipples(place_);
-        Saved(StippleFilePath(place_));
+        Saved(StippleFilePath(place_.Folder, place_.State, place_.State));
     }
 }
 
@@ -165,7 +178,7 @@ void MainForm::StartupPaintShop_Click() {
 }
 
 void MainForm::ChangeToStipples_Click() {
-    if (!place_.State.PictureLoaded) {
+    if (!place_.State->PictureLoaded) {
         place_.Screen.ShowMessage("No Photo Loaded", "Choose a photo first: Picture, Load Photo.");
         return;
     }
@@ -222,7 +235,7 @@ void MainForm::HardSet_Click() {
 
 void MainForm::SetDifficulty(vendrel::Difficulty level) {
     place_.MainMenu[LoadBMP].Enabled = true;
-    if (place_.State.Chosen.Level != level) {
+    if (place_.State->Chosen.Level != level) {
         Replace([&] { TakeDifficulty(level); });
     }
 }
@@ -232,12 +245,12 @@ void MainForm::TakeDifficulty(vendrel::Difficulty level) {
     // First, as a photo that is gone by now must leave the old difficulty as it is.
     SetStippleSize(place_, TraitsOf(level).StippleSize);
     state.StipplesShown = false;
-    ResizePixelMap(place_);
+    ResizePixelMap(state, place_.Frames->WorkFrame.Picture);
     if (!state.PictureLoaded) {
         return;
     }
     SetupMenuItems(place_.MainMenu, 2);
-    RefreshPhotoImage(place_);
+    RefreshPhotoImage(place_.Frames, place_.Screen);
     RestorePaintColors(place_);
     CheckSavedStipples(place_);
 }
@@ -261,9 +274,9 @@ void MainForm::Set50Colors_Click() {
 void MainForm::SetFinalPaints(int finalColors) {
     Replace([&] {
         const BusyPointer busy(place_.Screen);
-        place_.State.FinalColors = finalColors;
-        SetColorChecks(place_.State.Chosen, finalColors);
-        RefreshPhotoImage(place_);
+        place_.State->FinalColors = finalColors;
+        SetColorChecks(place_.State->Chosen, finalColors);
+        RefreshPhotoImage(place_.Frames, place_.Screen);
         SetupMenuItems(place_.MainMenu, 2);
         RestorePaintColors(place_);
     });
@@ -290,7 +303,7 @@ void MainForm::NextBestColors_Click() {
 
 void MainForm::AveragePixel_Click() {
     Replace([this] {
-        Sampling& sample = place_.State.Chosen.Sample;
+        Sampling& sample = place_.State->Chosen.Sample;
         sample = sample == Sampling::Average ? Sampling::Pixel : Sampling::Average;
         SampleMethodChanged();
     });
@@ -302,14 +315,14 @@ void MainForm::SamplePixel_Click() {
 }
 
 void MainForm::SampleMethodChanged() {
-    if (place_.State.PictureLoaded) {
-        RefreshPhotoImage(place_);
+    if (place_.State->PictureLoaded) {
+        RefreshPhotoImage(place_.Frames, place_.Screen);
     }
     SetupMenuItems(place_.MainMenu, 2);
 }
 
 void MainForm::WatchItPaint_Click() {
-    place_.State.Chosen.WatchItPaint = !place_.State.Chosen.WatchItPaint;
+    place_.State->Chosen.WatchItPaint = !place_.State->Chosen.WatchItPaint;
 }
 
 void MainForm::ShowAbout_Click() {
@@ -334,7 +347,7 @@ void MainForm::RepaintPicture() {
 }
 
 void MainForm::WorkFrame_Paint() {
-    if (place_.State.PictureLoaded && place_.State.StipplesShown) {
+    if (place_.State->PictureLoaded && place_.State->StipplesShown) {
         place_.Screen.RefreshWorkFrame();
     }
 }

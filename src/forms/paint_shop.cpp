@@ -24,8 +24,8 @@ int IndexOf(const std::vector<std::string>& list, const std::string& entry) {
     return found == list.end() ? -1 : static_cast<int>(found - list.begin());
 }
 
-void Select(WorkState& state, const std::string& name, bool selected) {
-    for (PaintSet& set : state.PaintSets) {
+void Select(Catalogue& catalogue, const std::string& name, bool selected) {
+    for (PaintSet& set : catalogue.PaintSets) {
         if (set.Name == name) {
             set.Selected = selected;
         }
@@ -44,7 +44,7 @@ void PaintShop::Form_Load() {
                                                               : std::nullopt;
     state.PaintShopLoaded = true;
     state.MfgSelected = !state.TemplateMode;
-    FillSelectedPaintsList(state);
+    FillSelectedPaintsList(state, state);
     for (const PaintSet& set : state.PaintSets) {
         if (!set.Name.empty()) {
             controls_.MfgList.push_back(set.Name);
@@ -68,7 +68,7 @@ void PaintShop::ShowPalette() {
 }
 
 void PaintShop::ShowSelected() {
-    controls_.SelectedPaintsList = place_.State.SelectedPaintsList;
+    controls_.SelectedPaintsList = place_.State->SelectedPaintsList;
     controls_.SelectedIndex = -1;
     if (controls_.SelectedPaintsList.empty()) {
         controls_.SelectedPaintsList.emplace_back(kNoneSelected);
@@ -76,11 +76,11 @@ void PaintShop::ShowSelected() {
 }
 
 void PaintShop::ShowMode() {
-    const bool sets = place_.State.MfgSelected;
+    const bool sets = place_.State->MfgSelected;
     controls_.ListsEnabled = sets;
     controls_.TemplateListEnabled = !sets;
     controls_.TransferEnabled = sets && (controls_.MfgIndex >= 0 || controls_.SelectedIndex >= 0);
-    controls_.AllDoneEnabled = sets || place_.State.PaintCount > 0;
+    controls_.AllDoneEnabled = sets || place_.State->PaintCount > 0;
 }
 
 void PaintShop::MfgList_Click(int set) {
@@ -93,7 +93,7 @@ void PaintShop::MfgList_Click(int set) {
 }
 
 void PaintShop::SelectedPaintsList_Click(int set) {
-    if (Holds(controls_.SelectedPaintsList, set) && !place_.State.SelectedPaintsList.empty()) {
+    if (Holds(controls_.SelectedPaintsList, set) && !place_.State->SelectedPaintsList.empty()) {
         controls_.SelectedIndex = set;
         controls_.MfgIndex = -1;
         controls_.TransferCaption = "<<";
@@ -126,8 +126,8 @@ void PaintShop::Transfer_Click() {
     controls_.DecoFrameShown = false;
     const BusyPointer busy(place_.Screen);
     if (ChangeSelection()) {
-        FillSelectedPaintsList(place_.State);
-        SavePaintList(place_);
+        FillSelectedPaintsList(place_.State, place_.State);
+        SavePaintList(place_.State, place_.Folder);
         ShowSelected();
         ShowPalette();
     }
@@ -162,25 +162,25 @@ void PaintShop::TemplateList_Click(int entry) {
         return;
     }
     controls_.TemplateIndex = entry;
-    place_.State.SelectedTemplate = At(controls_.TemplateList, entry);
+    place_.State->SelectedTemplate = At(controls_.TemplateList, entry);
     ShowPalette();
 }
 
 void PaintShop::TransferPaint() {
-    if (place_.State.MfgSelected) {
-        LoadColors(place_);
+    if (place_.State->MfgSelected) {
+        LoadColors(place_.State, place_.State, place_.State);
         return;
     }
     SetPalette(place_.State, {});
     if (controls_.TemplateIndex >= 0) {
-        place_.State.SelectedTemplate = At(controls_.TemplateList, controls_.TemplateIndex);
-        static_cast<void>(LoadTemplateColors(place_, place_.State.SelectedTemplate));
+        place_.State->SelectedTemplate = At(controls_.TemplateList, controls_.TemplateIndex);
+        static_cast<void>(LoadTemplateColors(place_, place_.State->SelectedTemplate));
     }
 }
 
 void PaintShop::LoadTemplates() {
     const WorkState& state = place_.State;
-    controls_.TemplateList = ListTemplates(place_);
+    controls_.TemplateList = ListTemplates(place_.Folder);
     const std::string& wanted = state.TemplateMode ? state.SelectedTemplate : state.LastTemplate;
     controls_.TemplateIndex = wanted.empty() ? -1 : IndexOf(controls_.TemplateList, wanted);
     if (controls_.TemplateList.empty()) {
@@ -222,7 +222,7 @@ void PaintShop::AllDone_Click() {
     }
     state.TemplateLoaded = state.TemplateLoaded || UsesTemplate();
     if (state.PictureLoaded) {
-        RefreshPhotoImage(place_);
+        RefreshPhotoImage(place_.Frames, place_.Screen);
     }
     SetupMenuItems(place_.MainMenu, 2);
     place_.Screen.CloseForm(FormId::PaintShop);

@@ -56,7 +56,7 @@ class PaintShop {
     void UpdatePaintColors();
 
     [[nodiscard]] const PaintShopControls& Controls() const { return controls_; }
-    [[nodiscard]] bool UsesTemplate() const { return !place_.State.MfgSelected; }
+    [[nodiscard]] bool UsesTemplate() const { return !place_.State->MfgSelected; }
     /// The paint of a swatch counted from 0; nullptr beyond the palette.
     [[nodiscard]] const PaintColor* PaintAt(int swatch) const;
 

@@ -44,8 +44,8 @@ std::string Sentence(double stretch) {
 
 }  // namespace
 
-Surface ReadAnyPhoto(Workplace& place, IncomingPhoto& photo) {
-    const ReadingShown reading(place.Screen);
+Surface ReadAnyPhoto(Ui& screen, IncomingPhoto& photo) {
+    const ReadingShown reading(screen);
     return photo.Picture(reading.Progress());
 }
 

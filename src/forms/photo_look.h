@@ -4,14 +4,14 @@
 
 #include "convert/crop.h"
 #include "intake/incoming_photo.h"
-#include "shell/workplace.h"
+#include "shell/ui.h"
 #include "support/surface.h"
 
 namespace vendrel {
 
 /// A photo of any format at its size, under the busy pointer and with progress. Throws FileError,
 /// FormatError, Stop.
-[[nodiscard]] Surface ReadAnyPhoto(Workplace& place, IncomingPhoto& photo);
+[[nodiscard]] Surface ReadAnyPhoto(Ui& screen, IncomingPhoto& photo);
 
 /// A photo before it is chosen.
 struct PhotoLook {

@@ -18,7 +18,7 @@ std::string FolderText(const fs::path& file) {
 }  // namespace
 
 void SaveEverythingForm::Form_Load() {
-    const KitName kit = KitNameOf(place_);
+    const KitName kit = KitNameOf(place_.State, place_.State);
     const auto fileOf = [&](OutputId id) { return FileOf(OutputOf(id), place_.Folder, kit); };
     controls_ = {};
     for (const Output& output : AllOutputs()) {

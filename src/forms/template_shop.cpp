@@ -42,7 +42,7 @@ PaintList PaintsOfPhoto(const Workplace& place) {
     ScratchPlace scratch(place);
     scratch.State.KeepAllColors = true;
     scratch.State.WorkStage = 1;
-    LoadColors(scratch.Place);
+    LoadColors(scratch.State, scratch.State, scratch.State);
     AutoChangeToStipples(scratch.Place);
     return scratch.State.PaintColors;
 }
@@ -77,7 +77,7 @@ std::string TemplateShop::RequireChosen() const {
 }
 
 void TemplateShop::ListAndChoose(std::string_view name) {
-    controls_.TemplateList = ListTemplates(place_);
+    controls_.TemplateList = ListTemplates(place_.Folder);
     const auto found = std::ranges::find(controls_.TemplateList, name);
     controls_.TemplateIndex = found == controls_.TemplateList.end()
                                   ? -1
@@ -92,39 +92,39 @@ void TemplateShop::ReadChosen() {
         return;
     }
     // Every file of the folder is listed, whatever its ending.
-    const std::filesystem::path file = TemplatePath(place_, Chosen());
+    const std::filesystem::path file = TemplatePath(place_.Folder, Chosen());
     if (!Stands(file)) {
         throw FileError(file,
                         "is not there: the file listed is no template, since it does not end in "
                         ".csv. Move it out of the templates folder.");
     }
-    controls_.Paints = ReadPaints(place_, file);
+    controls_.Paints = ReadPaints(place_.State, place_.Screen, file);
     controls_.ChosenIsTemplate = true;
 }
 
 void TemplateShop::TemplateList_Click(int entry) {
     if (entry >= 0 && entry < static_cast<int>(controls_.TemplateList.size())) {
         controls_.TemplateIndex = entry;
-        place_.State.LastTemplate = Chosen();
+        place_.State->LastTemplate = Chosen();
         ReadChosen();
     }
 }
 
 void TemplateShop::AddTemplate_Click(std::string_view name) {
-    CheckNewTemplateName(place_, name);
-    WriteTemplate(TemplatePath(place_, name), PaintList());
+    CheckNewTemplateName(place_.Folder, name);
+    WriteTemplate(TemplatePath(place_.Folder, name), PaintList());
     ListAndChoose(name);
 }
 
 void TemplateShop::RenameTemplate_Click(std::string_view name) {
-    RenameTemplate(place_, RequireChosen(), name);
+    RenameTemplate(place_.State, place_.Folder, RequireChosen(), name);
     ListAndChoose(name);
 }
 
 void TemplateShop::DuplicateTemplate_Click(std::string_view name) {
-    const PaintList paints = ReadTemplate(TemplatePath(place_, RequireChosen()));
-    CheckNewTemplateName(place_, name);
-    WriteTemplate(TemplatePath(place_, name), paints);
+    const PaintList paints = ReadTemplate(TemplatePath(place_.Folder, RequireChosen()));
+    CheckNewTemplateName(place_.Folder, name);
+    WriteTemplate(TemplatePath(place_.Folder, name), paints);
     ListAndChoose(name);
 }
 
@@ -132,7 +132,7 @@ void TemplateShop::DeleteTemplate_Click() {
     const std::string name = RequireChosen();
     if (place_.Screen.Ask("Delete Template",
                           "Delete the template \"" + name + "\"? This cannot be taken back.")) {
-        DeleteTemplate(place_, name);
+        DeleteTemplate(place_.State, place_.State, place_.Folder, name);
         ListAndChoose("");
     }
 }
@@ -140,13 +140,13 @@ void TemplateShop::DeleteTemplate_Click() {
 void TemplateShop::Search_Change(const PaintSearch& search) {
     const std::string text = ToLower(search.Text);
     controls_.Found.clear();
-    for (int row = 1; row <= place_.State.MasterCount; ++row) {
-        if (Matches(place_.State.MasterColors[row], search, text)) {
+    for (int row = 1; row <= place_.State->MasterCount; ++row) {
+        if (Matches(place_.State->MasterColors[row], search, text)) {
             controls_.Found.push_back(row);
         }
     }
     if (search.Near) {
-        SortByNearness(controls_.Found, place_.State.MasterColors, *search.Near);
+        SortByNearness(controls_.Found, place_.State->MasterColors, *search.Near);
     }
 }
 
@@ -163,14 +163,14 @@ void TemplateShop::Store(PaintList paints) {
     for (PaintColor& paint : paints) {
         paint.CellCount = 0;
     }
-    WriteTemplate(TemplatePath(place_, RequireChosen()), paints);
+    WriteTemplate(TemplatePath(place_.Folder, RequireChosen()), paints);
     controls_.Paints = std::move(paints);
     controls_.ChosenIsTemplate = true;
 }
 
 bool TemplateShop::AddPaint_Click(int catalogueRow) {
     (void)RequireChosen();
-    const PaintColor& paint = place_.State.MasterColors[catalogueRow];
+    const PaintColor& paint = place_.State->MasterColors[catalogueRow];
     PaintList paints = controls_.Paints;
     if (std::ranges::any_of(paints,
                             [&](const PaintColor& other) { return SamePaint(other, paint); })) {
@@ -208,7 +208,7 @@ void TemplateShop::MovePaint_Click(int paint, int to) {
 
 void TemplateShop::FillFromPhoto_Click() {
     const std::string name = RequireChosen();
-    if (!place_.State.PictureLoaded) {
+    if (!place_.State->PictureLoaded) {
         throw Error("No photo is loaded. Load one with \"Load Photo\" in the Picture menu first.");
     }
     if (!controls_.Paints.Empty() &&
@@ -222,8 +222,9 @@ void TemplateShop::FillFromPhoto_Click() {
 
 void TemplateShop::Import_Click(const std::filesystem::path& file) {
     const PaintList paints = ReadPaletteFile(file);
-    const std::string name = FreeTemplateName(place_, CleanTemplateName(file.stem().string()));
-    WriteTemplate(TemplatePath(place_, name), paints);
+    const std::string name =
+        FreeTemplateName(place_.Folder, CleanTemplateName(file.stem().string()));
+    WriteTemplate(TemplatePath(place_.Folder, name), paints);
     ListAndChoose(name);
 }
 
@@ -239,7 +240,7 @@ void TemplateShop::Done_Click() {
 
 std::vector<std::string> TemplateShop::Sets() const {
     std::vector<std::string> names;
-    for (const PaintSet& set : place_.State.PaintSets) {
+    for (const PaintSet& set : place_.State->PaintSets) {
         if (!set.Name.empty()) {
             names.push_back(set.Name);
         }

@@ -54,7 +54,7 @@ std::string MinuteText(std::filesystem::file_time_type at) {
 }
 
 void RedrawStipples(Workplace& place) {
-    EraseToColor(place, kBlack);
+    EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
     SetupMenuItems(place.MainMenu, 3);
     CheckSavedStipples(place);
@@ -303,14 +303,16 @@ void TouchUpForm::LoadIt_Click() {
         Follow();
         throw;
     }
-    controls_.Status = "Loaded " + StippleFilePath(place_).filename().string();
+    controls_.Status =
+        "Loaded " + StippleFilePath(place_.Folder, place_.State, place_.State).filename().string();
     Follow();
 }
 
 void TouchUpForm::SaveIt_Click() {
     controls_.Status.clear();
     editor_->SaveIt_Click();
-    controls_.Status = "Saved " + StippleFilePath(place_).filename().string();
+    controls_.Status =
+        "Saved " + StippleFilePath(place_.Folder, place_.State, place_.State).filename().string();
     Follow();
 }
 
@@ -438,7 +440,7 @@ void TouchUpForm::FollowPalette() {
 
 void TouchUpForm::FollowCleanUp() {
     const CleanUpPreview preview = editor_->PreviewCleanUp();
-    controls_.CleanLevel = place_.State.CleanLevel;
+    controls_.CleanLevel = place_.State->CleanLevel;
     controls_.RaiseEnabled = controls_.CleanLevel < kHighestCleanLevel;
     controls_.LowerEnabled = controls_.CleanLevel > kLowestCleanLevel;
     controls_.CleanEnabled = preview.Changes > 0;

@@ -25,8 +25,8 @@ bool IsAt(const fs::path& photo, const fs::path& target) {
 
 }  // namespace
 
-CropTarget TargetOf(const Workplace& place) {
-    return {place.Screen.Screen(), place.State.StippleSize};
+CropTarget TargetOf(const Ui& screen, const WorkSettings& settings) {
+    return {screen.Screen(), settings.StippleSize};
 }
 
 void RequirePaintable(IncomingPhoto& photo, const CropTarget& target, CropPart part) {

@@ -5,13 +5,14 @@
 
 #include "convert/crop.h"
 #include "intake/incoming_photo.h"
-#include "shell/workplace.h"
+#include "shell/ui.h"
+#include "shell/work_settings.h"
 #include "support/program_folder.h"
 
 namespace vendrel {
 
 /// The sheet that a photo would be painted on now.
-[[nodiscard]] CropTarget TargetOf(const Workplace& place);
+[[nodiscard]] CropTarget TargetOf(const Ui& screen, const WorkSettings& settings);
 
 /// Throws FileError when the shape of a photo, or of the part to be kept of it, leaves no whole
 /// stipple, and FormatError when it is no photo at all: such a file should not take a name in

@@ -16,6 +16,7 @@ constexpr std::string_view kHelp =
     R"(Vendrel turns a photograph into a paint-by-symbol kit.
 
   vendrel [--folder DIR] opens the window
+  vendrel --documents    opens it in the folder Vendrel of your documents
   vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
   vendrel symbols [--folder DIR]
                          draws the symbols anew into Data/Symbols.txt
@@ -366,9 +367,13 @@ Arguments ParseFolder(Command command, std::span<const std::string_view> words) 
     AddText(app, {"--folder", "DIR", ""}, arguments.Folder);
     if (command == Command::Window) {
         AddSwitch(app, {"--version", "", ""}, version);
+        AddSwitch(app, {"--documents", "", ""}, arguments.InDocuments);
     }
     if (AsksForHelp(app, words, "vendrel --help")) {
         return {Command::Help, {}, {}};
+    }
+    if (arguments.InDocuments && arguments.Folder != ".") {
+        throw UsageError("Choose the folder by --folder or by --documents, not by both.");
     }
     return version ? Arguments{Command::Version, {}, {}} : arguments;
 }

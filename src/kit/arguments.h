@@ -29,7 +29,7 @@ struct KitOptions {
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
     CropPart Crop = CropPart::Whole;
-    ScreenSize Screen = ScreenSize::FromPixels(1920, 1080);
+    ScreenSize Screen = kDrawingBoard;
     KitOutputs Outputs;
     PlanSettings Plan;  // of the PDF
     bool ReplaceGrid = false;
@@ -44,6 +44,7 @@ struct Arguments {
     Command What = Command::Window;
     KitOptions Kit;                      // for Command::Kit
     std::filesystem::path Folder = ".";  // for Command::Window and Command::Symbols
+    bool InDocuments = false;            // for Command::Window: among the painter's documents
 };
 
 /// Reads the words behind the program's name. Throws UsageError with a sentence.

@@ -29,9 +29,9 @@ int DrawSymbols(const std::filesystem::path& root, const Surroundings& around) {
     return kDone;
 }
 
-int OpenWindow(const std::filesystem::path& folder, const Surroundings& around) {
+int OpenWindow(const Arguments& arguments, const Surroundings& around) {
     if (around.OpenWindow) {
-        return around.OpenWindow(folder);
+        return around.OpenWindow(arguments.InDocuments ? around.Documents() : arguments.Folder);
     }
     around.Out << HelpText();
     return kDone;
@@ -40,7 +40,7 @@ int OpenWindow(const std::filesystem::path& folder, const Surroundings& around) 
 int Run(const Arguments& arguments, const Surroundings& around) {
     switch (arguments.What) {
         case Command::Window:
-            return OpenWindow(arguments.Folder, around);
+            return OpenWindow(arguments, around);
         case Command::Kit:
             return RunKit(arguments.Kit, around) ? kDone : kFailed;
         case Command::Symbols:

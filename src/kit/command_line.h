@@ -28,6 +28,8 @@ struct Surroundings {
     std::function<MadeSymbols(const ProgramFolder&)> MakeSymbols = {};
     /// Makes what draws color charts and PDF files; empty where there are no fonts.
     std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
+    /// The program's folder among the painter's documents, there or not; empty where the window is.
+    std::function<std::filesystem::path()> Documents = {};
     /// Opens the main window in a folder and gives the exit status; empty where there is none.
     std::function<int(const std::filesystem::path&)> OpenWindow = {};
     /// Set when the program should end: the work stops at the next stipple.

@@ -42,7 +42,7 @@ class KitRun {
         PrepareSettings(place);
         PreparePaints(place);
         ApplySettings(place, options_);
-        (void)PrepareFolders(place);  // last: a wrong setting leaves nothing behind
+        (void)PrepareFolders(folder_);  // last: a wrong setting leaves nothing behind
         warnings_ = ui_.TakeMessages();
     }
 

@@ -13,12 +13,13 @@ namespace vendrel {
 namespace {
 
 // Of the outputs asked for: what fits is made.
-std::string LongestEnding(const Workplace& place, const KitOptions& options) {
-    const KitName kit{"", std::string(DifficultyWord(place.State))};
+std::string LongestEnding(const ProgramFolder& folder, std::string_view difficulty,
+                          const KitOptions& options) {
+    const KitName kit{"", std::string(difficulty)};
     const std::string crop = options.Crop == CropPart::Whole ? "" : " crop";
     std::string longest = crop + ".bmp";
     for (const Output& output : AllOutputs()) {
-        const std::string ending = crop + FileOf(output, place.Folder, kit).filename().string();
+        const std::string ending = crop + FileOf(output, folder, kit).filename().string();
         if (options.Outputs.Chosen.Has(output.Id) && ending.size() > longest.size()) {
             longest = ending;
         }
@@ -30,18 +31,19 @@ std::string LongestEnding(const Workplace& place, const KitOptions& options) {
 
 std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
                               const std::filesystem::path& file) {
-    const CropTarget target = TargetOf(place);
+    const CropTarget target = TargetOf(place.Screen, place.State);
     IncomingPhoto photo(file, decoder_);
     RequirePaintable(photo, target, options.Crop);
     const bool plain = photo.IsPlainBitmap();
     if (plain) {
-        RequireResultNames(file, LongestEnding(place, options));
+        RequireResultNames(file, LongestEnding(place.Folder, DifficultyWord(place.State), options));
         Claim(file, photo.Stem());
     }
     if (photo.HasOwnColors()) {
-        MentionColors(place, file);
+        MentionColors(place.State, place.Screen, file);
     }
-    const std::string taken = plain ? TakeIntoPictures(place.Folder, photo) : Decode(place, photo);
+    const std::string taken =
+        plain ? TakeIntoPictures(place.Folder, photo) : Decode(place.Screen, place.Folder, photo);
     std::string picture = CropInPictures(place.Folder, taken, target, options.Crop);
     // Decoded photos and crops are numbered where their name is taken: it is known only now.
     if (!plain || picture != taken) {
@@ -50,10 +52,9 @@ std::string KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
     return picture;
 }
 
-std::string KitPhotos::Decode(const Workplace& place, IncomingPhoto& photo) {
-    Ui& screen = place.Screen;
+std::string KitPhotos::Decode(Ui& screen, const ProgramFolder& folder, IncomingPhoto& photo) {
     screen.SetCaption("Reading " + photo.File().filename().string());
-    std::string file = TakeIntoPictures(place.Folder, photo, [&screen](int percent) {
+    std::string file = TakeIntoPictures(folder, photo, [&screen](int percent) {
         screen.ReportProgress(percent, 100);
         screen.Yield();
     });

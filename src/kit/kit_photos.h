@@ -22,7 +22,8 @@ class KitPhotos {
                                      const std::filesystem::path& file);
 
   private:
-    [[nodiscard]] static std::string Decode(const Workplace& place, IncomingPhoto& photo);
+    [[nodiscard]] static std::string Decode(Ui& screen, const ProgramFolder& folder,
+                                            IncomingPhoto& photo);
     void Claim(const std::filesystem::path& photo, std::string_view name);
 
     const PhotoDecoder& decoder_;

@@ -11,9 +11,9 @@
 namespace vendrel {
 namespace {
 
-[[noreturn]] void RefuseSet(const WorkState& state, const std::string& name) {
+[[noreturn]] void RefuseSet(const Catalogue& catalogue, const std::string& name) {
     std::string sets;
-    for (const PaintSet& set : state.PaintSets) {
+    for (const PaintSet& set : catalogue.PaintSets) {
         if (!set.Name.empty()) {
             sets += (sets.empty() ? "\"" : ", \"") + set.Name + "\"";
         }
@@ -22,8 +22,7 @@ namespace {
 }
 
 // In the order of the catalogue's sets, as the paint shop would list them.
-void SelectSets(Workplace& place, const std::vector<std::string>& names) {
-    WorkState& state = place.State;
+void SelectSets(WorkState& state, const std::vector<std::string>& names) {
     for (PaintSet& set : state.PaintSets) {
         set.Selected = false;
     }
@@ -36,8 +35,8 @@ void SelectSets(Workplace& place, const std::vector<std::string>& names) {
         }
         set->Selected = true;
     }
-    FillSelectedPaintsList(state);
-    LoadColors(place);
+    FillSelectedPaintsList(state, state);
+    LoadColors(state, state, state);
 }
 
 void SelectTemplate(Workplace& place, const std::string& name) {
@@ -46,7 +45,8 @@ void SelectTemplate(Workplace& place, const std::string& name) {
     state.TemplateMode = true;
     state.SelectedTemplate = name;
     if (!LoadTemplateColors(place, name)) {
-        throw FileError(TemplatePath(place, name), "has no paints. Choose another template.");
+        throw FileError(TemplatePath(place.Folder, name),
+                        "has no paints. Choose another template.");
     }
     state.TemplateLoaded = true;
 }
@@ -55,12 +55,12 @@ void SelectTemplate(Workplace& place, const std::string& name) {
 
 void ApplySettings(Workplace& place, const KitOptions& options) {
     SetStippleSize(place, TraitsOf(options.Chosen.Level).StippleSize);
-    place.State.Chosen = options.Chosen;
-    place.State.FinalColors = options.Chosen.FinalPaints;
+    place.State->Chosen = options.Chosen;
+    place.State->FinalColors = options.Chosen.FinalPaints;
     if (options.Template) {
         SelectTemplate(place, *options.Template);
     } else if (!options.Sets.empty()) {
-        SelectSets(place, options.Sets);
+        SelectSets(place.State, options.Sets);
     }
 }
 

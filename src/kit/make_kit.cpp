@@ -3,7 +3,7 @@
 #include <chrono>
 #include <utility>
 
-#include "cleanup/cell_marking.h"
+#include "cleanup/area_search.h"
 #include "cleanup/paint_pass.h"
 #include "convert/crop.h"
 #include "convert/photo_import.h"
@@ -31,14 +31,15 @@ void Timed(KitReport& report, const char* name, Step step) {
 }
 
 void ImportPhoto(Workplace& place, const fs::path& photo, const std::string& picture) {
-    if (!ChoosePhoto(place, picture) || LoadNewPicture(place) == PhotoLoad::Nothing) {
+    if (!ChoosePhoto(place.State, place.Folder, picture) ||
+        LoadNewPicture(place) == PhotoLoad::Nothing) {
         throw FileError(photo, "is no .bmp file with pixels. Choose another photo.");
     }
 }
 
 void TakeSavedGrid(Workplace& place) {
-    if (!StippleFileExists(place)) {
-        throw FileError(StippleFilePath(place),
+    if (!StippleFileExists(place.Folder, place.State, place.State)) {
+        throw FileError(StippleFilePath(place.Folder, place.State, place.State),
                         "there is no saved grid to take. Make the kit once without --from-grid.");
     }
     LoadStipples_Click(place);
@@ -64,7 +65,7 @@ OutputChoice Possible(const KitOptions& options, const Exporter* exporter, KitRe
     return outputs;
 }
 
-void WriteOutputs(const Workplace& place, const KitOptions& options, const Exporter* exporter,
+void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* exporter,
                   KitReport& report) {
     const SavedKit saved = SaveKit(
         place, {.Outputs = Possible(options, exporter, report),
@@ -85,11 +86,11 @@ void WriteOutputs(const Workplace& place, const KitOptions& options, const Expor
     report.Notes.insert(report.Notes.end(), saved.Notes.begin(), saved.Notes.end());
 }
 
-int CountLoners(const WorkState& state) {
+int CountLoners(const Grid<StippleCell>& stipples) {
     int loners = 0;
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            loners += CheckLoner(state, x, y, state.Stipples(x, y).ColorIndex) ? 1 : 0;
+    for (int y = 1; y <= stipples.Down(); ++y) {
+        for (int x = 1; x <= stipples.Across(); ++x) {
+            loners += CheckLoner(stipples, x, y, stipples(x, y).ColorIndex) ? 1 : 0;
         }
     }
     return loners;
@@ -107,7 +108,7 @@ void FillFigures(const Workplace& place, KitReport& report) {
     report.CellsDown = state.CellsDown;
     report.PaintsKept = state.PaintCount;
     report.Areas = state.AreaCount - 1;
-    report.Loners = CountLoners(state);
+    report.Loners = CountLoners(state.Stipples);
     if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
             "The photo's shape does not fit whole stipples on this screen, so it is stretched; "

@@ -10,11 +10,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsFile(const fs::path& path) {
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
-}
-
 // A folder, a pipe or a name too long is not a photo that is missing.
 void RefuseOther(const fs::path& path) {
     std::error_code ignored;

@@ -25,21 +25,21 @@ void AppendText(std::string& out, std::string_view text) {
 }
 
 // Area numbers are left out: painting deals them out anew.
-std::string BytesOf(const WorkState& state, std::string_view difficulty) {
+std::string BytesOf(const Palette& palette, const StippleGrid& grid, std::string_view difficulty) {
     std::string bytes;
     AppendText(bytes, difficulty);
-    AppendNumber(bytes, state.PaintCount);
-    for (const PaintColor& paint : state.PaintColors) {
+    AppendNumber(bytes, palette.PaintCount);
+    for (const PaintColor& paint : palette.PaintColors) {
         AppendNumber(bytes, Rgb(paint.Red, paint.Green, paint.Blue));
         AppendText(bytes, paint.Mfg);
         AppendText(bytes, paint.PaintCode);
         AppendText(bytes, paint.PaintName);
     }
-    AppendNumber(bytes, state.CellsAcross);
-    AppendNumber(bytes, state.CellsDown);
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            const StippleCell& cell = state.Stipples(x, y);
+    AppendNumber(bytes, grid.CellsAcross);
+    AppendNumber(bytes, grid.CellsDown);
+    for (int y = 1; y <= grid.CellsDown; ++y) {
+        for (int x = 1; x <= grid.CellsAcross; ++x) {
+            const StippleCell& cell = grid.Stipples(x, y);
             AppendNumber(bytes, cell.ColorIndex);
             AppendNumber(bytes, cell.X);
             AppendNumber(bytes, cell.Y);
@@ -50,8 +50,8 @@ std::string BytesOf(const WorkState& state, std::string_view difficulty) {
 
 }  // namespace
 
-std::string KitMark(const Workplace& place) {
-    const Sha256 sum = Sha256Of(BytesOf(place.State, DifficultyWord(place.State)));
+std::string KitMark(const Palette& palette, const StippleGrid& grid, const WorkSettings& settings) {
+    const Sha256 sum = Sha256Of(BytesOf(palette, grid, DifficultyWord(settings)));
     std::uint64_t bits = 0;
     for (std::size_t i = 0; i < sizeof bits; ++i) {
         bits = bits << 8U | sum[i];

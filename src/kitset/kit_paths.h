@@ -1,8 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
+#include <string_view>
 
+#include "output/output_id.h"
 #include "output/result_files.h"
 #include "support/program_folder.h"
 
@@ -14,15 +17,15 @@ struct Output;
 /// folder of the kit beside each, so that taking their places is a renaming.
 class KitPaths {
   public:
-    /// Keeps a reference to the folder.
-    KitPaths(const ProgramFolder& folder, KitName kit) : folder_(folder), kit_(std::move(kit)) {}
+    /// Keeps a reference to the folder, and looks once which files are there in what letters.
+    KitPaths(const ProgramFolder& folder, KitName kit);
 
     [[nodiscard]] const KitName& Kit() const { return kit_; }
     [[nodiscard]] const ProgramFolder& Folder() const { return folder_; }
-    [[nodiscard]] std::filesystem::path File(const Output& output) const;
+    [[nodiscard]] const std::filesystem::path& File(const Output& output) const;
     [[nodiscard]] std::filesystem::path Waiting(const Output& output) const;
     /// "Results/<photo> <difficulty> Kit.json".
-    [[nodiscard]] std::filesystem::path List() const;
+    [[nodiscard]] const std::filesystem::path& List() const { return list_; }
     [[nodiscard]] std::filesystem::path WaitingList() const;
     /// The waiting folder in Results, which is also what the writer of a kit holds.
     [[nodiscard]] std::filesystem::path WaitingFolder() const;
@@ -32,6 +35,8 @@ class KitPaths {
 
     const ProgramFolder& folder_;
     KitName kit_;
+    std::map<OutputId, std::filesystem::path> files_;
+    std::filesystem::path list_;
 };
 
 /// What the names of waiting folders begin with; the kit's name follows.

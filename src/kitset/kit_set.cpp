@@ -11,6 +11,7 @@
 
 #include "kitset/settle.h"
 #include "kitset/sha256.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/folders.h"
 #include "support/whole_file.h"
@@ -24,14 +25,14 @@ using namespace std::chrono_literals;
 constexpr auto kLongestWait = 10s;
 constexpr auto kLook = 20ms;
 
-KitLock WaitForLock(const Workplace& place, const KitPaths& paths) {
+KitLock WaitForLock(Ui& screen, const KitPaths& paths) {
     auto lock = KitLock::Try(paths.WaitingFolder());
     if (!lock) {
-        place.Screen.SetCaption("Waiting for another Vendrel that writes " + paths.Kit().Text());
+        screen.SetCaption("Waiting for another Vendrel that writes " + paths.Kit().Text());
     }
     const auto start = std::chrono::steady_clock::now();
     while (!lock) {
-        place.Screen.Yield();
+        screen.Yield();
         if (std::chrono::steady_clock::now() - start > kLongestWait) {
             throw FileError(paths.List(),
                             "another Vendrel is still writing this kit. Wait until it is done, "
@@ -68,10 +69,8 @@ void RequireFree(const fs::path& file) {
 
 }  // namespace
 
-KitSet::KitSet(const Workplace& place, std::string mark)
-    : paths_(place.Folder, KitNameOf(place)),
-      mark_(std::move(mark)),
-      lock_(WaitForLock(place, paths_)) {
+KitSet::KitSet(const ProgramFolder& folder, const KitName& kit, Ui& screen, std::string mark)
+    : paths_(folder, kit), mark_(std::move(mark)), lock_(WaitForLock(screen, paths_)) {
     SettleKit(paths_);
 }
 
@@ -83,14 +82,15 @@ KitSet::~KitSet() {
 }
 
 Target KitSet::Waiting(const Output& output) {
-    fs::path file = paths_.Waiting(output);
+    Target target(paths_.Waiting(output), &running_[output.Id]);
+    target.Place = paths_.File(output);
     std::error_code failure;
-    fs::create_directories(file.parent_path(), failure);
+    fs::create_directories(target.File.parent_path(), failure);
     if (failure) {
-        throw FileError(file, "its folder cannot be created (" + failure.message() +
-                                  "). Check that you may write there.");
+        throw FileError(target.Place, "its folder cannot be created (" + failure.message() +
+                                          "). Check that you may write there.");
     }
-    return {std::move(file), &running_[output.Id]};
+    return target;
 }
 
 void KitSet::Written(const Output& output) {
@@ -116,7 +116,9 @@ std::vector<std::string> KitSet::Commit() {
     for (const OutputId id : own_) {
         RequireFree(paths_.File(OutputOf(id)));
     }
-    WriteWholeFile(paths_.WaitingList(), FormatKitList(list, paths_), Lasting::Synced);
+    Target target(paths_.WaitingList());
+    target.Place = paths_.List();
+    WriteWholeFile(target, FormatKitList(list, paths_), Lasting::Synced);
     waiting_ = false;
     if (const std::error_code failure = TakePlaces(paths_)) {
         throw FileError(paths_.List(), "cannot be replaced (" + failure.message() +
@@ -130,9 +132,8 @@ std::vector<std::string> KitSet::Commit() {
 KitList KitSet::MergedList(std::vector<std::string>& notes) {
     const KitList old = ReadKitList(paths_.List()).value_or(KitList{});
     for (const Output& output : AllOutputs()) {
-        std::error_code unreadable;
-        const fs::path file = paths_.File(output);
-        if (!sums_.contains(output.Id) && fs::is_regular_file(file, unreadable)) {
+        const fs::path& file = paths_.File(output);
+        if (!sums_.contains(output.Id) && IsFile(file)) {
             sums_[output.Id] = std::async(std::launch::async, SumOfFile, file);
         }
     }

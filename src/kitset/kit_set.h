@@ -11,7 +11,8 @@
 #include "kitset/kit_paths.h"
 #include "kitset/outputs.h"
 #include "kitset/running_sum.h"
-#include "shell/workplace.h"
+#include "shell/ui.h"
+#include "support/program_folder.h"
 
 namespace vendrel {
 
@@ -22,7 +23,7 @@ class KitSet {
   public:
     /// Waits for another program that writes the same kit, and ends what a killed one left. Throws
     /// FileError when the other one takes too long or the folders cannot be made.
-    KitSet(const Workplace& place, std::string mark);
+    KitSet(const ProgramFolder& folder, const KitName& kit, Ui& screen, std::string mark);
     ~KitSet();
     KitSet(const KitSet&) = delete;
     KitSet& operator=(const KitSet&) = delete;

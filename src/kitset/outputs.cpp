@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 void WriteGrid(OutputJob& job, const Target& target) {
     const WorkState& state = job.Place.State;
     WriteStippleFile(
-        target.File,
+        target,
         {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, state.FinalColors},
         Lasting::Remade);  // the set syncs it
 }
@@ -35,7 +35,9 @@ constexpr Output kOutputs[] = {
      [](OutputJob& job, const Target& target) { job.Numbered().WriteReference(target); }},
     {OutputId::Painting, "painting", "Painting.BMP", !kFonts, kByDefault, kInEverything,
      Lasting::Remade,
-     [](OutputJob& job, const Target& target) { WritePainting(job.Place, target); }},
+     [](OutputJob& job, const Target& target) {
+         WritePainting(job.Place.Screen, job.Place.Frames->WorkFrame.Picture, target);
+     }},
     {OutputId::Chart, "chart", "Color Chart.BMP", kFonts, kByDefault, kInEverything,
      Lasting::Remade, WriteWithFonts<OutputId::Chart>},
     {OutputId::Grid, "grid", "", !kFonts, kByDefault, !kInEverything, Lasting::Synced, WriteGrid},

@@ -19,10 +19,10 @@ namespace vendrel {
 /// What the writers of one kit share. The painting is numbered once, when the first asks for it.
 class OutputJob {
   public:
-    OutputJob(const Workplace& place, const Exporter* fonts, const PlanSettings& plan)
+    OutputJob(Workplace& place, const Exporter* fonts, const PlanSettings& plan)
         : Place(place), Fonts(fonts), Plan(plan) {}
 
-    const Workplace& Place;
+    Workplace& Place;
     const Exporter* Fonts;     // for outputs that need them
     const PlanSettings& Plan;  // of the printed pages
 

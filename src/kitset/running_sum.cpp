@@ -1,5 +1,8 @@
 #include "kitset/running_sum.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <utility>
 
 #include "kitset/sha256.h"
@@ -8,26 +11,24 @@ namespace vendrel {
 
 RunningSum::~RunningSum() {
     End();
+    if (file_ >= 0) {
+        close(file_);
+    }
 }
 
-void RunningSum::See(std::span<const std::byte> bytes) {
-    Block block;
-    {
-        const std::lock_guard lock(mutex_);
-        if (!spare_.empty()) {
-            block = std::move(spare_.back());
-            spare_.pop_back();
+// Without a handle of its own it watches nothing, and the file is read when it is done.
+void RunningSum::Grew(int file) {
+    if (!thread_.joinable()) {
+        file_ = fcntl(file, F_DUPFD_CLOEXEC, 0);
+        if (file_ >= 0) {
+            thread_ = std::thread([this] { Run(); });
         }
     }
-    block.assign(bytes.begin(), bytes.end());
     {
         const std::lock_guard lock(mutex_);
-        seen_.push_back(std::move(block));
+        grew_ = true;
     }
     changed_.notify_one();
-    if (!thread_.joinable()) {
-        thread_ = std::thread([this] { Run(); });
-    }
 }
 
 std::string RunningSum::Finish() {
@@ -46,22 +47,20 @@ void RunningSum::End() {
     }
 }
 
-void RunningSum::Run() {
-    Sha256Stream stream;
+bool RunningSum::AwaitMore() {
     std::unique_lock lock(mutex_);
-    for (;;) {
-        changed_.wait(lock, [this] { return ended_ || !seen_.empty(); });
-        if (seen_.empty()) {
-            break;
-        }
-        Block block = std::move(seen_.front());
-        seen_.pop_front();
-        lock.unlock();
-        stream.Add(block);
-        lock.lock();
-        spare_.push_back(std::move(block));
+    changed_.wait(lock, [this] { return ended_ || grew_; });
+    grew_ = false;
+    return !ended_;
+}
+
+void RunningSum::Run() {
+    FileSum sum(file_);
+    while (AwaitMore()) {
+        sum.AddRest();
     }
-    sum_ = stream.Hex();
+    sum.AddRest();
+    sum_ = sum.Hex();
 }
 
 }  // namespace vendrel

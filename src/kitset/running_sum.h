@@ -1,41 +1,39 @@
 #pragma once
 
 #include <condition_variable>
-#include <cstddef>
-#include <deque>
 #include <mutex>
 #include <string>
 #include <thread>
-#include <vector>
 
 #include "support/target.h"
 
 namespace vendrel {
 
-/// Takes the SHA-256 of a file while it is written, in a thread of its own: read again afterwards,
-/// a sheet would cost half the time of making it.
-class RunningSum final : public ByteWatcher {
+/// Takes the SHA-256 of a file while it is written, in a thread of its own that reads what stands
+/// there: the writer never waits for it and hands nothing over.
+class RunningSum final : public FileWatcher {
   public:
     RunningSum() = default;
     ~RunningSum() override;
 
-    void See(std::span<const std::byte> bytes) override;
-    /// Whether anything was seen.
+    void Grew(int file) override;
+    /// Whether a file is watched.
     [[nodiscard]] bool Saw() const { return thread_.joinable(); }
-    /// The sum of all that was seen, as `sha256sum` prints it; nothing can be seen afterwards.
+    /// The sum of the file, which is complete now, as `sha256sum` prints it; empty when it cannot
+    /// be read. Call it once.
     [[nodiscard]] std::string Finish();
 
   private:
-    using Block = std::vector<std::byte>;
-
     void Run();
     void End();
+    // What the file has grown since the last look; false once it grows no more.
+    [[nodiscard]] bool AwaitMore();
 
     std::thread thread_;
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<Block> seen_;
-    std::vector<Block> spare_;  // to be filled again: fresh memory costs more than the copy
+    int file_ = -1;
+    bool grew_ = false;
     bool ended_ = false;
     std::string sum_;
 };

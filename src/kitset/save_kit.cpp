@@ -25,7 +25,7 @@ void Timed(SavedKit& saved, std::string_view name, Step step) {
 enum class GridStep { Write, AlreadyThere, KeepDifferent };
 
 GridStep StepOf(const Workplace& place, const KitOrder& order) {
-    const fs::path path = StippleFilePath(place);
+    const fs::path path = StippleFilePath(place.Folder, place.State, place.State);
     if (!fs::exists(path)) {
         return GridStep::Write;
     }
@@ -40,11 +40,12 @@ GridStep StepOf(const Workplace& place, const KitOrder& order) {
 
 class Saving {
   public:
-    Saving(const Workplace& place, const KitOrder& order)
+    Saving(Workplace& place, const KitOrder& order)
         : place_(place),
           order_(order),
           job_(place, order.Fonts, order.Plan),
-          set_(place, KitMark(place)) {}
+          set_(place.Folder, KitNameOf(place.State, place.State), place.Screen,
+               KitMark(place.State, place.State, place.State)) {}
 
     SavedKit Run() {
         saved_.Mark = set_.Mark();
@@ -102,7 +103,7 @@ class Saving {
 
 }  // namespace
 
-SavedKit SaveKit(const Workplace& place, const KitOrder& order) {
+SavedKit SaveKit(Workplace& place, const KitOrder& order) {
     return Saving(place, order).Run();
 }
 

@@ -42,6 +42,6 @@ struct SavedKit {
 /// Writes the outputs as one set, all or none: sheet, reference and whatever else was ordered, and
 /// the list of the kit, see KitSet. Pictures that earlier runs left stay; those that are of another
 /// kit are named in the notes. Throws Error, FileError.
-SavedKit SaveKit(const Workplace& place, const KitOrder& order);
+SavedKit SaveKit(Workplace& place, const KitOrder& order);
 
 }  // namespace vendrel

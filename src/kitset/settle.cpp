@@ -9,6 +9,7 @@
 #include "kitset/kit_lock.h"
 #include "kitset/outputs.h"
 #include "kitset/sha256.h"
+#include "support/disk.h"
 #include "support/folders.h"
 
 namespace vendrel {
@@ -16,16 +17,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsThere(const fs::path& file) {
-    std::error_code ignored;
-    return fs::is_regular_file(file, ignored);
-}
-
 // A file of this kit that waits no more has taken its place already, or always stood there.
 bool IsWhole(const KitPaths& paths, const KitList& list, const Output& output) {
     const ListedFile* const file = list.Find(output.Id);
     const fs::path waiting = paths.Waiting(output);
-    if (IsThere(waiting)) {
+    if (IsFile(waiting)) {
         return file != nullptr && SumOfFile(waiting) == file->Sum;
     }
     return file == nullptr || file->Mark != list.Mark || SumOfFile(paths.File(output)) == file->Sum;
@@ -56,7 +52,7 @@ std::optional<KitName> KitWaitingIn(const std::string& name) {
 std::error_code TakePlaces(const KitPaths& paths) {
     std::error_code failure;
     for (const Output& output : AllOutputs()) {
-        if (IsThere(paths.Waiting(output))) {
+        if (IsFile(paths.Waiting(output))) {
             failure = TakePlace(paths, output);
         }
         if (failure) {

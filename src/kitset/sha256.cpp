@@ -11,7 +11,7 @@ namespace {
 
 static_assert(std::tuple_size_v<Sha256> == SHA256_DIGEST_SIZE);
 
-constexpr std::size_t kBlockBytes = std::size_t{256} * 1024;  // stays in the second cache
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;  // stays in the second cache
 
 std::string HexOf(const Sha256& sum) {
     constexpr std::string_view kDigits = "0123456789abcdef";
@@ -25,25 +25,35 @@ std::string HexOf(const Sha256& sum) {
 
 }  // namespace
 
-struct Sha256Stream::Context {
+struct FileSum::Context {
+    int File = -1;
     sha256_ctx Sums{};
+    off_t At = 0;
+    bool Readable = true;
+    std::vector<std::uint8_t> Block = std::vector<std::uint8_t>(kBlockBytes);
 };
 
-Sha256Stream::Sha256Stream() : context_(std::make_unique<Context>()) {
+FileSum::FileSum(int file) : context_(std::make_unique<Context>()) {
+    context_->File = file;
     sha256_init(&context_->Sums);
 }
 
-Sha256Stream::~Sha256Stream() = default;
+FileSum::~FileSum() = default;
 
-void Sha256Stream::Add(std::span<const std::byte> bytes) {
-    sha256_update(&context_->Sums, bytes.size(),
-                  reinterpret_cast<const std::uint8_t*>(bytes.data()));
+void FileSum::AddRest() {
+    Context& c = *context_;
+    ssize_t got = 0;
+    while ((got = pread(c.File, c.Block.data(), c.Block.size(), c.At)) > 0) {
+        sha256_update(&c.Sums, static_cast<std::size_t>(got), c.Block.data());
+        c.At += got;
+    }
+    c.Readable = c.Readable && got == 0;
 }
 
-std::string Sha256Stream::Hex() {
+std::string FileSum::Hex() {
     Sha256 sum{};
     sha256_digest(&context_->Sums, sum.size(), sum.data());
-    return HexOf(sum);
+    return context_->Readable ? HexOf(sum) : std::string();
 }
 
 Sha256 Sha256Of(std::string_view bytes) {
@@ -60,14 +70,10 @@ std::string SumOfFile(const std::filesystem::path& path) {
     if (file < 0) {
         return {};
     }
-    Sha256Stream stream;
-    std::vector<std::byte> block(kBlockBytes);
-    ssize_t got = 0;
-    while ((got = read(file, block.data(), block.size())) > 0) {
-        stream.Add(std::span(block).first(static_cast<std::size_t>(got)));
-    }
+    FileSum sum(file);
+    sum.AddRest();
     close(file);
-    return got == 0 ? stream.Hex() : std::string();
+    return sum.Hex();
 }
 
 }  // namespace vendrel

@@ -19,12 +19,14 @@ static_assert(kSymbolCount < kForeign);
 
 class Numbering {
   public:
-    Numbering(const Workplace& place, Surface* picture)
+    Numbering(Workplace& place, Surface* picture)
         : place_(place),
-          state_(place.State),
+          painted_(*place.State),
+          numbers_(*place.State),
+          nextArea_(place.State->NextAreaNumber),
           picture_(picture),
-          finder_(place.State, place.Screen.Screen().Twips),
-          period_(TraitsOf(place.State.Chosen.Level).SymbolPeriod) {}
+          finder_(painted_, painted_, place.Screen.Screen().Twips),
+          period_(TraitsOf(painted_.Chosen.Level).SymbolPeriod) {}
 
     SheetRecord Run();
 
@@ -44,7 +46,9 @@ class Numbering {
     void Breathe();
 
     const Workplace& place_;
-    WorkState& state_;
+    const WorkState& painted_;
+    SheetNumbers& numbers_;
+    int& nextArea_;
     Surface* picture_;
     StippleFinder finder_;
     int period_;
@@ -60,18 +64,18 @@ class Numbering {
 };
 
 void Numbering::SizeGrids() {
-    state_.NumberWidth = place_.Frames.WorkFrame.Picture.Width();
-    state_.NumberHeight = place_.Frames.WorkFrame.Picture.Height();
-    if (state_.PixelMap.Across() < state_.NumberWidth ||
-        state_.PixelMap.Down() < state_.NumberHeight) {
+    numbers_.NumberWidth = place_.Frames->WorkFrame.Picture.Width();
+    numbers_.NumberHeight = place_.Frames->WorkFrame.Picture.Height();
+    if (painted_.PixelMap.Across() < numbers_.NumberWidth ||
+        painted_.PixelMap.Down() < numbers_.NumberHeight) {
         throw Error("The picture is not painted yet. Paint it before its areas are numbered.");
     }
-    state_.NumberGrid = Grid<NumberPixel>(state_.NumberWidth, state_.NumberHeight);
-    state_.NumberMarks = Grid<NumberMark>(state_.NumberWidth, state_.NumberHeight);
-    record_ = SheetRecord(state_.NumberWidth, state_.NumberHeight);
-    seeds_ = OneBased<std::vector<CellPos>>(state_.PaintCount);
+    numbers_.NumberGrid = Grid<NumberPixel>(numbers_.NumberWidth, numbers_.NumberHeight);
+    numbers_.NumberMarks = Grid<NumberMark>(numbers_.NumberWidth, numbers_.NumberHeight);
+    record_ = SheetRecord(numbers_.NumberWidth, numbers_.NumberHeight);
+    seeds_ = OneBased<std::vector<CellPos>>(painted_.PaintCount);
     const TwipsPerPixel twips = place_.Screen.Screen().Twips;
-    for (int y = 1; y <= state_.NumberHeight; ++y) {
+    for (int y = 1; y <= numbers_.NumberHeight; ++y) {
         FillRow(y, twips);
     }
 }
@@ -80,19 +84,19 @@ void Numbering::SizeGrids() {
 // never enters from the left: every other pixel is reached from its left neighbour. So the search
 // for first pixels looks at these alone, once for all paints.
 void Numbering::FillRow(int y, TwipsPerPixel twips) {
-    const auto from = state_.PixelMap.Row(y);
-    const auto to = state_.NumberGrid.Row(y);
-    const auto marks = state_.NumberMarks.Row(y);
+    const auto from = painted_.PixelMap.Row(y);
+    const auto to = numbers_.NumberGrid.Row(y);
+    const auto marks = numbers_.NumberMarks.Row(y);
     int before = 0;
-    for (int x = 1; x <= state_.NumberWidth; ++x) {
+    for (int x = 1; x <= numbers_.NumberWidth; ++x) {
         const int paint = from[x].ColorIndex;
         NumberPixel& pixel = to[x];
         pixel.ColorIndex = static_cast<std::int16_t>(paint);
-        const bool known = paint >= 0 && paint <= state_.PaintCount;
+        const bool known = paint >= 0 && paint <= painted_.PaintCount;
         marks[x].ColorIndex = static_cast<std::uint8_t>(known ? paint : kForeign) & 0x7F;
         pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
         pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
-        if ((paint != before || x == state_.NumberWidth) && paint > 0 && known) {
+        if ((paint != before || x == numbers_.NumberWidth) && paint > 0 && known) {
             seeds_[paint].push_back({x, y});
         }
         before = paint;
@@ -102,29 +106,29 @@ void Numbering::FillRow(int y, TwipsPerPixel twips) {
 SheetRecord Numbering::Run() {
     place_.Screen.SetCaption("Setting Up Cell Numbers");
     SizeGrids();
-    state_.NextAreaNumber = 1;
-    for (int k = 1; k <= state_.PaintCount; ++k) {
-        const PaintColor& paint = state_.PaintColors[k];
+    nextArea_ = 1;
+    for (int k = 1; k <= painted_.PaintCount; ++k) {
+        const PaintColor& paint = painted_.PaintColors[k];
         place_.Screen.SetCaption("Finding Borders and Numbers For " + paint.Mfg + " " +
                                  paint.PaintName + " [" + std::to_string(k) + "]");
-        place_.Screen.ReportProgress(k, state_.PaintCount);
+        place_.Screen.ReportProgress(k, painted_.PaintCount);
         ReMarkCells(k);
     }
     place_.Screen.ReportProgress(0, 0);
-    record_.Counts.Areas = state_.NextAreaNumber - 1;
+    record_.Counts.Areas = nextArea_ - 1;
     record_.Counts.BorderDots = CountBorderDots();
     return std::move(record_);
 }
 
 void Numbering::ReMarkCells(int paint) {
     paint_ = paint;
-    color_ = ColorOf(state_.PaintColors[paint]);
+    color_ = ColorOf(painted_.PaintColors[paint]);
     for (const CellPos seed : seeds_[paint]) {
-        if (!state_.NumberMarks(seed.X, seed.Y).Marked) {
-            area_ = static_cast<std::int16_t>(state_.NextAreaNumber);
+        if (!numbers_.NumberMarks(seed.X, seed.Y).Marked) {
+            area_ = static_cast<std::int16_t>(nextArea_);
             Claim(seed.X, seed.Y);
             MarkOneNumber(seed);
-            CountUp(state_.NextAreaNumber, "areas on the sheet",
+            CountUp(nextArea_, "areas on the sheet",
                     "an easier difficulty, fewer final paints, or a clean-up in Touch Up");
         }
     }
@@ -153,7 +157,7 @@ void Numbering::MarkOneNumber(CellPos seed) {
 }
 
 void Numbering::Claim(int x, int y) {
-    NumberMark& mark = state_.NumberMarks(x, y);
+    NumberMark& mark = numbers_.NumberMarks(x, y);
     mark.AreaNumber = area_;
     mark.Marked = true;
     Recolour(x, y, color_);
@@ -172,10 +176,10 @@ void Numbering::AddSeedNeighbours(CellPos seed) {
         {{seed.X, seed.Y - 1}, {seed.X + 1, seed.Y}, {seed.X, seed.Y + 1}, {seed.X - 1, seed.Y}}};
     PositionRing::Tail tail(queue_, around.size());
     for (const CellPos at : around) {
-        if (at.X > state_.NumberWidth || at.Y > state_.NumberHeight) {
+        if (at.X > numbers_.NumberWidth || at.Y > numbers_.NumberHeight) {
             continue;
         }
-        NumberMark& mark = state_.NumberMarks(at.X, at.Y);
+        NumberMark& mark = numbers_.NumberMarks(at.X, at.Y);
         const bool own = mark.ColorIndex == paint_;
         if (!own || !mark.Marked) {
             mark.Queued = true;
@@ -187,15 +191,15 @@ void Numbering::AddSeedNeighbours(CellPos seed) {
 // The last column and row are left out on purpose: no step to the right or down enters them.
 void Numbering::AddNeighbours(int x, int y) {
     PositionRing::Tail tail(queue_, 4);
-    NumberMark* const mark = &state_.NumberMarks(x, y);
-    const std::ptrdiff_t row = state_.NumberMarks.Stride();
+    NumberMark* const mark = &numbers_.NumberMarks(x, y);
+    const std::ptrdiff_t row = numbers_.NumberMarks.Stride();
     if (y - 1 > 0) {
         AddToNumberCells(tail, x, y - 1, mark[-row]);
     }
-    if (x + 1 < state_.NumberWidth) {
+    if (x + 1 < numbers_.NumberWidth) {
         AddToNumberCells(tail, x + 1, y, mark[1]);
     }
-    if (y + 1 < state_.NumberHeight) {
+    if (y + 1 < numbers_.NumberHeight) {
         AddToNumberCells(tail, x, y + 1, mark[row]);
     }
     if (x - 1 >= 1) {
@@ -210,20 +214,20 @@ void Numbering::AddToNumberCells(PositionRing::Tail& tail, int x, int y, NumberM
 }
 
 void Numbering::Stamp(CellPos at) {
-    if (at.X >= state_.NumberWidth || at.Y >= state_.NumberHeight) {
+    if (at.X >= numbers_.NumberWidth || at.Y >= numbers_.NumberHeight) {
         return;
     }
     const CellPos cell = finder_.NearestCell(at);
     record_.Stamp(paint_, finder_.SymbolPlace(cell));
     ++record_.Counts.Symbols;
-    record_.Counts.SymbolsAstray += state_.Stipples(cell.X, cell.Y).ColorIndex != paint_ ? 1 : 0;
+    record_.Counts.SymbolsAstray += painted_.Stipples(cell.X, cell.Y).ColorIndex != paint_ ? 1 : 0;
 }
 
 void Numbering::DrawBorder(int x, int y) {
-    state_.NumberMarks(x, y).Queued = false;
+    numbers_.NumberMarks(x, y).Queued = false;
     record_.Dot({x, y});
-    Recolour(x, y, state_.EdgeColor);
-    NumberPixel& pixel = state_.NumberGrid(x, y);
+    Recolour(x, y, painted_.EdgeColor);
+    NumberPixel& pixel = numbers_.NumberGrid(x, y);
     pixel.IsBorder = true;
     pixel.AreaNumber = area_;
 }
@@ -231,8 +235,8 @@ void Numbering::DrawBorder(int x, int y) {
 // Once at the end, since most dots are drawn several times; those past the picture's edge are cut.
 int Numbering::CountBorderDots() const {
     int dots = 0;
-    for (int y = 0; y < state_.NumberHeight; ++y) {
-        for (const NumberPixel& pixel : state_.NumberGrid.Row(y).First(state_.NumberWidth)) {
+    for (int y = 0; y < numbers_.NumberHeight; ++y) {
+        for (const NumberPixel& pixel : numbers_.NumberGrid.Row(y).First(numbers_.NumberWidth)) {
             dots += pixel.IsBorder ? 1 : 0;
         }
     }
@@ -249,15 +253,15 @@ void Numbering::Breathe() {
 
 }  // namespace
 
-void RequireSymbols(const WorkState& state) {
-    if (state.PaintCount > kSymbolCount) {
-        throw Error("The palette holds " + std::to_string(state.PaintCount) +
+void RequireSymbols(const Palette& palette) {
+    if (palette.PaintCount > kSymbolCount) {
+        throw Error("The palette holds " + std::to_string(palette.PaintCount) +
                     " paints, but a sheet can show " + std::to_string(kSymbolCount) +
                     " symbols. Choose fewer final paints and convert the photo again.");
     }
 }
 
-SheetRecord SetupCellNumbers(const Workplace& place, Surface* picture) {
+SheetRecord SetupCellNumbers(Workplace& place, Surface* picture) {
     RequireSymbols(place.State);
     return Numbering(place, picture).Run();
 }

@@ -11,9 +11,9 @@ namespace vendrel {
 /// paints with EdgeColor borders; null: nobody watches. Fills NumberGrid and NumberMarks;
 /// NextAreaNumber ends one past the last area. Throws Error for more than 50 paints and
 /// OverflowError past 32767 areas.
-[[nodiscard]] SheetRecord SetupCellNumbers(const Workplace& place, Surface* picture);
+[[nodiscard]] SheetRecord SetupCellNumbers(Workplace& place, Surface* picture);
 
 /// Throws Error when the palette holds more paints than there are symbols.
-void RequireSymbols(const WorkState& state);
+void RequireSymbols(const Palette& palette);
 
 }  // namespace vendrel

@@ -6,7 +6,6 @@
 #include <numeric>
 #include <tuple>
 
-#include "shell/stipple_grid.h"
 #include "shell/symbol_of.h"
 #include "support/list.h"
 
@@ -43,15 +42,22 @@ std::vector<int> SharesInTenths(std::span<const int> counts) {
     return shares;
 }
 
-std::vector<ChartRow> FillChart(WorkState& state) {
-    const OneBased<int> counts = CountStipples(state.Stipples, state.PaintCount);
+std::vector<ChartRow> ListChart(const Palette& palette, const StippleGrid& grid) {
+    const OneBased<int> counts = CountStipples(grid.Stipples, palette.PaintCount);
     const std::vector<int> shares = SharesInTenths(counts.Entries());
     std::vector<ChartRow> rows;
-    for (int p = 1; p <= state.PaintCount; ++p) {
-        PaintColor& paint = state.PaintColors[p];
-        paint.CellCount = counts[p];
-        rows.push_back({SymbolOf(state.PaintColors, p), paint.Mfg, PaintLabel(paint),
+    for (int p = 1; p <= palette.PaintCount; ++p) {
+        const PaintColor& paint = palette.PaintColors[p];
+        rows.push_back({SymbolOf(palette.PaintColors, p), paint.Mfg, PaintLabel(paint),
                         ColorOf(paint), counts[p], At(shares, p - 1)});
+    }
+    return rows;
+}
+
+std::vector<ChartRow> FillChart(Palette& palette, const StippleGrid& grid) {
+    std::vector<ChartRow> rows = ListChart(palette, grid);
+    for (int p = 1; p <= palette.PaintCount; ++p) {
+        palette.PaintColors[p].CellCount = At(rows, p - 1).Stipples;
     }
     return rows;
 }
@@ -70,8 +76,8 @@ std::string ShareText(int tenths) {
     return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " %";
 }
 
-std::string PrintedName(const WorkState& state) {
-    std::string name = state.PictureName;
+std::string PrintedName(const LoadedPhoto& photo) {
+    std::string name = photo.PictureName;
     std::ranges::replace(name, '_', ' ');
     return name;
 }

@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "shell/work_state.h"
+#include "shell/loaded_photo.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
 #include "support/color.h"
 
 namespace vendrel {
@@ -23,8 +25,11 @@ struct ChartRow {
 
 enum class ChartOrder { Symbol, Share, Set };
 
-/// Counts the stipples of the grid into CellCount and lists every paint in palette order.
-[[nodiscard]] std::vector<ChartRow> FillChart(WorkState& state);
+/// Lists every paint in palette order with its stipples of the grid.
+[[nodiscard]] std::vector<ChartRow> ListChart(const Palette& palette, const StippleGrid& grid);
+
+/// The same, and keeps what it counted in CellCount.
+[[nodiscard]] std::vector<ChartRow> FillChart(Palette& palette, const StippleGrid& grid);
 
 /// By symbol, by share with the largest first, or by set and name; equals stay in symbol order.
 void SortChart(std::vector<ChartRow>& rows, ChartOrder order);
@@ -37,7 +42,7 @@ void SortChart(std::vector<ChartRow>& rows, ChartOrder order);
 [[nodiscard]] std::string ShareText(int tenths);
 
 /// The photo's name as a title: cameras and painters write "_" for a space.
-[[nodiscard]] std::string PrintedName(const WorkState& state);
+[[nodiscard]] std::string PrintedName(const LoadedPhoto& photo);
 
 /// "Set: Name [Code]".
 [[nodiscard]] std::string PaintLabel(const PaintColor& paint);

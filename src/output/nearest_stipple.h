@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/work_state.h"
+#include "shell/stipple_grid.h"
+#include "shell/work_settings.h"
 #include "support/twips.h"
 
 namespace vendrel {
@@ -9,8 +10,8 @@ namespace vendrel {
 /// searched as a grid is walked, row by row; of stipples equally near the later one is found.
 class StippleFinder {
   public:
-    /// Keeps a reference to the state, whose grid must not change meanwhile.
-    StippleFinder(const WorkState& state, TwipsPerPixel twips);
+    /// Keeps references: the grid must not change meanwhile.
+    StippleFinder(const StippleGrid& grid, const WorkSettings& settings, TwipsPerPixel twips);
 
     /// Column and row of the grid; (0, 0) when there is no stipple.
     [[nodiscard]] CellPos NearestCell(CellPos pixel) const;
@@ -23,13 +24,14 @@ class StippleFinder {
     [[nodiscard]] bool IsRegular() const;
     [[nodiscard]] CellPos Search(CellPos pixel) const;
 
-    const WorkState& state_;
+    const StippleGrid& grid_;
+    const WorkSettings& settings_;
     CellPos reach_;  // how far away a stipple may lie
     bool regular_;
 };
 
 /// The place of the symbol that marks picture position `pixel`.
-[[nodiscard]] CellPos FindNearestStipple(const WorkState& state, TwipsPerPixel twips,
-                                         CellPos pixel);
+[[nodiscard]] CellPos FindNearestStipple(const StippleGrid& grid, const WorkSettings& settings,
+                                         TwipsPerPixel twips, CellPos pixel);
 
 }  // namespace vendrel

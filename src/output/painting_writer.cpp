@@ -4,9 +4,9 @@
 
 namespace vendrel {
 
-void WritePainting(const Workplace& place, const Target& target) {
-    place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteBitmap(target, place.Frames.WorkFrame.Picture);
+void WritePainting(Ui& screen, const Surface& painting, const Target& target) {
+    screen.SetCaption("Saving File, Please Wait....");
+    WriteBitmap(target, painting);
 }
 
 }  // namespace vendrel

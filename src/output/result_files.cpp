@@ -2,8 +2,8 @@
 
 namespace vendrel {
 
-KitName KitNameOf(const Workplace& place) {
-    return {place.State.PictureName, std::string(DifficultyWord(place.State))};
+KitName KitNameOf(const LoadedPhoto& photo, const WorkSettings& settings) {
+    return {photo.PictureName, std::string(DifficultyWord(settings))};
 }
 
 std::filesystem::path ResultFile(const ProgramFolder& folder, const KitName& kit,

@@ -4,7 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "shell/workplace.h"
+#include "shell/loaded_photo.h"
+#include "shell/work_settings.h"
+#include "support/program_folder.h"
 
 namespace vendrel {
 
@@ -18,7 +20,7 @@ struct KitName {
 };
 
 /// Of the photo and the difficulty chosen now.
-[[nodiscard]] KitName KitNameOf(const Workplace& place);
+[[nodiscard]] KitName KitNameOf(const LoadedPhoto& photo, const WorkSettings& settings);
 
 /// "Results/<photo> <difficulty> <kind>", existing or not; the kind ends with the extension.
 [[nodiscard]] std::filesystem::path ResultFile(const ProgramFolder& folder, const KitName& kit,

@@ -16,14 +16,14 @@ namespace {
 
 constexpr int kStripBytes = 512 * 1024;  // fits the processor's second cache
 
-int CellSizeOf(const WorkState& state) {
-    return TraitsOf(state.Chosen.Level).SheetCellSize;
+int CellSizeOf(const SheetLook& look) {
+    return TraitsOf(look.Settings.Chosen.Level).SheetCellSize;
 }
 
 // Draws the picture rows of one strip, each SheetCellSize sheet rows high.
 class StripPainter {
   public:
-    StripPainter(const WorkState& state, const SheetRecord& record, const SheetColors& colors);
+    StripPainter(const SheetRecord& record, const SheetLook& look);
 
     /// Draws `strip`, whose uppermost picture row is `first`.
     void Draw(cDIBSection& strip, int first) const;
@@ -38,20 +38,21 @@ class StripPainter {
     void LayGround(cDIBSection& strip, int first) const;
     void DrawDots(const DibView& SheetDC, int first) const;
     void DrawSymbol(const DibView& SheetDC, std::size_t index, int first) const;
+    [[nodiscard]] std::span<const GlyphPoint> InkOf(int paint) const {
+        return vendrel::InkOf(look_.Shapes, SymbolOf(look_.Paints.PaintColors, paint));
+    }
 
-    const WorkState& state_;
     const SheetRecord& record_;
-    const SheetColors& colors_;
+    const SheetLook& look_;
     int scale_;
     std::vector<Reach> reaches_;  // per recorded symbol
 };
 
-StripPainter::StripPainter(const WorkState& state, const SheetRecord& record,
-                           const SheetColors& colors)
-    : state_(state), record_(record), colors_(colors), scale_(CellSizeOf(state)) {
+StripPainter::StripPainter(const SheetRecord& record, const SheetLook& look)
+    : record_(record), look_(look), scale_(CellSizeOf(look)) {
     for (const auto& [paint, at] : record.Symbols()) {
         Reach reach{scale_ * at.Y, scale_ * at.Y};
-        for (const GlyphPoint& point : InkOf(state, SymbolOf(state.PaintColors, paint))) {
+        for (const GlyphPoint& point : InkOf(paint)) {
             const int row = OnSheet(scale_, at.Y, point.Y);  // a strip counts its rows anew
             reach = {std::min(reach.Top, row), std::max(reach.Bottom, row + 1)};
         }
@@ -73,14 +74,14 @@ void StripPainter::Draw(cDIBSection& strip, int first) const {
 
 void StripPainter::LayGround(cDIBSection& strip, int first) const {
     std::uint8_t* to = strip.DIBSectionBitsPtr();
-    if (colors_.Ground == nullptr) {
+    if (look_.Ground == nullptr) {
         std::fill_n(to, strip.hDib()->SizeImage, std::uint8_t{255});
         return;
     }
     const auto rowBytes = static_cast<std::size_t>(strip.BytesPerScanLine());
     for (int y = first + strip.Height() / scale_ - 1; y >= first; --y) {
         std::uint8_t* const row = to;
-        for (const Color color : colors_.Ground->Row(y)) {
+        for (const Color color : look_.Ground->Row(y)) {
             for (int i = 0; i < scale_; ++i) {
                 StoreBgr(color, to);
                 to += 3;
@@ -98,7 +99,7 @@ void StripPainter::DrawDots(const DibView& SheetDC, int first) const {
         int x = 0;
         for (const int dot : record_.Dots(first + y)) {
             if (dot != 0) {
-                SheetDC.Set(x, scale_ * y, state_.BorderColor);
+                SheetDC.Set(x, scale_ * y, look_.Settings.BorderColor);
             }
             x += scale_;
         }
@@ -108,13 +109,14 @@ void StripPainter::DrawDots(const DibView& SheetDC, int first) const {
 // All dots are there already, so those that came after the symbol are put back on top of it.
 void StripPainter::DrawSymbol(const DibView& SheetDC, std::size_t index, int first) const {
     const auto& [paint, at] = record_.Symbols()[index];
-    const auto ink = InkOf(state_, SymbolOf(state_.PaintColors, paint));
-    Number2CDIB(SheetDC, ink, scale_, colors_.Inks[paint], {at.X, at.Y - first});
+    const auto ink = InkOf(paint);
+    Number2CDIB(SheetDC, ink, scale_, look_.Inks[paint], {at.X, at.Y - first});
     for (const GlyphPoint& point : ink) {
         if (point.X % scale_ == 0 && point.Y % scale_ == 0) {
             const CellPos pixel{at.X + point.X / scale_, at.Y + point.Y / scale_};
             if (record_.DottedAfter(index, pixel)) {
-                SheetDC.Set(scale_ * pixel.X, scale_ * (pixel.Y - first), state_.BorderColor);
+                SheetDC.Set(scale_ * pixel.X, scale_ * (pixel.Y - first),
+                            look_.Settings.BorderColor);
             }
         }
     }
@@ -129,11 +131,10 @@ void CreateStrip(cDIBSection& strip, int width, int height) {
 
 }  // namespace
 
-void WriteDrawing(const Target& target, const WorkState& state, const SheetRecord& record,
-                  const SheetColors& colors) {
-    const int scale = CellSizeOf(state);
+void WriteDrawing(const Target& target, const SheetRecord& record, const SheetLook& look) {
+    const int scale = CellSizeOf(look);
     const int width = record.Width() * scale;
-    const StripPainter painter(state, record, colors);
+    const StripPainter painter(record, look);
     BitmapStream stream(target, width, record.Height() * scale);
     const int rows = std::max(1, kStripBytes / (3 * width * scale));
     cDIBSection strip;

@@ -14,36 +14,37 @@ namespace {
 // whatever order the painter saves.
 class PaintingKept {
   public:
-    explicit PaintingKept(const Workplace& place)
-        : place_(place), painting_(place.Frames.WorkFrame.Picture) {}
+    PaintingKept(Surface& picture, Ui& screen)
+        : picture_(picture), screen_(screen), painting_(picture) {}
     ~PaintingKept() {
-        std::swap(place_.Frames.WorkFrame.Picture, painting_);
-        place_.Screen.RefreshWorkFrame();
+        std::swap(picture_, painting_);
+        screen_.RefreshWorkFrame();
     }
     PaintingKept(const PaintingKept&) = delete;
     PaintingKept& operator=(const PaintingKept&) = delete;
 
   private:
-    const Workplace& place_;
+    Surface& picture_;
+    Ui& screen_;
     Surface painting_;
 };
 
-SheetRecord Number(const Workplace& place) {
+SheetRecord Number(Workplace& place) {
     RequireSymbols(place.State);
-    Surface& painting = place.Frames.WorkFrame.Picture;
+    Surface& painting = place.Frames->WorkFrame.Picture;
     if (painting.Empty()) {
         throw Error("There is no painted picture to number. Load a photo and paint it first.");
     }
     if (!place.Screen.Watched()) {  // recolouring for nobody costs a tenth of the time
         return SetupCellNumbers(place, nullptr);
     }
-    const PaintingKept kept(place);
+    const PaintingKept kept(painting, place.Screen);
     return SetupCellNumbers(place, &painting);
 }
 
-OneBased<Color> InksOnPaints(const WorkState& state) {
+OneBased<Color> InksOnPaints(const Palette& palette) {
     OneBased<Color> inks;
-    for (const PaintColor& paint : state.PaintColors) {
+    for (const PaintColor& paint : palette.PaintColors) {
         inks.Add(InkOn(ColorOf(paint)));
     }
     return inks;
@@ -51,19 +52,24 @@ OneBased<Color> InksOnPaints(const WorkState& state) {
 
 }  // namespace
 
-NumberedPainting::NumberedPainting(const Workplace& place) : place_(place), record_(Number(place)) {
+NumberedPainting::NumberedPainting(Workplace& place) : place_(place), record_(Number(place)) {
     place.Screen.SetCaption("Saving File, Please Wait....");
+}
+
+SheetLook NumberedPainting::Look(const Surface* ground, OneBased<Color> inks) const {
+    const WorkState& state = place_.State;
+    return {state, state, state, ground, std::move(inks)};
 }
 
 void NumberedPainting::WriteSheet(const Target& target) const {
     const WorkState& state = place_.State;
-    const OneBased<Color> inks(state.PaintCount, state.SymbolColor);
-    WriteDrawing(target, state, record_, {.Ground = nullptr, .Inks = inks});
+    WriteDrawing(target, record_,
+                 Look(nullptr, OneBased<Color>(state.PaintCount, state.SymbolColor)));
 }
 
 void NumberedPainting::WriteReference(const Target& target) const {
-    WriteDrawing(target, place_.State, record_,
-                 {.Ground = &place_.Frames.WorkFrame.Picture, .Inks = InksOnPaints(place_.State)});
+    WriteDrawing(target, record_,
+                 Look(&place_.Frames->WorkFrame.Picture, InksOnPaints(place_.State)));
 }
 
 }  // namespace vendrel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "output/sheet_drawing.h"
 #include "output/sheet_record.h"
 #include "shell/workplace.h"
 #include "support/target.h"
@@ -11,7 +12,7 @@ namespace vendrel {
 class NumberedPainting {
   public:
     /// Throws Error for more paints than symbols or an unpainted picture, OverflowError.
-    explicit NumberedPainting(const Workplace& place);
+    explicit NumberedPainting(Workplace& place);
 
     /// Borders and symbols on white. Throws FileError, OverflowError.
     void WriteSheet(const Target& target) const;
@@ -21,6 +22,8 @@ class NumberedPainting {
     [[nodiscard]] const NumberingCounts& Counts() const { return record_.Counts; }
 
   private:
+    [[nodiscard]] SheetLook Look(const Surface* ground, OneBased<Color> inks) const;
+
     const Workplace& place_;
     SheetRecord record_;
 };

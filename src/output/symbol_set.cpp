@@ -37,10 +37,10 @@ SymbolGlyph ReadGlyph(FieldReader& fields) {
     return glyph;
 }
 
-void FillSymbolCodes(WorkState& state) {
-    state.SymbolCodes.Clear();
+void FillSymbolCodes(Symbols& symbols) {
+    symbols.SymbolCodes.Clear();
     for (const char symbol : kSymbolCharacters) {
-        state.SymbolCodes.Add(static_cast<unsigned char>(symbol));
+        symbols.SymbolCodes.Add(static_cast<unsigned char>(symbol));
     }
 }
 
@@ -63,37 +63,37 @@ void CollectInk(SymbolGlyph& glyph, const Canvas& canvas, Color ink) {
     }
 }
 
-void MakeAsciiSymbols(WorkState& state, Canvas& canvas, int symbol) {
+void MakeAsciiSymbols(Symbols& symbols, Color ink, Canvas& canvas, int symbol) {
     canvas.Clear(kWhite);
     canvas.SetFont("Courier New", 12);
-    canvas.Print(static_cast<char>(state.SymbolCodes[symbol]), state.SymbolColor);
-    CollectInk(state.SymbolGlyphs[symbol], canvas, state.SymbolColor);
+    canvas.Print(static_cast<char>(symbols.SymbolCodes[symbol]), ink);
+    CollectInk(symbols.SymbolGlyphs[symbol], canvas, ink);
 }
 
 }  // namespace
 
-void SetupBMPSymbols(const Workplace& place) {
-    const std::filesystem::path file = place.Folder.DataFile("Data/Symbols.txt");
+void SetupBMPSymbols(Symbols& symbols, const ProgramFolder& folder) {
+    const std::filesystem::path file = folder.DataFile("Data/Symbols.txt");
     const std::string text = ReadTextFile(file);
     FieldReader fields(text, file);
     OneBased<SymbolGlyph> glyphs;
     for (int k = 1; k <= kSymbolCount; ++k) {
         glyphs.Add(ReadGlyph(fields));
     }
-    place.State.SymbolGlyphs = std::move(glyphs);
-    FillSymbolCodes(place.State);
+    symbols.SymbolGlyphs = std::move(glyphs);
+    FillSymbolCodes(symbols);
 }
 
-char CharacterOf(const WorkState& state, int symbol) {
-    return state.SymbolCodes.Holds(symbol) ? static_cast<char>(state.SymbolCodes[symbol]) : '?';
+char CharacterOf(const Symbols& symbols, int symbol) {
+    return symbols.SymbolCodes.Holds(symbol) ? static_cast<char>(symbols.SymbolCodes[symbol]) : '?';
 }
 
-std::span<const GlyphPoint> InkOf(const WorkState& state, int symbol) {
-    if (symbol < 0 || symbol > state.SymbolGlyphs.Count()) {
+std::span<const GlyphPoint> InkOf(const Symbols& symbols, int symbol) {
+    if (symbol < 0 || symbol > symbols.SymbolGlyphs.Count()) {
         throw Error("There is no symbol " + std::to_string(symbol) +
                     ": a sheet can show 50 paints. Reduce the final paints to 50 or fewer.");
     }
-    return state.SymbolGlyphs[symbol].Points.Entries();
+    return symbols.SymbolGlyphs[symbol].Points.Entries();
 }
 
 int OnSheet(int cellSize, int position, int offset) {
@@ -112,13 +112,14 @@ void Number2CDIB(const DibView& SheetDC, std::span<const GlyphPoint> ink, int ce
     }
 }
 
-void MakeSymbolFile(WorkState& state, const std::filesystem::path& file, Canvas& canvas) {
-    FillSymbolCodes(state);
-    state.SymbolGlyphs = OneBased<SymbolGlyph>(kSymbolCount);
+void MakeSymbolFile(Symbols& symbols, Color ink, const std::filesystem::path& file,
+                    Canvas& canvas) {
+    FillSymbolCodes(symbols);
+    symbols.SymbolGlyphs = OneBased<SymbolGlyph>(kSymbolCount);
     std::string text;
     for (int k = 1; k <= kSymbolCount; ++k) {
-        MakeAsciiSymbols(state, canvas, k);
-        AppendGlyph(text, state.SymbolGlyphs[k]);
+        MakeAsciiSymbols(symbols, ink, canvas, k);
+        AppendGlyph(text, symbols.SymbolGlyphs[k]);
     }
     WriteWholeFile(file, text);
 }

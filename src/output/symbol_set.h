@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "shell/work_state.h"
-#include "shell/workplace.h"
+#include "shell/symbols.h"
 #include "support/cell_pos.h"
 #include "support/color.h"
 #include "support/dib_view.h"
+#include "support/program_folder.h"
 
 namespace vendrel {
 
@@ -23,13 +23,13 @@ inline constexpr std::string_view kSymbolCharacters =
 static_assert(kSymbolCharacters.size() == kSymbolCount);
 
 /// Reads the glyphs of `Data/Symbols.txt` and fills SymbolCodes. Throws FileError and FormatError.
-void SetupBMPSymbols(const Workplace& place);
+void SetupBMPSymbols(Symbols& symbols, const ProgramFolder& folder);
 
 /// The character of a symbol, "?" for one that is not there or while none are read.
-[[nodiscard]] char CharacterOf(const WorkState& state, int symbol);
+[[nodiscard]] char CharacterOf(const Symbols& symbols, int symbol);
 
 /// The pixels of a symbol's ink. Throws Error for a symbol outside 0..50 or while none are read.
-[[nodiscard]] std::span<const GlyphPoint> InkOf(const WorkState& state, int symbol);
+[[nodiscard]] std::span<const GlyphPoint> InkOf(const Symbols& symbols, int symbol);
 
 /// cellSize * position + offset, in sheet pixels. Throws OverflowError beyond 16 bits.
 [[nodiscard]] int OnSheet(int cellSize, int position, int offset);
@@ -64,8 +64,8 @@ class Canvas {
     [[nodiscard]] virtual Color Get(int x, int y) const = 0;
 };
 
-/// Draws every symbol's character and writes the pixels to `file`, whole or not at all. The glyphs
-/// hold canvas positions until SetupBMPSymbols reads the file again. Throws FileError.
-void MakeSymbolFile(WorkState& state, const std::filesystem::path& file, Canvas& canvas);
+/// Draws every symbol's character in `ink` and writes the pixels to `file`, whole or not at all.
+/// The glyphs hold canvas positions until SetupBMPSymbols reads the file again. Throws FileError.
+void MakeSymbolFile(Symbols& symbols, Color ink, const std::filesystem::path& file, Canvas& canvas);
 
 }  // namespace vendrel

@@ -6,25 +6,23 @@
 #include <utility>
 
 #include "paints/paint_fields.h"
-#include "shell/palette.h"
 
 namespace vendrel {
 
-void LoadMasterColors(Workplace& place) {
-    SetCatalogue(place.State, ReadPaints(place, place.Folder.DataFile("Data/studiopaint.csv")));
+void LoadMasterColors(Catalogue& catalogue, GivenWarnings& given, Ui& screen,
+                      const ProgramFolder& folder) {
+    SetCatalogue(catalogue, ReadPaints(given, screen, folder.DataFile("Data/studiopaint.csv")));
 }
 
-void BuildPaintSets(Workplace& place) {
-    WorkState& state = place.State;
+void BuildPaintSets(Catalogue& catalogue) {
     OneBased<PaintSet> sets;
     std::unordered_set<std::string_view> known;
-    for (const PaintColor& paint : state.MasterColors) {
+    for (const PaintColor& paint : catalogue.MasterColors) {
         if (paint.Mfg.empty() || known.insert(paint.Mfg).second) {
             sets.Add({paint.Mfg, false});
         }
     }
-    state.PaintSets = std::move(sets);
-    state.PaintSetCount = state.PaintSets.Count();
+    SetPaintSets(catalogue, std::move(sets));
 }
 
 }  // namespace vendrel

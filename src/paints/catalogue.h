@@ -1,15 +1,19 @@
 #pragma once
 
-#include "shell/workplace.h"
+#include "shell/catalogue.h"
+#include "shell/given_warnings.h"
+#include "shell/ui.h"
+#include "support/program_folder.h"
 
 namespace vendrel {
 
 /// Reads Data/studiopaint.csv into MasterColors, in file order. Throws FileError or FormatError
 /// and then leaves the catalogue as it was.
-void LoadMasterColors(Workplace& place);
+void LoadMasterColors(Catalogue& catalogue, GivenWarnings& given, Ui& screen,
+                      const ProgramFolder& folder);
 
 /// One unselected paint set per Mfg of the catalogue, in order of first appearance. A paint
 /// without Mfg belongs to no set of others and adds a nameless set of its own.
-void BuildPaintSets(Workplace& place);
+void BuildPaintSets(Catalogue& catalogue);
 
 }  // namespace vendrel

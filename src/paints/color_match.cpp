@@ -10,12 +10,12 @@ void GetRgb(Color color, int& r, int& g, int& b) {
     b = BlueOf(color);
 }
 
-void ColorMatch(const WorkState& state, int& R, int& G, int& B, int& Index, int SkipIndex) {
-    const int nearest = FindNearest(state.PaintColors, {R, G, B}, SkipIndex);
+void ColorMatch(const Palette& palette, int& R, int& G, int& B, int& Index, int SkipIndex) {
+    const int nearest = FindNearest(palette.PaintColors, {R, G, B}, SkipIndex);
     if (nearest == 0) {
         return;
     }
-    const PaintColor& paint = state.PaintColors[nearest];
+    const PaintColor& paint = palette.PaintColors[nearest];
     R = paint.Red;
     G = paint.Green;
     B = paint.Blue;

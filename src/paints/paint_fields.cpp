@@ -79,10 +79,10 @@ PaintFile ReadPaintFile(const std::filesystem::path& file) {
     return read;
 }
 
-PaintList ReadPaints(const Workplace& place, const std::filesystem::path& file) {
+PaintList ReadPaints(GivenWarnings& given, Ui& screen, const std::filesystem::path& file) {
     PaintFile read = ReadPaintFile(file);
     for (const std::string& warning : read.Warnings) {
-        WarnOnce(place, warning);
+        WarnOnce(given, screen, warning);
     }
     return std::move(read.Paints);
 }

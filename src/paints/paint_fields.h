@@ -4,8 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "shell/given_warnings.h"
 #include "shell/records.h"
-#include "shell/workplace.h"
+#include "shell/ui.h"
 
 namespace vendrel {
 
@@ -21,6 +22,7 @@ struct PaintFile {
 [[nodiscard]] PaintFile ReadPaintFile(const std::filesystem::path& file);
 
 /// The same, warning the painter once.
-[[nodiscard]] PaintList ReadPaints(const Workplace& place, const std::filesystem::path& file);
+[[nodiscard]] PaintList ReadPaints(GivenWarnings& given, Ui& screen,
+                                   const std::filesystem::path& file);
 
 }  // namespace vendrel

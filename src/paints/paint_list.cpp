@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "paints/paint_sets.h"
-#include "shell/palette.h"
 #include "shell/warnings.h"
 #include "support/disk.h"
 #include "support/text_file.h"
@@ -18,9 +17,9 @@ namespace {
 constexpr const char* kPaintList = "data/paintlist.txt";
 
 // False when there is no such set.
-bool Select(WorkState& state, const std::string& name) {
+bool Select(Catalogue& catalogue, const std::string& name) {
     bool known = false;
-    for (PaintSet& set : state.PaintSets) {
+    for (PaintSet& set : catalogue.PaintSets) {
         if (set.Name == name) {
             set.Selected = true;
             known = true;
@@ -29,52 +28,53 @@ bool Select(WorkState& state, const std::string& name) {
     return known;
 }
 
-void WarnOfUnknown(const Workplace& place, const std::filesystem::path& file,
+void WarnOfUnknown(GivenWarnings& given, Ui& screen, const std::filesystem::path& file,
                    const std::string& names) {
     if (!names.empty()) {
-        WarnOnce(place, file.string() + ": the catalogue has no paint set " + names +
-                            ". It is left out; choose others in the paint shop or correct the "
-                            "name.");
+        WarnOnce(given, screen,
+                 file.string() + ": the catalogue has no paint set " + names +
+                     ". It is left out; choose others in the paint shop or correct the "
+                     "name.");
     }
 }
 
-void StartPaintList(Workplace& place) {
-    if (place.State.PaintSetCount > 0) {
-        place.State.PaintSets[1].Selected = true;
-        SavePaintList(place);
+void StartPaintList(Catalogue& catalogue, const ProgramFolder& folder) {
+    if (catalogue.PaintSetCount > 0) {
+        catalogue.PaintSets[1].Selected = true;
+        SavePaintList(catalogue, folder);
     }
 }
 
 }  // namespace
 
-void LoadPaintList(Workplace& place) {
-    WorkState& state = place.State;
-    SetPalette(state, {});
-    const auto file = place.Folder.DataFile(kPaintList);
+void LoadPaintList(Catalogue& catalogue, Palette& palette, GivenWarnings& given, Ui& screen,
+                   const ProgramFolder& folder) {
+    SetPalette(palette, {});
+    const auto file = folder.DataFile(kPaintList);
     if (!Stands(file)) {
-        StartPaintList(place);
+        StartPaintList(catalogue, folder);
         return;
     }
     PaintList paints;
     std::string unknown;
     for (const std::string& line : SplitLines(ReadTextFile(file))) {
-        if (!Select(state, line) && !line.empty()) {
+        if (!Select(catalogue, line) && !line.empty()) {
             unknown += (unknown.empty() ? "\"" : ", \"") + line + '"';
         }
-        AppendPaintsOf(state, line, paints);
+        AppendPaintsOf(catalogue, line, paints);
     }
-    SetPalette(state, std::move(paints));
-    WarnOfUnknown(place, file, unknown);
+    SetPalette(palette, std::move(paints));
+    WarnOfUnknown(given, screen, file, unknown);
 }
 
-void SavePaintList(Workplace& place) {
+void SavePaintList(const Catalogue& catalogue, const ProgramFolder& folder) {
     std::string text;
-    for (const PaintSet& set : place.State.PaintSets) {
+    for (const PaintSet& set : catalogue.PaintSets) {
         if (set.Selected) {
             text += set.Name + "\r\n";
         }
     }
-    WriteWholeFile(place.Folder.Path(kPaintList), text, Lasting::Synced);
+    WriteWholeFile(folder.Path(kPaintList), text, Lasting::Synced);
 }
 
 }  // namespace vendrel

@@ -3,23 +3,22 @@
 #include <string>
 #include <utility>
 
-#include "shell/palette.h"
 #include "support/counter.h"
 #include "support/error.h"
 
 namespace vendrel {
 
-void FillSelectedPaintsList(WorkState& state) {
-    state.SelectedPaintsList.clear();
-    for (const PaintSet& set : state.PaintSets) {
+void FillSelectedPaintsList(PaintChoice& choice, const Catalogue& catalogue) {
+    choice.SelectedPaintsList.clear();
+    for (const PaintSet& set : catalogue.PaintSets) {
         if (set.Selected) {
-            state.SelectedPaintsList.push_back(set.Name);
+            choice.SelectedPaintsList.push_back(set.Name);
         }
     }
 }
 
-void AppendPaintsOf(const WorkState& state, std::string_view setName, PaintList& paints) {
-    for (const PaintColor& paint : state.MasterColors) {
+void AppendPaintsOf(const Catalogue& catalogue, std::string_view setName, PaintList& paints) {
+    for (const PaintColor& paint : catalogue.MasterColors) {
         if (paint.Mfg != setName) {
             continue;
         }
@@ -31,12 +30,12 @@ void AppendPaintsOf(const WorkState& state, std::string_view setName, PaintList&
     }
 }
 
-void LoadColors(Workplace& place) {
+void LoadColors(Palette& palette, const Catalogue& catalogue, const PaintChoice& choice) {
     PaintList paints;
-    for (const std::string& name : place.State.SelectedPaintsList) {
-        AppendPaintsOf(place.State, name, paints);
+    for (const std::string& name : choice.SelectedPaintsList) {
+        AppendPaintsOf(catalogue, name, paints);
     }
-    SetPalette(place.State, std::move(paints));
+    SetPalette(palette, std::move(paints));
 }
 
 }  // namespace vendrel

@@ -9,8 +9,8 @@
 
 namespace vendrel {
 
-// Palettes of other programs. Lists of paints keep an empty element 0. A double quote in a name
-// becomes an apostrophe, since templates cannot hold one.
+// Palettes of other programs. A double quote in a name becomes an apostrophe, since templates
+// cannot hold one.
 
 /// Reads a palette by its ending: .gpl, or .csv with red, green, blue and name columns, in this
 /// order or as a heading line names them. Throws FormatError naming file and line.

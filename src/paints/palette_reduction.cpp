@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "paints/color_match.h"
-#include "shell/palette.h"
 #include "support/counter.h"
 
 namespace vendrel {
@@ -22,11 +21,11 @@ int LeastUsed(const OneBased<int>& counts) {
     return result;
 }
 
-PaletteReduction::PaletteReduction(const WorkState& state, OneBased<int> counts)
-    : origins_(state.PaintCount), counts_(std::move(counts)) {
+PaletteReduction::PaletteReduction(const Palette& palette, OneBased<int> counts)
+    : origins_(palette.PaintCount), counts_(std::move(counts)) {
     std::iota(origins_.begin(), origins_.end(), 1);
-    colors_.Reserve(state.PaintCount);
-    for (const PaintColor& paint : state.PaintColors) {
+    colors_.Reserve(palette.PaintCount);
+    for (const PaintColor& paint : palette.PaintColors) {
         colors_.Add({paint.Red, paint.Green, paint.Blue});
     }
     counts_.Resize(colors_.Count());
@@ -56,21 +55,21 @@ OneBased<int> PaletteReduction::NewIndices() const {
     return indices;
 }
 
-void PaletteReduction::Commit(WorkState& state) const {
+void PaletteReduction::Commit(Palette& palette, StippleGrid& grid) const {
     if (merges_.empty()) {
         return;
     }
     const OneBased<int> indices = NewIndices();
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (StippleCell& cell : state.Stipples.Row(y).From(1)) {
+    for (int y = 1; y <= grid.CellsDown; ++y) {
+        for (StippleCell& cell : grid.Stipples.Row(y).From(1)) {
             cell.ColorIndex = indices[cell.ColorIndex];
         }
     }
     PaintList kept;
     for (const int origin : origins_) {
-        kept.Add(std::move(state.PaintColors[origin]));
+        kept.Add(std::move(palette.PaintColors[origin]));
     }
-    SetPalette(state, std::move(kept));
+    SetPalette(palette, std::move(kept));
 }
 
 }  // namespace vendrel

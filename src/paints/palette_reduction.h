@@ -3,7 +3,8 @@
 #include <vector>
 
 #include "paints/nearest_paint.h"
-#include "shell/work_state.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
 
 namespace vendrel {
 
@@ -16,7 +17,7 @@ namespace vendrel {
 class PaletteReduction {
   public:
     /// `counts` is what CountColors found, or empty when nobody asks for the counts.
-    PaletteReduction(const WorkState& state, OneBased<int> counts);
+    PaletteReduction(const Palette& palette, OneBased<int> counts);
 
     [[nodiscard]] int PaintCount() const { return colors_.Count(); }
     /// Stipples per remaining paint.
@@ -24,8 +25,8 @@ class PaletteReduction {
 
     /// Drops remaining paint `index`; its stipples go to the nearest other paint.
     void Remove(int index);
-    /// Rewrites the state that the reduction was made from.
-    void Commit(WorkState& state) const;
+    /// Rewrites the palette that the reduction was made from and the grid painted with it.
+    void Commit(Palette& palette, StippleGrid& grid) const;
 
   private:
     struct Merge {

@@ -26,14 +26,14 @@ bool CanGoOn(const OneBased<int>& counts) {
 
 }  // namespace
 
-void CountColors(WorkState& state) {
-    state.ColorCounts = OneBased<int>(state.PaintCount);
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (const StippleCell& cell : state.Stipples.Row(y).From(1)) {
+void CountColors(Palette& palette, const StippleGrid& grid) {
+    palette.ColorCounts = OneBased<int>(palette.PaintCount);
+    for (int y = 1; y <= grid.CellsDown; ++y) {
+        for (const StippleCell& cell : grid.Stipples.Row(y).From(1)) {
             if (cell.ColorIndex == 0) {
                 return;
             }
-            int& count = state.ColorCounts[cell.ColorIndex];
+            int& count = palette.ColorCounts[cell.ColorIndex];
             if (count == kMaxCounter) {
                 ReportFullCounter();
             }
@@ -42,30 +42,29 @@ void CountColors(WorkState& state) {
     }
 }
 
-int GetLowCount(const WorkState& state) {
-    return LeastUsed(state.ColorCounts);
+int GetLowCount(const Palette& palette) {
+    return LeastUsed(palette.ColorCounts);
 }
 
-void RemoveColor(WorkState& state, int index) {
-    PaletteReduction reduction(state, {});
+void RemoveColor(Palette& palette, StippleGrid& grid, int index) {
+    PaletteReduction reduction(palette, {});
     reduction.Remove(index);
-    reduction.Commit(state);
+    reduction.Commit(palette, grid);
 }
 
-void ReduceColors(Workplace& place, int target) {
-    WorkState& state = place.State;
-    if (state.PaintCount <= target) {
+void ReduceColors(Palette& palette, StippleGrid& grid, Ui& screen, int target) {
+    if (palette.PaintCount <= target) {
         return;
     }
-    CountColors(state);
-    PaletteReduction reduction(state, state.ColorCounts);
+    CountColors(palette, grid);
+    PaletteReduction reduction(palette, palette.ColorCounts);
     while (reduction.PaintCount() > target && CanGoOn(reduction.Counts())) {
-        state.ColorCounts = reduction.Counts();
-        reduction.Remove(LeastUsed(state.ColorCounts));
-        place.Screen.SetCaption("Number of Paints Reduced to " +
-                                std::to_string(reduction.PaintCount()) + " Colors");
+        palette.ColorCounts = reduction.Counts();
+        reduction.Remove(LeastUsed(palette.ColorCounts));
+        screen.SetCaption("Number of Paints Reduced to " + std::to_string(reduction.PaintCount()) +
+                          " Colors");
     }
-    reduction.Commit(state);
+    reduction.Commit(palette, grid);
     if (reduction.PaintCount() > target) {
         ReportFullCounter();
     }

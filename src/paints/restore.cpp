@@ -15,11 +15,11 @@ void RestorePaintColors(Workplace& place) {
     WorkState& state = place.State;
     // Until the paint shop has been opened, its lists stand as it would open with them.
     if (!state.PaintShopLoaded) {
-        FillSelectedPaintsList(state);
+        FillSelectedPaintsList(state, state);
         state.MfgSelected = !state.TemplateMode;
     }
     if (state.MfgSelected) {
-        LoadColors(place);
+        LoadColors(state, state, state);
         return;
     }
     // A template without paints has told the user so and left the palette empty.

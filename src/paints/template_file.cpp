@@ -57,8 +57,8 @@ void MakeFolder(const fs::path& folder) {
 
 }  // namespace
 
-fs::path TemplatePath(const Workplace& place, std::string_view name) {
-    return place.Folder.Path("templates/" + std::string(name) + ".csv");
+fs::path TemplatePath(const ProgramFolder& folder, std::string_view name) {
+    return folder.Path("templates/" + std::string(name) + ".csv");
 }
 
 PaintList ReadTemplate(const fs::path& file) {
@@ -76,7 +76,7 @@ void WriteTemplate(const fs::path& file, const PaintList& paints) {
 bool LoadTemplateColors(Workplace& place, std::string_view name) {
     WorkState& state = place.State;
     SetPalette(state, {});  // not the one before, when the file cannot be read
-    SetPalette(state, ReadPaints(place, TemplatePath(place, name)));
+    SetPalette(state, ReadPaints(state, place.Screen, TemplatePath(place.Folder, name)));
     if (state.PaintCount == 0) {
         place.Screen.ShowMessage("Unable To Continue",
                                  "The Selected Template Has NO Paints Assigned!");
@@ -86,8 +86,8 @@ bool LoadTemplateColors(Workplace& place, std::string_view name) {
     return true;
 }
 
-std::vector<std::string> ListTemplates(Workplace& place) {
-    const fs::path folder = place.Folder.Path("templates");
+std::vector<std::string> ListTemplates(const ProgramFolder& program) {
+    const fs::path folder = program.Path("templates");
     MakeFolder(folder);
     std::vector<std::string> names;
     for (const auto& entry : EntriesOf(folder)) {

@@ -11,7 +11,8 @@
 namespace vendrel {
 
 /// templates/<name>.csv under the program folder, existing or not.
-[[nodiscard]] std::filesystem::path TemplatePath(const Workplace& place, std::string_view name);
+[[nodiscard]] std::filesystem::path TemplatePath(const ProgramFolder& folder,
+                                                 std::string_view name);
 
 /// The paints of a template in file order. Throws FileError or FormatError.
 [[nodiscard]] PaintList ReadTemplate(const std::filesystem::path& file);
@@ -28,6 +29,6 @@ void WriteTemplate(const std::filesystem::path& file, const PaintList& paints);
 
 /// Names of the files in the templates folder without their last four characters (".csv"),
 /// sorted; empty when there are none. Creates a missing folder.
-[[nodiscard]] std::vector<std::string> ListTemplates(Workplace& place);
+[[nodiscard]] std::vector<std::string> ListTemplates(const ProgramFolder& folder);
 
 }  // namespace vendrel

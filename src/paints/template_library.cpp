@@ -21,8 +21,8 @@ bool IsForbidden(char c) {
     return kForbidden.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < ' ';
 }
 
-bool IsTaken(Workplace& place, std::string_view name) {
-    return std::ranges::any_of(ListTemplates(place), [&](const std::string& other) {
+bool IsTaken(const ProgramFolder& folder, std::string_view name) {
+    return std::ranges::any_of(ListTemplates(folder), [&](const std::string& other) {
         return SameIgnoringCase(other, name);
     });
 }
@@ -46,17 +46,17 @@ void CheckSpelling(std::string_view name) {
 
 }  // namespace
 
-void CheckNewTemplateName(Workplace& place, std::string_view name) {
+void CheckNewTemplateName(const ProgramFolder& folder, std::string_view name) {
     CheckSpelling(name);
-    if (IsTaken(place, name)) {
+    if (IsTaken(folder, name)) {
         throw Error("A template named \"" + std::string(name) +
                     "\" is there already. Choose another name.");
     }
 }
 
-std::string FreeTemplateName(Workplace& place, std::string_view name) {
+std::string FreeTemplateName(const ProgramFolder& folder, std::string_view name) {
     std::string free(name);
-    for (int number = 2; IsTaken(place, free); ++number) {
+    for (int number = 2; IsTaken(folder, free); ++number) {
         free = std::string(name) + " " + std::to_string(number);
     }
     return free;
@@ -72,17 +72,18 @@ std::string CleanTemplateName(std::string_view name) {
     return clean.substr(first, clean.find_last_not_of(" .") - first + 1);
 }
 
-void RenameTemplate(Workplace& place, std::string_view from, std::string_view to) {
+void RenameTemplate(PaintChoice& choice, const ProgramFolder& folder, std::string_view from,
+                    std::string_view to) {
     CheckSpelling(to);
     if (from == to) {
         return;
     }
     // Only the case may change, unless another template has just that spelling.
-    const std::vector<std::string> names = ListTemplates(place);
+    const std::vector<std::string> names = ListTemplates(folder);
     if (!SameIgnoringCase(from, to) || std::ranges::find(names, to) != names.end()) {
-        CheckNewTemplateName(place, to);
+        CheckNewTemplateName(folder, to);
     }
-    const fs::path file = TemplatePath(place, from);
+    const fs::path file = TemplatePath(folder, from);
     std::error_code failure;
     fs::rename(file, file.parent_path() / (std::string(to) + ".csv"), failure);
     if (!failure) {
@@ -92,31 +93,31 @@ void RenameTemplate(Workplace& place, std::string_view from, std::string_view to
         throw FileError(file, "cannot be renamed (" + failure.message() +
                                   "). Check that you may write in its folder.");
     }
-    for (std::string* used : {&place.State.SelectedTemplate, &place.State.LastTemplate}) {
+    for (std::string* used : {&choice.SelectedTemplate, &choice.LastTemplate}) {
         if (*used == from) {
             *used = to;
         }
     }
 }
 
-void DeleteTemplate(Workplace& place, std::string_view name) {
-    const fs::path file = TemplatePath(place, name);
+void DeleteTemplate(PaintChoice& choice, WorkSettings& settings, const ProgramFolder& folder,
+                    std::string_view name) {
+    const fs::path file = TemplatePath(folder, name);
     std::error_code failure;
     if (!fs::remove(file, failure)) {
         throw FileError(file, "cannot be deleted (" +
                                   (failure ? failure.message() : std::string("it is not there")) +
                                   "). Look into the templates folder.");
     }
-    WorkState& state = place.State;
-    if (state.LastTemplate == name) {
-        state.LastTemplate.clear();
+    if (choice.LastTemplate == name) {
+        choice.LastTemplate.clear();
     }
-    if (state.SelectedTemplate == name) {
-        state.SelectedTemplate.clear();
-        state.TemplateMode = false;
-        state.TemplateLoaded = false;
-        state.MfgSelected = true;
-        state.FinalColors = state.Chosen.FinalPaints;
+    if (choice.SelectedTemplate == name) {
+        choice.SelectedTemplate.clear();
+        choice.TemplateMode = false;
+        choice.TemplateLoaded = false;
+        choice.MfgSelected = true;
+        settings.FinalColors = settings.Chosen.FinalPaints;
     }
 }
 

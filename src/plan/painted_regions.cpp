@@ -13,21 +13,20 @@ int CellAt(int pixel, int stippleSize, int count) {
 
 }  // namespace
 
-PixelGrid PaintPerPixel(const WorkState& state, int width, int height) {
-    if (state.PixelMap.Across() < width || state.PixelMap.Down() < height ||
-        state.CellsAcross < 1 || state.CellsDown < 1) {
+PixelGrid PaintPerPixel(const PaintedPixels& pixels, const StippleGrid& grid, int stippleSize,
+                        int width, int height) {
+    if (pixels.PixelMap.Across() < width || pixels.PixelMap.Down() < height ||
+        grid.CellsAcross < 1 || grid.CellsDown < 1) {
         throw Error("The picture is not painted yet. Paint it before its plan is printed.");
     }
     PixelGrid paints(width - 1, height - 1);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
-            const int painted = x > 0 && y > 0 ? state.PixelMap(x, y).ColorIndex : 0;
-            paints(x, y) = painted > 0
-                               ? painted
-                               : state
-                                     .Stipples(CellAt(x, state.StippleSize, state.CellsAcross),
-                                               CellAt(y, state.StippleSize, state.CellsDown))
-                                     .ColorIndex;
+            const int painted = x > 0 && y > 0 ? pixels.PixelMap(x, y).ColorIndex : 0;
+            paints(x, y) = painted > 0 ? painted
+                                       : grid.Stipples(CellAt(x, stippleSize, grid.CellsAcross),
+                                                       CellAt(y, stippleSize, grid.CellsDown))
+                                             .ColorIndex;
         }
     }
     return paints;

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "regions/labelling.h"
-#include "shell/work_state.h"
+#include "shell/painted_pixels.h"
+#include "shell/stipple_grid.h"
 
 namespace vendrel {
 
@@ -15,6 +16,7 @@ using PaintedRegions = Regions;
 /// The paint on every pixel of the painted picture. A pixel that the brush and the clean-up left
 /// bare takes the paint of its own stipple, so that no hole is left in the plan.
 /// Throws Error when the picture is not painted.
-[[nodiscard]] PixelGrid PaintPerPixel(const WorkState& state, int width, int height);
+[[nodiscard]] PixelGrid PaintPerPixel(const PaintedPixels& pixels, const StippleGrid& grid,
+                                      int stippleSize, int width, int height);
 
 }  // namespace vendrel

@@ -31,11 +31,11 @@ void RequireCanvas(double widthCm, const Surface& picture) {
 
 // So large that every symbol can be read. A stipple that its neighbours nibbled at may take a
 // somewhat smaller one: a single odd shape shall not blow up the whole canvas.
-PrintScale LegibleScale(const WorkState& state, const PaintedRegions& regions,
+PrintScale LegibleScale(int stippleSize, const PaintedRegions& regions,
                         const PaintAspects& aspects) {
-    double inStipple = state.StippleSize;
+    double inStipple = stippleSize;
     for (const double aspect : aspects) {
-        inStipple = std::min(inStipple, SymbolHeightInStipple(state.StippleSize, aspect));
+        inStipple = std::min(inStipple, SymbolHeightInStipple(stippleSize, aspect));
     }
     return PrintScale::OfPixel(kLegibleSymbolMm /
                                std::max(SmallestSymbol(regions, aspects), kNibbled * inStipple));
@@ -62,7 +62,7 @@ double Growth(const PagePlan& pages) {
     return std::max(1.0, width / pages.Canvas.Width);
 }
 
-void LayOutPages(PrintPlan& plan, const PlanSettings& settings, const WorkState& state,
+void LayOutPages(PrintPlan& plan, const PlanSettings& settings, int stippleSize,
                  const Surface& picture) {
     const PrintScale scale = plan.Scale;
     const auto listHeight = [&plan, scale](const PaperChoice& paper, const PlanRect& own) {
@@ -71,7 +71,7 @@ void LayOutPages(PrintPlan& plan, const PlanSettings& settings, const WorkState&
     };
     plan.Pages = PlanPages({{scale.Mm(picture.Width()), scale.Mm(picture.Height())},
                             // Pixel 0 is before the first stipple.
-                            {scale.MmPerPixel(), scale.MmPerStipple(state.StippleSize)},
+                            {scale.MmPerPixel(), scale.MmPerStipple(stippleSize)},
                             listHeight},
                            ChoicesFor(settings.Sheet));
     if (settings.CanvasCm == 0) {
@@ -125,19 +125,19 @@ double PlanPageDesign::LegendHeight(double paperWidth, int paints) {
     return rows * kLegendRow;
 }
 
-PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
-                        const SymbolAspects& aspects) {
-    const WorkState& state = place.State;
-    const Surface& picture = place.Frames.WorkFrame.Picture;
+PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
+                        const PlanSettings& settings, const SymbolAspects& aspects) {
     RequireSymbols(state);
     PrintPlan plan;
     plan.Aspects = AspectsOf(state.PaintColors, aspects);
-    plan.Regions = FindRegionsWithoutCrumbs(PaintPerPixel(state, picture.Width(), picture.Height()),
-                                            TraitsOf(state.Chosen.Level).FewestOwnPixels);
+    plan.Regions = FindRegionsWithoutCrumbs(
+        PaintPerPixel(state, state, state.StippleSize, picture.Width(), picture.Height()),
+        TraitsOf(state.Chosen.Level).FewestOwnPixels);
     plan.Lines = TraceOutlines(plan.Regions.Ids);
-    plan.Scale = settings.CanvasCm > 0 ? ScaleOf(settings, picture)
-                                       : LegibleScale(state, plan.Regions, plan.Aspects);
-    LayOutPages(plan, settings, state, picture);
+    plan.Scale = settings.CanvasCm > 0
+                     ? ScaleOf(settings, picture)
+                     : LegibleScale(state.StippleSize, plan.Regions, plan.Aspects);
+    LayOutPages(plan, settings, state.StippleSize, picture);
     LabelRules rules;
     rules.Aspects = plan.Aspects;
     rules.LegibleHeight = plan.Scale.Pixels(kNibbled * kLegibleSymbolMm);

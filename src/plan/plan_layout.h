@@ -6,8 +6,9 @@
 #include "plan/outlines.h"
 #include "plan/page_tiling.h"
 #include "plan/painted_regions.h"
-#include "shell/workplace.h"
+#include "shell/work_state.h"
 #include "support/print_scale.h"
+#include "support/surface.h"
 
 namespace vendrel {
 
@@ -58,7 +59,7 @@ struct PrintPlan {
 /// drawn. Without a canvas asked for it takes the fewest pages on which symbols can be read, and
 /// then the largest canvas that those pages hold. Throws Error for an unpainted picture, more
 /// paints than symbols or a canvas outside kSmallestCanvasCm..kLargestCanvasCm.
-[[nodiscard]] PrintPlan MakePrintPlan(const Workplace& place, const PlanSettings& settings,
-                                      const SymbolAspects& aspects);
+[[nodiscard]] PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
+                                      const PlanSettings& settings, const SymbolAspects& aspects);
 
 }  // namespace vendrel

@@ -1,21 +1,17 @@
 #pragma once
 
-#include "shell/work_state.h"
+#include "shell/records.h"
 
 namespace vendrel {
 
-// The only ones that change a list of paints together with its count.
+/// The working palette: what stipples are painted with.
+struct Palette {
+    PaintList PaintColors;
+    int PaintCount = 0;
+    OneBased<int> ColorCounts;  // stipples per paint, rebuilt by every count
+};
 
-/// Makes `paints` the catalogue.
-void SetCatalogue(WorkState& state, PaintList paints);
-
-/// Makes `paints` the working palette.
-void SetPalette(WorkState& state, PaintList paints);
-
-/// Makes `paints` the found colors.
-void SetFoundColors(WorkState& state, PaintList paints);
-
-/// Adds a found color. Throws OverflowError past 32767.
-void AddFoundColor(WorkState& state, PaintColor paint);
+/// Makes `paints` the working palette; the only one that changes PaintCount.
+void SetPalette(Palette& palette, PaintList paints);
 
 }  // namespace vendrel

@@ -10,9 +10,9 @@ namespace vendrel {
 class ScratchPlace {
   public:
     explicit ScratchPlace(const Workplace& original)
-        : State(original.State),
-          Frames(original.Frames),
-          MainMenu(original.MainMenu),
+        : State(*original.State),
+          Frames(*original.Frames),
+          MainMenu(*original.MainMenu),
           quiet_(original.Screen.Screen()),
           Place{State, Frames, MainMenu, quiet_, original.Folder} {}
     ScratchPlace(const ScratchPlace&) = delete;

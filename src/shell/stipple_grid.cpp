@@ -4,11 +4,11 @@
 
 namespace vendrel {
 
-void SetGrid(WorkState& state, Grid<StippleCell> cells) {
-    state.Stipples = std::move(cells);
-    state.CellsAcross = state.Stipples.Across();
-    state.CellsDown = state.Stipples.Down();
-    state.CellMarks = Grid<CellMark>(state.CellsAcross, state.CellsDown);
+void SetGrid(StippleGrid& grid, Grid<StippleCell> cells) {
+    grid.Stipples = std::move(cells);
+    grid.CellsAcross = grid.Stipples.Across();
+    grid.CellsDown = grid.Stipples.Down();
+    grid.CellMarks = Grid<CellMark>(grid.CellsAcross, grid.CellsDown);
 }
 
 OneBased<int> CountStipples(const Grid<StippleCell>& cells, int across, int down, int paintCount) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/menu.h"
+#include "shell/part.h"
 #include "shell/surfaces.h"
 #include "shell/ui.h"
 #include "shell/work_state.h"
@@ -8,11 +9,13 @@
 
 namespace vendrel {
 
-/// The work state and its surroundings: what every procedure takes. References only; owns nothing.
+/// The work state and its surroundings: what the steps of the workflow take. References only; owns
+/// nothing. Through a `const Workplace&` all can be seen and the painter be told, but nothing be
+/// changed.
 struct Workplace {
-    WorkState& State;
-    Surfaces& Frames;
-    Menu& MainMenu;
+    Part<WorkState> State;
+    Part<Surfaces> Frames;
+    Part<Menu> MainMenu;
     Ui& Screen;
     const ProgramFolder& Folder;
 };

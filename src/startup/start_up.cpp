@@ -4,7 +4,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "convert/photo_decoder.h"
 #include "convert/settings.h"
+#include "intake/incoming_photo.h"
 #include "kitset/settle.h"
 #include "output/symbol_set.h"
 #include "paints/catalogue.h"
@@ -21,8 +23,8 @@ namespace {
 namespace fs = std::filesystem;
 
 /// True when the folder had to be created.
-bool CreateFolder(const Workplace& place, std::string_view name) {
-    const fs::path folder = place.Folder.Path(name);
+bool CreateFolder(const ProgramFolder& program, std::string_view name) {
+    const fs::path folder = program.Path(name);
     if (Stands(folder)) {
         return false;
     }
@@ -36,10 +38,10 @@ bool CreateFolder(const Workplace& place, std::string_view name) {
 }
 
 // Without it the first set of the catalogue alone would be chosen, which suits few portraits.
-void CopyShippedPaintList(const Workplace& place) {
-    const fs::path shipped = place.Folder.DataFile("Data/paintlist.txt");
+void CopyShippedPaintList(const ProgramFolder& program) {
+    const fs::path shipped = program.DataFile("Data/paintlist.txt");
     if (Stands(shipped)) {
-        WriteWholeFile(place.Folder.Path("Data/paintlist.txt"), ReadTextFile(shipped));
+        WriteWholeFile(program.Path("Data/paintlist.txt"), ReadTextFile(shipped));
     }
 }
 
@@ -52,7 +54,7 @@ void PrepareSettings(Workplace& place) {
     state.TemplateMode = false;
     state.PaintingDone = false;
     state.Chosen.Sample = Sampling::Average;
-    SetupBMPSymbols(place);
+    SetupBMPSymbols(state, place.Folder);
     state.EdgeColor = Rgb(0, 255, 0);
     state.BorderColor = Rgb(0, 0, 0);
     state.SymbolColor = Rgb(125, 125, 125);
@@ -67,22 +69,33 @@ void PrepareSettings(Workplace& place) {
     SetColorChecks(state.Chosen, state.FinalColors);
 }
 
-bool PrepareFolders(Workplace& place) {
-    if (CreateFolder(place, "Data")) {
-        CopyShippedPaintList(place);
+bool PrepareFolders(const ProgramFolder& program) {
+    if (CreateFolder(program, "Data")) {
+        CopyShippedPaintList(program);
     }
-    CreateFolder(place, "Results");
+    CreateFolder(program, "Results");
     for (const char* folder : {"Data", "Results", "Pictures", "Saved Stipples", "templates"}) {
-        RemoveLeftovers(place.Folder.Path(folder));
+        RemoveLeftovers(program.Path(folder));
     }
-    SettleKits(place.Folder);
-    return CreateFolder(place, "Pictures");
+    SettleKits(program);
+    return CreateFolder(program, "Pictures");
+}
+
+void OfferSample(const Workplace& place) {
+    static constexpr const char* kSample = "Pictures/PBNLady.bmp";
+    const fs::path shipped = place.Folder.DataFile(kSample);
+    const fs::path own = place.Folder.Path(kSample);
+    if (shipped != own) {
+        const NoPhotoDecoder none;
+        (void)IncomingPhoto(shipped, none).CopyTo(own);
+    }
 }
 
 void PreparePaints(Workplace& place) {
-    LoadMasterColors(place);
-    BuildPaintSets(place);
-    LoadPaintList(place);
+    WorkState& state = place.State;
+    LoadMasterColors(state, state, place.Screen, place.Folder);
+    BuildPaintSets(state);
+    LoadPaintList(state, state, state, place.Screen, place.Folder);
 }
 
 }  // namespace vendrel

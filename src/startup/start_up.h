@@ -12,7 +12,11 @@ void PrepareSettings(Workplace& place);
 /// killed program left half-saved are finished or taken back. Answers
 /// whether the pictures folder had to be made, that is, whether the program runs here for the
 /// first time. What programs that were killed left half-written is removed. Throws FileError.
-[[nodiscard]] bool PrepareFolders(Workplace& place);
+[[nodiscard]] bool PrepareFolders(const ProgramFolder& program);
+
+/// Puts the sample photo into Pictures where it is missing, so that there is always one to try.
+/// Throws FileError.
+void OfferSample(const Workplace& place);
 
 /// Catalogue, paint sets, the saved selection and the first palette. Throws Error.
 void PreparePaints(Workplace& place);

@@ -1,13 +1,18 @@
 #include "storage/load_stipples.h"
 
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
+#include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
+#include "shell/found_palette.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
 #include "storage/stipple_file.h"
+#include "support/counter.h"
 #include "support/error.h"
 #include "support/size_text.h"
 #include "support/text_file.h"
@@ -22,31 +27,44 @@ struct LoadedGrid {
 };
 
 // How many whole stipples the loaded photo holds.
-CellPos PhotoCells(const Workplace& place) {
-    const TwipsPerPixel twips = place.Screen.Screen().Twips;
-    const WorkState& state = place.State;
-    return {state.PictureWidth / twips.X / state.StippleSize,
-            state.PictureHeight / twips.Y / state.StippleSize};
+CellPos PhotoCells(const LoadedPhoto& photo, TwipsPerPixel twips, int stippleSize) {
+    return {photo.PictureWidth / twips.X / stippleSize,
+            photo.PictureHeight / twips.Y / stippleSize};
 }
 
-// Reading would run past the end of the file; its counts are right, the photo is another one.
-void RefuseTooFew(const std::filesystem::path& path, const StippleHeader& header, CellPos size) {
-    if (header.Across * header.Down < size.X * size.Y) {
-        throw FileError(path, "was saved for " + SizeText(header.Across, header.Down) +
-                                  " stipples, too few for the photo's " + SizeText(size.X, size.Y) +
-                                  ". Load the photo it was saved from, or convert this one.");
+// Sides of a sheet are counted in twips up to there.
+void RequireSides(const std::filesystem::path& path, CellPos shape, int stippleTwips) {
+    if (std::max(shape.X, shape.Y) > kMaxCounter / stippleTwips) {
+        throw FormatError(path, 1,
+                          SizeText(shape.X, shape.Y) +
+                              " stipples are more than a sheet can have. Restore the file or "
+                              "correct its counts.");
     }
 }
 
-LoadedGrid ReadGrid(const std::filesystem::path& path, CellPos size) {
+LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips) {
     const std::string text = ReadTextFile(path);
     StippleFileReader reader(text, path);
-    LoadedGrid loaded{reader.Header(), reader.ReadPalette(), {size.X, size.Y}};
-    RefuseTooFew(path, loaded.Header, size);
-    for (int y = 1; y <= size.Y; ++y) {
-        reader.ReadRow(loaded.Cells, y, size.X);
+    const CellPos shape{reader.Header().Across, reader.Header().Down};
+    LoadedGrid loaded{reader.Header(), reader.ReadPalette(), {}};
+    reader.RequireCells();
+    RequireSides(path, shape, stippleTwips);
+    loaded.Cells = {shape.X, shape.Y};
+    for (int y = 1; y <= shape.Y; ++y) {
+        reader.ReadRow(loaded.Cells, y, shape.X);
     }
     return loaded;
+}
+
+// A grid made for another screen or from another crop of the photo stays what it is; the photo
+// takes its shape. Rows of the photo's length would cut it to noise.
+std::optional<Photo> PhotoInShapeOf(const Grid<StippleCell>& cells, CellPos own,
+                                    const std::filesystem::path& photo, const ScreenSize& screen,
+                                    int stippleSize) {
+    if (cells.Across() == own.X && cells.Down() == own.Y) {
+        return std::nullopt;
+    }
+    return ReadPhotoInShape(photo, screen, {cells.Across(), cells.Down()}, stippleSize);
 }
 
 void Commit(WorkState& state, LoadedGrid loaded) {
@@ -56,37 +74,43 @@ void Commit(WorkState& state, LoadedGrid loaded) {
     SetGrid(state, std::move(loaded.Cells));
 }
 
-void TellOtherSize(const Workplace& place, const std::filesystem::path& path,
-                   const StippleHeader& header) {
-    const WorkState& state = place.State;
-    if (header.Across == state.CellsAcross && header.Down == state.CellsDown) {
-        return;
-    }
-    place.Screen.ShowMessage(
-        "Load Stipple Picture",
-        path.filename().string() + " was saved for " + SizeText(header.Across, header.Down) +
-            " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
-            ". It was read with the photo's size. If the picture looks jumbled, load the photo "
-            "again and convert it afresh.");
+void TellOtherShape(Ui& screen, const StippleGrid& grid, const std::filesystem::path& path,
+                    CellPos own) {
+    screen.ShowMessage("Load Stipple Picture",
+                       path.filename().string() + " has a shape of its own, " +
+                           SizeText(grid.CellsAcross, grid.CellsDown) +
+                           " stipples, where the photo has " + SizeText(own.X, own.Y) +
+                           ". The kit is made in that shape.");
 }
 
 }  // namespace
 
-void CheckSavedStipples(const Workplace& place) {
-    place.MainMenu[MenuId::LoadStipples].Enabled = StippleFileExists(place);
+void CheckSavedStipples(Workplace& place) {
+    place.MainMenu[MenuId::LoadStipples].Enabled =
+        StippleFileExists(place.Folder, place.State, place.State);
 }
 
 void LoadStipples_Click(Workplace& place) {
-    const std::filesystem::path path = StippleFilePath(place);
-    LoadedGrid loaded = ReadGrid(path, PhotoCells(place));
-    const StippleHeader header = loaded.Header;
-    Commit(place.State, std::move(loaded));
-    TellOtherSize(place, path, header);
+    WorkState& state = place.State;
+    const ScreenSize screen = place.Screen.Screen();
+    const std::filesystem::path path = StippleFilePath(place.Folder, state, state);
+    LoadedGrid loaded = ReadGrid(path, state.StippleSize * screen.Twips.X);
+    const CellPos own = PhotoCells(state, screen.Twips, state.StippleSize);
+    std::optional<Photo> photo =
+        PhotoInShapeOf(loaded.Cells, own, state.PicturePath, screen, state.StippleSize);
+    if (photo) {
+        ShowPhoto(place, std::move(*photo));
+        state.ShapedByGrid = true;
+    }
+    Commit(state, std::move(loaded));
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;
-    SetColorChecks(place.State.Chosen, place.State.FinalColors);
-    EraseToColor(place, kBlack);
+    SetColorChecks(state.Chosen, state.FinalColors);
+    EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
+    if (photo) {
+        TellOtherShape(place.Screen, state, path, own);
+    }
 }
 
 }  // namespace vendrel

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <limits>
 
 #include "shell/stipple_grid.h"
 #include "support/counter.h"
 #include "support/disk.h"
 #include "support/error.h"
+#include "support/size_text.h"
 
 namespace vendrel {
 namespace {
@@ -75,9 +77,9 @@ void AppendRow(std::string& out, RowView<const StippleCell> row) {
 
 }  // namespace
 
-std::filesystem::path StippleFilePath(const Workplace& place) {
-    return StippleFilePath(place.Folder, place.State.PictureName,
-                           std::string(DifficultyWord(place.State)));
+std::filesystem::path StippleFilePath(const ProgramFolder& folder, const LoadedPhoto& photo,
+                                      const WorkSettings& settings) {
+    return StippleFilePath(folder, photo.PictureName, std::string(DifficultyWord(settings)));
 }
 
 std::filesystem::path StippleFilePath(const ProgramFolder& folder, const std::string& photo,
@@ -85,8 +87,9 @@ std::filesystem::path StippleFilePath(const ProgramFolder& folder, const std::st
     return folder.Path("Saved Stipples/" + photo + "-" + difficulty + ".stp");
 }
 
-bool StippleFileExists(const Workplace& place) {
-    return IsRegularFile(StippleFilePath(place));
+bool StippleFileExists(const ProgramFolder& folder, const LoadedPhoto& photo,
+                       const WorkSettings& settings) {
+    return IsRegularFile(StippleFilePath(folder, photo, settings));
 }
 
 std::string FormatStippleFile(const SavedGrid& saved) {
@@ -108,8 +111,8 @@ std::string FormatStippleFile(const SavedGrid& saved) {
     return out;
 }
 
-void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved, Lasting lasting) {
-    WriteWholeFile(path, FormatStippleFile(saved), lasting);
+void WriteStippleFile(const Target& target, const SavedGrid& saved, Lasting lasting) {
+    WriteWholeFile(target, FormatStippleFile(saved), lasting);
 }
 
 StippleFileReader::StippleFileReader(std::string_view text, const std::filesystem::path& path)
@@ -160,6 +163,23 @@ PaintList StippleFileReader::ReadPalette() {
         palette.Add(ReadPaint());
     }
     return palette;
+}
+
+void StippleFileReader::RequireCells() const {
+    const std::int64_t wanted = std::int64_t{header_.Across} * header_.Down;
+    if (wanted == 0) {
+        throw FormatError(fields_.File(), 1,
+                          "the file announces no stipples. Restore it or correct its counts.");
+    }
+    const FieldReader::LineRange left = fields_.LinesLeft();
+    const int there = left.Last == 0 ? 0 : left.Last - left.First + 1;
+    if (there < wanted) {
+        throw FormatError(fields_.File(), std::max(left.Last, recordLine_),
+                          "the file ends here with " + std::to_string(there) + " of the " +
+                              std::to_string(wanted) + " stipples (" +
+                              SizeText(header_.Across, header_.Down) +
+                              ") that its first line announces. Restore it or correct its counts.");
+    }
 }
 
 void StippleFileReader::ReadRow(Grid<StippleCell>& cells, int y, int across) {

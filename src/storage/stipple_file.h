@@ -5,22 +5,27 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/loaded_photo.h"
 #include "shell/records.h"
-#include "shell/workplace.h"
+#include "shell/work_settings.h"
 #include "support/field_reader.h"
 #include "support/grid.h"
+#include "support/program_folder.h"
 #include "support/whole_file.h"
 
 namespace vendrel {
 
 /// "Saved Stipples/<PictureName>-<Easy|Medium|Difficult>.stp" of the photo and the difficulty
 /// chosen now, existing or not.
-[[nodiscard]] std::filesystem::path StippleFilePath(const Workplace& place);
+[[nodiscard]] std::filesystem::path StippleFilePath(const ProgramFolder& folder,
+                                                    const LoadedPhoto& photo,
+                                                    const WorkSettings& settings);
 /// The same of a photo's name and a difficulty's word.
 [[nodiscard]] std::filesystem::path StippleFilePath(const ProgramFolder& folder,
                                                     const std::string& photo,
                                                     const std::string& difficulty);
-[[nodiscard]] bool StippleFileExists(const Workplace& place);
+[[nodiscard]] bool StippleFileExists(const ProgramFolder& folder, const LoadedPhoto& photo,
+                                     const WorkSettings& settings);
 
 /// What a stipple file keeps. References only, so that an editor's working copies can be saved as
 /// well as the kit's own.
@@ -34,8 +39,8 @@ struct SavedGrid {
 
 /// The bytes of the file. The paints' CellCount is counted afresh from the cells.
 [[nodiscard]] std::string FormatStippleFile(const SavedGrid& saved);
-/// Replaces `path` whole or not at all; creates its folder. Throws FileError.
-void WriteStippleFile(const std::filesystem::path& path, const SavedGrid& saved,
+/// Replaces the file whole or not at all; creates its folder. Throws FileError.
+void WriteStippleFile(const Target& target, const SavedGrid& saved,
                       Lasting lasting = Lasting::Synced);
 
 /// The first line of a stipple file.
@@ -58,6 +63,9 @@ class StippleFileReader {
     [[nodiscard]] PaintColor ReadPaint();
     /// The whole palette.
     [[nodiscard]] PaintList ReadPalette();
+    /// After the palette: that the file has a line for every stipple its header announces, which
+    /// are some. Nothing of the cells is read.
+    void RequireCells() const;
     /// Columns 1..across of row y of `cells`, which must hold them.
     void ReadRow(Grid<StippleCell>& cells, int y, int across);
 

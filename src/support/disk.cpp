@@ -103,4 +103,9 @@ bool IsRegularFile(const fs::path& path) {
     return fs::is_regular_file(StatusOf(path));
 }
 
+bool IsFile(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored);
+}
+
 }  // namespace vendrel

@@ -28,6 +28,8 @@ struct RegularFile {
 
 /// The same for a plain file.
 [[nodiscard]] bool IsRegularFile(const std::filesystem::path& path);
+/// The same; what nobody may look at is none. Never throws.
+[[nodiscard]] bool IsFile(const std::filesystem::path& path);
 
 /// What a folder holds, in no order; as much as could be read when `failure` is set.
 [[nodiscard]] std::vector<std::filesystem::directory_entry> EntriesOf(

@@ -1,31 +1,32 @@
 #pragma once
 
-#include <cstddef>
+#include <concepts>
 #include <filesystem>
-#include <span>
 #include <utility>
 
 namespace vendrel {
 
-/// Sees the bytes of a file on their way to it, in the order in which they stand there.
-class ByteWatcher {
+/// Follows a file that is written from its beginning to its end.
+class FileWatcher {
   public:
-    ByteWatcher() = default;
-    ByteWatcher(const ByteWatcher&) = delete;
-    ByteWatcher& operator=(const ByteWatcher&) = delete;
-    virtual ~ByteWatcher() = default;
+    FileWatcher() = default;
+    FileWatcher(const FileWatcher&) = delete;
+    FileWatcher& operator=(const FileWatcher&) = delete;
+    virtual ~FileWatcher() = default;
 
-    virtual void See(std::span<const std::byte> bytes) = 0;
+    /// `file` is the writer's own descriptor, which can be read as well.
+    virtual void Grew(int file) = 0;
 };
 
-/// The file that a picture is written to, and who watches; nobody when null. A writer that tells
-/// its watcher of some bytes tells of all.
+/// The file that something is written to, and who watches it grow; nobody when null.
 struct Target {
-    Target(std::filesystem::path file, ByteWatcher* watcher = nullptr)
-        : File(std::move(file)), Watcher(watcher) {}
+    template <std::convertible_to<std::filesystem::path> Path>
+    Target(Path&& file, FileWatcher* watcher = nullptr)
+        : File(std::forward<Path>(file)), Place(File), Watcher(watcher) {}
 
     std::filesystem::path File;
-    ByteWatcher* Watcher;
+    std::filesystem::path Place;  // where it ends up, which is what errors name
+    FileWatcher* Watcher;
 };
 
 }  // namespace vendrel

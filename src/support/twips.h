@@ -20,4 +20,8 @@ struct ScreenSize {
     }
 };
 
+/// The drawing board that kits are sized for. Never the screen a painter sits at: a kit begun on a
+/// laptop is gone on with anywhere.
+inline constexpr ScreenSize kDrawingBoard = ScreenSize::FromPixels(1920, 1080);
+
 }  // namespace vendrel

@@ -75,19 +75,19 @@ int RenameToFreeName(const fs::path& from, const fs::path& to) {
 
 }  // namespace
 
-WholeFile::WholeFile(fs::path target, Lasting lasting)
-    : target_(std::move(target)), lasting_(lasting) {
+WholeFile::WholeFile(const Target& target, Lasting lasting)
+    : target_(target.File), place_(target.Place), lasting_(lasting) {
     // The program has often made the folder itself just before, so the one above is synced too.
     oldest_ = NearestFolder(FolderAbove(Folder()));
     std::error_code failure;
     fs::create_directories(Folder(), failure);
     if (failure) {
-        throw FileError(target_, "its folder cannot be created (" + failure.message() +
-                                     "). Check that you may write there.");
+        throw FileError(place_, "its folder cannot be created (" + failure.message() +
+                                    "). Check that you may write there.");
     }
-    RequireNameFits(target_, Folder());
+    RequireNameFits(place_, Folder());
     if (fs::is_directory(target_, failure)) {
-        throw FileError(target_, "a folder of that name is in the way. Move or rename it.");
+        throw FileError(place_, "a folder of that name is in the way. Move or rename it.");
     }
     Open();
 }
@@ -135,13 +135,13 @@ fs::path WholeFile::Way() const {
 }
 
 void WholeFile::Fail() const {
-    throw FileError(target_, "cannot be written (" + Reason(errno) +
-                                 "). The file was left as it was; check the disk's free space and "
-                                 "that you may write there.");
+    throw FileError(place_, "cannot be written (" + Reason(errno) +
+                                "). The file was left as it was; check the disk's free space and "
+                                "that you may write there.");
 }
 
 void WholeFile::FailToReplace() const {
-    throw FileError(target_,
+    throw FileError(place_,
                     "cannot be replaced (" + Reason(errno) +
                         "). The new contents were not kept; check that you may write there.");
 }
@@ -233,7 +233,7 @@ void WholeFile::Settle() {
     }
 }
 
-void WriteWholeFile(const fs::path& target, std::string_view text, Lasting lasting) {
+void WriteWholeFile(const Target& target, std::string_view text, Lasting lasting) {
     WholeFile file(target, lasting);
     file.Write(text);
     file.Commit();

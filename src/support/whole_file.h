@@ -6,6 +6,8 @@
 #include <span>
 #include <string_view>
 
+#include "support/target.h"
+
 namespace vendrel {
 
 /// What a power cut may take: a file that can be made again from the photo may be lost, a
@@ -16,11 +18,12 @@ enum class Lasting { Remade, Synced };
 /// target's place on Commit. Without Commit the target stays as it was and nothing is left. Where
 /// the disk has no files without names, it waits beside the target under a name of its own, locked
 /// while this program lives (see leftovers.h). A Synced file is on the disk, name and folders too,
-/// when Commit or CommitNew returns. All operations throw FileError naming the target. Missing
+/// when Commit or CommitNew returns. All operations throw FileError naming the target's
+/// place. Missing
 /// folders are created.
 class WholeFile {
   public:
-    explicit WholeFile(std::filesystem::path target, Lasting lasting = Lasting::Remade);
+    explicit WholeFile(const Target& target, Lasting lasting = Lasting::Remade);
     ~WholeFile();
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
@@ -32,6 +35,8 @@ class WholeFile {
     /// Takes a name in the target's folder that nobody has. False when it is taken, whoever came
     /// first: then another one can be tried.
     [[nodiscard]] bool CommitNew(const std::filesystem::path& name);
+    /// Open for reading too; what was written last may be on its way still.
+    [[nodiscard]] int Descriptor() const;
     /// Whether another file has just the bytes written so far.
     [[nodiscard]] bool Holds(const std::filesystem::path& other);
 
@@ -42,7 +47,6 @@ class WholeFile {
 
     void Open();
     [[nodiscard]] int OpenNamed();
-    [[nodiscard]] int Descriptor() const;
     [[nodiscard]] std::filesystem::path Folder() const;
     [[nodiscard]] std::filesystem::path Way() const;
     void Flush();
@@ -54,6 +58,7 @@ class WholeFile {
     [[noreturn]] void FailToReplace() const;
 
     std::filesystem::path target_;
+    std::filesystem::path place_;  // what errors name
     Lasting lasting_;
     std::filesystem::path oldest_;   // the last folder to sync, upwards
     std::filesystem::path waiting_;  // empty while the file has no name
@@ -61,7 +66,6 @@ class WholeFile {
 };
 
 /// One call for a text that is ready.
-void WriteWholeFile(const std::filesystem::path& target, std::string_view text,
-                    Lasting lasting = Lasting::Remade);
+void WriteWholeFile(const Target& target, std::string_view text, Lasting lasting = Lasting::Remade);
 
 }  // namespace vendrel

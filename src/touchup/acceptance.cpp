@@ -2,17 +2,15 @@
 
 #include <utility>
 
-#include "shell/palette.h"
-#include "shell/stipple_grid.h"
-
 namespace vendrel {
 
-void TakeOverCopies(WorkState& state) {
-    for (StippleCell& cell : state.EditStipples.All()) {
+void TakeOverCopies(Palette& palette, StippleGrid& grid, const FoundPalette& found,
+                    EditedGrid& edited) {
+    for (StippleCell& cell : edited.EditStipples.All()) {
         cell.AreaNumber = 0;
     }
-    SetPalette(state, state.FoundColors);
-    SetGrid(state, std::exchange(state.EditStipples, {}));
+    SetPalette(palette, found.FoundColors);
+    SetGrid(grid, std::exchange(edited.EditStipples, {}));
 }
 
 }  // namespace vendrel

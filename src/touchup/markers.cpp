@@ -24,8 +24,9 @@ std::vector<CellPos> FindStipples(const EditSheet& sheet, Wanted wanted) {
 }  // namespace
 
 std::vector<CellPos> FindLoners(const EditSheet& sheet) {
-    return FindStipples(
-        sheet, [&](CellPos at) { return IsLoner(sheet.Cells(), at.X, at.Y, sheet.PaintAt(at)); });
+    return FindStipples(sheet, [&](CellPos at) {
+        return CheckLoner(sheet.Cells(), at.X, at.Y, sheet.PaintAt(at));
+    });
 }
 
 std::vector<CellPos> FindStipplesOf(const EditSheet& sheet, int paint) {

@@ -18,15 +18,10 @@ constexpr std::chrono::seconds kRecoveryPause{5};
 constexpr std::string_view kMark = ".recovery";
 constexpr std::string_view kEnding = ".stp";
 
-fs::path NumberedPath(const Workplace& place, int number) {
-    return StippleFilePath(place).replace_extension(
-        std::string(kMark) + (number == 1 ? "" : "-" + std::to_string(number)) +
-        std::string(kEnding));
-}
-
-bool IsFile(const fs::path& path) {
-    std::error_code unreadable;
-    return fs::is_regular_file(path, unreadable);
+fs::path NumberedPath(fs::path grid, int number) {
+    return grid.replace_extension(std::string(kMark) +
+                                  (number == 1 ? "" : "-" + std::to_string(number)) +
+                                  std::string(kEnding));
 }
 
 // "Lady-Easy.recovery-2.stp": a photo's name holds no dot, but may hold a dash.
@@ -45,21 +40,17 @@ std::optional<KeptWork> KeptIn(const fs::path& file) {
 
 }  // namespace
 
-fs::path RecoveryPath(const Workplace& place) {
-    return place.State.Recovery ? place.State.Recovery->Path() : NumberedPath(place, 1);
+fs::path RecoveryPath(const UnsavedWork& unsaved, const fs::path& grid) {
+    return unsaved.Recovery ? unsaved.Recovery->Path() : NumberedPath(grid, 1);
 }
 
-bool RecoveryExists(const Workplace& place) {
-    return IsFile(RecoveryPath(place));
-}
-
-fs::path HoldRecovery(const Workplace& place) {
-    std::shared_ptr<const HeldFile>& held = place.State.Recovery;
+fs::path HoldRecovery(UnsavedWork& unsaved, const fs::path& grid) {
+    std::shared_ptr<const HeldFile>& held = unsaved.Recovery;
     // The lock lies beside the file. What keeps the folder from being made, the writing tells.
     std::error_code toldLater;
-    fs::create_directories(NumberedPath(place, 1).parent_path(), toldLater);
+    fs::create_directories(NumberedPath(grid, 1).parent_path(), toldLater);
     for (int number = 1; !held; ++number) {
-        const fs::path path = NumberedPath(place, number);
+        const fs::path path = NumberedPath(grid, number);
         if (!IsFile(path)) {
             held = HeldFile::Hold(path);
         }
@@ -67,15 +58,16 @@ fs::path HoldRecovery(const Workplace& place) {
     return held->Path();
 }
 
-void WriteRecoveryOfGrid(const Workplace& place) {
-    const WorkState& state = place.State;
-    WriteStippleFile(HoldRecovery(place), {state.PaintColors, state.Stipples, state.CellsAcross,
-                                           state.CellsDown, state.FinalColors});
+void WriteRecoveryOfGrid(Workplace& place) {
+    WorkState& state = place.State;
+    const fs::path file = HoldRecovery(state, StippleFilePath(place.Folder, state, state));
+    WriteStippleFile(file, {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown,
+                            state.FinalColors});
 }
 
-void RemoveRecovery(const Workplace& place) {
-    if (place.State.Recovery) {
-        RemoveRecovery(place.State.Recovery->Path());
+void RemoveRecovery(const UnsavedWork& unsaved) {
+    if (unsaved.Recovery) {
+        RemoveRecovery(unsaved.Recovery->Path());
     }
 }
 
@@ -92,9 +84,10 @@ void RemoveRecovery(const fs::path& recovery) {
 }
 
 std::vector<KeptWork> ListKeptWork(const Workplace& place) {
-    const std::string here = NumberedPath(place, 1).stem().stem().string();
+    const fs::path grid = StippleFilePath(place.Folder, place.State, place.State);
+    const std::string here = grid.stem().string();
     std::vector<KeptWork> all;
-    for (const auto& entry : EntriesOf(StippleFilePath(place).parent_path())) {
+    for (const auto& entry : EntriesOf(grid.parent_path())) {
         std::optional<KeptWork> work = KeptIn(entry.path());
         if (work && HeldFile::Hold(work->File)) {
             work->Fits = work->Photo + "-" + work->Difficulty == here;

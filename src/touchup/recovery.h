@@ -15,17 +15,18 @@ using EditTime = std::chrono::steady_clock::time_point;
 
 /// A stipple file of the editor's unsaved work on this photo and difficulty, for after a crash:
 /// "Saved Stipples/<PictureName>-<word>.recovery.stp", or "... .recovery-2.stp" and so on beside
-/// those that are there already. Never taken for the saved grid. This is the one held in
-/// State.Recovery, else the first.
-[[nodiscard]] std::filesystem::path RecoveryPath(const Workplace& place);
-[[nodiscard]] bool RecoveryExists(const Workplace& place);
+/// those that are there already. Never taken for the saved grid, the StippleFilePath `grid`, beside
+/// which it lies. This is the one held in Recovery, else the first.
+[[nodiscard]] std::filesystem::path RecoveryPath(const UnsavedWork& unsaved,
+                                                 const std::filesystem::path& grid);
 /// The file to keep unsaved work in; holds a new one where none is held yet, so that nothing that
 /// was kept before is ever written over.
-[[nodiscard]] std::filesystem::path HoldRecovery(const Workplace& place);
+[[nodiscard]] std::filesystem::path HoldRecovery(UnsavedWork& unsaved,
+                                                 const std::filesystem::path& grid);
 /// Keeps the kit's own accepted grid there, whole or not at all. Throws FileError.
-void WriteRecoveryOfGrid(const Workplace& place);
+void WriteRecoveryOfGrid(Workplace& place);
 /// Removes the one held, if any. Throws FileError when it cannot be removed.
-void RemoveRecovery(const Workplace& place);
+void RemoveRecovery(const UnsavedWork& unsaved);
 void RemoveRecovery(const std::filesystem::path& recovery);
 
 /// Work that a program left behind unsaved.

@@ -1,56 +1,51 @@
 #include "touchup/sheet_file.h"
 
-#include <algorithm>
 #include <string>
 
 #include "support/error.h"
+#include "support/size_text.h"
 
 namespace vendrel {
 namespace {
 
-constexpr const char* kTakeBack =
-    " Take the load back with Undo; \"Load Stipple Picture\" of the main window may still read it.";
+constexpr const char* kElsewhere =
+    ". Close the editor and choose Picture, Load Stipple Picture: it takes the file as it is.";
 
-std::string TooMuch(int inFile, const char* what, int inEditor) {
-    return "the file has " + std::to_string(inFile) + what + ", but the editor was opened with " +
-           std::to_string(inEditor) + "." + kTakeBack;
-}
-
-void ReadPaints(StippleFileReader& reader, const std::filesystem::path& path, PaintList& paints) {
-    for (PaintColor& paint : paints) {
-        paint = reader.ReadPaint();
+void RequireRoom(const std::filesystem::path& path, const StippleHeader& header,
+                 const EditSheet& sheet) {
+    if (header.PaintCount > sheet.PaintRoom()) {
+        throw FormatError(path, 1,
+                          "the file has " + std::to_string(header.PaintCount) +
+                              " paints, but the editor was opened with " +
+                              std::to_string(sheet.PaintRoom()) + kElsewhere);
     }
-    const int announced = reader.Header().PaintCount;
-    if (announced > paints.Count()) {
-        throw FormatError(path, paints.Count() + 2, TooMuch(announced, " paints", paints.Count()));
-    }
-}
-
-void ReadCells(StippleFileReader& reader, const std::filesystem::path& path,
-               Grid<StippleCell>& cells) {
-    const StippleHeader& header = reader.Header();
-    for (int y = 1; y <= header.Down; ++y) {
-        const int rowLine = 1 + header.PaintCount + (y - 1) * header.Across + 1;
-        if (y > cells.Down()) {
-            throw FormatError(path, rowLine, TooMuch(header.Down, " rows", cells.Down()));
-        }
-        reader.ReadRow(cells, y, std::min(header.Across, cells.Across()));
-        if (header.Across > cells.Across()) {
-            throw FormatError(path, rowLine + cells.Across(),
-                              TooMuch(header.Across, " columns", cells.Across()));
-        }
+    const Grid<StippleCell>& cells = sheet.Cells();
+    if (header.Across > cells.Across() || header.Down > cells.Down()) {
+        throw FormatError(path, 1,
+                          "the file has " + SizeText(header.Across, header.Down) +
+                              " stipples, but the editor was opened with " +
+                              SizeText(cells.Across(), cells.Down()) + kElsewhere);
     }
 }
 
 }  // namespace
 
-void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state,
-                   EditSheet& sheet) {
+void RequireFit(std::string_view text, const std::filesystem::path& path, const EditSheet& sheet) {
+    StippleFileReader reader(text, path);
+    (void)reader.ReadPalette();
+    reader.RequireCells();
+    RequireRoom(path, reader.Header(), sheet);
+}
+
+void ReadIntoSheet(StippleFileReader& reader, EditSheet& sheet) {
     const StippleHeader& header = reader.Header();
-    sheet.Announce({header.PaintCount, header.Across, header.Down});
-    state.FinalColors = header.FinalColors;
-    ReadPaints(reader, path, state.FoundColors);
-    ReadCells(reader, path, state.EditStipples);
+    sheet.Announce({header.PaintCount, header.Across, header.Down}, header.FinalColors);
+    for (PaintColor& paint : sheet.Paints()) {
+        paint = reader.ReadPaint();
+    }
+    for (int y = 1; y <= header.Down; ++y) {
+        reader.ReadRow(sheet.Cells(), y, header.Across);
+    }
 }
 
 void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors) {

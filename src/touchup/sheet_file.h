@@ -1,17 +1,20 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 #include "storage/stipple_file.h"
 #include "touchup/edit_sheet.h"
 
 namespace vendrel {
 
-/// Reads a stipple file into FoundColors and EditStipples as they are sized; the sheet takes the
-/// sizes the file announces, and FinalColors. What does not fit ends the reading with a FormatError
-/// and, as any broken line does, leaves everything read until then.
-void ReadIntoSheet(StippleFileReader& reader, const std::filesystem::path& path, WorkState& state,
-                   EditSheet& sheet);
+/// That a stipple file has all the stipples it announces and that the sheet has room for them and
+/// for the paints. Throws FormatError with line and counts; nothing is touched.
+void RequireFit(std::string_view text, const std::filesystem::path& path, const EditSheet& sheet);
+/// Reads a stipple file that fits into the sheet; it takes the sizes the file announces, and
+/// FinalColors. A broken line ends the reading with a FormatError and leaves everything read until
+/// then.
+void ReadIntoSheet(StippleFileReader& reader, EditSheet& sheet);
 
 /// Replaces `path` whole or not at all with FoundColors and EditStipples. Throws FileError.
 void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "shell/palette.h"
+#include "shell/found_palette.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
 #include "support/size_text.h"
@@ -38,7 +38,8 @@ void RefuseFlaw(const EditSheet& sheet, const char* refusal) {
 
 }  // namespace
 
-TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
+TouchUp::TouchUp(Workplace& place)
+    : place_(place), sheet_(*place.State, *place.State, *place.State) {
     WorkState& state = place_.State;
     if (state.CellsAcross < 1 || state.CellsDown < 1 || state.Stipples.Across() < 1) {
         throw Error("There are no stipples to touch up. Change the photo to stipples first.");
@@ -50,7 +51,11 @@ TouchUp::TouchUp(const Workplace& place) : place_(place), sheet_(place.State) {
     if (!state.HasUnsavedWork) {
         state.Recovery.reset();  // of another photo, perhaps
     }
-    sheet_.Open();
+    sheet_.Open(state, state);
+}
+
+std::filesystem::path TouchUp::GridFile() const {
+    return StippleFilePath(place_.Folder, place_.State, place_.State);
 }
 
 CellRect TouchUp::BeginStroke(CellPos at, EditBrush brush) {
@@ -101,23 +106,23 @@ CellRect TouchUp::Replace(int from, int to) {
 }
 
 void TouchUp::RaiseCleanLevel() {
-    int& level = place_.State.CleanLevel;
+    int& level = place_.State->CleanLevel;
     level = std::clamp(level + 1, kLowestCleanLevel, kHighestCleanLevel);
 }
 
 void TouchUp::LowerCleanLevel() {
-    int& level = place_.State.CleanLevel;
+    int& level = place_.State->CleanLevel;
     level = std::clamp(level - 1, kLowestCleanLevel, kHighestCleanLevel);
 }
 
 CleanUpPreview TouchUp::PreviewCleanUp() const {
-    const std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State.CleanLevel);
+    const std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
     return {static_cast<int>(changes.size()), CountAreasAfter(sheet_, changes)};
 }
 
 CellRect TouchUp::CleanUp() {
     EndStroke();
-    for (const CellChange& change : PlanCleanUp(sheet_, place_.State.CleanLevel)) {
+    for (const CellChange& change : PlanCleanUp(sheet_, place_.State->CleanLevel)) {
         pen_.Paint({change.X, change.Y}, change.To);
     }
     PushStroke("Clean Up");
@@ -145,8 +150,8 @@ CellRect TouchUp::AfterStep(CellRect dirty) {
 // The kit itself may use fewer paints than its menu asks for, as with a small template; only a
 // load or a recovery brings another count.
 void TouchUp::ShowFinalColors() {
-    const int finalColors = place_.State.FinalColors;
-    SetColorChecks(place_.State.Chosen,
+    const int finalColors = place_.State->FinalColors;
+    SetColorChecks(place_.State->Chosen,
                    finalColors == finalAtOpening_ ? wantedAtOpening_ : finalColors);
 }
 
@@ -166,7 +171,7 @@ TidyReport TouchUp::TidyPaints() {
 void TouchUp::SaveIt_Click() {
     EndStroke();
     RefuseFlaw(sheet_, "The stipples cannot be saved");
-    WriteSheet(StippleFilePath(place_), sheet_, place_.State.FinalColors);
+    WriteSheet(GridFile(), sheet_, place_.State->FinalColors);
     savedId_ = history_.StateId();
     saved_ = {sheet_.Copy(), savedId_};
     for (Replacement& replacement : replacements_) {
@@ -178,19 +183,20 @@ void TouchUp::SaveIt_Click() {
 }
 
 bool TouchUp::CanLoad() const {
-    return StippleFileExists(place_);
+    return StippleFileExists(place_.Folder, place_.State, place_.State);
 }
 
 CellRect TouchUp::LoadIt_Click() {
     EndStroke();
-    const std::filesystem::path path = StippleFilePath(place_);
+    const std::filesystem::path path = GridFile();
     const std::string text = ReadTextFile(path);
+    RequireFit(text, path, sheet_);
     StippleFileReader reader(text, path);
     const CellRect before = sheet_.Bounds();
     PushReplacement("Load");
     {
         const RecountAtEnd recount(sheet_);
-        ReadIntoSheet(reader, path, place_.State, sheet_);
+        ReadIntoSheet(reader, sheet_);
     }
     savedId_ = history_.StateId();
     ShowFinalColors();
@@ -236,11 +242,12 @@ void TouchUp::Accept() {
     if (sheet_.Across() != photo.Across() || sheet_.Down() != photo.Down()) {
         throw Error("The loaded grid has " + SizeText(sheet_.Across(), sheet_.Down()) +
                     " stipples, but the photo has " + SizeText(photo.Across(), photo.Down()) +
-                    " stipples. Take the load back with Undo first.");
+                    " stipples. Take the load back with Undo; or save it, close the editor and "
+                    "choose Picture, Load Stipple Picture, which keeps the grid's shape.");
     }
     state.HasUnsavedWork = !InSavedGrid() && (unsavedAtOpening_ || history_.StateId() != 0);
     accepted_ = true;
-    TakeOverCopies(state);
+    TakeOverCopies(state, state, state, state);
 }
 
 bool TouchUp::Cancel() {
@@ -257,13 +264,14 @@ bool TouchUp::Cancel() {
 }
 
 bool TouchUp::GiveSavedToKit() {
-    const Grid<StippleCell>& kit = place_.State.Stipples;
+    const Grid<StippleCell>& kit = place_.State->Stipples;
     if (!saved_ || saved_->Step == 0 || saved_->Contents.Announced.Across != kit.Across() ||
         saved_->Contents.Announced.Down != kit.Down()) {
         return false;
     }
     sheet_.Exchange(saved_->Contents);
-    TakeOverCopies(place_.State);
+    WorkState& state = place_.State;
+    TakeOverCopies(state, state, state, state);
     return true;
 }
 
@@ -279,7 +287,8 @@ CellRect TouchUp::Restore(const KeptWork& work) {
             work.File, 1,
             "the work was done on " + SizeText(header.Across, header.Down) +
                 " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
-                " stipples. Choose the photo again as it was then, or throw the work away.");
+                " stipples. Take up the saved stipples of that shape first (Picture, Load Stipple "
+                "Picture), or throw the work away.");
     }
     SheetContents found{reader.ReadPalette(),
                         {},
@@ -321,17 +330,17 @@ void TouchUp::KeepRecoveryNow() {
 
 void TouchUp::WriteRecovery() {
     if (sheet_.Flaw().empty()) {
-        WriteSheet(HoldRecovery(place_), sheet_, place_.State.FinalColors);
+        WriteSheet(HoldRecovery(place_.State, GridFile()), sheet_, place_.State->FinalColors);
         timer_.NoteKept();
     }
 }
 
 void TouchUp::SettleRecovery() {
-    if (place_.State.HasUnsavedWork) {
+    if (place_.State->HasUnsavedWork) {
         WriteRecoveryOfGrid(place_);
     } else {
-        RemoveRecovery(place_);
-        place_.State.Recovery.reset();
+        RemoveRecovery(place_.State);
+        place_.State->Recovery.reset();
     }
     if (accepted_) {
         RemoveRestored();

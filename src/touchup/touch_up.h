@@ -26,7 +26,7 @@ struct CleanUpPreview {
 class TouchUp {
   public:
     /// Opens the editor on the kit's grid. Throws Error when there is none.
-    explicit TouchUp(const Workplace& place);
+    explicit TouchUp(Workplace& place);
     TouchUp(const TouchUp&) = delete;
     TouchUp& operator=(const TouchUp&) = delete;
     ~TouchUp() = default;
@@ -62,7 +62,8 @@ class TouchUp {
     /// Writes the saved grid of this photo and difficulty, whole or not at all. Throws FileError,
     /// and Error while a broken load stands.
     void SaveIt_Click();
-    /// Reads the saved grid into the copies as they are sized. One step, even when it throws
+    /// Reads the saved grid into the copies as they are sized; one that is not all there or does
+    /// not fit throws before anything is touched. One step, even when a broken line ends it
     /// part-way: draw everything anew then, too.
     CellRect LoadIt_Click();
     [[nodiscard]] bool CanLoad() const;
@@ -116,7 +117,9 @@ class TouchUp {
         std::shared_ptr<const HeldFile> Restored;  // the file it came from
     };
 
-    Workplace place_;
+    [[nodiscard]] std::filesystem::path GridFile() const;
+
+    Workplace& place_;
     EditSheet sheet_;
     EditPen pen_{sheet_};
     EditHistory history_;

@@ -53,28 +53,29 @@ bool HoldsTheKit(const std::filesystem::path& path, const WorkState& state) {
 
 }  // namespace
 
-void SaveStipples(const Workplace& place) {
-    WriteStippleFile(StippleFilePath(place), GridOf(place.State));
+void SaveStipples(Workplace& place) {
+    WriteStippleFile(StippleFilePath(place.Folder, place.State, place.State), GridOf(place.State));
     KitIsSaved(place);
 }
 
-void KitIsSaved(const Workplace& place) {
+void KitIsSaved(Workplace& place) {
     place.MainMenu[MenuId::LoadStipples].Enabled = true;
-    place.State.HasUnsavedWork = false;
-    RemoveRecovery(place);
-    place.State.Recovery.reset();
+    place.State->HasUnsavedWork = false;
+    RemoveRecovery(place.State);
+    place.State->Recovery.reset();
 }
 
-bool MayReplaceSaved(const Workplace& place) {
-    const std::filesystem::path path = StippleFilePath(place);
-    return place.State.HasUnsavedWork || !StippleFileExists(place) ||
+bool MayReplaceSaved(Workplace& place) {
+    const std::filesystem::path path = StippleFilePath(place.Folder, place.State, place.State);
+    return place.State->HasUnsavedWork ||
+           !StippleFileExists(place.Folder, place.State, place.State) ||
            HoldsTheKit(path, place.State) ||
            place.Screen.Ask("Save Stipples",
                             path.filename().string() +
                                 " holds other stipples, perhaps touched-up ones. Replace them?");
 }
 
-GridReplacement::GridReplacement(const Workplace& place) : place_(place) {
+GridReplacement::GridReplacement(Workplace& place) : place_(place) {
     const WorkState& state = place_.State;
     if (!state.HasUnsavedWork) {
         return;
@@ -94,8 +95,8 @@ GridReplacement::GridReplacement(const Workplace& place) : place_(place) {
 GridReplacement::~GridReplacement() {
     // Marked as unsaved, whatever took its place would be kept over the work's recovery file.
     if (unsaved_ && !StillInKit()) {
-        place_.State.HasUnsavedWork = false;
-        place_.State.Recovery.reset();
+        place_.State->HasUnsavedWork = false;
+        place_.State->Recovery.reset();
     }
 }
 
@@ -109,15 +110,15 @@ bool GridReplacement::StillInKit() const {
 void GridReplacement::Done() {
     if (unsaved_) {
         const auto recovery = std::exchange(unsaved_, std::nullopt)->Recovery;
-        place_.State.HasUnsavedWork = false;
-        place_.State.Recovery.reset();
+        place_.State->HasUnsavedWork = false;
+        place_.State->Recovery.reset();
         if (recovery) {
             RemoveRecovery(recovery->Path());
         }
     }
 }
 
-bool MayReplaceGrid(const Workplace& place) {
+bool MayReplaceGrid(Workplace& place) {
     GridReplacement replacement(place);
     if (replacement.Allowed()) {
         replacement.Done();

@@ -10,13 +10,13 @@ namespace vendrel {
 
 /// Writes the kit's own grid as the saved grid of this photo and difficulty, whole or not at all;
 /// it is unsaved work no longer. Throws FileError, with everything as it was.
-void SaveStipples(const Workplace& place);
+void SaveStipples(Workplace& place);
 /// What follows from that, however the grid was written. Throws FileError when the recovery file
 /// cannot be removed.
-void KitIsSaved(const Workplace& place);
+void KitIsSaved(Workplace& place);
 /// Whether the saved grid may be written over. Asks when it is another one and the kit's own was
 /// not touched up: a new conversion is soon made again, an evening's work is not.
-[[nodiscard]] bool MayReplaceSaved(const Workplace& place);
+[[nodiscard]] bool MayReplaceSaved(Workplace& place);
 
 /// A step that replaces the kit's grid, from its question to its success. To be made before the
 /// photo, the difficulty or the grid changes: what is unsaved goes by the old ones.
@@ -24,7 +24,7 @@ class GridReplacement {
   public:
     /// Asks when the grid holds accepted but unsaved work, and saves it when told to; "discard"
     /// does not lose it yet. Throws FileError when it cannot be saved.
-    explicit GridReplacement(const Workplace& place);
+    explicit GridReplacement(Workplace& place);
     /// A step that broke off before Done has lost nothing: work that is no longer in the kit is
     /// offered again from its recovery file.
     ~GridReplacement();
@@ -48,13 +48,13 @@ class GridReplacement {
 
     [[nodiscard]] bool StillInKit() const;
 
-    Workplace place_;
+    Workplace& place_;
     std::optional<Work> unsaved_;
     bool allowed_ = true;
 };
 
 /// Asks, and saves the unsaved work or gives it up at once: for the end of the program. True when
 /// nothing is left to lose.
-[[nodiscard]] bool MayReplaceGrid(const Workplace& place);
+[[nodiscard]] bool MayReplaceGrid(Workplace& place);
 
 }  // namespace vendrel

@@ -5,24 +5,25 @@
 #include <string>
 #include <vector>
 
+#include "cleanup/area_search.h"
 #include "cleanup/cell_marking.h"
 #include "cleanup/cells_by_paint.h"
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "support/counter.h"
 
 namespace vendrel {
 namespace {
 
-using test::Easel;
+using test::PaintBench;
 using Rows = std::vector<std::string>;
 
-void MarkAll(Easel& easel) {
+void MarkAll(PaintBench& easel) {
     WorkState& state = easel.State;
     const CellsByPaint cells(state.Stipples, state.PaintCount);
     state.TestCells = CellQueue(state.CellsAcross, state.CellsDown);
     PassProgress progress(easel.Screen, cells.CellCount());
     for (int p = 1; p <= state.PaintCount; ++p) {
-        MarkCells(easel.Place, cells.Of(p), progress);
+        MarkCells(EaselOf(easel.Place), easel.State, easel.State, cells.Of(p), progress);
     }
 }
 
@@ -65,7 +66,7 @@ TEST(AreaSearch, NumbersAreasByPaintThenByFirstCell) {
          5},
     };
     for (const auto& c : cases) {
-        Easel easel(8, c.grid);
+        PaintBench easel(8, c.grid);
         MarkAll(easel);
         EXPECT_EQ(Areas(easel.State), c.areas) << c.what;
         EXPECT_EQ(easel.State.NextAreaNumber, c.count + 1) << c.what;
@@ -74,11 +75,11 @@ TEST(AreaSearch, NumbersAreasByPaintThenByFirstCell) {
 }
 
 TEST(AreaSearch, RedrawingTellsLonersFromCellsWithCompany) {
-    Easel easel(8, {"222", "212", "222"});
+    PaintBench easel(8, {"222", "212", "222"});
     easel.State.CellMarks(1, 1).Loner = true;  // left over from before it had company
     const CellsByPaint cells(easel.State.Stipples, easel.State.PaintCount);
-    RedrawLoners(easel.Place, 1, cells.Of(1), BrushShape::Square);
-    RedrawLoners(easel.Place, 2, cells.Of(2), BrushShape::Square);
+    RedrawLoners(EaselOf(easel.Place), easel.State, 1, cells.Of(1), BrushShape::Square);
+    RedrawLoners(EaselOf(easel.Place), easel.State, 2, cells.Of(2), BrushShape::Square);
     EXPECT_TRUE(easel.State.CellMarks(2, 2).Loner);
     EXPECT_FALSE(easel.State.CellMarks(1, 1).Loner);
     EXPECT_EQ(easel.Work().Get(9, 9), easel.Paint(1));
@@ -87,7 +88,7 @@ TEST(AreaSearch, RedrawingTellsLonersFromCellsWithCompany) {
 }
 
 TEST(AreaSearch, MoreAreasThanACounterHoldsAreAnError) {
-    Easel easel(4, {"12", "21"});
+    PaintBench easel(4, {"12", "21"});
     easel.State.NextAreaNumber = kMaxCounter;
     EXPECT_THROW(MarkAll(easel), OverflowError);
 }

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "cleanup/plain_paint_pass.h"
 #include "cleanup/small_spots.h"
 #include "cleanup/smart_clean.h"
@@ -13,10 +13,10 @@
 namespace vendrel {
 namespace {
 
-using test::Easel;
+using test::PaintBench;
 using enum MenuId;
 
-void FillAtRandom(Easel& easel, unsigned seed, int paints) {
+void FillAtRandom(PaintBench& easel, unsigned seed, int paints) {
     std::mt19937 random(seed);
     for (int y = 1; y <= easel.State.CellsDown; ++y) {
         for (int x = 1; x <= easel.State.CellsAcross; ++x) {
@@ -34,10 +34,10 @@ TEST(PaintPass, PaintsTheSameAsThePlainestPass) {
         const int size = 4 + 2 * static_cast<int>(seed % 3);
         const int across = 1 + static_cast<int>(seed % 13);
         const int down = 1 + static_cast<int>(seed % 7);
-        Easel fast(size, across, down);
+        PaintBench fast(size, across, down);
         FillAtRandom(fast, seed, 2 + static_cast<int>(seed % 5));
         fast.Screen.IsWatched = seed % 2 == 0;  // watching never changes the picture
-        Easel plain(size, across, down);
+        PaintBench plain(size, across, down);
         plain.State.Stipples = fast.State.Stipples;
         PaintAllCells(fast.Place);
         test::PlainPaintPass(plain.Place);
@@ -50,7 +50,7 @@ TEST(PaintPass, PaintsTheSameAsThePlainestPass) {
 }
 
 TEST(PaintPass, TheSecondPassOfASessionGivesTheBytesOfTheFirst) {
-    Easel easel(8, {"112", "132", "444"});
+    PaintBench easel(8, {"112", "132", "444"});
     PaintAllCells(easel.Place);
     const Surface first = easel.Work();
     const Grid<MapPixel> map = easel.State.PixelMap;
@@ -63,7 +63,7 @@ TEST(PaintPass, TheSecondPassOfASessionGivesTheBytesOfTheFirst) {
 }
 
 TEST(PaintPass, CommandWrapsThePassInPointerMenusAndCaptions) {
-    Easel easel(8, {"112", "112", "222"});
+    PaintBench easel(8, {"112", "112", "222"});
     SetupMenuItems(easel.MainMenu, 3);
     easel.MainMenu[PrintAll].Enabled = false;
     PaintItNow_Click(easel.Place);
@@ -84,7 +84,7 @@ TEST(PaintPass, CommandWrapsThePassInPointerMenusAndCaptions) {
 }
 
 TEST(PaintPass, ClosingWhileItPaintsPutsTheMenusBack) {
-    Easel easel(8, {"112", "112", "222"});
+    PaintBench easel(8, {"112", "112", "222"});
     easel.Screen.StopAfterYields = 3;
     EXPECT_THROW(PaintItNow_Click(easel.Place), Stop);
     EXPECT_TRUE(easel.MainMenu[FileHeader].Enabled);
@@ -100,7 +100,7 @@ TEST(PaintPass, WithTooManyAreasLeavesNothingForASecondOneToMixUp) {
             rows.back() += static_cast<char>('1' + x % 2 + 2 * (y % 2));
         }
     }
-    Easel easel(4, rows);
+    PaintBench easel(4, rows);
     SetupMenuItems(easel.MainMenu, 3);
     for (int again = 0; again < 2; ++again) {
         EXPECT_THAT(
@@ -116,14 +116,14 @@ TEST(PaintPass, WithTooManyAreasLeavesNothingForASecondOneToMixUp) {
 TEST(SmallSpots, RedrawsBelowTheLimitOfEachSize) {
     for (const auto& [size, limit] : {std::pair{8, 44}, {6, 24}, {4, 12}}) {
         for (const int kept : {limit, limit - 1}) {
-            Easel easel(size, {"11", "11"});
+            PaintBench easel(size, {"11", "11"});
             Surface& work = easel.Frames.WorkFrame.Picture;
             work.Fill(Rgb(1, 1, 1));
             for (int i = 0; i < kept; ++i) {
                 work.Set(1 + i % size, 1 + i / size, easel.Paint(1));
             }
             const Surface before = work;
-            FixSmallSpots(easel.Place);
+            FixSmallSpots(EaselOf(easel.Place), easel.State);
             const int middle = size - 1;  // on the last row of the block, always in the brush
             EXPECT_EQ(work.Get(size / 2, middle) == easel.Paint(1),
                       before.Get(size / 2, middle) == easel.Paint(1) || kept < limit)
@@ -134,28 +134,31 @@ TEST(SmallSpots, RedrawsBelowTheLimitOfEachSize) {
 }
 
 // The colours of cell (2, 2)'s upper left and lower right corner pixel after a clean-up.
-std::pair<Color, Color> CornersOfMiddleCell(Easel& easel) {
+std::pair<Color, Color> CornersOfMiddleCell(PaintBench& easel) {
     easel.Frames.WorkFrame.Picture.Fill(kBlack);
     const int size = easel.State.StippleSize;
-    (size == 8 ? SmartClean8 : size == 6 ? SmartClean6 : SmartClean4)(easel.Place);
+    (size == 8   ? SmartClean8
+     : size == 6 ? SmartClean6
+                 : SmartClean4)(EaselOf(easel.Place), easel.State);
     return {easel.Work().Get(1 + size, 1 + size), easel.Work().Get(2 * size, 2 * size)};
 }
 
 TEST(SmartClean, FlankingNeighboursThatAgreeTakeTheCorner) {
     for (const int size : {8, 6, 4}) {
-        Easel agree(size, {"9399", "3123", "9393", "9999"});
+        PaintBench agree(size, {"9399", "3123", "9393", "9999"});
         EXPECT_EQ(CornersOfMiddleCell(agree), std::pair(agree.Paint(3), agree.Paint(1))) << size;
-        Easel edge(size, {"999", "913", "939"});  // right and lower neighbour in the last column
+        PaintBench edge(size,
+                        {"999", "913", "939"});  // right and lower neighbour in the last column
         EXPECT_EQ(CornersOfMiddleCell(edge).second, edge.Paint(1)) << size;
     }
 }
 
 TEST(SmartClean, LeavesPaintedPixelsAndGivesExtraPixelsToTheCell) {
-    Easel easel(8, {"9399", "3199", "9999", "9999"});
+    PaintBench easel(8, {"9399", "3199", "9999", "9999"});
     Surface& work = easel.Frames.WorkFrame.Picture;
     work.Fill(kBlack);
     work.Set(9, 9, kWhite);
-    SmartClean8(easel.Place);
+    SmartClean8(EaselOf(easel.Place), easel.State);
     EXPECT_EQ(work.Get(9, 9), kWhite);
     EXPECT_EQ(work.Get(10, 9), easel.Paint(3));
     EXPECT_EQ(work.Get(11, 9), easel.Paint(1));
@@ -165,11 +168,11 @@ TEST(SmartClean, LeavesPaintedPixelsAndGivesExtraPixelsToTheCell) {
 TEST(SmartClean, ThirdCornerPixelOfSixWaitsForThePixelBesideIt) {
     for (const bool agree : {true, false}) {
         for (const bool beside : {true, false}) {
-            Easel easel(6, {"9399", agree ? "3199" : "5199", "9999", "9999"});
+            PaintBench easel(6, {"9399", agree ? "3199" : "5199", "9999", "9999"});
             Surface& work = easel.Frames.WorkFrame.Picture;
             work.Fill(kBlack);
             work.Set(10 - 2, 10 - 2, beside ? kBlack : kWhite);
-            SmartClean6(easel.Place);
+            SmartClean6(EaselOf(easel.Place), easel.State);
             EXPECT_EQ(work.Get(10 - 3, 10 - 2), !agree   ? easel.Paint(1)
                                                 : beside ? easel.Paint(3)
                                                          : kBlack);

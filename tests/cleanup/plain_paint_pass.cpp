@@ -71,7 +71,7 @@ void EachCell(const WorkState& s, Visit visit) {
     }
 }
 
-void Redraw(const Workplace& place, BrushShape shape) {
+void Redraw(Workplace& place, BrushShape shape) {
     WorkState& s = place.State;
     for (int p = 1; p <= s.PaintCount; ++p) {
         EachCell(s, [&](int x, int y) {
@@ -79,14 +79,14 @@ void Redraw(const Workplace& place, BrushShape shape) {
             if (cell.ColorIndex == p) {
                 s.CellMarks(x, y).Loner = Loner(s, {x, y}, p);
                 if (s.CellMarks(x, y).Loner) {
-                    DrawOneStipple(place, cell.X, cell.Y, p, Record::Yes, shape);
+                    DrawOneStipple(EaselOf(place), cell.X, cell.Y, p, Record::Yes, shape);
                 }
             }
         });
     }
 }
 
-void PaintArea(const Workplace& place, int number) {
+void PaintArea(Workplace& place, int number) {
     WorkState& s = place.State;
     const vendrel::PaintArea& area = s.Areas[number];
     for (const auto& [x, y] : area.Members) {
@@ -96,8 +96,8 @@ void PaintArea(const Workplace& place, int number) {
                 s.CellMarks(x + step.X, y + step.Y).Visited &&
                 s.Stipples(x + step.X, y + step.Y).ColorIndex == area.ColorIndex) {
                 for (int i = 0; i < s.StippleSize; ++i) {
-                    DrawOneStipple(place, cell.X + i * step.X, cell.Y + i * step.Y, area.ColorIndex,
-                                   Record::Yes, BrushShape::Rounded);
+                    DrawOneStipple(EaselOf(place), cell.X + i * step.X, cell.Y + i * step.Y,
+                                   area.ColorIndex, Record::Yes, BrushShape::Rounded);
                 }
             }
         }
@@ -142,17 +142,17 @@ void FindAreas(WorkState& s) {
 
 }  // namespace
 
-void PlainPaintPass(const Workplace& place) {
+void PlainPaintPass(Workplace& place) {
     FindAreas(place.State);
-    EraseToColor(place, kBlack);
+    EraseToColor(EaselOf(place), kBlack);
     Redraw(place, BrushShape::Square);
-    while (const int area = Biggest(place.State.Areas)) {
+    while (const int area = Biggest(place.State->Areas)) {
         PaintArea(place, area);
     }
     Redraw(place, BrushShape::Rounded);
-    const int size = place.State.StippleSize;
-    (size == 8 ? SmartClean8 : size == 6 ? SmartClean6 : SmartClean4)(place);
-    FixSmallSpots(place);
+    const int size = place.State->StippleSize;
+    (size == 8 ? SmartClean8 : size == 6 ? SmartClean6 : SmartClean4)(EaselOf(place), place.State);
+    FixSmallSpots(EaselOf(place), place.State);
 }
 
 }  // namespace vendrel::test

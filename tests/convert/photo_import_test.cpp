@@ -100,7 +100,7 @@ class PhotoImport : public testing::Test {
   protected:
     PhotoImport() { WriteBitmap(bench_.Files / "pictures/my.holiday.bmp", photo_); }
     PhotoLoad Load(std::string_view name) {
-        EXPECT_TRUE(ChoosePhoto(bench_.Place, name));
+        EXPECT_TRUE(ChoosePhoto(bench_.State, bench_.Program, name));
         return LoadNewPicture(bench_.Place);
     }
 
@@ -132,7 +132,7 @@ TEST_F(PhotoImport, SetsUpTheWorkArea) {
     EXPECT_THAT(bench_.Screen.Captions, ElementsAre("Vendrel - my"));
 
     frames_.WorkFrame.Picture.Fill(kBlack);
-    RefreshPhotoImage(bench_.Place);
+    RefreshPhotoImage(bench_.Frames, bench_.Screen);
     EXPECT_EQ(frames_.WorkFrame.Picture, ScaleTo(photo_, 960, 736));
 }
 
@@ -162,7 +162,7 @@ TEST_F(PhotoImport, LoadsNothingOfAnEmptyPictureOrANameWithoutADot) {
     EXPECT_TRUE(bench_.Screen.Captions.empty());
 
     state_ = {};
-    EXPECT_FALSE(ChoosePhoto(bench_.Place, "holiday"));
+    EXPECT_FALSE(ChoosePhoto(bench_.State, bench_.Program, "holiday"));
     EXPECT_EQ(state_.PictureFile, "holiday");
     EXPECT_TRUE(state_.PicturePath.empty());
 }

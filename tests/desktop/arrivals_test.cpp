@@ -49,11 +49,11 @@ class ArrivalsTest : public QObject {
             QApplication::sendEvent(&window, &busy);
         });
         QApplication::processEvents();
-        QVERIFY2(!desktop.Place().State.PictureLoaded, "not while work runs");
+        QVERIFY2(!desktop.Place().State->PictureLoaded, "not while work runs");
         QApplication::sendEvent(&window, &enter);
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&window, &drop);
-        QTRY_VERIFY(desktop.Place().State.PictureLoaded);
+        QTRY_VERIFY(desktop.Place().State->PictureLoaded);
         QCOMPARE(window.windowTitle(), "Vendrel - sea side");
         QVERIFY(std::filesystem::exists(studio.Files / "Pictures/sea side.bmp"));
     }

@@ -66,7 +66,7 @@ void ToolsTest::TemplateShopKeepsWhatIsAddedAndRemoved() {
 
 void ToolsTest::ColorMatcherExchangesAndConverts() {
     QVERIFY(Choose(desktop_->Window(), "ChangeToStipples"));
-    const std::string before = desktop_->Place().State.PaintColors[1].PaintName;
+    const std::string before = desktop_->Place().State->PaintColors[1].PaintName;
     QVERIFY(Choose(desktop_->Window(), "NextBestColors"));
     QWidget& matcher = *QApplication::activeModalWidget();
     QCOMPARE(Find<QListWidget>(matcher, "MatcherPaints").count(), 50);
@@ -75,7 +75,7 @@ void ToolsTest::ColorMatcherExchangesAndConverts() {
     QVERIFY(Find<QPushButton>(matcher, "PutBack").isEnabled());
     Press(matcher, "AcceptButton");
     QVERIFY(!matcher.isVisible());
-    for (const PaintColor& paint : desktop_->Place().State.PaintColors) {
+    for (const PaintColor& paint : desktop_->Place().State->PaintColors) {
         QVERIFY(paint.PaintName != before);
     }
     QVERIFY(desktop_->Place().MainMenu[MenuId::PaintItNow].Enabled);

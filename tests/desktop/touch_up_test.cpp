@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QListWidget>
 #include <QMessageBox>
@@ -51,6 +52,9 @@ class TouchUpWindowTest : public QObject {
     void RightClickPicksThePaint();
     void SaveWritesTheFileAndFreesTheCancelFromItsQuestion();
     void WheelZoomsAtThePointer();
+    void SpaceDragsWhereverTheKeyboardIs();
+    void ZoomingAfterALonerIsFoundShowsIt();
+    void ValuesAreReadOut();
     void StrokesRepaintOnlyWhatTheyTouch();
     void ClosingTheProgramWithAcceptedWorkAsks();
     void AnEditorThatCannotOpenDoesNothingButClose();
@@ -90,7 +94,7 @@ void TouchUpWindowTest::init() {
     WriteBitmap(*files_ / "Data/PBNLady.bmp", photo);
     desktop_ = std::make_unique<Desktop>(ProgramFolder(files_->Path(), VENDREL_SOURCE_DIR));
     QVERIFY(!desktop_->Start());
-    desktop_->Place().State.Chosen.WatchItPaint = false;
+    desktop_->Place().State->Chosen.WatchItPaint = false;
     MainWindow& window = desktop_->Window();
     QVERIFY(LoadFirstPhoto(window) && Choose(window, "ChangeToStipples"));
     QVERIFY(Choose(window, "ColorPickerSelect"));
@@ -174,6 +178,48 @@ void TouchUpWindowTest::WheelZoomsAtThePointer() {
     QVERIFY2((now - spot).manhattanLength() <= 2 * TouchUpCanvas::kLargestEdge, "it has run away");
     QTest::keyClick(canvas_, Qt::Key_0);
     QCOMPARE(canvas_->Edge(), fit);
+}
+
+void TouchUpWindowTest::SpaceDragsWhereverTheKeyboardIs() {
+    const Grid<StippleCell> before = State().EditStipples;
+    for (int i = 0; i < 12; ++i) {
+        Find<QToolButton>(*canvas_->window(), "ZoomIn").click();
+    }
+    for (QWidget* focus : {static_cast<QWidget*>(&Rows()), static_cast<QWidget*>(canvas_),
+                           static_cast<QWidget*>(&Button("NextLoner"))}) {
+        focus->setFocus();
+        const QPoint corner = At(1, 1);
+        const QPoint middle = canvas_->viewport()->rect().center();
+        QTest::keyPress(focus, Qt::Key_Space);
+        Drag(middle, middle - QPoint(30, 20));
+        QTest::keyRelease(canvas_, Qt::Key_Space);
+        QCOMPARE(At(1, 1), corner - QPoint(30, 20));
+        QCOMPARE(State().EditStipples, before);
+    }
+    Drag(At(2, 2), At(5, 5));
+    QVERIFY2(State().EditStipples != before, "let go, it paints again");
+}
+
+void TouchUpWindowTest::ZoomingAfterALonerIsFoundShowsIt() {
+    const CellPos loner{State().CellsAcross - 4, State().CellsDown - 3};
+    ChoosePaint(1);
+    QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(loner.X, loner.Y));
+    QTest::mouseMove(canvas_->viewport(), At(3, 3));
+    QTest::keyClick(canvas_, Qt::Key_F3);
+    for (int i = 0; i < 12; ++i) {
+        QTest::keyClick(canvas_, Qt::Key_Plus);
+    }
+    QCOMPARE(canvas_->Edge(), TouchUpCanvas::kLargestEdge);
+    QVERIFY(canvas_->viewport()->rect().contains(At(loner.X, loner.Y)));
+}
+
+void TouchUpWindowTest::ValuesAreReadOut() {
+    for (const auto& [name, read] :
+         {std::pair("Loners", "Loners: No loners"), {"CleanLevel", "Clean-up level: Level 8"}}) {
+        QCOMPARE(QAccessible::queryAccessibleInterface(&Find<QLabel>(*canvas_->window(), name))
+                     ->text(QAccessible::Name),
+                 QString::fromLatin1(read));
+    }
 }
 
 void TouchUpWindowTest::StrokesRepaintOnlyWhatTheyTouch() {

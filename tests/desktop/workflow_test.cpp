@@ -10,15 +10,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The sheet that the command line makes of the same photo on the offscreen platform's screen.
+// The sheet that the command line makes of the same photo, whatever the screen here.
 std::string SheetOfTheCommandLine(const char* difficulty, const std::string& sheet) {
     const Studio studio;
-    const QSize screen = QApplication::primaryScreen()->size();
-    const std::string size = std::to_string(screen.width()) + "x" + std::to_string(screen.height());
     const std::string folder = studio.Files.Path().string();
     const std::vector<std::string_view> words = {
-        "kit", "PBNLady.bmp",  "--folder", folder,      "--screen",
-        size,  "--difficulty", difficulty, "--outputs", "sheet"};
+        "kit", "PBNLady.bmp", "--folder", folder, "--difficulty", difficulty, "--outputs", "sheet"};
     std::ostringstream out;
     if (RunCommandLine(words, {.Out = out, .Err = out, .Shipped = Studio::Source()}) != 0) {
         return out.str();
@@ -73,7 +70,7 @@ class WorkflowTest : public QObject {
         QVERIFY2(bytes == same, same.substr(0, 200).c_str());
     }
 
-    void WhileItPaintsOnlyClosingPasses() {
+    void WhileItPaintsOnlyAboutAndClosingPass() {
         const Studio studio;
         Desktop desktop(studio.Folder());
         QVERIFY(!desktop.Start());
@@ -81,15 +78,20 @@ class WorkflowTest : public QObject {
         QVERIFY(LoadFirstPhoto(window));
         QVERIFY(Choose(window, "ChangeToStipples"));
         bool refused = false;
+        bool told = false;
         QTimer::singleShot(100, &window, [&] {
             window.findChild<QAction*>("LoadBMP")->trigger();
             refused = QApplication::activeModalWidget() == nullptr;
+            told = Choose(window, "ShowAbout");
+            QWidget* about = QApplication::activeModalWidget();
+            told = told && about != nullptr && about->close();
             QTimer::singleShot(50, &window, &QWidget::close);
         });
         QVERIFY(Choose(window, "PaintItNow"));
         QVERIFY(refused);
+        QVERIFY(told);
         QVERIFY(!window.isVisible());
-        QVERIFY(!desktop.Place().State.PaintingDone);
+        QVERIFY(!desktop.Place().State->PaintingDone);
         QVERIFY(fs::is_empty(studio.Files / "Results"));
     }
 
@@ -109,6 +111,8 @@ class WorkflowTest : public QObject {
         NextMessage message;
         QCOMPARE(desktop.Start(), std::optional<int>(0));
         QVERIFY(message.Text.startsWith("First Time Ran.."));
+        QVERIFY(!ProgramIcon().pixmap(48).isNull());
+        QVERIFY(DocumentsFolder().is_absolute() && DocumentsFolder().filename() == "Vendrel");
     }
 
     void ALaterFailureIsToldAndTheWorkGoesOn() {

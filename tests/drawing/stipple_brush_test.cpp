@@ -13,8 +13,8 @@ namespace {
 
 constexpr Color kInk = Rgb(9, 8, 7);
 
-struct Easel : test::Bench {
-    Easel(int width, int height, int size) {
+struct PaintBench : test::Bench {
+    PaintBench(int width, int height, int size) {
         SizeStipples(State, size);
         Frames.WorkFrame.Picture = Surface(width, height);
         State.PixelMap = Grid<MapPixel>(width, height);
@@ -58,16 +58,16 @@ TEST(StippleBrush, EachSizeHasItsShape) {
         {5, BrushShape::Rounded, std::vector<std::string>(10, "..........")},
     };
     for (const Case& c : cases) {
-        Easel easel(10, 10, c.size);
-        DrawOneStipple(easel.Place, 5, 5, 1, Record::No, c.shape);
+        PaintBench easel(10, 10, c.size);
+        DrawOneStipple(EaselOf(easel.Place), 5, 5, 1, Record::No, c.shape);
         EXPECT_EQ(easel.Picture(), c.expected) << c.size;
         EXPECT_EQ(easel.State.PixelMap(5, 5).ColorIndex, 0);
     }
 }
 
 TEST(StippleBrush, LeavesRowAndColumnZeroAndStopsAtTheEdge) {
-    Easel easel(4, 4, 8);
-    CaptureStipple(easel.Place, {2, 2}, 1, kInk, BrushShape::Square, Record::Yes);
+    PaintBench easel(4, 4, 8);
+    CaptureStipple(EaselOf(easel.Place), {2, 2}, 1, kInk, BrushShape::Square, Record::Yes);
     EXPECT_EQ(easel.Picture(), (std::vector<std::string>{"....", ".###", ".###", ".###"}));
     EXPECT_EQ(easel.State.PixelMap(3, 3).ColorIndex, 1);
     EXPECT_EQ(easel.State.PixelMap(4, 3).ColorIndex, 0);
@@ -77,14 +77,12 @@ TEST(StippleBrush, LeavesRowAndColumnZeroAndStopsAtTheEdge) {
 TEST(StippleBrush, AStrokeIsEveryStampOnTheWay) {
     for (const int size : {8, 6, 4}) {
         for (Directions directions = 0; directions < 256; ++directions) {
-            Easel stroked(40, 40, size);
-            stroked.State.Stipples = Grid<StippleCell>(1, 1);
-            stroked.State.Stipples(1, 1) = {1, 20, 20, 0, {}};
-            MoveSpot(stroked.Place, directions, {1, 1}, 1);
-            Easel stamped(40, 40, size);
+            PaintBench stroked(40, 40, size);
+            MoveSpot(EaselOf(stroked.Place), directions, {1, 20, 20, 0, {}}, 1);
+            PaintBench stamped(40, 40, size);
             for (std::size_t d = 0; d < 8; ++d) {
                 for (int i = 0; (directions >> d & 1U) != 0 && i < size; ++i) {
-                    CaptureStipple(stamped.Place,
+                    CaptureStipple(EaselOf(stamped.Place),
                                    {20 + i * kNeighbours[d].X, 20 + i * kNeighbours[d].Y}, 1, kInk,
                                    BrushShape::Rounded, Record::Yes);
                 }
@@ -96,10 +94,10 @@ TEST(StippleBrush, AStrokeIsEveryStampOnTheWay) {
 }
 
 TEST(StippleBrush, ColorPsetPaintsBlackPixelsOnly) {
-    Easel easel(3, 3, 4);
-    ColorPset(easel.Place, 1, 1, kInk, 1);
-    ColorPset(easel.Place, 1, 1, Rgb(1, 1, 1), 2);
-    ColorPset(easel.Place, 3, 1, kInk, 1);  // outside: no colour is not black
+    PaintBench easel(3, 3, 4);
+    ColorPset(EaselOf(easel.Place), 1, 1, kInk, 1);
+    ColorPset(EaselOf(easel.Place), 1, 1, Rgb(1, 1, 1), 2);
+    ColorPset(EaselOf(easel.Place), 3, 1, kInk, 1);  // outside: no colour is not black
     EXPECT_EQ(easel.Frames.WorkFrame.Picture.Get(1, 1), kInk);
     EXPECT_EQ(easel.State.PixelMap(1, 1), (MapPixel{1, kInk}));
     EXPECT_EQ(easel.State.PixelMap(3, 1), MapPixel{});

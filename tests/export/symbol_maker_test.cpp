@@ -19,7 +19,7 @@ TEST(SymbolMaker, DrawsCapitalsOfOneHeight) {
     const std::string once = bench.Files.Read("Data/Symbols.txt");
     EXPECT_EQ(MakeSymbols(bench.Program).Note, "");
     EXPECT_EQ(bench.Files.Read("Data/Symbols.txt"), once);
-    SetupBMPSymbols(bench.Place);
+    SetupBMPSymbols(bench.State, bench.Program);
     for (int k = 1; k <= 33; ++k) {  // the digits and capitals
         const SymbolGlyph& glyph = bench.State.SymbolGlyphs[k];
         const auto byRow = [](GlyphPoint a, GlyphPoint b) { return a.Y < b.Y; };

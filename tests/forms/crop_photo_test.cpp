@@ -49,7 +49,7 @@ class CropPhotoTest : public ::testing::Test {
 TEST_F(CropPhotoTest, TheChooserShowsASquareAsTheSheetWillStretchIt) {
     Click("aunt.JPG");
     const FileImportControls& shown = chooser_.Controls();
-    EXPECT_THAT(shown.ImportFile, ElementsAre("aunt.JPG", "broken.png", "four.bmp"));
+    EXPECT_THAT(shown.ImportFile, ElementsAre("aunt.JPG", "broken.png", "four.bmp", "PBNLady.bmp"));
     EXPECT_THAT(shown.Description, HasSubstr("aunt.JPG\n600 x 600 pixels\nOn the sheet"));
     const double across = static_cast<double>(shown.Preview.Width()) / shown.Preview.Height();
     EXPECT_NEAR(std::max(across, 1 / across), 1 + Stretch(kSide, kSide) / 100, 0.01);

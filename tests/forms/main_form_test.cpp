@@ -78,8 +78,17 @@ TEST(FirstRun, MakesTheFoldersSaysSoAndEndsBeforeTheCatalogue) {
         EXPECT_TRUE(fs::exists(bench.Files / made)) << made;
     }
     EXPECT_EQ(bench.State.MasterCount, 0);
-    MainForm again(bench.Place);
-    EXPECT_NO_THROW(again.Form_Load());
+    const fs::path sample = bench.Files / "Pictures/PBNLady.bmp";
+    EXPECT_TRUE(fs::exists(sample));
+    for (const char* before : {"gone", "someone's own"}) {
+        fs::remove(sample);
+        if (before != std::string("gone")) {
+            bench.Files.Write("Pictures/PBNLady.bmp", before);
+        }
+        MainForm again(bench.Place);
+        EXPECT_NO_THROW(again.Form_Load());
+        EXPECT_EQ(fs::file_size(sample) > 1000, before == std::string("gone"));
+    }
 }
 
 TEST(FirstRun, KeepsFoldersWhateverTheirSpelling) {
@@ -240,7 +249,7 @@ TEST_F(MainFormTest, SavedGridsAreOfferedPerPhotoAndDifficultyButNeverLoadedUnas
     EXPECT_FALSE(On(LoadStipples));
     form_.Click(ChangeToStipples);
     const WorkState& state = studio_.State;
-    WriteStippleFile(StippleFilePath(studio_.Place),
+    WriteStippleFile(StippleFilePath(studio_.Program, studio_.State, studio_.State),
                      {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown, 50});
     const Grid<StippleCell> saved = state.Stipples;
     form_.Click(MediumSet);
@@ -309,7 +318,7 @@ TEST_F(MainFormTest, TheChooserShowsFoldersPreviewsAndTakesPhotosFromElsewhere) 
     FileImport& chooser = form_.Chooser();
     chooser.OKButton_Click();
     EXPECT_THAT(studio_.Screen.Messages, ElementsAre(Pair("No File Selected", "Select A File!")));
-    EXPECT_THAT(chooser.Controls().ImportFile, ElementsAre("four.bmp"));
+    EXPECT_THAT(chooser.Controls().ImportFile, ElementsAre("four.bmp", "PBNLady.bmp"));
     chooser.ImportDir_Change(0);
     ASSERT_THAT(chooser.Controls().ImportDir,
                 ElementsAre("..", "Album", "Data", "Pictures", "Results"));

@@ -25,7 +25,7 @@ struct SmallPhoto : Bench {
         Surface photo(32, 32, Rgb(200, 0, 0));
         photo.FillRect(17, 0, 32, 32, Rgb(0, 200, 0));
         WriteBitmap(Files / "Pictures/small.bmp", photo);
-        (void)ChoosePhoto(Place, "small.bmp");
+        (void)ChoosePhoto(State, Program, "small.bmp");
         (void)LoadNewPicture(Place);
     }
 

@@ -283,7 +283,7 @@ TEST_F(TouchUpFormTest, SavesAndLoadsAsOneStep) {
 }
 
 TEST_F(TouchUpFormTest, ABrokenLoadShowsWhatItReadUntilItIsTakenBack) {
-    studio_.Files.Write(kSaved, "4,8,6,50\r\n1,2,3,\"Odd\",1,\"Set\",\"R\"\r\noops\r\n");
+    studio_.Files.Write(kSaved, "1,1,1,50\r\n1,2,3,\"Odd\",1,\"Set\",\"R\"\r\noops\r\n");
     const CellRect whole = form_->TakeDirty();
     EXPECT_THROW(form_->LoadIt_Click(), FormatError);
     EXPECT_EQ(form_->TakeDirty(), whole);

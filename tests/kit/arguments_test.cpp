@@ -81,6 +81,8 @@ TEST(Arguments, OtherCommandsAreTold) {
     EXPECT_EQ(Parse({}).What, Command::Window);
     EXPECT_EQ(Parse({"--folder", "x"}).What, Command::Window);
     EXPECT_EQ(Parse({"--folder", "x"}).Folder, "x");
+    EXPECT_FALSE(Parse({"--folder", "x"}).InDocuments);
+    EXPECT_TRUE(Parse({"--documents"}).InDocuments);
     EXPECT_EQ(Parse({"--help"}).What, Command::Help);
     EXPECT_EQ(Parse({"--version"}).What, Command::Version);
     EXPECT_EQ(Parse({"kit", "a.bmp", "--help"}).What, Command::KitHelp);
@@ -95,6 +97,7 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
     };
     const Case cases[] = {
         {{"paint"}, "\"paint\""},
+        {{"--documents", "--folder", "x"}, "not by both"},
         {{"kit"}, "at least one photo"},
         {{"kit", "--json"}, "at least one photo"},
         {{"kit", "a.bmp", "--colour"}, "no option --colour"},

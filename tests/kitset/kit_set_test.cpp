@@ -1,8 +1,11 @@
 #include "kitset/kit_set.h"
 
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
-#include "cleanup/easel.h"
+#include <csignal>
+
+#include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "kitset/kit_mark.h"
 #include "kitset/save_kit.h"
@@ -23,17 +26,17 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 // A painted kit, and files of it with words in place of pictures.
-struct Shelf : test::Easel {
-    Shelf() : Easel(8, {"111", "121", "111"}) { SetupBMPSymbols(Place); }
+struct Shelf : test::PaintBench {
+    Shelf() : PaintBench(8, {"111", "121", "111"}) { SetupBMPSymbols(State, Program); }
 
     std::vector<std::string> Save(const std::string& mark, const std::vector<OutputId>& outputs) {
-        KitSet set(Place, mark);
+        KitSet set(Program, KitNameOf(State, State), Screen, mark);
         Fill(set, outputs);
         return set.Commit();
     }
     static void Fill(KitSet& set, const std::vector<OutputId>& outputs) {
         for (const OutputId id : outputs) {
-            WriteWholeFile(set.Waiting(OutputOf(id)).File, set.Mark());
+            WriteWholeFile(set.Waiting(OutputOf(id)), set.Mark());
             set.Written(OutputOf(id));
         }
     }
@@ -64,24 +67,28 @@ TEST(Sums, AreThoseOfSha256sumWhetherReadOrWatched) {
     EXPECT_EQ(SumOfFile(files / "missing"), "");
     RunningSum running;
     EXPECT_FALSE(running.Saw());
+    WholeFile grown(files / "grown");
     for (const char* part : {"a", "b", "c"}) {
-        running.See(std::as_bytes(std::span(part, 1)));
+        grown.Write(part);
+        running.Grew(grown.Descriptor());
     }
+    grown.Commit();
     EXPECT_EQ(running.Finish(), abc);
 }
 
 TEST(Mark, ChangesWithPaintsStipplesAndDifficultyAlone) {
     Shelf kit;
-    const std::string mark = KitMark(kit.Place);
+    const std::string mark = KitMark(kit.State, kit.State, kit.State);
     EXPECT_EQ(mark.size(), 8U);
     kit.State.Stipples(2, 2).AreaNumber = 7;
-    EXPECT_EQ(KitMark(kit.Place), mark);
+    EXPECT_EQ(KitMark(kit.State, kit.State, kit.State), mark);
     kit.State.Stipples(2, 2).ColorIndex = 1;
-    const std::string touchedUp = KitMark(kit.Place);
+    const std::string touchedUp = KitMark(kit.State, kit.State, kit.State);
     kit.State.PaintColors[3].PaintCode = "other";
-    const std::string repainted = KitMark(kit.Place);
+    const std::string repainted = KitMark(kit.State, kit.State, kit.State);
     kit.State.Chosen.Level = Difficulty::Medium;
-    EXPECT_THAT((std::set{mark, touchedUp, repainted, KitMark(kit.Place)}), testing::SizeIs(4));
+    EXPECT_THAT((std::set{mark, touchedUp, repainted, KitMark(kit.State, kit.State, kit.State)}),
+                testing::SizeIs(4));
 }
 
 TEST(SavedKit, IsListedWithTheSumsOfItsFiles) {
@@ -96,7 +103,7 @@ TEST(SavedKit, IsListedWithTheSumsOfItsFiles) {
     EXPECT_THAT(kit.Hidden(), IsEmpty());
     EXPECT_EQ(saved.Files.size(), 4U);
     const KitList list = kit.List();
-    EXPECT_EQ(list.Mark, KitMark(kit.Place));
+    EXPECT_EQ(list.Mark, KitMark(kit.State, kit.State, kit.State));
     for (const SavedKit::File& file : saved.Files) {
         EXPECT_EQ(list.Find(file.Output)->Sum, SumOfFile(file.Path)) << file.Path;
     }
@@ -167,8 +174,21 @@ TEST(KitSet, ThatFailsLeavesTheOldOneAndNothingElse) {
     fs::create_directories(kit.Files / "Results/Lady Easy Color Chart.BMP");
     EXPECT_THROW(kit.Save("NEW", {Sheet, Chart}), FileError);
     {
-        KitSet givenUp(kit.Place, "NEW");
+        KitSet givenUp(kit.Program, KitNameOf(kit.State, kit.State), kit.Screen, "NEW");
         Shelf::Fill(givenUp, {Sheet});
+    }
+    {
+        const rlimit full{0, RLIM_INFINITY};  // as a disk without room, but for all files at once
+        ASSERT_EQ(std::signal(SIGXFSZ, SIG_IGN), SIG_DFL);
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+        for (const OutputId id : {Sheet, Grid}) {
+            EXPECT_THAT([&] { kit.Save("NEW", {id}); },
+                        testing::ThrowsMessage<FileError>(
+                            testing::StartsWith(kit.Paths().File(OutputOf(id)).string() + ": ")));
+        }
+        const rlimit room{RLIM_INFINITY, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &room);
+        std::signal(SIGXFSZ, SIG_DFL);
     }
     EXPECT_EQ(kit.Text(Sheet), "OLD");
     EXPECT_EQ(kit.List().Mark, "OLD");
@@ -178,7 +198,7 @@ TEST(KitSet, ThatFailsLeavesTheOldOneAndNothingElse) {
 TEST(KitSet, WaitsForAnotherThatIsWritten) {
     Shelf kit;
     {
-        KitSet first(kit.Place, "ONE");
+        KitSet first(kit.Program, KitNameOf(kit.State, kit.State), kit.Screen, "ONE");
         Shelf::Fill(first, {Sheet});
         SettleKits(kit.Program);  // leaves what somebody writes alone
         kit.Screen.StopAfterYields = 1;

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "output/nearest_stipple.h"
 #include "support/error.h"
 
@@ -13,8 +13,8 @@ namespace vendrel {
 namespace {
 
 // An easel whose picture tests paint pixel by pixel.
-struct Painted : test::Easel {
-    Painted(int size, int across, int down, int paints) : Easel(size, across, down) {
+struct Painted : test::PaintBench {
+    Painted(int size, int across, int down, int paints) : PaintBench(size, across, down) {
         PaintList palette = State.PaintColors;
         palette.Resize(paints);
         SetPalette(State, palette);
@@ -69,7 +69,7 @@ class ByHand {
             } else if (Areas(x, y) == 0) {
                 Claim({x, y}, k);
                 if (counter == 0 && x < width_ && y < height_) {
-                    Symbols.push_back({k, FindNearestStipple(state_, {}, {x, y})});
+                    Symbols.push_back({k, FindNearestStipple(state_, state_, {}, {x, y})});
                 }
                 counter = (counter + 1) % period;
                 Add(y - 1 > 0, {x, y - 1});
@@ -199,7 +199,7 @@ TEST(NearestStipple, IsTheLastOfTheNearestInRowOrder) {
         WorkState& state = painted.State;
         for (const bool regular : {true, false}) {
             state.Stipples(2, 2).X += regular ? 0 : 3;  // as an edited file may have it
-            const StippleFinder finder(state, {});
+            const StippleFinder finder(state, state, {});
             for (int y = 0; y <= 3 * size; ++y) {
                 for (int x = 0; x <= 5 * size; ++x) {
                     CellPos found;
@@ -221,7 +221,7 @@ TEST(NearestStipple, IsTheLastOfTheNearestInRowOrder) {
         }
     }
     const Painted painted(8, 2, 2, 1);  // centres 5 and 13, half of the half stipple is 2
-    EXPECT_EQ(FindNearestStipple(painted.State, {}, {9, 8}), (CellPos{11, 3}));
+    EXPECT_EQ(FindNearestStipple(painted.State, painted.State, {}, {9, 8}), (CellPos{11, 3}));
 }
 
 }  // namespace

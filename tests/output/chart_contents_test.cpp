@@ -35,7 +35,7 @@ TEST(Shares, AddUpToTheWholePicture) {
 TEST(Chart, ListsPaintsInPaletteOrderAndCountsTheirStipples) {
     WorkState state = StateOf(
         {{1, 2, 3, "Oils", "PW6", "White", 77}, {9, 9, 9, "Inks", "K", "Jet"}}, {"212", "202"});
-    const auto rows = FillChart(state);
+    const auto rows = FillChart(state, state);
     EXPECT_THAT(rows, ElementsAre(ChartRow{1, "Oils", "Oils: White [PW6]", Rgb(1, 2, 3), 1, 200},
                                   ChartRow{2, "Inks", "Inks: Jet [K]", Rgb(9, 9, 9), 4, 800}));
     EXPECT_EQ(state.PaintColors[1].CellCount, 1);
@@ -48,7 +48,7 @@ TEST(Chart, SortsByShareAndSetAndBack) {
                                {3, 3, 3, "Oils", "", "A"},
                                {4, 4, 4, "Inks", "", "Y"}},
                               {"122334"});
-    auto rows = FillChart(state);
+    auto rows = FillChart(state, state);
     const auto order = [&rows](ChartOrder by) {
         SortChart(rows, by);
         std::string paints;

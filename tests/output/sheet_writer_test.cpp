@@ -6,7 +6,7 @@
 #include <array>
 #include <random>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "convert/bitmap_reader.h"
 #include "output/cell_numbering.h"
@@ -17,15 +17,15 @@
 namespace vendrel {
 namespace {
 
-Surface DrawSheet(test::Easel& kit) {
+Surface DrawSheet(test::PaintBench& kit) {
     NumberedPainting(kit.Place).WriteSheet(kit.Files / "sheet.BMP");
     return ReadBitmap(kit.Files / "sheet.BMP");
 }
 
 // Three by three stipples, the middle one of another paint, painted as the program paints.
-struct PaintedKit : test::Easel {
-    explicit PaintedKit(int stippleSize = 8) : Easel(stippleSize, {"111", "121", "111"}) {
-        SetupBMPSymbols(Place);
+struct PaintedKit : test::PaintBench {
+    explicit PaintedKit(int stippleSize = 8) : PaintBench(stippleSize, {"111", "121", "111"}) {
+        SetupBMPSymbols(State, Program);
         PaintAllCells(Place);
     }
 
@@ -73,8 +73,8 @@ TEST(Sheet, IsWhatTheWalkDrawsInItsOrder) {
         for (std::string& row : rows) {
             std::ranges::generate(row, [&random] { return "111223"[random() % 6]; });
         }
-        test::Easel kit(stippleSize, rows);
-        SetupBMPSymbols(kit.Place);
+        test::PaintBench kit(stippleSize, rows);
+        SetupBMPSymbols(kit.State, kit.Program);
         PaintAllCells(kit.Place);
         const Surface drawn = DrawSheet(kit);
         ASSERT_EQ(drawn.Width(), scale * kit.Work().Width());
@@ -102,8 +102,8 @@ TEST(Sheet, IsRefusedWhereSymbolsStandBeyondSixteenBits) {
     for (const unsigned rows : {2047U, 2060U}) {
         std::vector<std::string> grid(rows, "1111");
         grid.back() = "2222";  // its symbol stands in the last row
-        test::Easel kit(4, grid);
-        SetupBMPSymbols(kit.Place);
+        test::PaintBench kit(4, grid);
+        SetupBMPSymbols(kit.State, kit.Program);
         PaintAllCells(kit.Place);
         if (rows == 2060) {
             EXPECT_THROW(DrawSheet(kit), OverflowError);
@@ -145,7 +145,7 @@ TEST(Sheets, AreTheSameBytesWhetherSomebodyWatchesOrNot) {
         const NumberedPainting numbered(kit.Place);
         numbered.WriteReference(kit.Files / "reference.BMP");
         numbered.WriteSheet(kit.Files / "sheet.BMP");
-        WritePainting(kit.Place, kit.Files / "painting.BMP");
+        WritePainting(kit.Screen, kit.Frames.WorkFrame.Picture, kit.Files / "painting.BMP");
         files.push_back(kit.Files.Read("reference.BMP") + kit.Files.Read("sheet.BMP"));
         EXPECT_EQ(ReadBitmap(kit.Files / "painting.BMP"), painting);
     }

@@ -50,7 +50,7 @@ class TinyCanvas : public Canvas {
 TEST(SymbolSet, TiesSymbolsToTheirCharacters) {
     test::Bench bench;
     bench.Files.Write("data/symbols.txt", OnePixelSymbols());
-    SetupBMPSymbols(bench.Place);
+    SetupBMPSymbols(bench.State, bench.Program);
     const auto& codes = bench.State.SymbolCodes;
     for (const auto& [symbol, character] : {std::pair{1, '1'}, {23, 'N'}, {24, '0'}, {50, 'z'}}) {
         EXPECT_EQ(codes[symbol], character);
@@ -63,7 +63,7 @@ TEST(SymbolSet, TiesSymbolsToTheirCharacters) {
 TEST(SymbolSet, StampsWithTheShiftAndCutsAtTheSheet) {
     test::Bench bench;
     bench.Files.Write("Data/Symbols.txt", OnePixelSymbols());
-    SetupBMPSymbols(bench.Place);
+    SetupBMPSymbols(bench.State, bench.Program);
     std::array<std::uint8_t, 24 * 12> bits{};
     const DibView sheet(bits.data(), 8, 12, 24);
     const auto stamp = [&](int symbol, CellPos at) {
@@ -92,29 +92,29 @@ TEST(SymbolSet, NamesFileAndLineOfBrokenGlyphs) {
           {"", "the file ends"}}) {
         test::Bench bench;
         bench.Files.Write("Data/Symbols.txt", text);
-        EXPECT_THAT([&] { SetupBMPSymbols(bench.Place); },
+        EXPECT_THAT([&] { SetupBMPSymbols(bench.State, bench.Program); },
                     testing::ThrowsMessage<FormatError>(
                         testing::AllOf(HasSubstr("Symbols.txt"), HasSubstr(problem))));
     }
     test::Bench empty;
-    EXPECT_THROW(SetupBMPSymbols(empty.Place), FileError);
+    EXPECT_THROW(SetupBMPSymbols(empty.State, empty.Program), FileError);
 }
 
 TEST(SymbolSet, MakesAFileOfCanvasPositionsRowByRow) {
     test::Bench bench;
     TinyCanvas canvas;
-    MakeSymbolFile(bench.State, bench.Files / "Data/Symbols.txt", canvas);
+    MakeSymbolFile(bench.State, bench.State.SymbolColor, bench.Files / "Data/Symbols.txt", canvas);
     EXPECT_EQ(canvas.Printed, kSymbolCharacters);
     EXPECT_EQ(canvas.Font, "Courier New 12");
     const std::string text = bench.Files.Read("Data/Symbols.txt");
     EXPECT_THAT(text, testing::StartsWith(" 2\r\n0,0\r\n1,1\r\n 1\r\n2,1\r\n 1\r\n3,1\r\n"));
-    SetupBMPSymbols(bench.Place);
+    SetupBMPSymbols(bench.State, bench.Program);
     EXPECT_EQ(bench.State.SymbolGlyphs[1].Points[2], (GlyphPoint{-1, -3}));
 }
 
 TEST(SymbolSet, ShipsFiftyDifferentLegibleSymbols) {
     test::Bench bench(VENDREL_SOURCE_DIR);
-    SetupBMPSymbols(bench.Place);
+    SetupBMPSymbols(bench.State, bench.Program);
     const auto& glyphs = bench.State.SymbolGlyphs;
     for (int k = 1; k <= kSymbolCount; ++k) {
         EXPECT_GE(glyphs[k].PointCount(), 14) << k;

@@ -16,14 +16,14 @@ TEST(Catalogue, ReadsAsManyPaintsAsItCounts) {
     bench.Files.Write(
         "data/StudioPaint.csv",
         "2\r\n255, 0,7,\"Greens, light\",\"PG7\",\"Leaf\"\r\n1,2,3,Barrel,,Grey\n4,5");
-    LoadMasterColors(bench.Place);
+    LoadMasterColors(bench.State, bench.State, bench.Screen, bench.Program);
     ASSERT_EQ(bench.State.MasterCount, 2);
     EXPECT_EQ(bench.State.MasterColors[1],
               (PaintColor{255, 0, 7, "Greens, light", "PG7", "Leaf", 0}));
     EXPECT_EQ(bench.State.MasterColors[2], (PaintColor{1, 2, 3, "Barrel", "", "Grey", 0}));
 
     bench.Files.Write("data/StudioPaint.csv", "0\r\n");
-    LoadMasterColors(bench.Place);
+    LoadMasterColors(bench.State, bench.State, bench.Screen, bench.Program);
     EXPECT_EQ(bench.State.MasterCount, 0);
 }
 
@@ -34,12 +34,14 @@ TEST(Catalogue, KeepsWhatItHasWhenTheFileIsBroken) {
         test::Bench bench;
         bench.State.MasterColors.Resize(1);
         bench.Files.Write("Data/studiopaint.csv", text);
-        EXPECT_THAT([&] { LoadMasterColors(bench.Place); },
-                    testing::ThrowsMessage<FormatError>(testing::HasSubstr(problem)));
+        EXPECT_THAT(
+            [&] { LoadMasterColors(bench.State, bench.State, bench.Screen, bench.Program); },
+            testing::ThrowsMessage<FormatError>(testing::HasSubstr(problem)));
         EXPECT_EQ(bench.State.MasterColors.Count(), 1);
     }
     test::Bench empty;
-    EXPECT_THROW(LoadMasterColors(empty.Place), FileError);
+    EXPECT_THROW(LoadMasterColors(empty.State, empty.State, empty.Screen, empty.Program),
+                 FileError);
 }
 
 TEST(Catalogue, WarnsOfWhatItDoesNotReadOrCannotTellApart) {
@@ -51,8 +53,8 @@ TEST(Catalogue, WarnsOfWhatItDoesNotReadOrCannotTellApart) {
           {"2\n1,2,3,a,,\n1,2,3,a,,\n", nullptr}}) {
         test::Bench bench;
         bench.Files.Write("Data/studiopaint.csv", text);
-        LoadMasterColors(bench.Place);
-        LoadMasterColors(bench.Place);
+        LoadMasterColors(bench.State, bench.State, bench.Screen, bench.Program);
+        LoadMasterColors(bench.State, bench.State, bench.Screen, bench.Program);
         ASSERT_EQ(bench.Screen.Messages.size(), warning == nullptr ? 0U : 1U) << text;
         if (warning != nullptr) {
             EXPECT_THAT(bench.Screen.Messages[0].second,
@@ -64,7 +66,7 @@ TEST(Catalogue, WarnsOfWhatItDoesNotReadOrCannotTellApart) {
 
 TEST(Catalogue, ShipsWithPaintsThatCanAllBeToldApart) {
     test::Bench bench(VENDREL_SOURCE_DIR);
-    LoadMasterColors(bench.Place);
+    LoadMasterColors(bench.State, bench.State, bench.Screen, bench.Program);
     std::set<PaintId> ids;
     for (const PaintColor& paint : bench.State.MasterColors) {
         ids.insert(IdOf(paint));
@@ -78,7 +80,7 @@ TEST(Catalogue, MakesASetOfEveryNameAndOneOfEveryNamelessPaint) {
     for (const char* mfg : {"Oils", "", "Greys", "Oils", "", "oils"}) {
         bench.State.MasterColors.Add({0, 0, 0, mfg, "", "", 0});
     }
-    BuildPaintSets(bench.Place);
+    BuildPaintSets(bench.State);
     std::string names;
     for (const PaintSet& set : bench.State.PaintSets) {
         names += set.Name + ";";

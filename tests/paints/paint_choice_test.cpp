@@ -20,7 +20,7 @@ class PaintChoice : public testing::Test {
             paints.Add({1, 2, 3, set, "", name, 0});
         }
         SetCatalogue(State, std::move(paints));
-        BuildPaintSets(Bench.Place);
+        BuildPaintSets(Bench.State);
     }
 
     [[nodiscard]] std::string Selected() const {
@@ -40,9 +40,9 @@ TEST_F(PaintChoice, StartsWithThePaintListInTheOrderOfItsLines) {
          {std::tuple{"Inks, dark\r\nOils\r\n", "Oils;Inks, dark;", "i1 o1 o2"},
           {"Nobody's\r\n oils\r\nGreys \r\n", "", ""},
           {"Greys\nGreys", "Greys;", "g1 g1"}}) {
-        BuildPaintSets(Bench.Place);
+        BuildPaintSets(Bench.State);
         Bench.Files.Write("data/paintlist.txt", file);
-        LoadPaintList(Bench.Place);
+        LoadPaintList(Bench.State, Bench.State, Bench.State, Bench.Screen, Bench.Program);
         EXPECT_EQ(Selected(), sets) << file;
         EXPECT_EQ(test::NamesOf(State), paints) << file;
     }
@@ -53,7 +53,7 @@ TEST_F(PaintChoice, StartsWithThePaintListInTheOrderOfItsLines) {
 
 TEST_F(PaintChoice, WithoutAListTheFirstSetIsSelectedAndWritten) {
     SetPalette(State, {test::Paint(1, 1, 1, "old")});
-    LoadPaintList(Bench.Place);
+    LoadPaintList(Bench.State, Bench.State, Bench.State, Bench.Screen, Bench.Program);
     EXPECT_EQ(Selected(), "Oils;");
     EXPECT_EQ(State.PaintCount, 0);
     EXPECT_EQ(Bench.Files.Read("data/paintlist.txt"), "Oils\r\n");
@@ -65,12 +65,11 @@ TEST_F(PaintChoice, AShippedListStandsInAndIsNeverWritten) {
     test::TempFolder shipped;
     shipped.Write("Data/paintlist.txt", "Greys\r\n");
     const ProgramFolder folder(Bench.Files.Path(), shipped.Path());
-    Workplace place{State, Bench.Frames, Bench.MainMenu, Bench.Screen, folder};
-    LoadPaintList(place);
+    LoadPaintList(State, State, State, Bench.Screen, folder);
     EXPECT_EQ(Selected(), "Greys;");
     EXPECT_FALSE(folder.Exists("data/paintlist.txt"));
     State.PaintSets[3].Selected = true;
-    SavePaintList(place);
+    SavePaintList(State, folder);
     EXPECT_EQ(Bench.Files.Read("data/paintlist.txt"), "Greys\r\nInks, dark\r\n");
     EXPECT_EQ(shipped.Read("Data/paintlist.txt"), "Greys\r\n");
 }
@@ -83,7 +82,7 @@ TEST_F(PaintChoice, ThePaletteFollowsTheListOfChosenSets) {
     EXPECT_EQ(State.PaintColors[2], State.MasterColors[1]);
 
     State.SelectedPaintsList = {"None Selected"};
-    LoadColors(Bench.Place);
+    LoadColors(Bench.State, Bench.State, Bench.State);
     EXPECT_EQ(State.PaintCount, 0);
     EXPECT_EQ(State.PaintColors.Count(), 0);
 }
@@ -92,10 +91,10 @@ TEST_F(PaintChoice, RefusesMorePaintsThanCanBeNumbered) {
     State.MasterColors = PaintList(32767, {0, 0, 0, "Oils", "", "", 0});
     SetPalette(State, {test::Paint(1, 1, 1, "old")});
     State.SelectedPaintsList = {"Oils"};
-    LoadColors(Bench.Place);
+    LoadColors(Bench.State, Bench.State, Bench.State);
     EXPECT_EQ(State.PaintCount, 32767);
     State.SelectedPaintsList = {"Oils", "Oils"};
-    EXPECT_THROW(LoadColors(Bench.Place), OverflowError);
+    EXPECT_THROW(LoadColors(Bench.State, Bench.State, Bench.State), OverflowError);
     EXPECT_EQ(State.PaintCount, 32767);
 }
 

@@ -16,7 +16,7 @@ using test::Paint;
 // renumbered.
 void PlainReduce(WorkState& state, int target, std::vector<std::string>& captions) {
     while (state.PaintCount > target) {
-        CountColors(state);
+        CountColors(state, state);
         const int k = GetLowCount(state);
         PaintColor gone = state.PaintColors[k];
         int r = 0;
@@ -60,7 +60,7 @@ TEST(ReduceColors, DropsTheLeastUsedPaintAndRepaintsItsStipples) {
         test::Bench bench;
         SetPalette(bench.State, paints);
         test::UseGrid(bench.State, c.Before);
-        ReduceColors(bench.Place, c.Target);
+        ReduceColors(bench.State, bench.State, bench.Screen, c.Target);
         EXPECT_EQ(test::GridOf(bench.State.Stipples), c.After) << c.What;
         EXPECT_EQ(test::NamesOf(bench.State), c.Names) << c.What;
         EXPECT_EQ(bench.State.PaintColors.Count(), c.Target) << c.What;
@@ -87,7 +87,7 @@ TEST(ReduceColors, AgreesWithCountingAfreshForEveryPaint) {
         std::vector<std::string> captions;
         const int target = round % count;
         PlainReduce(plain, target, captions);
-        ReduceColors(bench.Place, target);
+        ReduceColors(bench.State, bench.State, bench.Screen, target);
         ASSERT_EQ(bench.State.Stipples, plain.Stipples);
         ASSERT_EQ(bench.State.PaintColors, plain.PaintColors);
         ASSERT_EQ(bench.State.PaintCount, plain.PaintCount);
@@ -105,9 +105,10 @@ TEST(ReduceColors, StopsWithWhatWasDoneWhenACounterIsFull) {
                    {Paint(10, 0, 0, "a"), Paint(11, 0, 0, "b"), Paint(250, 0, 0, "c")});
         test::UseGrid(bench.State, {std::string(32767, '1') + "233"});
         if (target == 2) {
-            ReduceColors(bench.Place, target);
+            ReduceColors(bench.State, bench.State, bench.Screen, target);
         } else {
-            EXPECT_THROW(ReduceColors(bench.Place, target), OverflowError);
+            EXPECT_THROW(ReduceColors(bench.State, bench.State, bench.Screen, target),
+                         OverflowError);
         }
         EXPECT_EQ(test::NamesOf(bench.State), "a c");
         EXPECT_EQ(bench.State.Stipples(32768, 1).ColorIndex, 1);
@@ -115,7 +116,7 @@ TEST(ReduceColors, StopsWithWhatWasDoneWhenACounterIsFull) {
         EXPECT_EQ(bench.Screen.Captions.size(), 1U);
 
         bench.State.Stipples(32768, 1).ColorIndex = 1;  // full from the beginning
-        EXPECT_THROW(ReduceColors(bench.Place, 1), OverflowError);
+        EXPECT_THROW(ReduceColors(bench.State, bench.State, bench.Screen, 1), OverflowError);
         EXPECT_EQ(test::NamesOf(bench.State), "a c");
     }
 }
@@ -124,7 +125,7 @@ TEST(RemoveColor, MovesLaterPaintsUp) {
     WorkState state;
     SetPalette(state, {Paint(0, 0, 0, "a"), Paint(90, 0, 0, "b"), Paint(100, 0, 0, "c")});
     test::UseGrid(state, {"123", "021"});
-    RemoveColor(state, 2);
+    RemoveColor(state, state, 2);
     EXPECT_EQ(test::GridOf(state.Stipples), (Rows{"122", "021"}));
     EXPECT_EQ(test::NamesOf(state), "a c");
 }

@@ -36,7 +36,7 @@ TEST(TemplateFile, BecomesThePaletteAndLowersTheFinalPaints) {
          {std::tuple{12, 32, 12}, {33, 32, 32}, {60, 0, 0}}) {
         test::Bench bench;
         bench.State.Chosen.FinalPaints = wanted;
-        WriteTemplate(TemplatePath(bench.Place, "T"), PaintList(paints));
+        WriteTemplate(TemplatePath(bench.Program, "T"), PaintList(paints));
         EXPECT_TRUE(LoadTemplateColors(bench.Place, "T"));
         EXPECT_EQ(bench.State.PaintCount, paints);
         EXPECT_EQ(bench.State.FinalColors, finalColors) << paints;
@@ -72,14 +72,14 @@ TEST(TemplateFile, LeavesNoOtherPaletteInForceWhenItCannotBeRead) {
 
 TEST(TemplateFile, ListsTheFolderWithoutEndings) {
     test::Bench bench;
-    EXPECT_TRUE(ListTemplates(bench.Place).empty());
+    EXPECT_TRUE(ListTemplates(bench.Program).empty());
     EXPECT_TRUE(bench.Program.Exists("templates"));
     for (const char* file : {"Sea.csv", "Autumn day.csv", "notes.text", "aéé.é", "csv",
                              "Sea.csv.123.part", ".vendrel-1-2.part"}) {
         bench.Files.Write(std::string("templates/") + file, "");
     }
     bench.Files.Write("templates/Folder.csv/x.csv", "");
-    EXPECT_THAT(ListTemplates(bench.Place),
+    EXPECT_THAT(ListTemplates(bench.Program),
                 testing::ElementsAre("Autumn day", "Sea", "a", "notes."));
 }
 

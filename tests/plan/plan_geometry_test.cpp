@@ -6,7 +6,7 @@
 #include <random>
 #include <set>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "plan/inscribed_boxes.h"
 #include "plan/label_placement.h"
 #include "plan/mark_places.h"
@@ -74,12 +74,13 @@ Units PlainUnits(const PixelGrid& ids) {
 }
 
 TEST(PaintedRegions, BarePixelsTakeThePaintOfTheirStipple) {
-    test::Easel easel(4, {"12"});
+    test::PaintBench easel(4, {"12"});
     WorkState& state = easel.State;
     state.PixelMap(5, 1).ColorIndex = 1;
-    EXPECT_EQ(PaintPerPixel(state, 8, 4), Values({"11111222", "11111122", "11111222", "11111222"}));
+    EXPECT_EQ(PaintPerPixel(state, state, 4, 8, 4),
+              Values({"11111222", "11111122", "11111222", "11111222"}));
     state.PixelMap = Grid<MapPixel>();
-    EXPECT_THROW((void)PaintPerPixel(state, 8, 4), Error);
+    EXPECT_THROW((void)PaintPerPixel(state, state, 4, 8, 4), Error);
 }
 
 TEST(Outlines, DrawEveryBorderOnceWithoutNeedlessPoints) {

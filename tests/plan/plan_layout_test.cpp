@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "support/error.h"
 
@@ -20,10 +20,10 @@ class PlannedPicture : public testing::Test {
         aspects_.fill(0.7);
     }
     [[nodiscard]] PrintPlan Plan(const PlanSettings& settings) const {
-        return MakePrintPlan(easel_.Place, settings, aspects_);
+        return MakePrintPlan(easel_.State, easel_.Frames.WorkFrame.Picture, settings, aspects_);
     }
 
-    test::Easel easel_;
+    test::PaintBench easel_;
     SymbolAspects aspects_{};
 };
 

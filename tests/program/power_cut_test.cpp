@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "intake/keep_picture.h"
 #include "paints/paint_list.h"
 #include "paints/template_file.h"
@@ -13,15 +13,14 @@ namespace vendrel::test {
 namespace {
 
 TEST(PowerCut, LeavesWhatWasSaved) {
-    Easel bench(8, {"12", "12"}, 2);
+    PaintBench bench(8, {"12", "12"}, 2);
     const ProgramFolder folder(bench.Files / "studio");
-    Workplace place{bench.State, bench.Frames, bench.MainMenu, bench.Screen, folder};
     bench.State.PaintSets = {{.Name = "Set", .Selected = true}};
     const Surface photo(5, 3, Rgb(200, 10, 10));
     const FragileDisk disk(bench.Files.Path());
-    WriteTemplate(TemplatePath(place, "Sea"), bench.State.PaintColors);
-    RenameTemplate(place, "Sea", "Beach");
-    SavePaintList(place);
+    WriteTemplate(TemplatePath(folder, "Sea"), bench.State.PaintColors);
+    RenameTemplate(bench.State, folder, "Sea", "Beach");
+    SavePaintList(bench.State, folder);
     KeepPicture(folder, "aunt", photo);
     for (const char* saved : {"templates/Beach.csv", "data/paintlist.txt", "Pictures/aunt.bmp"}) {
         const std::string bytes = bench.Files.Read(std::string("studio/") + saved);
@@ -42,7 +41,7 @@ TEST(PowerCut, LeavesTheGridOfAKitAndThePhotoTakenIn) {
 }
 
 TEST(PowerCut, LeavesTouchedUpWorkInTheRecoveryOrTheGridAtEveryMoment) {
-    Easel bench(8, {"12", "12"}, 2);
+    PaintBench bench(8, {"12", "12"}, 2);
     const auto grid = bench.Files / "Saved Stipples/Lady-Easy.stp";
     const auto recovery = bench.Files / "Saved Stipples/Lady-Easy.recovery.stp";
     FragileDisk disk(bench.Files.Path());

@@ -2,8 +2,11 @@
 
 #include <gmock/gmock.h>
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
+#include "convert/bitmap_writer.h"
+#include "convert/stipple_conversion.h"
 #include "support/error.h"
+#include "support/size_text.h"
 
 namespace vendrel {
 namespace {
@@ -21,7 +24,7 @@ class LoadStipples : public testing::Test {
 
     const std::string paints_ =
         "1,2,3,\"Red\",1,\"Acme\",\"A1\"\r\n4,5,6,\"Blue\",1,\"Acme\",\"A2\"\r\n";
-    test::Easel bench_{8, {"11"}};
+    test::PaintBench bench_{8, {"11"}};
 };
 
 TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
@@ -51,21 +54,61 @@ TEST_F(LoadStipples, TakesUpPaletteGridAndMenus) {
     EXPECT_EQ(bench_.Frames.StippleFrame.Picture, picture);
 }
 
-TEST_F(LoadStipples, KeepsThePhotosSizeAndSaysSo) {
-    // Saved from a photo three stipples across: the first two lines fill the grid.
-    Save("2,3,1,16\r\n" + paints_ + "1,2,5,5\r\n2,1,13,5\r\n3,1,21,5\r\n");
-    LoadStipples_Click(bench_.Place);
-    EXPECT_EQ(bench_.State.Stipples(2, 1).AreaNumber, 2);
-    ASSERT_EQ(bench_.Screen.Messages.size(), 1U);
-    EXPECT_THAT(bench_.Screen.Messages[0].second,
-                testing::AllOf(HasSubstr("3 x 1"), HasSubstr("2 x 1"), HasSubstr("Lady-Easy.stp")));
+TEST_F(LoadStipples, GivesThePhotoTheShapeOfAGridMadeElsewhere) {
+    const std::filesystem::path photo = bench_.Files / "Pictures/Lady.bmp";
+    bench_.State.PicturePath = photo.string();
+    WriteBitmap(photo, Surface(64, 32, kWhite));
+    const struct {
+        const char* Shape;
+        const char* Cells;
+        int Across, Down;
+    } cases[] = {{"3,1", "1,2,5,5\r\n2,1,13,5\r\n3,1,21,5\r\n", 3, 1},
+                 {"1,2", "1,2,5,5\r\n2,1,5,13\r\n", 1, 2},
+                 {"1,1", "1,2,5,5\r\n9,9,more lines are none of it\r\n", 1, 1}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Shape);
+        Save("2," + std::string(c.Shape) + ",16\r\n" + paints_ + c.Cells);
+        LoadStipples_Click(bench_.Place);
+        const WorkState& state = bench_.State;
+        EXPECT_EQ(std::pair(state.CellsAcross, state.CellsDown), std::pair(c.Across, c.Down));
+        EXPECT_EQ(state.Stipples(1, 1).AreaNumber, 1);
+        EXPECT_EQ(std::pair(state.PictureWidth, state.PictureHeight),
+                  std::pair(c.Across * 120, c.Down * 120));
+        for (const Surface* picture :
+             {&bench_.Frames.WorkFrame.Picture, &bench_.Frames.CaptureFrame.Picture}) {
+            EXPECT_EQ(std::pair(picture->Width(), picture->Height()),
+                      std::pair(c.Across * 8, c.Down * 8));
+        }
+        EXPECT_EQ(state.PixelMap.Across(), c.Across * 8);
+        EXPECT_THAT(bench_.Screen.Messages.back().second,
+                    testing::AllOf(HasSubstr(SizeText(c.Across, c.Down)), HasSubstr("Lady-Easy")));
+    }
+    bench_.State.Chosen.Sample = Sampling::Pixel;
+    (void)ChangeToStipples_Click(bench_.Place);
+    EXPECT_EQ(std::pair(bench_.State.CellsAcross, bench_.State.CellsDown), std::pair(120, 60))
+        << "converted afresh, the photo has its own shape";
 }
 
 TEST_F(LoadStipples, BrokenFileChangesNothing) {
-    for (const char* cells : {"1,2,5,5\r\n", "1,2,5,5\r\n2,3,13,5\r\n", "1,2,5\r\n1,1,13,5\r\n"}) {
-        Save("2,2,1,16\r\n" + paints_ + cells);
-        EXPECT_THROW(LoadStipples_Click(bench_.Place), FormatError) << cells;
+    const std::string_view cases[][3] = {
+        {"2,1", "1,2,5,5\r\n", "line 4: the file ends here with 1 of the 2 stipples (2 x 1)"},
+        {"9,7", "1,2,5,5\r\n1,2,5,5\r\n\r\n", "line 5: the file ends here with 2 of the 63"},
+        {"9,7", "", "line 3: the file ends here with 0 of the 63"},
+        {"32767,32767", "1,2,5,5\r\n", "1 of the 1073676289 stipples"},
+        {"0,7", "1,2,5,5\r\n", "line 1: the file announces no stipples"},
+        {"2,1", "1,2,5,5\r\n2,3,13,5\r\n", "line 5"},
+        {"2,1", "1,2,5\r\n1,1,13,5\r\n", "line 4"}};
+    for (const auto& [shape, cells, message] : cases) {
+        Save("2," + std::string(shape) + ",16\r\n" + paints_ + std::string(cells));
+        EXPECT_THAT([&] { LoadStipples_Click(bench_.Place); },
+                    testing::ThrowsMessage<FormatError>(HasSubstr(message)));
     }
+    std::string row;
+    for (int i = 0; i < 300; ++i) {
+        row += "1,2,5,5\r\n";
+    }
+    Save("2,300,1,16\r\n" + paints_ + row);
+    EXPECT_THROW(LoadStipples_Click(bench_.Place), FormatError) << "wider than any sheet";
     std::filesystem::remove(bench_.Files / "Saved Stipples/Lady-Easy.stp");
     EXPECT_THROW(LoadStipples_Click(bench_.Place), FileError);
     EXPECT_EQ(bench_.State.PaintColors[1].PaintName, "Paint 1");

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cleanup/easel.h"
+#include "cleanup/paint_bench.h"
 #include "touchup/edit_sheet.h"
 
 namespace vendrel::test {
@@ -9,8 +9,8 @@ namespace vendrel::test {
 using Rows = std::vector<std::string>;
 
 /// A workplace with a converted grid and paints named "Paint 1" and so on, at Easy.
-struct KitBench : Easel {
-    explicit KitBench(const Rows& rows, int paints = 9) : Easel(8, rows, paints) {
+struct KitBench : PaintBench {
+    explicit KitBench(const Rows& rows, int paints = 9) : PaintBench(8, rows, paints) {
         SetColorChecks(State.Chosen, State.FinalColors);
     }
 

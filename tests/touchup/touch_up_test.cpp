@@ -108,7 +108,7 @@ TEST(Accepting, NumbersPaintsAsTheSavedGridDoes) {
     EXPECT_TRUE(state.HasUnsavedWork);
     SaveStipples(bench.Place);
     EXPECT_THAT(bench.Files.Read(kSaved), HasSubstr("4,3,2,50"));
-    EXPECT_FALSE(state.HasUnsavedWork || RecoveryExists(bench.Place));
+    EXPECT_FALSE(state.HasUnsavedWork || fs::exists(bench.Files / kRecovery));
 }
 
 TEST(TidyPaints, DropsUnusedOnesAndTellsWhichSymbolsMovedUntilItIsUndone) {
@@ -131,10 +131,10 @@ TEST(TidyPaints, DropsUnusedOnesAndTellsWhichSymbolsMovedUntilItIsUndone) {
     editor.Redo();
     editor.Redo();
     EXPECT_EQ(bench.State.FoundCount, 3);
-    bench.Files.Write(kSaved, "9,3,2,16\r\n" + kRed);
+    bench.Files.Write(kSaved, "4,3,1,16\r\n" + kRed + kRed + kRed + kRed +
+                                  "0,1,5,5\r\n0,x,5,5\r\n\r\n\r\n0,1,5,5\r\n");
     EXPECT_THROW(editor.LoadIt_Click(), FormatError);
     EXPECT_EQ(bench.State.FoundCount, 4) << "the room is still there";
-    EXPECT_THROW((void)editor.TidyPaints(), Error);
 }
 
 TEST(Closing, GivesTheKitWhatWasSavedLast) {
@@ -181,7 +181,7 @@ TEST(Closing, GivesTheKitWhatWasSavedLast) {
         editor.SettleRecovery();
         EXPECT_EQ(GridOf(bench.State.Stipples), test.Kit);
         EXPECT_FALSE(bench.State.HasUnsavedWork);
-        EXPECT_FALSE(RecoveryExists(bench.Place));
+        EXPECT_FALSE(fs::exists(bench.Files / kRecovery));
     }
 }
 
@@ -226,6 +226,27 @@ TEST(Loading, BringsGridPaintsAndFinalPaintsAsOneStep) {
     EXPECT_EQ(bench.State.FinalColors, 12);
 }
 
+TEST(BrokenLoad, ThatIsShortOrDoesNotFitTouchesNothing) {
+    const std::string paints = kRed + kRed;
+    const std::pair<std::string, const char*> cases[] = {
+        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n", "2 of the 4 stipples (2 x 2)"},
+        {"3,2,2,16\r\n" + paints + kRed + kFourReds, "3 paints"},
+        {"2,3,2,16\r\n" + paints + kFourReds + kFourReds, "3 x 2 stipples"},
+        {"2,1,3,16\r\n" + paints + kFourReds, "1 x 3 stipples"},
+    };
+    for (const auto& [file, message] : cases) {
+        KitBench bench({"12", "12"}, 2);
+        TouchUp editor(bench.Place);
+        const PaintList before = bench.State.FoundColors;
+        bench.Files.Write(kSaved, file);
+        EXPECT_THAT([&] { editor.LoadIt_Click(); }, ThrowsMessage<FormatError>(HasSubstr(message)));
+        EXPECT_EQ(bench.Edited(), (Rows{"12", "12"}));
+        EXPECT_EQ(bench.State.FoundColors, before);
+        EXPECT_EQ(bench.State.FinalColors, 50);
+        EXPECT_FALSE(editor.CanUndo());
+    }
+}
+
 TEST(BrokenLoad, LeavesWhatWasReadUntilItIsTakenBack) {
     struct Case {
         std::string File;
@@ -233,14 +254,12 @@ TEST(BrokenLoad, LeavesWhatWasReadUntilItIsTakenBack) {
         Rows Left;            // the grid after the break
         bool Usable = false;  // every stipple has a paint all the same
     };
-    const std::string paints = kRed + kRed;
     const Case cases[] = {
-        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n", "line", {"11", "22"}, true},
-        {"2,2,2,16\r\n" + paints + "0,1,5,5\r\n0,x,5,5\r\n", "line 5", {"12", "22"}, true},
-        {"3,2,2,16\r\n" + paints + kRed, "3 paints", {"22", "22"}},
-        {"2,3,2,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n0,1,5,5\r\n", "3 columns", {"11", "22"}},
-        {"2,1,3,16\r\n" + paints + "0,1,5,5\r\n0,1,5,5\r\n0,1,5,5\r\n", "3 rows", {"12", "12"}},
-        {"1,2,2,16\r\n" + kRed + "0,1,5,5\r\n0,2,5,5\r\n", "line 4", {"12", "22"}},
+        {"2,2,2,16\r\n" + kRed + kRed + "0,1,5,5\r\n0,x,5,5\r\n\r\n\r\n0,1,5,5\r\n",
+         "line 5",
+         {"12", "22"},
+         true},
+        {"1,2,2,16\r\n" + kRed + "0,1,5,5\r\n0,2,5,5\r\n\r\n0,1,5,5\r\n", "line 4", {"12", "22"}},
     };
     for (const Case& test : cases) {
         SCOPED_TRACE(test.Message);
@@ -312,7 +331,7 @@ TEST(Recovery, FollowsTheChangesWithinTenSecondsAndGoesWithTheSave) {
     EXPECT_FALSE(editor.CanLoad()) << "it never shows as the saved grid";
     editor.SaveIt_Click();
     editor.KeepRecovery(At(90));
-    EXPECT_FALSE(RecoveryExists(bench.Place)) << "nothing has changed since the save";
+    EXPECT_FALSE(fs::exists(bench.Files / kRecovery)) << "nothing has changed since the save";
 }
 
 // What the list shows, each as "Lady Easy", with a star when it fits.
@@ -397,7 +416,7 @@ TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
     saving.SaveIt_Click();
     EXPECT_FALSE(saving.Cancel());
     EXPECT_FALSE(bench.State.HasUnsavedWork);
-    EXPECT_FALSE(RecoveryExists(bench.Place));
+    EXPECT_FALSE(fs::exists(bench.Files / kRecovery));
 }
 
 TEST(Recovery, ThatCannotBeTakenStaysBesideNewWork) {
@@ -420,7 +439,7 @@ TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
     const std::string living = first.Files.Read(kRecovery);
     KitBench second({"12", "12"}, 2);
     const ProgramFolder shared(first.Files.Path());
-    const Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
+    Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
     {
         TouchUp other(place);
         EXPECT_THAT(Listed(place), IsEmpty());
@@ -485,7 +504,7 @@ TEST(UnsavedWork, ThatCannotBeSavedStaysAndOtherSavedStipplesAreAskedFor) {
     fs::create_directory(bench.Files / kSaved);
     bench.Screen.SaveAnswers = {SaveAnswer::Save};
     EXPECT_THROW(GridReplacement{bench.Place}, FileError);
-    EXPECT_TRUE(bench.State.HasUnsavedWork && RecoveryExists(bench.Place));
+    EXPECT_TRUE(bench.State.HasUnsavedWork && fs::exists(bench.Files / kRecovery));
     fs::remove(bench.Files / kSaved);
     SaveStipples(bench.Place);
     bench.State.Stipples(1, 1).AreaNumber = 3;

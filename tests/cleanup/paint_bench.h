@@ -10,16 +10,16 @@ namespace vendrel::test {
 
 /// A converted grid ready to be painted. Paints 1..9 are the digits of `rows`, 0 is no paint;
 /// paint p has the colour (20 p, 10, p). Symbols are the program's own.
-struct Easel : Bench {
-    Easel(int size, const std::vector<std::string>& rows, int paints = 9)
+struct PaintBench : Bench {
+    PaintBench(int size, const std::vector<std::string>& rows, int paints = 9)
         : Bench(VENDREL_SOURCE_DIR) {
         SizeStipples(State, size);
         State.PictureName = "Lady";
         Lay(rows, paints);
     }
-    Easel(int size, int across, int down)
-        : Easel(size, std::vector(static_cast<unsigned>(down),
-                                  std::string(static_cast<unsigned>(across), '0'))) {}
+    PaintBench(int size, int across, int down)
+        : PaintBench(size, std::vector(static_cast<unsigned>(down),
+                                       std::string(static_cast<unsigned>(across), '0'))) {}
 
     void Lay(const std::vector<std::string>& rows, int paints) {
         UseGrid(State, rows);
