@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "convert/photo_decoder.h"
+#include "output/symbol_set.h"
 #include "plan/exporter.h"
 #include "support/program_folder.h"
 
@@ -16,7 +17,7 @@ namespace vendrel {
 /// What only the half with fonts and windows can do, by itself or for the other.
 struct QtParts {
     const PhotoDecoder* Decoder = nullptr;
-    std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols = {};
+    std::function<MadeSymbols(const ProgramFolder&)> MakeSymbols = {};
     std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
     std::function<std::filesystem::path()> Documents = {};
     std::function<int(const std::filesystem::path& folder, const std::filesystem::path& shipped)>

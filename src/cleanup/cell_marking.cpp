@@ -67,7 +67,8 @@ void MarkCells(const Easel& easel, StippleGrid& grid, PaintPass& pass,
     for (const CellPos& cell : cells) {
         if (!grid.CellMarks(cell.X, cell.Y).Visited) {
             marker.MarkOneCell(cell, pass.NextAreaNumber);
-            CountUp(pass.NextAreaNumber, "areas to paint");
+            CountUp(pass.NextAreaNumber, "areas to paint",
+                    "an easier difficulty, fewer final paints, or a clean-up in Touch Up");
         }
     }
 }

@@ -64,7 +64,8 @@ void CollectAreas(const Grid<StippleCell>& stipples, PaintPass& pass) {
                 continue;
             }
             PaintArea& area = pass.Areas[cell.AreaNumber];
-            CountUp(area.StippleCount, "stipples in one area");
+            CountUp(area.StippleCount, "stipples in one area",
+                    "an easier difficulty or more final paints");
             area.ColorIndex = cell.ColorIndex;
             area.Members.push_back({x, y});
         }
@@ -205,13 +206,47 @@ void PaintAllCells(Workplace& place) {
     place.Screen.SetCaption("Vendrel -" + state.PictureName);
 }
 
+namespace {
+
+// A pass that breaks off leaves areas half counted and half painted; a second one would take them
+// for its own, and the painting would be a mixture.
+class WholeOrNothing {
+  public:
+    explicit WholeOrNothing(Workplace& place) : place_(place) {}
+    ~WholeOrNothing() {
+        if (!done_) {
+            WorkState& state = place_.State;
+            for (StippleCell& cell : state.Stipples.All()) {
+                cell.AreaNumber = 0;
+            }
+            std::ranges::fill(state.CellMarks.All(), CellMark{});
+            state.Areas.Clear();
+            EmptyPixelMap(state);
+            place_.Frames->WorkFrame.Picture = place_.Frames->StippleFrame.Picture;
+            place_.MainMenu[PaintItNow].Enabled = false;
+            place_.Screen.SetCaption("Vendrel -" + state.PictureName);
+        }
+    }
+    WholeOrNothing(const WholeOrNothing&) = delete;
+    WholeOrNothing& operator=(const WholeOrNothing&) = delete;
+    void Done() { done_ = true; }
+
+  private:
+    Workplace& place_;
+    bool done_ = false;
+};
+
+}  // namespace
+
 void PaintItNow_Click(Workplace& place) {
     const BusyPointer busy(place.Screen);
+    WholeOrNothing pass(place);
     const MenusOff menusOff(place.MainMenu);
     place.Frames->WorkFrame.Picture = place.Frames->StippleFrame.Picture;
     PaintAllCells(place);
     place.State->PaintingDone = true;
     SetupMenuItems(place.MainMenu, 4);
+    pass.Done();
 }
 
 }  // namespace vendrel

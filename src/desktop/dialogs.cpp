@@ -9,6 +9,7 @@
 #include "desktop/kit_pdf_dialog.h"
 #include "desktop/make_paintable_dialog.h"
 #include "desktop/paint_shop_dialog.h"
+#include "desktop/save_everything_dialog.h"
 #include "desktop/template_shop_dialog.h"
 #include "desktop/touch_up_dialog.h"
 
@@ -28,6 +29,8 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<ColorChartDialog>(context, parent);
         case FormId::KitPdf:
             return std::make_unique<KitPdfDialog>(context, parent);
+        case FormId::SaveEverything:
+            return std::make_unique<SaveEverythingDialog>(context, parent);
         case FormId::TemplateShop:
             return std::make_unique<TemplateShopDialog>(context, parent);
         case FormId::ColorMatcher:

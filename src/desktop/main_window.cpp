@@ -143,7 +143,7 @@ void MainWindow::CloseForm(FormId form) {
 }
 
 void MainWindow::Mirror() {
-    setWindowTitle(ui_.Display().Caption);
+    MirrorTitle();
     actions_->Mirror();
     MirrorPictures();
     MirrorStatus();
@@ -152,6 +152,15 @@ void MainWindow::Mirror() {
             dialog->Mirror();
         }
     }
+}
+
+// A star marks stipples that are in no file yet.
+void MainWindow::MirrorTitle() {
+    const bool unsaved = place_.State->HasUnsavedWork;
+    QString title = ui_.Display().Caption;
+    title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));  // a photo's name may hold it
+    setWindowTitle(unsaved ? title + QStringLiteral("[*]") : title);
+    setWindowModified(unsaved);
 }
 
 void MainWindow::MirrorPictures() {

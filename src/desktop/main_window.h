@@ -48,6 +48,7 @@ class MainWindow : public QMainWindow {
     void TakeIn(const QMimeData& arriving);
     void OpenForm(FormId form);
     void CloseForm(FormId form);
+    void MirrorTitle();
     void MirrorPictures();
     void MirrorStatus();
     [[nodiscard]] bool MayEnd();

@@ -24,6 +24,7 @@ constexpr Keys kKeys[] = {
     {LoadBMP, 'L', "Ctrl+O"},
     {CropOrTurn, 'r'},
     {LoadStipples, 'S'},
+    {SaveStipples, 'e', "Ctrl+Shift+S"},
     {StartupPaintShop, 'h'},
     {ChangeToStipples, 'C'},
     {ColorPickerSelect, 'T'},

@@ -59,6 +59,20 @@ bool QtUi::Ask(std::string_view title, std::string_view question) {
                                  QMessageBox::No) == QMessageBox::Yes;
 }
 
+SaveAnswer QtUi::AskToSave(std::string_view title, std::string_view question) {
+    host_.Mirror();
+    switch (QMessageBox::question(MessageParent(), Text(title), Text(question),
+                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                                  QMessageBox::Save)) {
+        case QMessageBox::Save:
+            return SaveAnswer::Save;
+        case QMessageBox::Discard:
+            return SaveAnswer::Discard;
+        default:
+            return SaveAnswer::Cancel;
+    }
+}
+
 void QtUi::Yield() {
     if (!sincePump_.isValid() || sincePump_.elapsed() >= kFrame) {
         Pump();

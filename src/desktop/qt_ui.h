@@ -38,6 +38,7 @@ class QtUi : public Ui {
     void SetPointer(Pointer pointer) override;
     void ShowMessage(std::string_view title, std::string_view sentence) override;
     [[nodiscard]] bool Ask(std::string_view title, std::string_view question) override;
+    [[nodiscard]] SaveAnswer AskToSave(std::string_view title, std::string_view question) override;
     void Yield() override;
     void RefreshWorkFrame() override {}  // every pump shows the picture as it is
     [[nodiscard]] bool Watched() const override;

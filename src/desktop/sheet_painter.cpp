@@ -49,7 +49,7 @@ void SheetPainter::Follow(const TouchUpForm& form, const CellRect& dirty) {
 }
 
 void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPlace& place,
-                         const SheetLook& look) {
+                         const EditorLook& look) {
     const CellRect cells = place.CellsIn(exposed, Bounds());
     if (cells.Empty()) {
         return;

@@ -12,7 +12,7 @@
 namespace vendrel {
 
 /// What is shown beside the stipples' colours.
-struct SheetLook {
+struct EditorLook {
     bool GridLines = false;
     bool Symbols = false;
     int PhotoPercent = 0;  // how far the photo shows through, 0..100
@@ -30,7 +30,7 @@ class SheetPainter {
 
     /// Draws what shows of the sheet within `exposed`.
     void Paint(QPainter& painter, const QRect& exposed, const SheetPlace& place,
-               const SheetLook& look);
+               const EditorLook& look);
 
     [[nodiscard]] int Across() const { return cells_.width(); }
     [[nodiscard]] int Down() const { return cells_.height(); }

@@ -54,7 +54,7 @@ void TouchUpCanvas::Follow() {
     }
 }
 
-void TouchUpCanvas::SetLook(const SheetLook& look) {
+void TouchUpCanvas::SetLook(const EditorLook& look) {
     look_ = look;
     viewport()->update();
 }

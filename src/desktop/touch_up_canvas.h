@@ -35,8 +35,8 @@ class TouchUpCanvas : public QAbstractScrollArea {
     /// The middle of a stipple, in the viewport's pixels.
     [[nodiscard]] QPoint MiddleOf(CellPos cell) const { return place_.RectOf(cell).center(); }
 
-    [[nodiscard]] const SheetLook& Look() const { return look_; }
-    void SetLook(const SheetLook& look);
+    [[nodiscard]] const EditorLook& Look() const { return look_; }
+    void SetLook(const EditorLook& look);
 
   signals:
     void Pressed(CellPos at);
@@ -78,7 +78,7 @@ class TouchUpCanvas : public QAbstractScrollArea {
     TouchUpForm& form_;
     SheetPainter sheet_;
     SheetPlace place_;
-    SheetLook look_;
+    EditorLook look_;
     bool fits_ = true;  // zoomed to be seen whole, at any size of the window
     bool blinkOn_ = false;
     std::vector<CellPos> marked_;

@@ -73,6 +73,7 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       fit_(Button("Fit", tr("Fit"), tr("Show the whole picture (0)"))),
       zoom_(new ValueLabel("Zoom", tr("Zoom"))),
       palette_(new PaintRows),
+      tidy_(Named<QPushButton>("TidyPaints", tr("Tidy paints"))),
       blinkLoners_(Named<QCheckBox>("BlinkLoners", tr("Blink loners"))),
       blinkPaint_(Named<QCheckBox>("BlinkPaint", tr("Blink the chosen paint"))),
       nextLoner_(Named<QPushButton>("NextLoner", tr("Next loner"))),
@@ -85,18 +86,21 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       gridLines_(Named<QCheckBox>("GridLines", tr("Grid lines"))),
       symbols_(Named<QCheckBox>("Symbols", tr("Symbols"))),
       photo_(Named<QSlider>("PhotoStrength", tr("Strength of the photo"))),
+      keptWork_(Named<QPushButton>("KeptWork", tr("Kept work"))),
       load_(Named<QPushButton>("LoadIt", tr("Load"))),
       save_(Named<QPushButton>("SaveIt", tr("Save"))),
       accept_(Named<QPushButton>("Accept", tr("Accept"))),
       cancel_(Named<QPushButton>("Cancel", tr("Cancel"))),
       pointed_(new ValueLabel("Pointed", tr("The stipple pointed at"))),
-      status_(new ValueLabel("Status", tr("Status"))) {
-    setWindowTitle(tr("Touch Up"));
+      status_(new ValueLabel("Status", tr("Status"))),
+      kept_(new KeptWorkDialog(this)) {
+    setWindowTitle(tr("Touch Up[*]"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     Arrange();
     Connect();
     ConnectCanvas();
     ConnectTimers();
+    ConnectKeptWork();
     AddShortcuts();
     canvas_->setFocus();
     const QSize room = screen()->availableSize();
@@ -147,6 +151,10 @@ QWidget* TouchUpDialog::MakeSide() {
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(palette_, 1);
+    tidy_->setText(tr("T&idy Paints"));
+    tidy_->setToolTip(tr("Leave out the paints that no stipple uses; others get new symbols"));
+    tidy_->setAutoDefault(false);
+    column->addWidget(tidy_, 0, Qt::AlignRight);
     column->addWidget(MakeMarkers());
     column->addWidget(MakeCleanUp());
     column->addWidget(MakeView());
@@ -211,6 +219,8 @@ QWidget* TouchUpDialog::MakeView() {
 }
 
 QLayout* TouchUpDialog::MakeButtons() {
+    keptWork_->setText(tr("Kept &Work…"));
+    keptWork_->setToolTip(tr("Restore work that ended without being saved, or throw it away"));
     load_->setText(tr("Loa&d"));
     load_->setToolTip(tr("Load the saved stipples"));
     save_->setText(tr("&Save"));
@@ -226,7 +236,7 @@ QLayout* TouchUpDialog::MakeButtons() {
     row->addWidget(pointed_, 3);
     row->addWidget(status_, 2);
     // Enter is the picture's key.
-    for (QPushButton* button : {load_, save_, accept_, cancel_}) {
+    for (QPushButton* button : {keptWork_, load_, save_, accept_, cancel_}) {
         button->setAutoDefault(false);
         row->addWidget(button);
     }
@@ -274,6 +284,8 @@ void TouchUpDialog::Connect() {
     onClick(lowerLevel_, &TouchUpForm::LowerCleanLevel_Click);
     onClick(raiseLevel_, &TouchUpForm::RaiseCleanLevel_Click);
     onClick(cleanUp_, &TouchUpForm::CleanUp_Click);
+    onClick(tidy_, &TouchUpForm::TidyPaints_Click);
+    onClick(keptWork_, &TouchUpForm::KeptWork_Click);
     onClick(load_, &TouchUpForm::LoadIt_Click);
     onClick(save_, &TouchUpForm::SaveIt_Click);
     onClick(accept_, &TouchUpForm::Accept_Click);
@@ -330,6 +342,14 @@ void TouchUpDialog::ConnectTimers() {
     });
 }
 
+void TouchUpDialog::ConnectKeptWork() {
+    connect(kept_, &KeptWorkDialog::Chosen, this,
+            [this](int row) { RunOpen([this, row] { form_.KeptList_Click(row); }); });
+    connect(kept_, &KeptWorkDialog::Restored, this, Handler(&TouchUpForm::RestoreKept_Click));
+    connect(kept_, &KeptWorkDialog::ThrownAway, this, Handler(&TouchUpForm::ThrowKeptAway_Click));
+    connect(kept_, &KeptWorkDialog::Closed, this, Handler(&TouchUpForm::CloseKept_Click));
+}
+
 void TouchUpDialog::AddShortcuts() {
     const auto add = [this](const QKeySequence& keys, const std::function<void()>& work) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, work);
@@ -384,6 +404,9 @@ void TouchUpDialog::Mirror() {
     raiseLevel_->setEnabled(shown.RaiseEnabled);
     cleanUp_->setEnabled(shown.CleanEnabled);
     load_->setEnabled(shown.LoadEnabled);
+    keptWork_->setEnabled(shown.KeptEnabled);
+    kept_->Mirror(shown.Kept);
+    setWindowModified(shown.Unsaved);
     blinkLoners_->setChecked(shown.BlinkLoners);
     blinkPaint_->setChecked(shown.BlinkPaint);
     const bool blinking = shown.BlinkLoners || shown.BlinkPaint;
@@ -397,6 +420,7 @@ void TouchUpDialog::Mirror() {
 
 void TouchUpDialog::MirrorPalette() {
     palette_->Follow(form_.Controls().Palette, form_.Controls().Brush.Paint);
+    tidy_->setEnabled(form_.Controls().TidyEnabled);
 }
 
 void TouchUpDialog::MirrorTools() {
@@ -440,7 +464,7 @@ void TouchUpDialog::ChooseLook() {
 }
 
 void TouchUpDialog::ShowPhoto(bool only) {
-    SheetLook look = canvas_->Look();
+    EditorLook look = canvas_->Look();
     if (look.PhotoOnly != only) {
         look.PhotoOnly = only;
         canvas_->SetLook(look);

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "desktop/form_dialog.h"
+#include "desktop/kept_work_dialog.h"
 #include "desktop/paint_rows.h"
 #include "desktop/touch_up_canvas.h"
 #include "desktop/value_label.h"
@@ -43,6 +44,7 @@ class TouchUpDialog : public FormDialog {
     void Connect();
     void ConnectCanvas();
     void ConnectTimers();
+    void ConnectKeptWork();
     void AddShortcuts();
     /// Starts work through the edge that the open editor alone can do.
     void RunOpen(const std::function<void()>& work);
@@ -68,6 +70,7 @@ class TouchUpDialog : public FormDialog {
     QToolButton* fit_;
     ValueLabel* zoom_;
     PaintRows* palette_;
+    QPushButton* tidy_;
     QCheckBox* blinkLoners_;
     QCheckBox* blinkPaint_;
     QPushButton* nextLoner_;
@@ -80,12 +83,14 @@ class TouchUpDialog : public FormDialog {
     QCheckBox* gridLines_;
     QCheckBox* symbols_;
     QSlider* photo_;
+    QPushButton* keptWork_;
     QPushButton* load_;
     QPushButton* save_;
     QPushButton* accept_;
     QPushButton* cancel_;
     ValueLabel* pointed_;
     ValueLabel* status_;
+    KeptWorkDialog* kept_;
     QTimer blink_;
     QTimer recovery_;
     bool blinkOn_ = false;

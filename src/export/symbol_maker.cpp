@@ -1,6 +1,7 @@
 #include "export/symbol_maker.h"
 
 #include "export/gui_application.h"
+#include "export/symbol_font.h"
 #include "export/text_canvas.h"
 #include "output/symbol_set.h"
 #include "shell/work_settings.h"
@@ -13,13 +14,13 @@ constexpr int kCanvasSize = 32;
 
 }  // namespace
 
-std::filesystem::path MakeSymbols(const ProgramFolder& folder) {
+MadeSymbols MakeSymbols(const ProgramFolder& folder) {
     const GuiApplication application;
-    std::filesystem::path file = folder.Path("Data/Symbols.txt");
+    MadeSymbols made{folder.Path("Data/Symbols.txt"), UseVersion(kSymbolFont)};
     Symbols symbols;
     TextCanvas canvas(kCanvasSize, kCanvasSize);
-    MakeSymbolFile(symbols, WorkSettings().SymbolColor, file, canvas);
-    return file;
+    MakeSymbolFile(symbols, WorkSettings().SymbolColor, made.File, canvas);
+    return made;
 }
 
 }  // namespace vendrel

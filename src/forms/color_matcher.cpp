@@ -14,7 +14,7 @@
 #include "shell/symbol_of.h"
 #include "support/error.h"
 #include "support/list.h"
-#include "touchup/recovery.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel {
 namespace {

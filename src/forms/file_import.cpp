@@ -16,7 +16,7 @@
 #include "support/disk.h"
 #include "support/error.h"
 #include "support/list.h"
-#include "touchup/recovery.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel {
 namespace {

@@ -2,16 +2,31 @@
 
 #include <string>
 
+#include "forms/whole_progress.h"
 #include "shell/busy_pointer.h"
 
 namespace vendrel {
 namespace {
 
-SavedKit SaveBusily(Workplace& place, const KitOrder& order) {
+// The caption names the photo again, however the saving ends.
+class CaptionBack {
+  public:
+    explicit CaptionBack(const Workplace& place) : place_(place) {}
+    ~CaptionBack() { place_.Screen.SetCaption("Vendrel -" + place_.State->PictureName); }
+    CaptionBack(const CaptionBack&) = delete;
+    CaptionBack& operator=(const CaptionBack&) = delete;
+
+  private:
+    const Workplace& place_;
+};
+
+SavedKit SaveBusily(Workplace& place, KitOrder order) {
     const BusyPointer busy(place.Screen);
-    SavedKit saved = SaveKit(place, order);
-    place.Screen.SetCaption("Vendrel -" + place.State->PictureName);
-    return saved;
+    const CaptionBack caption(place);
+    WholeProgress whole(place.Screen);
+    order.Begins = [&whole](int output, int outputs) { whole.Begin(output, outputs); };
+    Workplace within{*place.State, *place.Frames, *place.MainMenu, whole, place.Folder};
+    return SaveKit(within, order);
 }
 
 }  // namespace

@@ -8,14 +8,14 @@
 #include "convert/settings.h"
 #include "convert/stipple_conversion.h"
 #include "forms/kit_saving.h"
-#include "forms/save_everything.h"
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
 #include "startup/start_up.h"
 #include "storage/load_stipples.h"
+#include "storage/stipple_file.h"
 #include "support/disk.h"
 #include "support/error.h"
-#include "touchup/recovery.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel {
 namespace {
@@ -32,6 +32,7 @@ constexpr ClickHandler kHandlers[] = {
     {LoadBMP, &MainForm::LoadBMP_Click},
     {CropOrTurn, &MainForm::CropOrTurn_Click},
     {LoadStipples, &MainForm::LoadStipples_Click},
+    {SaveStipples, &MainForm::SaveStipples_Click},
     {StartupPaintShop, &MainForm::StartupPaintShop_Click},
     {ChangeToStipples, &MainForm::ChangeToStipples_Click},
     {ColorPickerSelect, &MainForm::ColorPickerSelect_Click},
@@ -177,9 +178,15 @@ void MainForm::LoadStipples_Click() {
     Replace([this] { vendrel::LoadStipples_Click(place_); });
 }
 
+void MainForm::SaveStipples_Click() {
+    if (MayReplaceSaved(place_)) {
+        vendrel::SaveStipples(place_);
+        Saved(StippleFilePath(place_.Folder, place_.State, place_.State));
+    }
+}
+
 void MainForm::StartupPaintShop_Click() {
-    // The shop takes the palette apart as soon as it opens.
-    Replace([this] { place_.Screen.OpenForm(FormId::PaintShop); });
+    place_.Screen.OpenForm(FormId::PaintShop);
 }
 
 void MainForm::ChangeToStipples_Click() {
@@ -211,7 +218,7 @@ void MainForm::PrintColorChart_Click() {
 }
 
 void MainForm::SaveItAll_Click() {
-    SaveEverything(place_, Exports());
+    place_.Screen.OpenForm(FormId::SaveEverything);
 }
 
 void MainForm::SaveKitPdf_Click() {

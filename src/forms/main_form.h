@@ -6,6 +6,7 @@
 
 #include "convert/photo_decoder.h"
 #include "forms/file_import.h"
+#include "forms/save_everything.h"
 #include "plan/exporter.h"
 #include "shell/menu.h"
 #include "shell/workplace.h"
@@ -33,6 +34,7 @@ class MainForm {
     void LoadBMP_Click();
     void CropOrTurn_Click();
     void LoadStipples_Click();
+    void SaveStipples_Click();
     void StartupPaintShop_Click();
     void ChangeToStipples_Click();
     void ColorPickerSelect_Click();
@@ -77,6 +79,8 @@ class MainForm {
     [[nodiscard]] const Exporter& Exports() const { return *exporter_; }
     /// The photo chooser, which lives as long as the main window.
     [[nodiscard]] FileImport& Chooser() { return chooser_; }
+    /// What Save Everything saves, kept as long.
+    [[nodiscard]] SaveEverythingForm& Everything() { return everything_; }
 
   private:
     void ShowSample();
@@ -92,6 +96,7 @@ class MainForm {
     Workplace& place_;
     const Exporter* exporter_;
     FileImport chooser_;
+    SaveEverythingForm everything_{place_, exporter_};
     std::string lastSaved_;  // for the hint, until the next step of the work
 };
 

@@ -39,6 +39,9 @@ void PaintShop::Form_Load() {
     busy_ = true;
     controls_ = {};
     controls_.DecoFrameShown = true;
+    // Touching up is on only while the shown photo has a grid.
+    kit_ = place_.MainMenu[MenuId::ColorPickerSelect].Enabled ? std::optional(TakeChoice())
+                                                              : std::nullopt;
     state.PaintShopLoaded = true;
     state.MfgSelected = !state.TemplateMode;
     FillSelectedPaintsList(state, state);
@@ -211,16 +214,61 @@ void PaintShop::AllDone_Click() {
             controls_.AllDoneEnabled = false;
             return;
         }
-        state.TemplateLoaded = true;
     }
+    std::optional<GridReplacement> replacement;
+    AskBeforeTheKitGoes(replacement);
+    if (replacement && !replacement->Allowed()) {
+        return;
+    }
+    state.TemplateLoaded = state.TemplateLoaded || UsesTemplate();
     if (state.PictureLoaded) {
         RefreshPhotoImage(place_.Frames, place_.Screen);
     }
     SetupMenuItems(place_.MainMenu, 2);
     place_.Screen.CloseForm(FormId::PaintShop);
+    if (replacement) {
+        replacement->Done();
+    }
+}
+
+PaintShop::Choice PaintShop::TakeChoice() const {
+    const WorkState& state = place_.State;
+    return {state.PaintColors, state.FinalColors, state.TemplateMode, state.TemplateLoaded,
+            state.SelectedTemplate};
+}
+
+void PaintShop::PutChoice(const Choice& choice) {
+    WorkState& state = place_.State;
+    SetPalette(state, choice.Palette);
+    state.FinalColors = choice.FinalColors;
+    state.TemplateMode = choice.TemplateMode;
+    state.MfgSelected = !choice.TemplateMode;
+    state.TemplateLoaded = choice.TemplateLoaded;
+    state.SelectedTemplate = choice.SelectedTemplate;
+}
+
+// Unsaved stipples are saved with their own paints, whatever the shop shows.
+void PaintShop::AskBeforeTheKitGoes(std::optional<GridReplacement>& replacement) {
+    if (!kit_) {
+        return;
+    }
+    const Choice chosen = TakeChoice();
+    PutChoice(*kit_);
+    try {
+        replacement.emplace(place_);
+    } catch (...) {
+        PutChoice(chosen);
+        throw;
+    }
+    PutChoice(chosen);
 }
 
 void PaintShop::QueryUnload() {
+    if (kit_) {
+        PutChoice(*kit_);
+        place_.Screen.CloseForm(FormId::PaintShop);
+        return;
+    }
     if (!controls_.AllDoneEnabled) {
         MfgSelected_Click();
     }

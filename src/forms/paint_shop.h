@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "forms/swatches.h"
 #include "shell/workplace.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel {
 
@@ -45,7 +47,8 @@ class PaintShop {
     /// The palette's box got another size, in pixels.
     void PaintPalette_Resize(int width, int height);
     void AllDone_Click();
-    /// Closing by other means than the button: as done, with the sets when no template is usable.
+    /// Closing by other means than the button: a conversion stays with its paints. Where there is
+    /// none, as done, with the sets when no template is usable.
     void QueryUnload();
 
     void TransferPaint();
@@ -63,8 +66,21 @@ class PaintShop {
     void ShowSelected();
     bool ChangeSelection();
 
+    /// The paints at work and what they were taken from.
+    struct Choice {
+        PaintList Palette;
+        int FinalColors = 0;
+        bool TemplateMode = false;
+        bool TemplateLoaded = false;
+        std::string SelectedTemplate;
+    };
+    [[nodiscard]] Choice TakeChoice() const;
+    void PutChoice(const Choice& choice);
+    void AskBeforeTheKitGoes(std::optional<GridReplacement>& replacement);
+
     Workplace& place_;
     PaintShopControls controls_;
+    std::optional<Choice> kit_;  // of the conversion that was there at the opening
     int boxWidth_ = kBoxWidth;
     int boxHeight_ = kBoxHeight;
     bool busy_ = false;  // while the form sets its own option buttons

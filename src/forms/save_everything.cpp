@@ -1,26 +1,69 @@
 #include "forms/save_everything.h"
 
 #include <filesystem>
-#include <string>
-#include <vector>
 
 #include "forms/kit_saving.h"
+#include "kitset/kit_paths.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel {
+namespace {
 
 namespace fs = std::filesystem;
 
-void SaveEverything(Workplace& place, const Exporter& exporter) {
-    const std::vector<fs::path> files = SaveFromWindow(
-        place, {.Outputs = OutputChoice(IsInEverything), .Fonts = &exporter, .Plan = {}});
-    const fs::path folder = files.front().parent_path();
-    std::string sentence = "Saved in " + folder.lexically_normal().string() + ":\n";
+std::string FolderText(const fs::path& file) {
+    return file.parent_path().lexically_normal().string();
+}
+
+}  // namespace
+
+void SaveEverythingForm::Form_Load() {
+    const KitName kit = KitNameOf(place_.State, place_.State);
+    const auto fileOf = [&](OutputId id) { return FileOf(OutputOf(id), place_.Folder, kit); };
+    controls_ = {};
+    for (const Output& output : AllOutputs()) {
+        if (IsInEverything(output)) {
+            controls_.Always.push_back(fileOf(output.Id).filename().string());
+        }
+    }
+    controls_.GridFile = fileOf(OutputId::Grid).filename().string();
+    controls_.PdfFile = fileOf(OutputId::Pdf).filename().string();
+    controls_.Folders = FolderText(fileOf(OutputId::Sheet)) + "; the stipples in " +
+                        FolderText(fileOf(OutputId::Grid));
+}
+
+OutputChoice SaveEverythingForm::Chosen() const {
+    OutputChoice outputs(IsInEverything);
+    if (grid_) {
+        outputs.Add(OutputId::Grid);
+    }
+    if (pdf_) {
+        outputs.Add(OutputId::Pdf);
+    }
+    return outputs;
+}
+
+void SaveEverythingForm::SaveButton_Click() {
+    if (grid_ && !MayReplaceSaved(place_)) {
+        return;
+    }
+    const std::vector<fs::path> files =
+        SaveFromWindow(place_, {.Outputs = Chosen(), .Fonts = exporter_, .Plan = plan_});
+    place_.Screen.CloseForm(FormId::SaveEverything);
+    if (grid_) {
+        KitIsSaved(place_);
+    }
+    std::string sentence = "Saved:\n";
     for (const fs::path& file : files) {
-        sentence += "\n" + file.filename().string();
+        sentence += "\n" + file.lexically_normal().string();
     }
-    if (place.Screen.Ask("Save Everything", sentence + "\n\nOpen the folder?")) {
-        place.Screen.ShowFolder(folder);
+    if (place_.Screen.Ask("Save Everything", sentence + "\n\nOpen the folder?")) {
+        place_.Screen.ShowFolder(files.front().parent_path());
     }
+}
+
+void SaveEverythingForm::CancelButton_Click() {
+    place_.Screen.CloseForm(FormId::SaveEverything);
 }
 
 }  // namespace vendrel

@@ -1,6 +1,8 @@
 #include "forms/touch_up_form.h"
 
 #include <algorithm>
+#include <chrono>
+#include <ctime>
 #include <exception>
 #include <iterator>
 #include <tuple>
@@ -10,6 +12,7 @@
 #include "drawing/stipple_brush.h"
 #include "output/chart_contents.h"
 #include "output/symbol_set.h"
+#include "shell/paint_id.h"
 #include "shell/symbol_of.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
@@ -41,6 +44,15 @@ std::string StepCaption(const std::string& verb, const std::string& step) {
     return step.empty() ? verb : verb + " " + step;
 }
 
+std::string MinuteText(std::filesystem::file_time_type at) {
+    const std::time_t seconds =
+        std::chrono::system_clock::to_time_t(std::chrono::file_clock::to_sys(at));
+    std::tm local{};
+    char text[32];
+    localtime_r(&seconds, &local);
+    return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", &local)};
+}
+
 void RedrawStipples(Workplace& place) {
     EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
@@ -60,20 +72,74 @@ void TouchUpForm::Form_Load() {
 }
 
 void TouchUpForm::OfferRecovery() {
-    if (!editor_->RecoveryOffered()) {
+    ListKept();
+    controls_.Kept.Shown = std::ranges::any_of(kept_, &KeptWork::Fits);
+}
+
+void TouchUpForm::KeptWork_Click() {
+    ListKept();
+    controls_.Kept.Shown = true;
+}
+
+void TouchUpForm::ListKept() {
+    kept_ = ListKeptWork(place_);
+    KeptControls& list = controls_.Kept;
+    list.Rows.clear();
+    for (const KeptWork& work : kept_) {
+        list.Rows.push_back({MinuteText(work.At), work.Photo, work.Difficulty});
+    }
+    const auto first = std::ranges::find(kept_, true, &KeptWork::Fits);
+    list.Row =
+        kept_.empty() ? -1 : static_cast<int>(first == kept_.end() ? 0 : first - kept_.begin());
+    FollowKept();
+}
+
+void TouchUpForm::FollowKept() {
+    KeptControls& list = controls_.Kept;
+    const bool chosen = Holds(kept_, list.Row);
+    list.RestoreEnabled = chosen && At(kept_, list.Row).Fits;
+    list.ThrowAwayEnabled = chosen;
+    list.Hint = !chosen ? "No work is kept."
+                : list.RestoreEnabled
+                    ? "Restore shows it in the editor; Undo takes it away again."
+                    : "To restore it, load the photo " + At(kept_, list.Row).Photo + " at " +
+                          At(kept_, list.Row).Difficulty + " and touch it up.";
+    controls_.KeptEnabled = !kept_.empty();
+}
+
+void TouchUpForm::KeptList_Click(int row) {
+    if (Holds(kept_, row)) {
+        controls_.Kept.Row = row;
+        FollowKept();
+    }
+}
+
+void TouchUpForm::RestoreKept_Click() {
+    if (!controls_.Kept.RestoreEnabled) {
         return;
     }
-    const std::string& photo = place_.State->PictureName;
-    if (place_.Screen.Ask(kTitle, "The touch-up of " + photo +
-                                      " ended without being saved, but its work was kept. "
-                                      "Take it up again?")) {
-        Touched(editor_->TakeRecovery());
-        controls_.Status = "The kept work is back. Undo takes it away again.";
-    } else if (place_.Screen.Ask(kTitle, "Delete the kept work on " + photo +
-                                             " for good? No keeps it for the next time.")) {
-        editor_->DiscardRecovery();
-    }
+    KeepPaintInHand([this] { Touched(editor_->Restore(At(kept_, controls_.Kept.Row))); });
+    ListKept();
+    controls_.Kept.Shown = false;
+    controls_.Status = "The kept work is back. Undo takes it away again.";
     Follow();
+}
+
+void TouchUpForm::ThrowKeptAway_Click() {
+    if (!controls_.Kept.ThrowAwayEnabled) {
+        return;
+    }
+    const KeptWork work = At(kept_, controls_.Kept.Row);
+    if (place_.Screen.Ask("Kept Work", "Throw the work on " + work.Photo + " (" + work.Difficulty +
+                                           ") of " + MinuteText(work.At) + " away for good?")) {
+        ThrowAway(work);
+        ListKept();
+        controls_.Kept.Shown = controls_.Kept.Shown && !kept_.empty();
+    }
+}
+
+void TouchUpForm::CloseKept_Click() {
+    controls_.Kept.Shown = false;
 }
 
 void TouchUpForm::Tool_Click(TouchUpTool tool) {
@@ -142,14 +208,35 @@ std::string TouchUpForm::Describe(CellPos at) const {
 
 void TouchUpForm::Undo_Click() {
     controls_.Status = editor_->CanUndo() ? "Undone: " + editor_->UndoName() : "";
-    Touched(editor_->Undo());
+    KeepPaintInHand([this] { Touched(editor_->Undo()); });
     Follow();
 }
 
 void TouchUpForm::Redo_Click() {
     controls_.Status = editor_->CanRedo() ? "Done again: " + editor_->RedoName() : "";
-    Touched(editor_->Redo());
+    KeepPaintInHand([this] { Touched(editor_->Redo()); });
     Follow();
+}
+
+void TouchUpForm::KeepPaintInHand(const std::function<void()>& step) {
+    int& inHand = controls_.Brush.Paint;
+    const PaintId id = IdOf(Sheet().Paints()[inHand]);
+    step();
+    const PaintList& paints = Sheet().Paints();
+    if (paints.Holds(inHand) && IdOf(paints[inHand]) == id) {
+        return;
+    }
+    const auto found = std::ranges::find(paints, id, IdOf);
+    inHand = found == paints.end() ? 1 : static_cast<int>(found - paints.begin()) + 1;
+}
+
+void TouchUpForm::TidyPaints_Click() {
+    TidyReport report;
+    KeepPaintInHand([&] { report = editor_->TidyPaints(); });
+    Touched(Sheet().Bounds());
+    controls_.Status = "Tidied the paints.";
+    Follow();
+    TellReport(report);
 }
 
 void TouchUpForm::BlinkLoners_Click() {
@@ -211,7 +298,7 @@ void TouchUpForm::LoadIt_Click() {
     Touched(Sheet().Bounds());
     controls_.Status.clear();
     try {
-        Touched(editor_->LoadIt_Click());
+        KeepPaintInHand([this] { Touched(editor_->LoadIt_Click()); });
     } catch (const Error&) {
         Follow();
         throw;
@@ -230,7 +317,11 @@ void TouchUpForm::SaveIt_Click() {
 }
 
 void TouchUpForm::Accept_Click() {
-    const AcceptReport report = editor_->Accept();
+    editor_->Accept();
+    Close(true);
+}
+
+void TouchUpForm::Close(bool given) {
     // Closed from here on: drawing lets the window's timers run.
     const std::unique_ptr<TouchUp> editor = std::move(editor_);
     place_.Screen.CloseForm(FormId::TouchUp);
@@ -240,43 +331,65 @@ void TouchUpForm::Accept_Click() {
     } catch (const Error&) {
         trouble = std::current_exception();
     }
-    RedrawStipples(place_);
-    TellReport(report);
+    if (given) {
+        RedrawStipples(place_);
+    } else {
+        CheckSavedStipples(place_);
+    }
     if (trouble) {
         std::rethrow_exception(trouble);
     }
 }
 
-void TouchUpForm::TellReport(const AcceptReport& report) {
+void TouchUpForm::TellReport(const TidyReport& report) {
     if (report.Dropped.empty()) {
         return;
     }
-    std::string text = "No stipple uses these paints any more, so they are left out:";
+    std::string text = "No stipple uses these paints, so they are left out:";
     for (const std::string& name : report.Dropped) {
         text += (&name == &report.Dropped.front() ? " " : ", ") + name;
     }
     text += ".";
     if (!report.Moves.empty()) {
-        text += "\n\nOther paints have moved up to new symbols:";
+        text +=
+            "\n\nOther paints have moved up to new symbols, which sheets printed before do "
+            "not show:";
         for (const SymbolMove& move : report.Moves) {
             text += (&move == &report.Moves.front() ? " " : ", ") + move.PaintName + " from " +
                     SymbolText(move.Old) + " to " + SymbolText(move.New);
         }
         text += ".";
     }
-    place_.Screen.ShowMessage("Symbols", text);
+    place_.Screen.ShowMessage("Tidy Paints", text);
 }
 
 void TouchUpForm::Cancel_Click() {
-    if (editor_->HasChanges() &&
-        !place_.Screen.Ask(kTitle, "Your changes are not saved. Close and lose them?")) {
-        return;
+    if (MayClose()) {
+        Close(editor_->Cancel());
     }
-    editor_->Cancel();
-    const std::unique_ptr<TouchUp> editor = std::move(editor_);
-    place_.Screen.CloseForm(FormId::TouchUp);
-    CheckSavedStipples(place_);
-    editor->SettleRecovery();
+}
+
+bool TouchUpForm::MayClose() {
+    if (!editor_->HasChanges()) {
+        return true;
+    }
+    const bool buried = editor_->ChangesAreBuried();
+    const bool shownIsSaved = editor_->IsSaved();
+    const SaveAnswer answer = place_.Screen.AskToSave(
+        kTitle, !buried ? "Your changes are not saved. Save them before closing?"
+                : shownIsSaved
+                    ? "Your changes from before the load are not saved. Save them, instead of "
+                      "what was loaded, before closing?"
+                    : "Your changes are not saved. Save what is shown before closing? Changes from "
+                      "before the load, which Undo would bring back, go in any case.");
+    if (answer == SaveAnswer::Save) {
+        if (shownIsSaved) {
+            Touched(editor_->DigOut());
+            Follow();
+        }
+        SaveIt_Click();
+    }
+    return answer != SaveAnswer::Cancel;
 }
 
 void TouchUpForm::KeepRecovery(EditTime now) {
@@ -309,6 +422,7 @@ void TouchUpForm::Follow() {
     controls_.UndoCaption = StepCaption("Undo", editor_->UndoName());
     controls_.RedoCaption = StepCaption("Redo", editor_->RedoName());
     controls_.LoadEnabled = editor_->CanLoad();
+    controls_.Unsaved = editor_->HasChanges();
     FollowPalette();
     FollowCleanUp();
     FollowLoners();
@@ -321,6 +435,7 @@ void TouchUpForm::FollowPalette() {
         controls_.Palette[i] = {SymbolText(SymbolOf(paints, i)), paints[i].PaintName,
                                 PaintLabel(paints[i]), ColorOf(paints[i]), paints[i].CellCount};
     }
+    controls_.TidyEnabled = std::ranges::find(paints, 0, &PaintColor::CellCount) != paints.end();
 }
 
 void TouchUpForm::FollowCleanUp() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,6 +25,25 @@ struct TouchUpPaint {
     bool operator==(const TouchUpPaint&) const = default;
 };
 
+/// Work that was left unsaved, as the list shows it.
+struct KeptRow {
+    std::string When;  // "2026-03-01 21:40", local time
+    std::string Photo;
+    std::string Difficulty;
+
+    bool operator==(const KeptRow&) const = default;
+};
+
+/// What the list of kept work shows.
+struct KeptControls {
+    bool Shown = false;
+    std::vector<KeptRow> Rows;  // the newest first
+    int Row = -1;               // the chosen one, from 0; -1 for none
+    bool RestoreEnabled = false;
+    bool ThrowAwayEnabled = false;
+    std::string Hint;  // what can be done with the chosen one
+};
+
 /// What the touch-up window shows.
 struct TouchUpControls {
     TouchUpTool Tool = TouchUpTool::Brush;
@@ -42,6 +62,10 @@ struct TouchUpControls {
     bool UndoEnabled = false;
     bool RedoEnabled = false;
     bool LoadEnabled = false;
+    bool TidyEnabled = false;
+    bool KeptEnabled = false;
+    bool Unsaved = false;
+    KeptControls Kept;
     std::string Status;  // how the last command went
 };
 
@@ -53,7 +77,7 @@ class TouchUpForm {
 
     /// Opens the editor on the kit's grid. Throws Error when there is none.
     void Form_Load();
-    /// Asks what to do with work that a crash left over, if there is some.
+    /// Shows the list of kept work when some of it belongs to the photo and difficulty at work.
     void OfferRecovery();
     /// False before Form_Load and from Accept or Cancel on; then nothing else may be called.
     [[nodiscard]] bool Open() const { return editor_ != nullptr; }
@@ -89,10 +113,22 @@ class TouchUpForm {
     void LowerCleanLevel_Click();
     void CleanUp_Click();
 
+    /// Drops the paints that no stipple uses, and tells which symbols moved.
+    void TidyPaints_Click();
+
+    // The list of kept work. Rows count from 0.
+    void KeptWork_Click();
+    void KeptList_Click(int row);
+    void RestoreKept_Click();
+    /// Asks, naming the work.
+    void ThrowKeptAway_Click();
+    void CloseKept_Click();
+
     void LoadIt_Click();
     void SaveIt_Click();
     void Accept_Click();
-    /// Asks when there are changes.
+    /// Closes; what was saved goes into the kit. Asks when there are changes, and stays open when
+    /// they cannot be saved.
     void Cancel_Click();
 
     /// To be called about once a second. What goes wrong is told in the status.
@@ -110,7 +146,14 @@ class TouchUpForm {
     void FollowCleanUp();
     void FollowLoners();
     void MarkAgain() { markedStale_ = true; }
-    void TellReport(const AcceptReport& report);
+    void FollowKept();
+    void ListKept();
+    void TellReport(const TidyReport& report);
+    [[nodiscard]] bool MayClose();
+    /// Closes the window; the kit was given another grid, or not.
+    void Close(bool given);
+    /// Goes on with the same paint in hand, wherever the palette has it afterwards.
+    void KeepPaintInHand(const std::function<void()>& step);
 
     Workplace& place_;
     std::unique_ptr<TouchUp> editor_;
@@ -118,6 +161,7 @@ class TouchUpForm {
     CellRect dirty_;
     std::vector<CellPos> marked_;
     bool markedStale_ = true;
+    std::vector<KeptWork> kept_;
     CellPos lonerAt_;  // {0, 0} until one was stepped to
 };
 

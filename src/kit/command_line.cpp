@@ -21,8 +21,11 @@ int DrawSymbols(const std::filesystem::path& root, const Surroundings& around) {
         around.Err << "vendrel: this build has no fonts to draw symbols with; build it with Qt.\n";
         return kFailed;
     }
-    const std::filesystem::path file = around.MakeSymbols(ProgramFolder(root, around.Shipped));
-    around.Out << Printable(file.lexically_normal().string()) << '\n';
+    const MadeSymbols made = around.MakeSymbols(ProgramFolder(root, around.Shipped));
+    if (!made.Note.empty()) {
+        around.Err << "vendrel: " << made.Note << '\n';
+    }
+    around.Out << Printable(made.File.lexically_normal().string()) << '\n';
     return kDone;
 }
 

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "convert/photo_decoder.h"
+#include "output/symbol_set.h"
 #include "plan/exporter.h"
 #include "support/program_folder.h"
 
@@ -24,7 +25,7 @@ struct Surroundings {
     /// Reads photos that are no plain bitmaps; null where the build cannot.
     const PhotoDecoder* Decoder = nullptr;
     /// Draws the symbols anew into a folder and names the file; empty where there are no fonts.
-    std::function<std::filesystem::path(const ProgramFolder&)> MakeSymbols = {};
+    std::function<MadeSymbols(const ProgramFolder&)> MakeSymbols = {};
     /// Makes what draws color charts and PDF files; empty where there are no fonts.
     std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
     /// The program's folder among the painter's documents, there or not; empty where the window is.

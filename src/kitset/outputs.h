@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -77,6 +78,7 @@ class OutputChoice {
     [[nodiscard]] bool Has(OutputId output) const { return (bits_ & BitOf(output)) != 0; }
     void Add(OutputId output) { bits_ |= BitOf(output); }
     void Remove(OutputId output) { bits_ &= ~BitOf(output); }
+    [[nodiscard]] int Count() const { return std::popcount(bits_); }
     [[nodiscard]] bool NeedsFonts() const;
 
   private:

@@ -51,6 +51,9 @@ class Saving {
         saved_.Mark = set_.Mark();
         for (const Output& output : AllOutputs()) {
             if (order_.Outputs.Has(output.Id)) {
+                if (order_.Begins) {
+                    order_.Begins(begun_++, order_.Outputs.Count());
+                }
                 Timed(saved_, output.Word, [&] { Save(output); });
             } else if (output.Id == OutputId::Grid && order_.FromGrid) {
                 set_.Kept(output);
@@ -99,6 +102,7 @@ class Saving {
     const KitOrder& order_;
     OutputJob job_;
     SavedKit saved_;
+    int begun_ = 0;
     KitSet set_;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -19,6 +20,8 @@ struct KitOrder {
     const Exporter* Fonts = nullptr;  // for outputs that need them
     PlanSettings Plan;                // of the printed pages
     DifferentGrid Different = DifferentGrid::Replaced;
+    /// Told before each output is written: which one, from 0, of how many. May be empty.
+    std::function<void(int output, int outputs)> Begins = {};
     bool FromGrid = false;  // the saved grid is what the kit was made of
 };
 

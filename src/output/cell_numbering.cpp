@@ -128,7 +128,8 @@ void Numbering::ReMarkCells(int paint) {
             area_ = static_cast<std::int16_t>(nextArea_);
             Claim(seed.X, seed.Y);
             MarkOneNumber(seed);
-            CountUp(nextArea_, "areas on the sheet");
+            CountUp(nextArea_, "areas on the sheet",
+                    "an easier difficulty, fewer final paints, or a clean-up in Touch Up");
         }
     }
     place_.Screen.RefreshWorkFrame();

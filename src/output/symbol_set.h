@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "shell/symbols.h"
@@ -38,6 +39,12 @@ void SetupBMPSymbols(Symbols& symbols, const ProgramFolder& folder);
 /// 16 bits.
 void Number2CDIB(const DibView& SheetDC, std::span<const GlyphPoint> ink, int cellSize, Color color,
                  CellPos at);
+
+/// Symbols that were drawn afresh.
+struct MadeSymbols {
+    std::filesystem::path File;
+    std::string Note;  // what the painter should know; may be empty
+};
 
 /// A plain drawing area with a font: what making the glyphs needs.
 class Canvas {

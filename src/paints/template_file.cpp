@@ -75,6 +75,7 @@ void WriteTemplate(const fs::path& file, const PaintList& paints) {
 
 bool LoadTemplateColors(Workplace& place, std::string_view name) {
     WorkState& state = place.State;
+    SetPalette(state, {});  // not the one before, when the file cannot be read
     SetPalette(state, ReadPaints(state, place.Screen, TemplatePath(place.Folder, name)));
     if (state.PaintCount == 0) {
         place.Screen.ShowMessage("Unable To Continue",

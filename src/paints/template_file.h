@@ -24,7 +24,7 @@ void WriteTemplate(const std::filesystem::path& file, const PaintList& paints);
 
 /// Fills the palette from a template and lowers FinalColors to what the template has. False after
 /// a message, with an empty palette, when the template has no paints. A template that cannot be
-/// read throws and leaves the palette as it was.
+/// read throws and leaves the palette empty.
 [[nodiscard]] bool LoadTemplateColors(Workplace& place, std::string_view name);
 
 /// Names of the files in the templates folder without their last four characters (".csv"),

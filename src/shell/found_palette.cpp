@@ -12,7 +12,7 @@ void SetFoundColors(FoundPalette& found, PaintList paints) {
 }
 
 void AddFoundColor(FoundPalette& found, PaintColor paint) {
-    CountUp(found.FoundCount, "paints found in the photo");
+    CountUp(found.FoundCount, "paints found in the photo", "fewer paint sets");
     found.FoundColors.Add(std::move(paint));
 }
 

@@ -12,6 +12,7 @@ constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {LoadBMP, "LoadBMP", "Load Photo", FileHeader},
     {CropOrTurn, "CropOrTurn", "Crop or Turn Photo", FileHeader, false},
     {LoadStipples, "LoadStipples", "Load Stipple Picture", FileHeader},
+    {SaveStipples, "SaveStipples", "Save Stipples", FileHeader},
     {StartupPaintShop, "StartupPaintShop", "Paint Shop", FileHeader},
     {ChangeToStipples, "ChangeToStipples", "Change To Stipples", FileHeader},
     {ColorPickerSelect, "ColorPickerSelect", "Touch Up", FileHeader},
@@ -68,8 +69,7 @@ void SetupMenuItems(Menu& menu, int stage) {
     }
     menu[ChangeToStipples].Enabled = stage == 2;
     menu[PaintItNow].Enabled = stage == 3;
-    menu[ColorPickerSelect].Enabled = stage == 3 || stage == 4;
-    menu[MakeItPaintable].Enabled = stage == 3 || stage == 4;
+    Enable(menu, {ColorPickerSelect, MakeItPaintable, SaveStipples}, stage == 3 || stage == 4);
     menu[PrintMenu].Enabled = stage == 4;
 }
 

@@ -14,6 +14,7 @@ enum class MenuId {
     LoadBMP,
     CropOrTurn,
     LoadStipples,
+    SaveStipples,
     StartupPaintShop,
     ChangeToStipples,
     ColorPickerSelect,

@@ -11,6 +11,9 @@ namespace vendrel {
 
 enum class Pointer { Normal, Busy };
 
+/// What is to become of work that is in no file yet.
+enum class SaveAnswer { Save, Discard, Cancel };
+
 /// The windows beside the main one.
 enum class FormId {
     FileImport,
@@ -20,6 +23,7 @@ enum class FormId {
     TouchUp,
     ColorChart,
     KitPdf,
+    SaveEverything,
     TemplateShop,
     ColorMatcher,
     MakePaintable,
@@ -46,6 +50,11 @@ class Ui {
     virtual void ShowMessage(std::string_view title, std::string_view sentence) = 0;
     /// A yes-or-no question; true means yes.
     [[nodiscard]] virtual bool Ask(std::string_view title, std::string_view question) = 0;
+    /// Asks before unsaved work goes. Where nobody can answer, nothing is lost.
+    [[nodiscard]] virtual SaveAnswer AskToSave(std::string_view /*title*/,
+                                               std::string_view /*question*/) {
+        return SaveAnswer::Cancel;
+    }
     /// Lets events happen; cheap enough to call at every brush stamp. Throws Stop.
     virtual void Yield() = 0;
     /// The work picture changed as a whole.

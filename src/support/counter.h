@@ -9,11 +9,11 @@ namespace vendrel {
 /// The largest value of the counters that end up in the kit's files.
 inline constexpr int kMaxCounter = 32767;
 
-/// Raises a counter by one. Throws OverflowError("<what> ...") past kMaxCounter.
-inline void CountUp(int& counter, const char* what) {
+/// Raises a counter by one. Throws OverflowError past kMaxCounter: what there are too many of, and
+/// what would make them fewer ("an easier difficulty").
+inline void CountUp(int& counter, const char* what, const char* remedy) {
     if (counter >= kMaxCounter) {
-        throw OverflowError(std::string("More than 32767 ") + what +
-                            ". Try an easier difficulty or more final paints.");
+        throw OverflowError(std::string("More than 32767 ") + what + ". Try " + remedy + ".");
     }
     ++counter;
 }

@@ -32,6 +32,11 @@ std::string EditHistory::RedoName() const {
     return CanRedo() ? steps_[done_].Name : std::string();
 }
 
+bool EditHistory::IsDone(int id) const {
+    return std::any_of(steps_.begin(), steps_.begin() + static_cast<std::ptrdiff_t>(done_),
+                       [id](const EditStep& step) { return step.Id == id; });
+}
+
 CellRect EditHistory::Undo(EditSheet& sheet) {
     if (!CanUndo()) {
         return {};

@@ -31,6 +31,9 @@ class EditHistory {
     CellRect Undo(EditSheet& sheet);
     CellRect Redo(EditSheet& sheet);
 
+    /// Whether the step of that Id is done and not undone or forgotten since.
+    [[nodiscard]] bool IsDone(int id) const;
+
     /// Tells states of the sheet apart: the last step done, 0 before the first.
     [[nodiscard]] int StateId() const { return done_ == 0 ? 0 : steps_[done_ - 1].Id; }
 

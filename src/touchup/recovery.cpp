@@ -1,13 +1,13 @@
 #include "touchup/recovery.h"
 
-#include <string>
+#include <algorithm>
 #include <system_error>
-#include <utility>
 
 #include "storage/stipple_file.h"
 #include "support/disk.h"
 #include "support/error.h"
 #include "support/folders.h"
+#include "support/leftovers.h"
 
 namespace vendrel {
 namespace {
@@ -15,44 +15,36 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::chrono::seconds kRecoveryPause{5};
-constexpr int kMostLeft = 9;  // nobody edits a photo in more windows at once
+constexpr std::string_view kMark = ".recovery";
+constexpr std::string_view kEnding = ".stp";
 
 fs::path NumberedPath(fs::path grid, int number) {
-    return grid.replace_extension(".recovery" + (number == 1 ? "" : "-" + std::to_string(number)) +
-                                  ".stp");
+    return grid.replace_extension(std::string(kMark) +
+                                  (number == 1 ? "" : "-" + std::to_string(number)) +
+                                  std::string(kEnding));
 }
 
-// Offered again after a power cut, it would take the painter back behind the saved grid.
-void Remove(const fs::path& recovery) {
-    std::error_code failure;
-    if (fs::remove(recovery, failure)) {
-        failure = SyncFolder(recovery.parent_path());
+// "Lady-Easy.recovery-2.stp": a photo's name holds no dot, but may hold a dash.
+std::optional<KeptWork> KeptIn(const fs::path& file) {
+    const std::string name = file.filename().string();
+    const std::size_t mark = name.rfind(kMark);
+    const std::size_t dash = name.rfind('-', mark);
+    std::error_code unreadable;
+    const fs::file_time_type at = fs::last_write_time(file, unreadable);
+    if (mark == std::string::npos || dash == std::string::npos || !name.ends_with(kEnding) ||
+        unreadable || IsWaitingName(name) || !IsFile(file)) {
+        return std::nullopt;
     }
-    if (failure) {
-        throw FileError(recovery, "the recovery file cannot be removed (" + failure.message() +
-                                      "). Delete it yourself, or it will be offered again.");
-    }
+    return KeptWork{file, name.substr(0, dash), name.substr(dash + 1, mark - dash - 1), at};
 }
 
 }  // namespace
 
-std::filesystem::path RecoveryPath(const UnsavedWork& unsaved, const std::filesystem::path& grid) {
+fs::path RecoveryPath(const UnsavedWork& unsaved, const fs::path& grid) {
     return unsaved.Recovery ? unsaved.Recovery->Path() : NumberedPath(grid, 1);
 }
 
-bool HoldLeftRecovery(UnsavedWork& unsaved, const std::filesystem::path& grid) {
-    std::shared_ptr<const HeldFile>& held = unsaved.Recovery;
-    held.reset();
-    for (int number = 1; number <= kMostLeft && !held; ++number) {
-        const fs::path path = NumberedPath(grid, number);
-        if (IsFile(path)) {
-            held = HeldFile::Hold(path);
-        }
-    }
-    return held != nullptr;
-}
-
-std::filesystem::path HoldRecovery(UnsavedWork& unsaved, const std::filesystem::path& grid) {
+fs::path HoldRecovery(UnsavedWork& unsaved, const fs::path& grid) {
     std::shared_ptr<const HeldFile>& held = unsaved.Recovery;
     // The lock lies beside the file. What keeps the folder from being made, the writing tells.
     std::error_code toldLater;
@@ -75,18 +67,51 @@ void WriteRecoveryOfGrid(Workplace& place) {
 
 void RemoveRecovery(const UnsavedWork& unsaved) {
     if (unsaved.Recovery) {
-        Remove(unsaved.Recovery->Path());
+        RemoveRecovery(unsaved.Recovery->Path());
     }
 }
 
-void SetRecoveryAside(const UnsavedWork& unsaved, const std::filesystem::path& grid) {
-    const fs::path file = RecoveryPath(unsaved, grid);
+// Offered again after a power cut, it would take the painter back behind the saved grid.
+void RemoveRecovery(const fs::path& recovery) {
     std::error_code failure;
-    fs::rename(file, file.parent_path() / (file.stem().string() + "-old.stp"), failure);
-    if (failure) {
-        throw FileError(file, "the recovery file cannot be renamed (" + failure.message() +
-                                  "). Check that you may write there.");
+    if (fs::remove(recovery, failure)) {
+        failure = SyncFolder(recovery.parent_path());
     }
+    if (failure) {
+        throw FileError(recovery, "the recovery file cannot be removed (" + failure.message() +
+                                      "). Delete it yourself, or it will be offered again.");
+    }
+}
+
+std::vector<KeptWork> ListKeptWork(const Workplace& place) {
+    const fs::path grid = StippleFilePath(place.Folder, place.State, place.State);
+    const std::string here = grid.stem().string();
+    std::vector<KeptWork> all;
+    for (const auto& entry : EntriesOf(grid.parent_path())) {
+        std::optional<KeptWork> work = KeptIn(entry.path());
+        if (work && HeldFile::Hold(work->File)) {
+            work->Fits = work->Photo + "-" + work->Difficulty == here;
+            all.push_back(std::move(*work));
+        }
+    }
+    std::ranges::sort(all, [](const KeptWork& a, const KeptWork& b) {
+        return std::tie(b.At, a.File) < std::tie(a.At, b.File);
+    });
+    return all;
+}
+
+std::shared_ptr<const HeldFile> HoldKept(const KeptWork& work) {
+    auto held = HeldFile::Hold(work.File);
+    if (!held) {
+        throw Error("Another Vendrel has taken up this work on " + work.Photo +
+                    ". Go on there, or close it first.");
+    }
+    return held;
+}
+
+void ThrowAway(const KeptWork& work) {
+    const auto held = HoldKept(work);
+    RemoveRecovery(work.File);
 }
 
 bool RecoveryTimer::Tick(EditTime now) {
@@ -95,54 +120,6 @@ bool RecoveryTimer::Tick(EditTime now) {
     }
     lastTry_ = now;
     return true;
-}
-
-GridReplacement::GridReplacement(Workplace& place) : place_(place) {
-    const WorkState& state = place_.State;
-    if (!state.HasUnsavedWork) {
-        return;
-    }
-    allowed_ =
-        place_.Screen.Ask("Unsaved Stipples", "The touched-up stipples of " + state.PictureName +
-                                                  " are not saved. Go on and lose them?");
-    if (allowed_) {
-        unsaved_ = {state.Recovery, state.PictureName, state.StippleSize, state.Stipples,
-                    state.PaintColors};
-    }
-}
-
-GridReplacement::~GridReplacement() {
-    // Marked as unsaved, whatever took its place would be kept over the work's recovery file.
-    if (unsaved_ && !StillInKit()) {
-        place_.State->HasUnsavedWork = false;
-        place_.State->Recovery.reset();
-    }
-}
-
-bool GridReplacement::StillInKit() const {
-    const WorkState& state = place_.State;
-    return state.PictureName == unsaved_->PictureName &&
-           state.StippleSize == unsaved_->StippleSize && state.Stipples == unsaved_->Stipples &&
-           state.PaintColors == unsaved_->Paints;
-}
-
-void GridReplacement::Done() {
-    if (unsaved_) {
-        const auto recovery = std::exchange(unsaved_, std::nullopt)->Recovery;
-        place_.State->HasUnsavedWork = false;
-        place_.State->Recovery.reset();
-        if (recovery) {
-            Remove(recovery->Path());
-        }
-    }
-}
-
-bool MayReplaceGrid(Workplace& place) {
-    GridReplacement replacement(place);
-    if (replacement.Allowed()) {
-        replacement.Done();
-    }
-    return replacement.Allowed();
 }
 
 }  // namespace vendrel

@@ -8,8 +8,10 @@
 #include "support/error.h"
 #include "support/size_text.h"
 #include "support/text_file.h"
+#include "touchup/acceptance.h"
 #include "touchup/clean_up.h"
 #include "touchup/sheet_file.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel {
 namespace {
@@ -46,8 +48,9 @@ TouchUp::TouchUp(Workplace& place)
     finalAtOpening_ = state.FinalColors;
     wantedAtOpening_ = state.Chosen.FinalPaints;
     unsavedAtOpening_ = state.HasUnsavedWork;
-    // The file of work that was only accepted is still in use, not left over.
-    recoveryOffered_ = !state.HasUnsavedWork && HoldLeftRecovery(state, GridFile());
+    if (!state.HasUnsavedWork) {
+        state.Recovery.reset();  // of another photo, perhaps
+    }
     sheet_.Open(state, state);
 }
 
@@ -152,16 +155,31 @@ void TouchUp::ShowFinalColors() {
                    finalColors == finalAtOpening_ ? wantedAtOpening_ : finalColors);
 }
 
+TidyReport TouchUp::TidyPaints() {
+    EndStroke();
+    RefuseFlaw(sheet_, "The paints cannot be tidied");
+    TidyReport report;
+    SheetContents tidied = WithoutUnusedPaints(sheet_, report);
+    if (!report.Dropped.empty()) {
+        history_.Push({"Tidy Paints", sheet_.Copy()});
+        sheet_.Exchange(tidied);
+        timer_.NoteChange();
+    }
+    return report;
+}
+
 void TouchUp::SaveIt_Click() {
     EndStroke();
     RefuseFlaw(sheet_, "The stipples cannot be saved");
     WriteSheet(GridFile(), sheet_, place_.State->FinalColors);
-    place_.MainMenu[MenuId::LoadStipples].Enabled = true;
     savedId_ = history_.StateId();
-    place_.State->HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
+    saved_ = {sheet_.Copy(), savedId_};
+    for (Replacement& replacement : replacements_) {
+        replacement.Buries = false;  // this is what the painter wants
+    }
     timer_.NoteKept();
-    recoveryOffered_ = false;
-    RemoveRecovery(place_.State);
+    RemoveRestored();
+    KitIsSaved(place_);
 }
 
 bool TouchUp::CanLoad() const {
@@ -175,7 +193,7 @@ CellRect TouchUp::LoadIt_Click() {
     RequireFit(text, path, sheet_);
     StippleFileReader reader(text, path);
     const CellRect before = sheet_.Bounds();
-    PushLoad("Load");
+    PushReplacement("Load");
     {
         const RecountAtEnd recount(sheet_);
         ReadIntoSheet(reader, sheet_);
@@ -185,20 +203,38 @@ CellRect TouchUp::LoadIt_Click() {
     return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
 }
 
-void TouchUp::PushLoad(std::string name) {
+void TouchUp::PushReplacement(std::string name) {
     // What a broken file leaves cannot be kept, so the work until here is kept first.
     if (timer_.Pending()) {
         WriteRecovery();
     }
+    const bool buries = !IsSaved();
     history_.Push({std::move(name), sheet_.Copy()});
+    replacements_.push_back({history_.StateId(), buries, nullptr});
     timer_.NoteChange();
 }
 
-bool TouchUp::HasChanges() const {
-    return pen_.Drew() || (history_.StateId() != 0 && !IsSaved());
+bool TouchUp::ChangesAreBuried() const {
+    return std::ranges::any_of(replacements_, [this](const Replacement& replacement) {
+        return replacement.Buries && history_.IsDone(replacement.Step);
+    });
 }
 
-AcceptReport TouchUp::Accept() {
+CellRect TouchUp::DigOut() {
+    EndStroke();
+    CellRect dirty;
+    for (auto last = replacements_.rbegin(); last != replacements_.rend(); ++last) {
+        if (last->Buries && history_.IsDone(last->Step)) {
+            while (history_.IsDone(last->Step)) {
+                dirty = Undo();
+            }
+            break;
+        }
+    }
+    return dirty;
+}
+
+void TouchUp::Accept() {
     EndStroke();
     WorkState& state = place_.State;
     RefuseFlaw(sheet_, "The stipples cannot be accepted");
@@ -209,33 +245,50 @@ AcceptReport TouchUp::Accept() {
                     " stipples. Take the load back with Undo; or save it, close the editor and "
                     "choose Picture, Load Stipple Picture, which keeps the grid's shape.");
     }
-    state.HasUnsavedWork = !IsSaved() && (unsavedAtOpening_ || history_.StateId() != 0);
-    return TakeOverCopies(state, state, state, state);
+    state.HasUnsavedWork = !InSavedGrid() && (unsavedAtOpening_ || history_.StateId() != 0);
+    accepted_ = true;
+    TakeOverCopies(state, state, state, state);
 }
 
-void TouchUp::Cancel() {
+bool TouchUp::Cancel() {
     WorkState& state = place_.State;
-    state.FinalColors = finalAtOpening_;
-    SetFoundColors(state, foundAtOpening_);
-    state.EditStipples = {};
-    state.HasUnsavedWork = unsavedAtOpening_ && savedId_ != 0;
+    const bool given = GiveSavedToKit();
+    if (!given) {
+        state.FinalColors = finalAtOpening_;
+        SetFoundColors(state, foundAtOpening_);
+        state.EditStipples = {};
+    }
+    state.HasUnsavedWork = unsavedAtOpening_ && !saved_;
     ShowFinalColors();
+    return given;
 }
 
-CellRect TouchUp::TakeRecovery() {
-    EndStroke();
+bool TouchUp::GiveSavedToKit() {
+    const Grid<StippleCell>& kit = place_.State->Stipples;
+    if (!saved_ || saved_->Step == 0 || saved_->Contents.Announced.Across != kit.Across() ||
+        saved_->Contents.Announced.Down != kit.Down()) {
+        return false;
+    }
+    sheet_.Exchange(saved_->Contents);
     WorkState& state = place_.State;
-    const std::filesystem::path path = RecoveryPath(state, GridFile());
-    const std::string text = ReadTextFile(path);
-    StippleFileReader reader(text, path);
+    TakeOverCopies(state, state, state, state);
+    return true;
+}
+
+CellRect TouchUp::Restore(const KeptWork& work) {
+    EndStroke();
+    const WorkState& state = place_.State;
+    const auto held = HoldKept(work);
+    const std::string text = ReadTextFile(work.File);
+    StippleFileReader reader(text, work.File);
     const StippleHeader header = reader.Header();
     if (header.Across != state.CellsAcross || header.Down != state.CellsDown) {
         throw FormatError(
-            path, 1,
+            work.File, 1,
             "the work was done on " + SizeText(header.Across, header.Down) +
                 " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
                 " stipples. Take up the saved stipples of that shape first (Picture, Load Stipple "
-                "Picture), or give the work up.");
+                "Picture), or throw the work away.");
     }
     SheetContents found{reader.ReadPalette(),
                         {},
@@ -245,57 +298,53 @@ CellRect TouchUp::TakeRecovery() {
     for (int y = 1; y <= header.Down; ++y) {
         reader.ReadRow(found.EditStipples, y, header.Across);
     }
-    PushLoad("Recover");
+    PushReplacement("Restore");
+    replacements_.back().Restored = held;
     sheet_.Exchange(found);
     sheet_.Recount();
-    recoveryOffered_ = false;
     ShowFinalColors();
     return sheet_.Bounds();
 }
 
-void TouchUp::DiscardRecovery() {
-    recoveryOffered_ = false;
-    RemoveRecovery(place_.State);
+void TouchUp::RemoveRestored() {
+    const auto last =
+        std::find_if(replacements_.rbegin(), replacements_.rend(),
+                     [this](const Replacement& r) { return history_.IsDone(r.Step); });
+    if (last != replacements_.rend() && last->Restored) {
+        RemoveRecovery(std::exchange(last->Restored, nullptr)->Path());
+    }
 }
 
 void TouchUp::KeepRecovery(EditTime now) {
-    if (timer_.Tick(now)) {
+    // While the saved grid is shown, the file keeps what a load replaced.
+    if (!InSavedGrid() && timer_.Tick(now)) {
         WriteRecovery();
     }
 }
 
 void TouchUp::KeepRecoveryNow() {
-    if (HasChanges()) {
+    if (!InSavedGrid() && HasChanges()) {
         WriteRecovery();
     }
 }
 
 void TouchUp::WriteRecovery() {
-    if (!sheet_.Flaw().empty()) {
-        return;
-    }
-    MakeRoomForRecovery();
-    WriteSheet(HoldRecovery(place_.State, GridFile()), sheet_, place_.State->FinalColors);
-    timer_.NoteKept();
-}
-
-void TouchUp::MakeRoomForRecovery() {
-    if (recoveryOffered_) {
-        SetRecoveryAside(place_.State, GridFile());
-        recoveryOffered_ = false;
+    if (sheet_.Flaw().empty()) {
+        WriteSheet(HoldRecovery(place_.State, GridFile()), sheet_, place_.State->FinalColors);
+        timer_.NoteKept();
     }
 }
 
 void TouchUp::SettleRecovery() {
     if (place_.State->HasUnsavedWork) {
-        MakeRoomForRecovery();
         WriteRecoveryOfGrid(place_);
-        return;
-    }
-    if (!recoveryOffered_) {
+    } else {
         RemoveRecovery(place_.State);
+        place_.State->Recovery.reset();
     }
-    place_.State->Recovery.reset();
+    if (accepted_) {
+        RemoveRestored();
+    }
 }
 
 }  // namespace vendrel

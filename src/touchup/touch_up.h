@@ -1,12 +1,14 @@
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "shell/workplace.h"
-#include "touchup/acceptance.h"
 #include "touchup/edit_history.h"
 #include "touchup/recovery.h"
+#include "touchup/tidying.h"
 #include "touchup/tools.h"
 
 namespace vendrel {
@@ -19,8 +21,8 @@ struct CleanUpPreview {
 
 /// One session of the touch-up editor, from its opening until Accept or Cancel: edits of the copies
 /// FoundColors and EditStipples, each of them a step to undo. Every edit answers the rectangle of
-/// stipples to draw anew; counts stand in the paints' CellCount. Palette indexes never shift while
-/// the editor is open.
+/// stipples to draw anew; counts stand in the paints' CellCount. Palette indexes shift with
+/// loads and TidyPaints alone.
 class TouchUp {
   public:
     /// Opens the editor on the kit's grid. Throws Error when there is none.
@@ -53,6 +55,10 @@ class TouchUp {
     CellRect Undo();
     CellRect Redo();
 
+    /// Drops the paints that no stipple uses, as one step; nothing where there is none. Throws
+    /// Error while a broken load stands.
+    TidyReport TidyPaints();
+
     /// Writes the saved grid of this photo and difficulty, whole or not at all. Throws FileError,
     /// and Error while a broken load stands.
     void SaveIt_Click();
@@ -63,24 +69,29 @@ class TouchUp {
     [[nodiscard]] bool CanLoad() const;
 
     /// Something was changed that is in no saved grid: ask before Cancel.
-    [[nodiscard]] bool HasChanges() const;
+    [[nodiscard]] bool HasChanges() const { return !IsSaved() || ChangesAreBuried(); }
+    /// What is shown is in the saved grid, or nothing was done to it.
+    [[nodiscard]] bool IsSaved() const {
+        return !pen_.Drew() && (InSavedGrid() || (!saved_ && history_.StateId() == 0));
+    }
+    /// A load replaced changes that were in no saved grid: only taking it back brings them again.
+    [[nodiscard]] bool ChangesAreBuried() const;
+    /// Takes the load back that buried changes last.
+    CellRect DigOut();
     /// Makes the copies the kit's grid and closes; the main window then draws the stipples anew
     /// and goes to stage 3. Throws Error, and stays open, when the copies do not fit the photo.
-    AcceptReport Accept();
-    /// Closes and leaves the kit as it was at the opening.
-    void Cancel();
+    void Accept();
+    /// Closes. The kit takes over what this session saved last, and is as it was at the opening
+    /// when nothing was saved. True when it was given another grid, as by Accept.
+    [[nodiscard]] bool Cancel();
     /// The last thing to do after Accept or Cancel: keeps an accepted but unsaved grid recoverable
     /// and removes the recovery file when nothing unsaved is left. Throws FileError.
     void SettleRecovery();
 
-    /// Work of a session that ended without a save was found at the opening: ask whether to take
-    /// it or give it up.
-    [[nodiscard]] bool RecoveryOffered() const { return recoveryOffered_; }
-    /// Brings the found work back, as one step. Throws Error, with nothing changed, when the file
-    /// is broken or belongs to another size.
-    CellRect TakeRecovery();
-    /// Gives the found work up on purpose.
-    void DiscardRecovery();
+    /// Brings kept work back, as one step. Its file goes when what came of it is saved or accepted.
+    /// Throws Error, with nothing changed, when the file is broken, belongs to another size or is
+    /// in use.
+    CellRect Restore(const KeptWork& work);
     /// To be called about once a second: keeps the recovery file close behind the edits. Throws
     /// FileError.
     void KeepRecovery(EditTime now);
@@ -91,12 +102,20 @@ class TouchUp {
     static constexpr const char* kBrushName = "Brush";
 
     void PushStroke(std::string name);
-    void PushLoad(std::string name);
+    void PushReplacement(std::string name);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
     void WriteRecovery();
-    void MakeRoomForRecovery();
-    [[nodiscard]] bool IsSaved() const { return history_.StateId() == savedId_ && !pen_.Drew(); }
+    void RemoveRestored();
+    [[nodiscard]] bool GiveSavedToKit();
+    [[nodiscard]] bool InSavedGrid() const { return history_.StateId() == savedId_; }
+
+    /// A load or a restored recovery among the steps.
+    struct Replacement {
+        int Step = 0;
+        bool Buries = false;                       // changes that no saved grid had
+        std::shared_ptr<const HeldFile> Restored;  // the file it came from
+    };
 
     [[nodiscard]] std::filesystem::path GridFile() const;
 
@@ -108,8 +127,15 @@ class TouchUp {
     EditBrush brush_;
     CellPos strokeAt_;
     bool drawing_ = false;
-    int savedId_ = -1;  // state of the history that the saved grid holds
-    bool recoveryOffered_ = false;
+    int savedId_ = -1;  // state of the history that the saved grid holds, also after a load
+    bool accepted_ = false;
+    /// What this session saved last.
+    struct Saved {
+        SheetContents Contents;
+        int Step = 0;  // state of the history
+    };
+    std::optional<Saved> saved_;
+    std::vector<Replacement> replacements_;
     PaintList foundAtOpening_;
     int finalAtOpening_ = 0;
     int wantedAtOpening_ = 0;  // final paints checked in the menu

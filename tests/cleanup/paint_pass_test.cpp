@@ -1,6 +1,6 @@
 #include "cleanup/paint_pass.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <random>
 
@@ -8,6 +8,7 @@
 #include "cleanup/plain_paint_pass.h"
 #include "cleanup/small_spots.h"
 #include "cleanup/smart_clean.h"
+#include "support/error.h"
 
 namespace vendrel {
 namespace {
@@ -89,6 +90,27 @@ TEST(PaintPass, ClosingWhileItPaintsPutsTheMenusBack) {
     EXPECT_TRUE(easel.MainMenu[FileHeader].Enabled);
     EXPECT_EQ(easel.Screen.LastPointer, Pointer::Normal);
     EXPECT_FALSE(easel.State.PaintingDone);
+}
+
+TEST(PaintPass, WithTooManyAreasLeavesNothingForASecondOneToMixUp) {
+    std::vector<std::string> rows;
+    for (int y = 0; y < 182; ++y) {  // no stipple touches one of its paint
+        rows.emplace_back();
+        for (int x = 0; x < 182; ++x) {
+            rows.back() += static_cast<char>('1' + x % 2 + 2 * (y % 2));
+        }
+    }
+    PaintBench easel(4, rows);
+    SetupMenuItems(easel.MainMenu, 3);
+    for (int again = 0; again < 2; ++again) {
+        EXPECT_THAT(
+            [&] { PaintItNow_Click(easel.Place); },
+            testing::ThrowsMessage<OverflowError>(testing::HasSubstr("fewer final paints")));
+        EXPECT_FALSE(easel.MainMenu[PaintItNow].Enabled || easel.MainMenu[PrintMenu].Enabled);
+        EXPECT_EQ(easel.State.CellMarks, Grid<CellMark>(182, 182));
+        EXPECT_EQ(easel.Work(), easel.Frames.StippleFrame.Picture);
+        EXPECT_EQ(easel.Screen.Captions.back(), "Vendrel -Lady");
+    }
 }
 
 TEST(SmallSpots, RedrawsBelowTheLimitOfEachSize) {

@@ -152,9 +152,9 @@ void TouchUpWindowTest::SaveWritesTheFileAndFreesTheCancelFromItsQuestion() {
     QVERIFY(!Button("LoadIt").isEnabled());
     Drag(At(1, 1), At(3, 1));
     {
-        const Answer no(QMessageBox::No);
+        const Answer stay(QMessageBox::Cancel);
         Button("Cancel").click();
-        QCOMPARE(no.Asked, 1);
+        QCOMPARE(stay.Asked, 1);
     }
     QVERIFY(canvas_->isVisible());
     canvas_->window()->activateWindow();
@@ -251,15 +251,15 @@ void TouchUpWindowTest::ClosingTheProgramWithAcceptedWorkAsks() {
     QVERIFY(State().HasUnsavedWork);
     QVERIFY(std::filesystem::exists(*files_ / "Saved Stipples/halves-Easy.recovery.stp"));
     {
-        const Answer no(QMessageBox::No);
+        const Answer stay(QMessageBox::Cancel);
         QVERIFY(!window.close());
         QVERIFY(Choose(window, "EndItAll"));
-        QCOMPARE(no.Asked, 2);
+        QCOMPARE(stay.Asked, 2);
     }
-    QVERIFY(window.isVisible());
-    const Answer yes(QMessageBox::Yes);
+    QVERIFY(window.isVisible() && window.isWindowModified());
+    const Answer discard(QMessageBox::Discard);
     QVERIFY(window.close());
-    QCOMPARE(yes.Asked, 1);
+    QCOMPARE(discard.Asked, 1);
 }
 
 void TouchUpWindowTest::AnEditorThatCannotOpenDoesNothingButClose() {

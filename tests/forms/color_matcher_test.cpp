@@ -103,7 +103,7 @@ TEST(ColorMatcher, AsksBeforeTouchUpsAreWipedAndSavesNumberedTemplates) {
     Matcher matcher;
     matcher.Form.Exchange_Click(0);
     matcher.State.HasUnsavedWork = true;
-    matcher.Screen.Answers = {false};
+    matcher.Screen.SaveAnswers = {SaveAnswer::Cancel};
     matcher.Form.AcceptButton_Click();
     EXPECT_EQ(matcher.State.PaintColors[1].PaintName, "Red");
     EXPECT_EQ(matcher.Form.SaveTemplate_Click(), "small Easy 2 Paints");

@@ -2,12 +2,14 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
 #include "forms/studio.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
+#include "support/whole_file.h"
 
 namespace vendrel::test {
 namespace {
@@ -121,6 +123,81 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
     EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy PBS.BMP"));
     EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy Painting.BMP"));
     EXPECT_THAT(studio_.Screen.Messages, IsEmpty());
+}
+
+// Draws nothing, but tells of its progress; fails when told to.
+class Printer : public Exporter {
+  public:
+    void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
+               const Target& target) const override {
+        place.Screen.SetCaption("Printing");
+        place.Screen.ReportProgress(1, 2);
+        place.Screen.ReportProgress(0, 0);
+        if (Fails) {
+            throw Error("no font");
+        }
+        WriteWholeFile(target.File,
+                       output == OutputId::Pdf && settings.Sheet == Paper::A3 ? "A3" : "chart");
+    }
+    bool Fails = false;
+};
+
+TEST(SaveEverything, SavesWhatIsChosenWithOneProgressAndRemembersIt) {
+    Studio studio;
+    Printer printer;
+    MainForm main(studio.Place, &printer);
+    main.Form_Load();
+    main.Click(LoadBMP);
+    ClickPhoto(main.Chooser(), "four.bmp");
+    main.Chooser().OKButton_Click();
+    main.Click(ChangeToStipples);
+    main.Click(PaintItNow);
+    studio.State.HasUnsavedWork = true;
+    main.Click(SaveItAll);
+    SaveEverythingForm& form = main.Everything();
+    form.Form_Load();
+    EXPECT_THAT(form.Controls().Always, ::testing::SizeIs(4));
+    EXPECT_EQ(form.Controls().GridFile, "four-Easy.stp");
+    printer.Fails = true;
+    form.Grid_Click(true);
+    form.Pdf_Click(true);
+    form.Paper_Click(Paper::A3);
+    EXPECT_THROW(form.SaveButton_Click(), Error);
+    EXPECT_THAT(studio.Screen.OpenForms, ElementsAre(FormId::SaveEverything));
+    EXPECT_EQ(studio.Screen.Captions.back(), "Vendrel -four");
+    EXPECT_TRUE(studio.State.HasUnsavedWork);
+    EXPECT_FALSE(fs::exists(studio.Files / "Results/four Easy PBS.BMP"));
+    printer.Fails = false;
+    studio.Screen.Progress.clear();
+    form.SaveButton_Click();
+    EXPECT_THAT(studio.Screen.OpenForms, IsEmpty());
+    EXPECT_EQ(studio.Files.Read("Results/four Easy Kit.pdf"), "A3");
+    EXPECT_TRUE(fs::exists(studio.Files / "Saved Stipples/four-Easy.stp"));
+    EXPECT_FALSE(studio.State.HasUnsavedWork);
+    EXPECT_EQ(studio.Screen.Progress.back(), std::pair(0, 0));
+    studio.Screen.Progress.pop_back();
+    EXPECT_TRUE(std::ranges::is_sorted(studio.Screen.Progress)) << "it never falls back";
+    EXPECT_EQ(studio.Screen.Progress.back(), std::pair(6000, 6000));
+    main.Click(SaveItAll);
+    EXPECT_TRUE(main.Everything().Grid() && main.Everything().Pdf());
+}
+
+TEST_F(MainFormTest, SavesTheStipplesAndAsksBeforeOthersAreReplaced) {
+    LoadPhoto();
+    EXPECT_FALSE(On(SaveStipples));
+    form_.Click(ChangeToStipples);
+    const char* saved = "Saved Stipples/four-Easy.stp";
+    studio_.Files.Write(saved, "an evening's work");
+    studio_.Screen.Answers = {false};
+    form_.Click(SaveStipples);
+    EXPECT_EQ(studio_.Files.Read(saved), "an evening's work");
+    form_.Click(SaveStipples);
+    EXPECT_THAT(form_.StatusHint(), HasSubstr("four-Easy.stp"));
+    EXPECT_TRUE(On(LoadStipples));
+    form_.Click(SaveStipples);
+    EXPECT_EQ(studio_.Screen.Questions.size(), 2U) << "the same need no question";
+    form_.Click(LoadStipples);
+    EXPECT_EQ(Stage(), "++-++-");
 }
 
 TEST_F(MainFormTest, ConvertingWithoutAPhotoAsksForOne) {

@@ -7,6 +7,8 @@
 
 #include "forms/studio.h"
 #include "paints/paints.h"
+#include "shell/palette.h"
+#include "shell/stipple_grid.h"
 #include "startup/start_up.h"
 #include "support/error.h"
 
@@ -14,6 +16,7 @@ namespace vendrel::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Pair;
 
@@ -132,6 +135,43 @@ TEST_F(PaintShopTest, DoneKeepsTheTemplateForTheNextTime) {
     again.Form_Load();
     EXPECT_EQ(again.Controls().TemplateIndex, 0);
     EXPECT_EQ(again.Controls().PaletteCaption, "Vendrel Template Paints [3]");
+}
+
+TEST_F(PaintShopTest, EscapeKeepsTheConversionAndDoneAsksBeforeUnsavedStipplesGo) {
+    WriteTemplateOf("Three", 3);
+    WorkState& state = studio_.State;
+    state.PictureName = "four";
+    PaintList kit = {{9, 9, 9, "Mine", "K", "Kit Paint"}};
+    const auto convert = [&] {
+        SetPalette(state, kit);
+        SetGrid(state, Grid<StippleCell>(1, 1));
+        state.Stipples(1, 1).ColorIndex = 1;
+        state.FinalColors = 32;
+        SetupMenuItems(studio_.MainMenu, 4);
+        state.HasUnsavedWork = true;
+        shop_.Form_Load();
+        shop_.UseTemplate_Click();
+        shop_.TemplateList_Click(0);
+        ASSERT_EQ(state.FinalColors, 3);
+    };
+    convert();
+    shop_.QueryUnload();
+    EXPECT_THAT(studio_.Screen.Questions, IsEmpty());
+    EXPECT_EQ(Palette(), "Kit Paint");
+    EXPECT_EQ(state.FinalColors, 32);
+    EXPECT_FALSE(state.TemplateMode);
+    EXPECT_TRUE(studio_.MainMenu[MenuId::PrintMenu].Enabled);
+
+    convert();
+    studio_.Screen.OpenForm(FormId::PaintShop);
+    studio_.Screen.SaveAnswers = {SaveAnswer::Cancel, SaveAnswer::Save};
+    shop_.AllDone_Click();
+    EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::PaintShop));
+    EXPECT_EQ(Palette(), "Paint Paint Paint");
+    shop_.AllDone_Click();
+    EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
+    EXPECT_THAT(studio_.Files.Read("Saved Stipples/four-Easy.stp"), HasSubstr("Kit Paint"));
+    EXPECT_FALSE(state.HasUnsavedWork || studio_.MainMenu[MenuId::PrintMenu].Enabled);
 }
 
 TEST_F(PaintShopTest, ABrokenTemplateLeavesNothingToBeDoneWith) {

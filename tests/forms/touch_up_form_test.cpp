@@ -50,6 +50,7 @@ class TouchUpFormTest : public ::testing::Test {
     void Crash() {
         form_.reset();
         State().HasUnsavedWork = false;
+        State().Recovery.reset();
         Open();
     }
     void Press(CellPos at, TouchUpTool tool = TouchUpTool::Brush) {
@@ -176,7 +177,7 @@ TEST_F(TouchUpFormTest, CleanLevelStaysFromTwoToEight) {
 
 TEST_F(TouchUpFormTest, CancelAsksOnlyWhenThereAreChanges) {
     MakeSpot();
-    studio_.Screen.Answers = {false};
+    studio_.Screen.SaveAnswers = {SaveAnswer::Cancel};
     form_->Cancel_Click();
     EXPECT_TRUE(form_->Open());
     EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::TouchUp));
@@ -196,23 +197,72 @@ TEST_F(TouchUpFormTest, CancelAsksOnlyWhenThereAreChanges) {
     EXPECT_FALSE(State().HasUnsavedWork);
 }
 
-TEST_F(TouchUpFormTest, AcceptTakesTheGridOverAndTellsWhichSymbolsMoved) {
+TEST_F(TouchUpFormTest, AcceptTakesTheGridOverAndTidyingTellsWhichSymbolsMoved) {
     studio_.MainMenu[PaintItNow].Enabled = false;
-    form_->PaintList_Click(1);
+    form_->PaintList_Click(4);
     Press({State().CellsAcross, 1}, TouchUpTool::Replace);
     EXPECT_EQ(Counts()[1], 0);
-    form_->Accept_Click();
-    EXPECT_EQ(State().PaintCount, 3);
-    EXPECT_EQ(State().Stipples(State().CellsAcross, 1).ColorIndex, 1);
+    ASSERT_TRUE(Shown().TidyEnabled);
+    form_->TidyPaints_Click();
+    EXPECT_FALSE(Shown().TidyEnabled);
+    EXPECT_EQ(Shown().Brush.Paint, 3) << "still White";
     ASSERT_THAT(studio_.Screen.Messages, SizeIs(1));
     EXPECT_THAT(studio_.Screen.Messages[0].second, HasSubstr("left out: Green."));
     EXPECT_THAT(studio_.Screen.Messages[0].second,
                 HasSubstr("Blue from 3 to 2, White from 4 to 3."));
+    form_->Undo_Click();
+    EXPECT_EQ(Shown().Brush.Paint, 4);
+    form_->Accept_Click();
+    EXPECT_EQ(State().PaintCount, 4);
+    EXPECT_EQ(State().Stipples(State().CellsAcross, 1).ColorIndex, 4);
+    EXPECT_THAT(studio_.Screen.Messages, SizeIs(1)) << "nothing moved";
     EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
     EXPECT_TRUE(studio_.MainMenu[PaintItNow].Enabled);
     EXPECT_TRUE(Exists(kRecovery)) << "accepted, but not saved";
     const StippleCell& cell = State().Stipples(State().CellsAcross, 1);
-    EXPECT_EQ(studio_.Frames.StippleFrame.Picture.Get(cell.X, cell.Y), Rgb(230, 20, 20));
+    EXPECT_EQ(studio_.Frames.StippleFrame.Picture.Get(cell.X, cell.Y), Rgb(240, 240, 230));
+}
+
+TEST_F(TouchUpFormTest, ClosingSavesDiscardsOrStays) {
+    using enum SaveAnswer;
+    struct Case {
+        SaveAnswer Answer;
+        bool LoadOver;  // the change stands in undo alone
+        bool Open;
+        int Paint;  // of the kit
+    };
+    main_.Click(PaintItNow);
+    form_.reset();
+    for (const Case& test : {Case{Cancel, false, true, 1}, Case{Discard, false, false, 1},
+                             Case{Discard, true, false, 1}, Case{Save, true, false, 4}}) {
+        Open();
+        if (test.LoadOver && !Exists(kSaved)) {
+            form_->SaveIt_Click();
+        }
+        MakeSpot();
+        if (test.LoadOver) {
+            form_->LoadIt_Click();
+        }
+        EXPECT_TRUE(Shown().Unsaved);
+        studio_.Screen.SaveAnswers = {test.Answer};
+        form_->Cancel_Click();
+        EXPECT_THAT(studio_.Screen.SaveAnswers, IsEmpty());
+        EXPECT_EQ(form_->Open(), test.Open);
+        EXPECT_EQ(State().Stipples(3, 3).ColorIndex, test.Paint);
+        EXPECT_EQ(studio_.MainMenu[PaintItNow].Enabled, test.Paint == 4) << "to be painted anew";
+        EXPECT_FALSE(State().HasUnsavedWork);
+    }
+    Open();
+    form_->PaintList_Click(2);
+    Press({3, 4});
+    form_->KeepRecovery(At(0));
+    fs::remove(studio_.Files / kSaved);
+    fs::create_directory(studio_.Files / kSaved);
+    for (int i = 0; i < 2; ++i) {
+        studio_.Screen.SaveAnswers = {Save};
+        EXPECT_THROW(form_->Cancel_Click(), FileError);
+        EXPECT_TRUE(form_->Open() && Exists(kRecovery)) << "and asks again";
+    }
 }
 
 TEST_F(TouchUpFormTest, SavesAndLoadsAsOneStep) {
@@ -243,26 +293,40 @@ TEST_F(TouchUpFormTest, ABrokenLoadShowsWhatItReadUntilItIsTakenBack) {
     EXPECT_EQ(State().EditStipples, before_);
 }
 
-TEST_F(TouchUpFormTest, WorkLeftByACrashIsTakenUpGivenUpOrKept) {
-    using Answers = std::vector<bool>;
-    for (const auto& [answers, paint, fileLeft] : {std::tuple{Answers{true}, 4, true},
-                                                   {Answers{false, true}, 1, false},
-                                                   {Answers{false, false}, 1, true}}) {
+TEST_F(TouchUpFormTest, WorkLeftByCrashesIsListedUntilRestoredOrThrownAway) {
+    for (int crash = 0; crash < 2; ++crash) {
         MakeSpot();
         form_->KeepRecovery(At(0));
         Crash();
-        studio_.Screen.Answers = answers;
         form_->OfferRecovery();
-        EXPECT_THAT(studio_.Screen.Answers, IsEmpty());
-        EXPECT_EQ(State().EditStipples(3, 3).ColorIndex, paint);
-        EXPECT_EQ(Exists(kRecovery), fileLeft);
-        form_->Cancel_Click();
-        fs::remove(studio_.Files / kRecovery);
-        Open();
+        EXPECT_THAT(Shown().Kept.Rows, SizeIs(static_cast<std::size_t>(crash) + 1));
+        EXPECT_TRUE(Shown().Kept.Shown && Shown().Kept.RestoreEnabled);
+        form_->CloseKept_Click();
     }
-    const std::size_t asked = studio_.Screen.Questions.size();
+    studio_.Files.Write("Saved Stipples/Dog-Medium.recovery.stp", "");
+    form_->KeptWork_Click();
+    ASSERT_THAT(Shown().Kept.Rows, SizeIs(3));
+    EXPECT_EQ(Shown().Kept.Rows[0].Photo, "Dog");
+    EXPECT_EQ(Shown().Kept.Row, 1) << "the newest that fits";
+    form_->KeptList_Click(0);
+    EXPECT_FALSE(Shown().Kept.RestoreEnabled);
+    EXPECT_THAT(Shown().Kept.Hint, HasSubstr("load the photo Dog at Medium"));
+    studio_.Screen.Answers = {false};
+    form_->ThrowKeptAway_Click();
+    EXPECT_THAT(Shown().Kept.Rows, SizeIs(3));
+    form_->ThrowKeptAway_Click();
+    EXPECT_THAT(studio_.Screen.Questions.back().second, HasSubstr("Dog (Medium)"));
+    EXPECT_THAT(Shown().Kept.Rows, SizeIs(2));
+    form_->RestoreKept_Click();
+    EXPECT_EQ(State().EditStipples(3, 3).ColorIndex, 4);
+    EXPECT_FALSE(Shown().Kept.Shown);
+    form_->SaveIt_Click();
+    form_->KeptWork_Click();
+    EXPECT_THAT(Shown().Kept.Rows, SizeIs(1));
+    form_->ThrowKeptAway_Click();
+    EXPECT_FALSE(Shown().Kept.Shown || Shown().KeptEnabled);
     form_->OfferRecovery();
-    EXPECT_THAT(studio_.Screen.Questions, SizeIs(asked)) << "there is nothing to offer";
+    EXPECT_FALSE(Shown().Kept.Shown) << "there is nothing to offer";
 }
 
 TEST_F(TouchUpFormTest, ARecoveryFileThatCannotBeWrittenIsToldInTheStatus) {
@@ -277,20 +341,19 @@ TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {
     AcceptSpot();
     const Grid<StippleCell> accepted = State().Stipples;
     ASSERT_TRUE(State().HasUnsavedWork);
-    for (const MenuId entry :
-         {LoadStipples, StartupPaintShop, ChangeToStipples, MediumSet, HardSet, Set16Colors,
-          Set50Colors, RunTemplateShop, AveragePixel, SamplePixel, EndItAll}) {
+    for (const MenuId entry : {LoadStipples, ChangeToStipples, MediumSet, HardSet, Set16Colors,
+                               Set50Colors, RunTemplateShop, AveragePixel, SamplePixel, EndItAll}) {
         const auto name = studio_.MainMenu[entry].Name;
         const bool checked = IsChecked(studio_.State.Chosen, entry);
-        studio_.Screen.Answers = {false};
+        studio_.Screen.SaveAnswers = {SaveAnswer::Cancel};
         main_.Click(entry);
-        EXPECT_THAT(studio_.Screen.Answers, IsEmpty()) << name;
+        EXPECT_THAT(studio_.Screen.SaveAnswers, IsEmpty()) << name;
         EXPECT_EQ(IsChecked(studio_.State.Chosen, entry), checked) << name;
         EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty()) << name;
     }
     main_.Click(LoadBMP);
     ClickPhoto(main_.Chooser(), "four.bmp");
-    studio_.Screen.Answers = {false, false};
+    studio_.Screen.SaveAnswers = {SaveAnswer::Cancel, SaveAnswer::Cancel};
     main_.Chooser().OKButton_Click();
     EXPECT_THAT(studio_.Screen.OpenForms, ElementsAre(FormId::FileImport));
     main_.Chooser().CancelButton_Click();

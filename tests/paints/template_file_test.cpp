@@ -56,15 +56,18 @@ TEST(TemplateFile, WithoutPaintsSaysSoAndEmptiesThePalette) {
                     "Unable To Continue", "The Selected Template Has NO Paints Assigned!")));
 }
 
-TEST(TemplateFile, LeavesThePaletteAloneWhenItCannotBeRead) {
+TEST(TemplateFile, LeavesNoOtherPaletteInForceWhenItCannotBeRead) {
     test::Bench bench;
-    SetPalette(bench.State, {test::Paint(1, 1, 1, "old")});
+    const PaintList old = {test::Paint(1, 1, 1, "old")};
+    SetPalette(bench.State, old);
     bench.Files.Write("templates/T.csv", " 2\r\n1,2,3,\"a\",\"b\",\"c\"\r\n1,2,999,\"a\"");
     EXPECT_THAT(
         [&] { (void)LoadTemplateColors(bench.Place, "T"); },
         testing::ThrowsMessage<FormatError>(testing::HasSubstr("T.csv, line 3: a paint's blue")));
+    EXPECT_EQ(test::NamesOf(bench.State), "");
+    SetPalette(bench.State, old);
     EXPECT_THROW((void)LoadTemplateColors(bench.Place, "Missing"), FileError);
-    EXPECT_EQ(test::NamesOf(bench.State), "old");
+    EXPECT_EQ(test::NamesOf(bench.State), "");
 }
 
 TEST(TemplateFile, ListsTheFolderWithoutEndings) {

@@ -61,9 +61,13 @@ TEST(Menu, TheChosenSettingsAloneAreChecked) {
         return names;
     };
     Settings settings;
-    EXPECT_EQ(checked(settings), "EasySet Set50Colors AveragePixel WatchItPaint ");
-    settings = {vendrel::Difficulty::Difficult, 0, Sampling::Pixel, false};
-    EXPECT_EQ(checked(settings), "HardSet SamplePixel ");
+    EXPECT_EQ(checked(settings), "EasySet Set50Colors AveragePixel MatchPlain WatchItPaint ");
+    settings.Level = vendrel::Difficulty::Difficult;
+    settings.FinalPaints = 0;
+    settings.Sample = Sampling::Pixel;
+    settings.Match = Matching::ByEye;
+    settings.WatchItPaint = false;
+    EXPECT_EQ(checked(settings), "HardSet SamplePixel MatchEye ");
     for (const int n : {16, 32, 40, 50}) {
         SetColorChecks(settings, n);
         EXPECT_EQ(settings.FinalPaints, n);

@@ -16,11 +16,12 @@
 
 namespace vendrel::test {
 
-/// A Ui that writes down what it is asked and answers questions from `Answers` (yes when empty).
+/// A Ui that writes down what it is asked and answers questions from `Answers` (yes when empty)
+/// and `SaveAnswers` (discard when empty).
 class Recorder : public Ui {
   public:
     void SetCaption(std::string_view caption) override { Captions.emplace_back(caption); }
-    void ReportProgress(int /*done*/, int /*total*/) override {}
+    void ReportProgress(int done, int total) override { Progress.emplace_back(done, total); }
     void SetPointer(Pointer pointer) override { LastPointer = pointer; }
     void ShowMessage(std::string_view title, std::string_view sentence) override {
         Messages.emplace_back(title, sentence);
@@ -32,6 +33,15 @@ class Recorder : public Ui {
         }
         const bool answer = Answers.front();
         Answers.erase(Answers.begin());
+        return answer;
+    }
+    SaveAnswer AskToSave(std::string_view title, std::string_view question) override {
+        Questions.emplace_back(title, question);
+        if (SaveAnswers.empty()) {
+            return SaveAnswer::Discard;
+        }
+        const SaveAnswer answer = SaveAnswers.front();
+        SaveAnswers.erase(SaveAnswers.begin());
         return answer;
     }
     void Yield() override {
@@ -59,9 +69,11 @@ class Recorder : public Ui {
     }
 
     std::vector<std::string> Captions;
+    std::vector<std::pair<int, int>> Progress;
     std::vector<std::pair<std::string, std::string>> Messages;
     std::vector<std::pair<std::string, std::string>> Questions;
     std::vector<bool> Answers;
+    std::vector<SaveAnswer> SaveAnswers;
     std::vector<FormId> OpenForms;
     Pointer LastPointer = Pointer::Normal;
     Surface Clipboard;

@@ -11,12 +11,14 @@
 #include "sheets.h"
 #include "support/error.h"
 #include "support/leftovers.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::ThrowsMessage;
 
 namespace fs = std::filesystem;
@@ -90,24 +92,97 @@ TEST(History, NamesItsStepsAndForgetsTheUndoneOnesWithANewEdit) {
     EXPECT_EQ(bench.Edited(), (Rows{"51", "22"}));
 }
 
-TEST(Accepting, DropsUnusedPaintsAndTellsWhichSymbolsMoved) {
+TEST(Accepting, NumbersPaintsAsTheSavedGridDoes) {
     KitBench bench({"123", "123"}, 4);
     bench.State.CellMarks(1, 1).Visited = true;
     bench.State.Stipples(1, 1).AreaNumber = 7;
     TouchUp editor(bench.Place);
     editor.Replace(2, 4);
-    const AcceptReport report = editor.Accept();
-    EXPECT_THAT(report.Dropped, ElementsAre("Paint 2"));
-    EXPECT_THAT(report.Moves,
-                ElementsAre(SymbolMove{"Paint 3", 3, 2}, SymbolMove{"Paint 4", 4, 3}));
+    editor.Accept();
     const WorkState& state = bench.State;
-    EXPECT_EQ(GridOf(state.Stipples), (Rows{"132", "132"}));
-    EXPECT_EQ(state.PaintCount, 3);
-    EXPECT_EQ(state.PaintColors[3].PaintName, "Paint 4");
-    EXPECT_EQ(state.PaintColors[3].CellCount, 2);
+    EXPECT_EQ(GridOf(state.Stipples), (Rows{"143", "143"}));
+    EXPECT_EQ(state.PaintCount, 4);
+    EXPECT_EQ(state.PaintColors[2].PaintName, "Paint 2") << "a printed sheet has its symbol";
     EXPECT_EQ(state.Stipples(1, 1).AreaNumber, 0);
     EXPECT_EQ(state.CellMarks, Grid<CellMark>(3, 2));
     EXPECT_TRUE(state.HasUnsavedWork);
+    SaveStipples(bench.Place);
+    EXPECT_THAT(bench.Files.Read(kSaved), HasSubstr("4,3,2,50"));
+    EXPECT_FALSE(state.HasUnsavedWork || fs::exists(bench.Files / kRecovery));
+}
+
+TEST(TidyPaints, DropsUnusedOnesAndTellsWhichSymbolsMovedUntilItIsUndone) {
+    KitBench bench({"123", "123"}, 4);
+    bench.Files.Write(kSaved, "1,2,1,16\r\n" + kRed + "0,1,5,5\r\n0,1,13,5\r\n");
+    TouchUp editor(bench.Place);
+    editor.Replace(2, 4);
+    const TidyReport report = editor.TidyPaints();
+    EXPECT_THAT(report.Dropped, ElementsAre("Paint 2"));
+    EXPECT_THAT(report.Moves,
+                ElementsAre(SymbolMove{"Paint 3", 3, 2}, SymbolMove{"Paint 4", 4, 3}));
+    EXPECT_EQ(bench.Edited(), (Rows{"132", "132"}));
+    EXPECT_TRUE(bench.CountsAreTrue());
+    EXPECT_TRUE(editor.TidyPaints().Dropped.empty());
+    EXPECT_EQ(editor.UndoName(), "Tidy Paints");
+    editor.Undo();
+    EXPECT_EQ(bench.Edited(), (Rows{"143", "143"}));
+    editor.Undo();
+    EXPECT_EQ(bench.Edited(), (Rows{"123", "123"}));
+    editor.Redo();
+    editor.Redo();
+    EXPECT_EQ(bench.State.FoundCount, 3);
+    bench.Files.Write(kSaved, "4,3,1,16\r\n" + kRed + kRed + kRed + kRed +
+                                  "0,1,5,5\r\n0,x,5,5\r\n\r\n\r\n0,1,5,5\r\n");
+    EXPECT_THROW(editor.LoadIt_Click(), FormatError);
+    EXPECT_EQ(bench.State.FoundCount, 4) << "the room is still there";
+}
+
+TEST(Closing, GivesTheKitWhatWasSavedLast) {
+    struct Case {
+        const char* What;
+        std::function<void(TouchUp&)> Edits;
+        bool Asks;
+        Rows Kit;
+    };
+    const auto paint = [](TouchUp& editor, int with) { editor.Fill({1, 1}, with); };
+    const Case cases[] = {
+        {"saved", [&](auto& e) { paint(e, 2), e.SaveIt_Click(); }, false, {"22", "22"}},
+        {"changed after",
+         [&](auto& e) { paint(e, 2), e.SaveIt_Click(), paint(e, 3); },
+         true,
+         {"22", "22"}},
+        {"undone after",
+         [&](auto& e) { paint(e, 2), e.SaveIt_Click(), e.Undo(); },
+         true,
+         {"22", "22"}},
+        {"saved untouched", [&](auto& e) { e.SaveIt_Click(); }, false, {"12", "12"}},
+        {"loaded", [&](auto& e) { e.LoadIt_Click(); }, false, {"12", "12"}},
+        {"loaded over changes",
+         [&](auto& e) { paint(e, 3), e.LoadIt_Click(); },
+         true,
+         {"12", "12"}},
+        {"the load taken back",
+         [&](auto& e) { paint(e, 3), e.LoadIt_Click(), e.DigOut(), e.SaveIt_Click(); },
+         false,
+         {"32", "32"}},
+        {"saved over buried changes",
+         [&](auto& e) { paint(e, 3), e.LoadIt_Click(), e.SaveIt_Click(); },
+         false,
+         {"11", "11"}},
+    };
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.What);
+        KitBench bench({"12", "12"}, 3);
+        bench.Files.Write(kSaved, "3,2,2,50\r\n" + kRed + kRed + kRed + kFourReds);
+        TouchUp editor(bench.Place);
+        test.Edits(editor);
+        EXPECT_EQ(editor.HasChanges(), test.Asks);
+        EXPECT_EQ(editor.Cancel(), test.Kit != (Rows{"12", "12"}));
+        editor.SettleRecovery();
+        EXPECT_EQ(GridOf(bench.State.Stipples), test.Kit);
+        EXPECT_FALSE(bench.State.HasUnsavedWork);
+        EXPECT_FALSE(fs::exists(bench.Files / kRecovery));
+    }
 }
 
 TEST(Cancelling, PutsTheKitBackAsItWas) {
@@ -118,7 +193,7 @@ TEST(Cancelling, PutsTheKitBackAsItWas) {
     EXPECT_EQ(editor.Sheet().Across(), 2) << "the file's own size";
     EXPECT_TRUE(IsChecked(bench.State.Chosen, MenuId::Set16Colors));
     EXPECT_THAT([&] { editor.Accept(); }, ThrowsMessage<Error>(HasSubstr("3 x 2 stipples")));
-    editor.Cancel();
+    EXPECT_FALSE(editor.Cancel());
     EXPECT_TRUE(IsChecked(bench.State.Chosen, MenuId::Set50Colors));
     EXPECT_EQ(bench.State.FinalColors, 50);
     EXPECT_EQ(GridOf(bench.State.Stipples), (Rows{"123", "123"}));
@@ -139,7 +214,6 @@ TEST(Loading, BringsGridPaintsAndFinalPaintsAsOneStep) {
     EXPECT_EQ(checked(), 16);
     EXPECT_EQ(bench.Edited(), (Rows{"11", "11"}));
     EXPECT_TRUE(bench.CountsAreTrue());
-    EXPECT_FALSE(editor.HasChanges());
     editor.Undo();
     EXPECT_EQ(checked(), 50);
     EXPECT_EQ(bench.Edited(), (Rows{"22", "22"}));
@@ -147,7 +221,7 @@ TEST(Loading, BringsGridPaintsAndFinalPaintsAsOneStep) {
     EXPECT_TRUE(editor.HasChanges());
     editor.Redo();
     EXPECT_EQ(checked(), 16);
-    editor.Cancel();
+    EXPECT_FALSE(editor.Cancel());
     EXPECT_EQ(checked(), 50);
     EXPECT_EQ(bench.State.FinalColors, 12);
 }
@@ -214,7 +288,7 @@ TEST(BrokenLoad, LeavesWhatWasReadUntilItIsTakenBack) {
         EXPECT_EQ(bench.State.EditStipples, before.EditStipples);
         EXPECT_EQ(bench.State.FoundCount, 2);
         EXPECT_EQ(bench.State.FinalColors, 50);
-        EXPECT_EQ(editor.Accept().Dropped.size(), 1U);
+        EXPECT_NO_THROW(editor.Accept());
     }
 }
 
@@ -260,26 +334,62 @@ TEST(Recovery, FollowsTheChangesWithinTenSecondsAndGoesWithTheSave) {
     EXPECT_FALSE(fs::exists(bench.Files / kRecovery)) << "nothing has changed since the save";
 }
 
-TEST(Recovery, IsOfferedAfterACrashAndTakenAsOneStep) {
-    KitBench bench({"123", "123"}, 3);
-    {
-        TouchUp crashed(bench.Place);
-        crashed.Replace(2, 3);
-        crashed.KeepRecovery(At(1));
+// What the list shows, each as "Lady Easy", with a star when it fits.
+std::vector<std::string> Listed(const Workplace& place) {
+    std::vector<std::string> rows;
+    for (const KeptWork& work : ListKeptWork(place)) {
+        rows.push_back(work.Photo + " " + work.Difficulty + (work.Fits ? "*" : ""));
     }
+    return rows;
+}
+
+// The program dies while the paint is repainted by another one.
+void CrashAfter(KitBench& bench, int from, int to) {
+    TouchUp crashed(bench.Place);
+    crashed.Replace(from, to);
+    crashed.KeepRecovery(At(1));
+    bench.State.Recovery.reset();
+}
+
+TEST(Recovery, StaysListedUntilWhatCameOfItIsSavedOrItIsThrownAway) {
+    KitBench bench({"123", "123"}, 3);
+    CrashAfter(bench, 2, 3);
+    CrashAfter(bench, 1, 3);
+    bench.Files.Write("Saved Stipples/Old-Dog-Medium.recovery-old.stp", "1,5,5,16\r\n");
+    const auto now = fs::file_time_type::clock::now();
+    fs::last_write_time(bench.Files / "Saved Stipples/Old-Dog-Medium.recovery-old.stp",
+                        now - std::chrono::hours(2));
+    fs::last_write_time(bench.Files / kRecovery, now - std::chrono::hours(1));
+    ASSERT_THAT(Listed(bench.Place), ElementsAre("Lady Easy*", "Lady Easy*", "Old-Dog Medium"));
+    EXPECT_EQ(ListKeptWork(bench.Place)[1].File, bench.Files / kRecovery) << "the newest is first";
     bench.Lay({"112", "112"}, 2);
-    TouchUp editor(bench.Place);
-    ASSERT_TRUE(editor.RecoveryOffered());
-    editor.TakeRecovery();
-    EXPECT_EQ(bench.Edited(), (Rows{"133", "133"}));
-    EXPECT_EQ(bench.State.FoundCount, 3) << "however many paints the kit has now";
-    EXPECT_TRUE(bench.CountsAreTrue());
-    EXPECT_TRUE(editor.HasChanges());
-    editor.Undo();
-    EXPECT_EQ(bench.Edited(), (Rows{"112", "112"}));
-    editor.Cancel();
-    editor.SettleRecovery();
-    EXPECT_FALSE(TouchUp(bench.Place).RecoveryOffered()) << "discarded on purpose";
+    {
+        TouchUp editor(bench.Place);
+        editor.Restore(ListKeptWork(bench.Place)[1]);
+        EXPECT_EQ(bench.Edited(), (Rows{"133", "133"}));
+        EXPECT_EQ(bench.State.FoundCount, 3) << "however many paints the kit has now";
+        EXPECT_TRUE(bench.CountsAreTrue());
+        EXPECT_TRUE(editor.HasChanges());
+        EXPECT_EQ(Listed(bench.Place).size(), 2U) << "it is at work";
+        editor.KeepRecoveryNow();
+        EXPECT_FALSE(editor.Cancel());
+        editor.SettleRecovery();
+    }
+    EXPECT_EQ(Listed(bench.Place).size(), 3U) << "closing is no throwing away";
+    for (const bool accept : {false, true}) {
+        TouchUp editor(bench.Place);
+        editor.Restore(ListKeptWork(bench.Place)[0]);
+        if (accept) {
+            editor.Accept();
+        } else {
+            editor.SaveIt_Click();
+            EXPECT_TRUE(editor.Cancel());
+        }
+        editor.SettleRecovery();
+    }
+    EXPECT_THAT(Listed(bench.Place), ElementsAre("Old-Dog Medium"));
+    ThrowAway(ListKeptWork(bench.Place)[0]);
+    EXPECT_THAT(Listed(bench.Place), IsEmpty());
 }
 
 TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
@@ -291,35 +401,34 @@ TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
         editor.SettleRecovery();
     }
     const std::string accepted = bench.Files.Read(kRecovery);
-    EXPECT_THAT(accepted, HasSubstr("\r\n0,1,5,5\r\n")) << "the one paint left has symbol 1";
+    EXPECT_THAT(accepted, HasSubstr("\r\n0,2,5,5\r\n"));
     {
         TouchUp again(bench.Place);
-        EXPECT_FALSE(again.RecoveryOffered()) << "the work is not lost, it is here";
+        EXPECT_THAT(Listed(bench.Place), IsEmpty()) << "the work is not lost, it is here";
         again.BeginStroke({1, 1}, {BrushSize::One, 1});
         again.KeepRecovery(At(1));
-        again.Cancel();
+        EXPECT_FALSE(again.Cancel());
         again.SettleRecovery();
     }
     EXPECT_TRUE(bench.State.HasUnsavedWork);
     EXPECT_EQ(bench.Files.Read(kRecovery), accepted);
     TouchUp saving(bench.Place);
     saving.SaveIt_Click();
-    saving.Cancel();
+    EXPECT_FALSE(saving.Cancel());
     EXPECT_FALSE(bench.State.HasUnsavedWork);
     EXPECT_FALSE(fs::exists(bench.Files / kRecovery));
 }
 
-TEST(Recovery, ThatCannotBeTakenIsSetAsideBeforeNewWorkIsKept) {
+TEST(Recovery, ThatCannotBeTakenStaysBesideNewWork) {
     KitBench bench({"12", "12"}, 2);
     bench.Files.Write(kRecovery, "1,5,5,16\r\n" + kRed);
     TouchUp editor(bench.Place);
-    EXPECT_THAT([&] { editor.TakeRecovery(); }, ThrowsMessage<FormatError>(HasSubstr("5 x 5")));
-    editor.SettleRecovery();
-    EXPECT_TRUE(fs::exists(bench.Files / kRecovery));
+    EXPECT_THAT([&] { editor.Restore(ListKeptWork(bench.Place)[0]); },
+                ThrowsMessage<FormatError>(HasSubstr("5 x 5")));
     editor.Fill({1, 1}, 2);
     editor.KeepRecovery(At(1));
-    EXPECT_THAT(bench.Files.Read("Saved Stipples/Lady-Easy.recovery-old.stp"), HasSubstr("5,5"));
-    EXPECT_THAT(bench.Files.Read(kRecovery), HasSubstr("2,2,2,50"));
+    EXPECT_THAT(bench.Files.Read(kRecovery), HasSubstr("5,5"));
+    EXPECT_THAT(bench.Files.Read("Saved Stipples/Lady-Easy.recovery-2.stp"), HasSubstr("2,2,2,50"));
 }
 
 TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
@@ -333,17 +442,18 @@ TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
     Workplace place{second.State, second.Frames, second.MainMenu, second.Screen, shared};
     {
         TouchUp other(place);
-        EXPECT_FALSE(other.RecoveryOffered());
+        EXPECT_THAT(Listed(place), IsEmpty());
         other.Fill({2, 1}, 1);
         other.KeepRecovery(At(1));
         EXPECT_EQ(first.Files.Read(kRecovery), living);
         RemoveLeftovers(first.Files / "Saved Stipples");
     }
-    editor.Cancel();
+    second.State.Recovery.reset();
+    EXPECT_FALSE(editor.Cancel());
     editor.SettleRecovery();
     TouchUp again(place);
-    ASSERT_TRUE(again.RecoveryOffered()) << "its own, after its crash";
-    again.TakeRecovery();
+    ASSERT_THAT(Listed(place), ElementsAre("Lady Easy*")) << "its own, after its crash";
+    again.Restore(ListKeptWork(place)[0]);
     EXPECT_EQ(second.Edited(), (Rows{"11", "11"}));
     again.SaveIt_Click();
     again.SettleRecovery();
@@ -351,29 +461,60 @@ TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
 }
 
 TEST(UnsavedWork, OutlivesAStepThatBreaksOff) {
-    for (const auto& [step, replacesGrid, endsWell, unsaved, recoverable] :
-         {std::tuple{"breaks off at once", false, false, true, true},
-          {"breaks off half-way", true, false, false, true},
-          {"succeeds", true, true, false, false}}) {
-        SCOPED_TRACE(step);
+    struct Case {
+        const char* Step;
+        SaveAnswer Answer;
+        bool ReplacesGrid;
+        bool EndsWell;
+        bool Unsaved;      // afterwards
+        bool Recoverable;  // afterwards
+    };
+    using enum SaveAnswer;
+    for (const Case& test : {Case{"breaks off at once", Discard, false, false, true, true},
+                             {"breaks off half-way", Discard, true, false, false, true},
+                             {"succeeds", Discard, true, true, false, false},
+                             {"is refused", Cancel, false, false, true, true},
+                             {"saves first", Save, true, true, false, false}}) {
+        SCOPED_TRACE(test.Step);
         KitBench bench({"12", "12"}, 2);
         bench.State.HasUnsavedWork = true;
         WriteRecoveryOfGrid(bench.Place);
+        bench.Screen.SaveAnswers = {test.Answer};
         {
             GridReplacement replacement(bench.Place);
-            ASSERT_TRUE(replacement.Allowed());
-            EXPECT_TRUE(bench.State.HasUnsavedWork && fs::exists(bench.Files / kRecovery));
-            if (replacesGrid) {
+            ASSERT_EQ(replacement.Allowed(), test.Answer != Cancel);
+            EXPECT_EQ(bench.Program.Exists(kSaved), test.Answer == Save);
+            if (test.ReplacesGrid) {
                 bench.State.PictureName = "Other";
                 bench.State.Stipples = Grid<StippleCell>(2, 2);
             }
-            if (endsWell) {
+            if (test.EndsWell) {
                 replacement.Done();
             }
         }
-        EXPECT_EQ(bench.State.HasUnsavedWork, unsaved);
-        EXPECT_EQ(fs::exists(bench.Files / kRecovery), recoverable);
+        EXPECT_EQ(bench.State.HasUnsavedWork, test.Unsaved);
+        EXPECT_EQ(fs::exists(bench.Files / kRecovery), test.Recoverable);
     }
+}
+
+TEST(UnsavedWork, ThatCannotBeSavedStaysAndOtherSavedStipplesAreAskedFor) {
+    KitBench bench({"12", "12"}, 2);
+    bench.State.HasUnsavedWork = true;
+    WriteRecoveryOfGrid(bench.Place);
+    fs::create_directory(bench.Files / kSaved);
+    bench.Screen.SaveAnswers = {SaveAnswer::Save};
+    EXPECT_THROW(GridReplacement{bench.Place}, FileError);
+    EXPECT_TRUE(bench.State.HasUnsavedWork && fs::exists(bench.Files / kRecovery));
+    fs::remove(bench.Files / kSaved);
+    SaveStipples(bench.Place);
+    bench.State.Stipples(1, 1).AreaNumber = 3;
+    EXPECT_TRUE(MayReplaceSaved(bench.Place)) << "painting changes no stipple";
+    EXPECT_EQ(bench.Screen.Questions.size(), 1U);
+    bench.State.Stipples(1, 1).ColorIndex = 2;
+    bench.Screen.Answers = {false};
+    EXPECT_FALSE(MayReplaceSaved(bench.Place));
+    bench.State.HasUnsavedWork = true;
+    EXPECT_TRUE(MayReplaceSaved(bench.Place)) << "as the editor does it";
 }
 
 }  // namespace

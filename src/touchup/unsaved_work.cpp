@@ -1,0 +1,129 @@
+#include "touchup/unsaved_work.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "shell/paint_id.h"
+#include "storage/stipple_file.h"
+#include "support/error.h"
+#include "support/text_file.h"
+#include "touchup/recovery.h"
+
+namespace vendrel {
+namespace {
+
+SavedGrid GridOf(const WorkState& state) {
+    return {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown,
+            state.FinalColors};
+}
+
+bool SameStipples(const Grid<StippleCell>& a, const Grid<StippleCell>& b) {
+    // Painting deals the area numbers out anew.
+    return a.Across() == b.Across() && a.Down() == b.Down() &&
+           std::ranges::equal(a.All(), b.All(), {}, &StippleCell::ColorIndex,
+                              &StippleCell::ColorIndex);
+}
+
+// Counts are left out: they follow from the stipples.
+bool SamePaints(const PaintList& a, const PaintList& b) {
+    return std::ranges::equal(a, b, [](const PaintColor& one, const PaintColor& other) {
+        return IdOf(one) == IdOf(other) && ColorOf(one) == ColorOf(other);
+    });
+}
+
+// A file that cannot be read to its end holds something else.
+bool HoldsTheKit(const std::filesystem::path& path, const WorkState& state) {
+    try {
+        const std::string text = ReadTextFile(path);
+        StippleFileReader reader(text, path);
+        const StippleHeader header = reader.Header();
+        if (!SamePaints(reader.ReadPalette(), state.PaintColors)) {
+            return false;
+        }
+        Grid<StippleCell> cells(header.Across, header.Down);
+        for (int y = 1; y <= header.Down; ++y) {
+            reader.ReadRow(cells, y, header.Across);
+        }
+        return SameStipples(cells, state.Stipples);
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+}  // namespace
+
+void SaveStipples(Workplace& place) {
+    WriteStippleFile(StippleFilePath(place.Folder, place.State, place.State), GridOf(place.State));
+    KitIsSaved(place);
+}
+
+void KitIsSaved(Workplace& place) {
+    place.MainMenu[MenuId::LoadStipples].Enabled = true;
+    place.State->HasUnsavedWork = false;
+    RemoveRecovery(place.State);
+    place.State->Recovery.reset();
+}
+
+bool MayReplaceSaved(Workplace& place) {
+    const std::filesystem::path path = StippleFilePath(place.Folder, place.State, place.State);
+    return place.State->HasUnsavedWork ||
+           !StippleFileExists(place.Folder, place.State, place.State) ||
+           HoldsTheKit(path, place.State) ||
+           place.Screen.Ask("Save Stipples",
+                            path.filename().string() +
+                                " holds other stipples, perhaps touched-up ones. Replace them?");
+}
+
+GridReplacement::GridReplacement(Workplace& place) : place_(place) {
+    const WorkState& state = place_.State;
+    if (!state.HasUnsavedWork) {
+        return;
+    }
+    const SaveAnswer answer = place_.Screen.AskToSave(
+        "Unsaved Stipples", "The touched-up stipples of " + state.PictureName +
+                                " are not saved. Save them before going on?");
+    allowed_ = answer != SaveAnswer::Cancel;
+    if (answer == SaveAnswer::Save) {
+        SaveStipples(place_);
+    } else if (allowed_) {
+        unsaved_ = {state.Recovery, state.PictureName, state.StippleSize, state.Stipples,
+                    state.PaintColors};
+    }
+}
+
+GridReplacement::~GridReplacement() {
+    // Marked as unsaved, whatever took its place would be kept over the work's recovery file.
+    if (unsaved_ && !StillInKit()) {
+        place_.State->HasUnsavedWork = false;
+        place_.State->Recovery.reset();
+    }
+}
+
+bool GridReplacement::StillInKit() const {
+    const WorkState& state = place_.State;
+    return state.PictureName == unsaved_->PictureName &&
+           state.StippleSize == unsaved_->StippleSize && state.Stipples == unsaved_->Stipples &&
+           state.PaintColors == unsaved_->Paints;
+}
+
+void GridReplacement::Done() {
+    if (unsaved_) {
+        const auto recovery = std::exchange(unsaved_, std::nullopt)->Recovery;
+        place_.State->HasUnsavedWork = false;
+        place_.State->Recovery.reset();
+        if (recovery) {
+            RemoveRecovery(recovery->Path());
+        }
+    }
+}
+
+bool MayReplaceGrid(Workplace& place) {
+    GridReplacement replacement(place);
+    if (replacement.Allowed()) {
+        replacement.Done();
+    }
+    return replacement.Allowed();
+}
+
+}  // namespace vendrel
