@@ -9,7 +9,7 @@
 #include "shell/stipple_grid.h"
 #include "support/decimals.h"
 #include "support/error.h"
-#include "touchup/recovery.h"
+#include "touchup/unsaved_work.h"
 
 namespace vendrel {
 namespace {
