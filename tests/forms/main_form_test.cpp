@@ -128,6 +128,11 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
 // Draws nothing, but tells of its progress; fails when told to.
 class Printer : public Exporter {
   public:
+    SymbolAspects Aspects() const override {
+        SymbolAspects aspects;
+        aspects.fill(0.7);
+        return aspects;
+    }
     void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
                const Target& target) const override {
         place.Screen.SetCaption("Printing");
