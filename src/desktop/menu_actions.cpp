@@ -28,6 +28,7 @@ constexpr Keys kKeys[] = {
     {StartupPaintShop, 'h'},
     {ChangeToStipples, 'C'},
     {ColorPickerSelect, 'T'},
+    {MakeItPaintable, 'M'},
     {PaintItNow, 'I'},
     {PrintMenu, 'v'},
     {PrintWorkform, 'P'},
@@ -51,13 +52,17 @@ constexpr Keys kKeys[] = {
     {SampleMethod, 'S'},
     {AveragePixel, 'A'},
     {SamplePixel, 'S'},
+    {MatchColors, 'M'},
+    {MatchPlain, 'P'},
+    {MatchEye, 'E'},
     {WatchItPaint, 'W'},
     {ShowAbout, 'A'},
     {EndItAll, 'x', "Ctrl+Q"},
 };
 
-constexpr MenuId kCheckable[] = {EasySet,     MediumSet,   HardSet,      Set16Colors, Set32Colors,
-                                 Set40Colors, Set50Colors, AveragePixel, SamplePixel, WatchItPaint};
+constexpr MenuId kCheckable[] = {EasySet,     MediumSet,   HardSet,     Set16Colors,
+                                 Set32Colors, Set40Colors, Set50Colors, AveragePixel,
+                                 SamplePixel, MatchPlain,  MatchEye,    WatchItPaint};
 
 template <std::size_t N>
 bool Contains(const MenuId (&list)[N], MenuId entry) {
