@@ -8,6 +8,7 @@
 #include "convert/settings.h"
 #include "convert/stipple_conversion.h"
 #include "forms/kit_saving.h"
+#include "output/kit_figures.h"
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
 #include "startup/start_up.h"
@@ -120,6 +121,10 @@ std::string MainForm::StatusHint() const {
     if (!place_.State->PictureLoaded) {
         return "Choose a photo: Picture, Load Photo. Or drop one here.";
     }
+    if (menu[PrintMenu].Enabled && isHardToPaint_ && !place_.State->PaintableKit) {
+        return "Many areas are too small for a brush: Picture, Make It Paintable. Or save your "
+               "kit: Picture, Save.";
+    }
     if (menu[PrintMenu].Enabled) {
         return "Save your kit: Picture, Save, Prepair and Save Paint by Symbol.";
     }
@@ -203,6 +208,7 @@ void MainForm::ColorPickerSelect_Click() {
 
 void MainForm::PaintItNow_Click() {
     vendrel::PaintItNow_Click(place_);
+    isHardToPaint_ = IsHardToPaint(MeasureKit(place_));
 }
 
 void MainForm::PrintWorkform_Click() {

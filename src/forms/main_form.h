@@ -97,7 +97,8 @@ class MainForm {
     const Exporter* exporter_;
     FileImport chooser_;
     SaveEverythingForm everything_{place_, exporter_};
-    std::string lastSaved_;  // for the hint, until the next step of the work
+    bool isHardToPaint_ = false;  // the picture painted last
+    std::string lastSaved_;       // for the hint, until the next step of the work
 };
 
 }  // namespace vendrel

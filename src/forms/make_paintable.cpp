@@ -35,6 +35,7 @@ void MakePaintable::Form_Load() {
     wish_.CanvasCm = wish_.CanvasCm > 0 ? wish_.CanvasCm : kUsualCanvasCm;
     wish_.FinalPaints = wish_.FinalPaints > 0 ? wish_.FinalPaints : kFinalPaints.back();
     preview_ = std::make_unique<PaintablePreview>(place_);
+    areasBefore_ = CountGridAreas(state);
     before_ = place_.Frames->WorkFrame.Picture;
     protected_ = state.Protected.All().empty()
                      ? ValueGrid(state.CellsAcross - 1, state.CellsDown - 1)
@@ -189,7 +190,7 @@ void MakePaintable::CancelButton_Click() {
 std::vector<std::string> MakePaintable::FigureLines() const {
     const KitFigures& figures = preview_->Figures();
     return {
-        std::to_string(figures.Areas) + " areas, before " + std::to_string(preview_->AreasBefore()),
+        std::to_string(figures.Areas) + " areas, before " + std::to_string(areasBefore_),
         "Smallest " + Decimals(figures.SmallestMm2, 1) + " mm\u00B2, narrowest part " +
             Decimals(figures.NarrowestMm, 1) + " mm",
         std::to_string(figures.BySize[0]) + " areas under 9 mm\u00B2, " +

@@ -66,6 +66,7 @@ class MakePaintable {
     Workplace& place_;
     Settings wish_;
     std::unique_ptr<PaintablePreview> preview_;
+    int areasBefore_ = 0;
     Surface before_;
     Surface after_;
     ValueGrid protected_;

@@ -36,7 +36,6 @@ void PaintablePreview::Convert(const Settings& wish) {
     (void)ApplyStipples(scratch_.Place);
     state.Chosen = wish;
     converted_ = {wish.Match, wish.FinalPaints, state.PaintColors, state.Stipples};
-    areasBefore_ = CountGridAreas(state);
 }
 
 int CountGridAreas(const WorkState& state) {

@@ -21,8 +21,6 @@ class PaintablePreview {
     [[nodiscard]] const Surface& Photo() const { return scratch_.Frames.CaptureFrame.Picture; }
     [[nodiscard]] const Surface& Painting() const { return scratch_.Frames.WorkFrame.Picture; }
     [[nodiscard]] const KitFigures& Figures() const { return figures_; }
-    /// Areas of the stipple grid before they were made paintable.
-    [[nodiscard]] int AreasBefore() const { return areasBefore_; }
     /// Of the stipples and their paints, mean.
     [[nodiscard]] double SeenDifference() const { return scratch_.State.SeenPerStipple; }
 
@@ -38,7 +36,6 @@ class PaintablePreview {
     ScratchPlace scratch_;
     std::optional<Converted> converted_;
     KitFigures figures_;
-    int areasBefore_ = 0;
 };
 
 /// Stipples that touch side by side and have one paint, counted.

@@ -104,7 +104,6 @@ int CountLoners(const Grid<StippleCell>& stipples) {
 
 // Measured while painting: it costs little beside it, and nobody paints 5,000 areas.
 void FillBrushFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
-    constexpr double kTooMany = 1.0 / 3;
     report.Matched = place.State->Chosen.Match == Matching::ByEye ? "eye" : "plain";
     report.Paintable = place.State->PaintableKit;
     if (options.Quiet && !options.Json) {
@@ -117,7 +116,7 @@ void FillBrushFigures(const Workplace& place, const KitOptions& options, KitRepo
     if (options.Json || options.Figures) {
         report.Seen = CompareWithPhoto(place);
     }
-    if (report.Figures.BelowLimits > kTooMany * report.Figures.Areas) {
+    if (IsHardToPaint(report.Figures)) {
         report.Notes.push_back(
             std::to_string(report.Figures.BelowLimits) + " of " +
             std::to_string(report.Figures.Areas) +

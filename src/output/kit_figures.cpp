@@ -68,6 +68,10 @@ KitFigures MeasureKit(const Workplace& place) {
     return figures;
 }
 
+bool IsHardToPaint(const KitFigures& figures) {
+    return 3 * figures.BelowLimits > figures.Areas;
+}
+
 double PaintingHours(int areas, double mm2) {
     constexpr double kSecondsPerArea = 20;
     constexpr double kSecondsPerMm2 = 60.0 / 1000;

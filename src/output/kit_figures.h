@@ -25,6 +25,9 @@ struct KitFigures {
 /// picture.
 [[nodiscard]] KitFigures MeasureKit(const Workplace& place);
 
+/// Whether so many areas are below the limits that a painter should know before starting.
+[[nodiscard]] bool IsHardToPaint(const KitFigures& figures);
+
 /// Hours of painting: 20 seconds for every area and a minute for every 10 square centimeters.
 [[nodiscard]] double PaintingHours(int areas, double mm2);
 
