@@ -59,27 +59,42 @@ BitmapStream::BitmapStream(const Target& target, int width, int height, PrintSca
     }
     const Header header = MakeHeader(MakeInfoHeader(width, height), scale);
     Put(std::as_bytes(std::span(header)));
+    AwaitAllBut(0);
+}
+
+BitmapStream::~BitmapStream() {
+    AwaitAllBut(0);
+}
+
+void BitmapStream::AwaitAllBut(std::size_t blocks) {
+    if (watcher_ != nullptr) {
+        watcher_->AwaitAllBut(blocks);
+    }
 }
 
 void BitmapStream::Put(std::span<const std::byte> bytes) {
-    file_.Write(bytes);
     if (watcher_ != nullptr) {
-        watcher_->Grew(file_.Descriptor());
+        watcher_->See(bytes);
     }
+    file_.Write(bytes);
+    AwaitAllBut(kBlocksInHand - 1);
 }
 
 void BitmapStream::Write(const Surface& picture) {
     const BitmapInfoHeader info = MakeInfoHeader(picture.Width(), picture.Height());
     const std::size_t rowBytes = info.SizeImage / static_cast<std::size_t>(picture.Height());
     const std::size_t rowsPerBlock = std::max<std::size_t>(1, kBlockBytes / rowBytes);
-    std::vector<std::uint8_t> block(rowsPerBlock * rowBytes);
+    blocks_.fill(std::vector<std::uint8_t>(rowsPerBlock * rowBytes));
+    std::size_t at = 0;
     std::size_t used = 0;
     for (int y = picture.Height() - 1; y >= 0; --y) {
+        std::vector<std::uint8_t>& block = blocks_[at];
         PackRow(picture.Row(y), block.data() + used);
         used += rowBytes;
         if (used == block.size() || y == 0) {
             Write(std::span(block).first(used));
             used = 0;
+            at = (at + 1) % blocks_.size();
         }
     }
 }

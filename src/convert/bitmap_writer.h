@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "support/print_scale.h"
 #include "support/surface.h"
@@ -19,8 +22,16 @@ void WriteBitmap(const Target& target, const Surface& picture, PrintScale scale 
 /// file stays as it was.
 class BitmapStream {
   public:
+    /// A watcher reads blocks while the next ones are drawn: none may change before so many others,
+    /// itself included, have been written, or the stream has ended.
+    static constexpr std::size_t kBlocksInHand = 4;
+
     BitmapStream(const Target& target, int width, int height, PrintScale scale = kSheetScale,
                  Lasting lasting = Lasting::Remade);
+    ~BitmapStream();
+    BitmapStream(const BitmapStream&) = delete;
+    BitmapStream& operator=(const BitmapStream&) = delete;
+
     /// The next rows, the lowest of the picture first, as a cDIBSection of its width holds them.
     void Write(std::span<const std::uint8_t> rows) { Put(std::as_bytes(rows)); }
     /// All rows of a picture of its size.
@@ -34,9 +45,11 @@ class BitmapStream {
 
   private:
     void Put(std::span<const std::byte> bytes);
+    void AwaitAllBut(std::size_t blocks);
 
     WholeFile file_;
     FileWatcher* watcher_;
+    std::array<std::vector<std::uint8_t>, kBlocksInHand> blocks_;  // of a picture written at once
 };
 
 }  // namespace vendrel

@@ -1,39 +1,30 @@
 #include "kitset/running_sum.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <utility>
-
-#include "kitset/sha256.h"
-
 namespace vendrel {
 
 RunningSum::~RunningSum() {
     End();
-    if (file_ >= 0) {
-        close(file_);
+}
+
+void RunningSum::See(std::span<const std::byte> bytes) {
+    {
+        const std::lock_guard lock(mutex_);
+        blocks_.push_back(bytes);
+    }
+    came_.notify_one();
+    if (!thread_.joinable()) {
+        thread_ = std::thread([this] { Run(); });
     }
 }
 
-// Without a handle of its own it watches nothing, and the file is read when it is done.
-void RunningSum::Grew(int file) {
-    if (!thread_.joinable()) {
-        file_ = fcntl(file, F_DUPFD_CLOEXEC, 0);
-        if (file_ >= 0) {
-            thread_ = std::thread([this] { Run(); });
-        }
-    }
-    {
-        const std::lock_guard lock(mutex_);
-        grew_ = true;
-    }
-    changed_.notify_one();
+void RunningSum::AwaitAllBut(std::size_t blocks) {
+    std::unique_lock lock(mutex_);
+    went_.wait(lock, [&] { return blocks_.size() <= blocks; });
 }
 
 std::string RunningSum::Finish() {
     End();
-    return sum_;
+    return sum_.Hex();
 }
 
 void RunningSum::End() {
@@ -41,26 +32,26 @@ void RunningSum::End() {
         const std::lock_guard lock(mutex_);
         ended_ = true;
     }
-    changed_.notify_one();
+    came_.notify_one();
     if (thread_.joinable()) {
         thread_.join();
     }
 }
 
-bool RunningSum::AwaitMore() {
-    std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return ended_ || grew_; });
-    grew_ = false;
-    return !ended_;
-}
-
 void RunningSum::Run() {
-    FileSum sum(file_);
-    while (AwaitMore()) {
-        sum.AddRest();
+    std::unique_lock lock(mutex_);
+    for (;;) {
+        came_.wait(lock, [this] { return ended_ || !blocks_.empty(); });
+        if (blocks_.empty()) {
+            return;
+        }
+        const std::span<const std::byte> block = blocks_.front();
+        lock.unlock();
+        sum_.Add(block);
+        lock.lock();
+        blocks_.pop_front();
+        went_.notify_all();
     }
-    sum.AddRest();
-    sum_ = sum.Hex();
 }
 
 }  // namespace vendrel

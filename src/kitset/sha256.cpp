@@ -25,35 +25,25 @@ std::string HexOf(const Sha256& sum) {
 
 }  // namespace
 
-struct FileSum::Context {
-    int File = -1;
+struct RunningSha256::Context {
     sha256_ctx Sums{};
-    off_t At = 0;
-    bool Readable = true;
-    std::vector<std::uint8_t> Block = std::vector<std::uint8_t>(kBlockBytes);
 };
 
-FileSum::FileSum(int file) : context_(std::make_unique<Context>()) {
-    context_->File = file;
+RunningSha256::RunningSha256() : context_(std::make_unique<Context>()) {
     sha256_init(&context_->Sums);
 }
 
-FileSum::~FileSum() = default;
+RunningSha256::~RunningSha256() = default;
 
-void FileSum::AddRest() {
-    Context& c = *context_;
-    ssize_t got = 0;
-    while ((got = pread(c.File, c.Block.data(), c.Block.size(), c.At)) > 0) {
-        sha256_update(&c.Sums, static_cast<std::size_t>(got), c.Block.data());
-        c.At += got;
-    }
-    c.Readable = c.Readable && got == 0;
+void RunningSha256::Add(std::span<const std::byte> bytes) {
+    sha256_update(&context_->Sums, bytes.size(),
+                  reinterpret_cast<const std::uint8_t*>(bytes.data()));
 }
 
-std::string FileSum::Hex() {
+std::string RunningSha256::Hex() {
     Sha256 sum{};
     sha256_digest(&context_->Sums, sum.size(), sum.data());
-    return context_->Readable ? HexOf(sum) : std::string();
+    return HexOf(sum);
 }
 
 Sha256 Sha256Of(std::string_view bytes) {
@@ -70,10 +60,14 @@ std::string SumOfFile(const std::filesystem::path& path) {
     if (file < 0) {
         return {};
     }
-    FileSum sum(file);
-    sum.AddRest();
+    RunningSha256 sum;
+    std::vector<std::byte> block(kBlockBytes);
+    ssize_t got = 0;
+    while ((got = read(file, block.data(), block.size())) > 0) {
+        sum.Add(std::span(block).first(static_cast<std::size_t>(got)));
+    }
     close(file);
-    return sum.Hex();
+    return got == 0 ? sum.Hex() : std::string();
 }
 
 }  // namespace vendrel

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -13,18 +15,16 @@ using Sha256 = std::array<std::uint8_t, 32>;
 
 [[nodiscard]] Sha256 Sha256Of(std::string_view bytes);
 
-/// The SHA-256 of an open file, from its beginning, read bit by bit while it grows.
-class FileSum {
+/// The SHA-256 of bytes that come one after the other.
+class RunningSha256 {
   public:
-    /// The file must be open for reading, and stay so. Nobody else's place in it is moved.
-    explicit FileSum(int file);
-    ~FileSum();
-    FileSum(const FileSum&) = delete;
-    FileSum& operator=(const FileSum&) = delete;
+    RunningSha256();
+    ~RunningSha256();
+    RunningSha256(const RunningSha256&) = delete;
+    RunningSha256& operator=(const RunningSha256&) = delete;
 
-    /// Up to where the file ends now.
-    void AddRest();
-    /// As `sha256sum` prints it; empty when the file could not be read. Call it once.
+    void Add(std::span<const std::byte> bytes);
+    /// As `sha256sum` prints it. Call it once.
     [[nodiscard]] std::string Hex();
 
   private:

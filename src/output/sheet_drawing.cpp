@@ -1,6 +1,7 @@
 #include "output/sheet_drawing.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -135,11 +136,14 @@ void WriteDrawing(const Target& target, const SheetRecord& record, const SheetLo
     const int scale = CellSizeOf(look);
     const int width = record.Width() * scale;
     const StripPainter painter(record, look);
+    std::array<cDIBSection, BitmapStream::kBlocksInHand> strips;  // outlive the stream
     BitmapStream stream(target, width, record.Height() * scale);
     const int rows = std::max(1, kStripBytes / (3 * width * scale));
-    cDIBSection strip;
+    std::size_t at = 0;
     for (int bottom = record.Height(); bottom > 0; bottom -= rows) {
         const int first = std::max(0, bottom - rows);
+        cDIBSection& strip = strips[at];
+        at = (at + 1) % strips.size();
         if (strip.Height() != (bottom - first) * scale) {
             CreateStrip(strip, width, (bottom - first) * scale);
         }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <filesystem>
+#include <span>
 #include <utility>
 
 namespace vendrel {
@@ -14,8 +16,10 @@ class FileWatcher {
     FileWatcher& operator=(const FileWatcher&) = delete;
     virtual ~FileWatcher() = default;
 
-    /// `file` is the writer's own descriptor, which can be read as well.
-    virtual void Grew(int file) = 0;
+    /// The next bytes of the file. They may be read as long as AwaitAllBut does not tell otherwise.
+    virtual void See(std::span<const std::byte> bytes) = 0;
+    /// Waits until at most so many of the blocks handed over may still be read.
+    virtual void AwaitAllBut(std::size_t blocks) = 0;
 };
 
 /// The file that something is written to, and who watches it grow; nobody when null.
