@@ -58,43 +58,39 @@ BitmapStream::BitmapStream(const Target& target, int width, int height, PrintSca
         throw FileError(target.Place, "there is no picture to save yet. Load a photo first.");
     }
     const Header header = MakeHeader(MakeInfoHeader(width, height), scale);
-    Put(std::as_bytes(std::span(header)));
-    AwaitAllBut(0);
+    Put(std::as_bytes(std::span(header)), nullptr);
 }
 
-BitmapStream::~BitmapStream() {
-    AwaitAllBut(0);
-}
-
-void BitmapStream::AwaitAllBut(std::size_t blocks) {
+void BitmapStream::Put(std::span<const std::byte> bytes, std::shared_ptr<const void> owner) {
+    const std::size_t mayWait = owner == nullptr ? 0 : kBlocksInHand - 1;
     if (watcher_ != nullptr) {
-        watcher_->AwaitAllBut(blocks);
-    }
-}
-
-void BitmapStream::Put(std::span<const std::byte> bytes) {
-    if (watcher_ != nullptr) {
-        watcher_->See(bytes);
+        watcher_->See(bytes, std::move(owner));
     }
     file_.Write(bytes);
-    AwaitAllBut(kBlocksInHand - 1);
+    if (watcher_ != nullptr) {
+        watcher_->AwaitAllBut(mayWait);
+    }
 }
 
 void BitmapStream::Write(const Surface& picture) {
     const BitmapInfoHeader info = MakeInfoHeader(picture.Width(), picture.Height());
     const std::size_t rowBytes = info.SizeImage / static_cast<std::size_t>(picture.Height());
     const std::size_t rowsPerBlock = std::max<std::size_t>(1, kBlockBytes / rowBytes);
-    blocks_.fill(std::vector<std::uint8_t>(rowsPerBlock * rowBytes));
+    using Block = std::vector<std::uint8_t>;
+    std::array<std::shared_ptr<Block>, kBlocksInHand> blocks;
     std::size_t at = 0;
     std::size_t used = 0;
     for (int y = picture.Height() - 1; y >= 0; --y) {
-        std::vector<std::uint8_t>& block = blocks_[at];
+        if (blocks[at] == nullptr) {
+            blocks[at] = std::make_shared<Block>(rowsPerBlock * rowBytes);
+        }
+        Block& block = *blocks[at];
         PackRow(picture.Row(y), block.data() + used);
         used += rowBytes;
         if (used == block.size() || y == 0) {
-            Write(std::span(block).first(used));
+            Write(std::span(block).first(used), blocks[at]);
             used = 0;
-            at = (at + 1) % blocks_.size();
+            at = (at + 1) % blocks.size();
         }
     }
 }

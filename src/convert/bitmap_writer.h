@@ -1,10 +1,10 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
-#include <vector>
+#include <utility>
 
 #include "support/print_scale.h"
 #include "support/surface.h"
@@ -22,18 +22,17 @@ void WriteBitmap(const Target& target, const Surface& picture, PrintScale scale 
 /// file stays as it was.
 class BitmapStream {
   public:
-    /// A watcher reads blocks while the next ones are drawn: none may change before so many others,
-    /// itself included, have been written, or the stream has ended.
-    static constexpr std::size_t kBlocksInHand = 4;
+    /// A watcher reads blocks while the next ones are drawn: none may change before so many,
+    /// itself included, have been written.
+    static constexpr std::size_t kBlocksInHand = 16;
 
     BitmapStream(const Target& target, int width, int height, PrintScale scale = kSheetScale,
                  Lasting lasting = Lasting::Remade);
-    ~BitmapStream();
-    BitmapStream(const BitmapStream&) = delete;
-    BitmapStream& operator=(const BitmapStream&) = delete;
-
-    /// The next rows, the lowest of the picture first, as a cDIBSection of its width holds them.
-    void Write(std::span<const std::uint8_t> rows) { Put(std::as_bytes(rows)); }
+    /// The next rows, the lowest of the picture first, as a cDIBSection of its width holds them;
+    /// `owner` keeps them. Without an owner they may change when it returns.
+    void Write(std::span<const std::uint8_t> rows, std::shared_ptr<const void> owner = nullptr) {
+        Put(std::as_bytes(rows), std::move(owner));
+    }
     /// All rows of a picture of its size.
     void Write(const Surface& picture);
     void Commit() { file_.Commit(); }
@@ -44,12 +43,10 @@ class BitmapStream {
     [[nodiscard]] bool Holds(const std::filesystem::path& other) { return file_.Holds(other); }
 
   private:
-    void Put(std::span<const std::byte> bytes);
-    void AwaitAllBut(std::size_t blocks);
+    void Put(std::span<const std::byte> bytes, std::shared_ptr<const void> owner);
 
     WholeFile file_;
     FileWatcher* watcher_;
-    std::array<std::vector<std::uint8_t>, kBlocksInHand> blocks_;  // of a picture written at once
 };
 
 }  // namespace vendrel

@@ -1,15 +1,17 @@
 #include "kitset/running_sum.h"
 
+#include <utility>
+
 namespace vendrel {
 
 RunningSum::~RunningSum() {
     End();
 }
 
-void RunningSum::See(std::span<const std::byte> bytes) {
+void RunningSum::See(std::span<const std::byte> bytes, std::shared_ptr<const void> owner) {
     {
         const std::lock_guard lock(mutex_);
-        blocks_.push_back(bytes);
+        blocks_.push_back({bytes, std::move(owner)});
     }
     came_.notify_one();
     if (!thread_.joinable()) {
@@ -45,7 +47,7 @@ void RunningSum::Run() {
         if (blocks_.empty()) {
             return;
         }
-        const std::span<const std::byte> block = blocks_.front();
+        const std::span<const std::byte> block = blocks_.front().Bytes;
         lock.unlock();
         sum_.Add(block);
         lock.lock();

@@ -18,7 +18,7 @@ class RunningSum final : public FileWatcher {
     RunningSum() = default;
     ~RunningSum() override;
 
-    void See(std::span<const std::byte> bytes) override;
+    void See(std::span<const std::byte> bytes, std::shared_ptr<const void> owner) override;
     void AwaitAllBut(std::size_t blocks) override;
     /// Whether a file is watched.
     [[nodiscard]] bool Saw() const { return thread_.joinable(); }
@@ -33,7 +33,11 @@ class RunningSum final : public FileWatcher {
     std::mutex mutex_;
     std::condition_variable came_;
     std::condition_variable went_;
-    std::deque<std::span<const std::byte>> blocks_;  // the first is the one being read
+    struct Block {
+        std::span<const std::byte> Bytes;
+        std::shared_ptr<const void> Owner;
+    };
+    std::deque<Block> blocks_;  // the first is the one being read
     bool ended_ = false;
     RunningSha256 sum_;
 };

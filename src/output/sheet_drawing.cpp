@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "convert/bitmap_writer.h"
@@ -136,19 +137,23 @@ void WriteDrawing(const Target& target, const SheetRecord& record, const SheetLo
     const int scale = CellSizeOf(look);
     const int width = record.Width() * scale;
     const StripPainter painter(record, look);
-    std::array<cDIBSection, BitmapStream::kBlocksInHand> strips;  // outlive the stream
+    std::array<std::shared_ptr<cDIBSection>, BitmapStream::kBlocksInHand> strips;
     BitmapStream stream(target, width, record.Height() * scale);
     const int rows = std::max(1, kStripBytes / (3 * width * scale));
     std::size_t at = 0;
     for (int bottom = record.Height(); bottom > 0; bottom -= rows) {
         const int first = std::max(0, bottom - rows);
-        cDIBSection& strip = strips[at];
+        std::shared_ptr<cDIBSection>& owner = strips[at];
         at = (at + 1) % strips.size();
+        if (owner == nullptr) {
+            owner = std::make_shared<cDIBSection>();
+        }
+        cDIBSection& strip = *owner;
         if (strip.Height() != (bottom - first) * scale) {
             CreateStrip(strip, width, (bottom - first) * scale);
         }
         painter.Draw(strip, first);
-        stream.Write({strip.DIBSectionBitsPtr(), strip.hDib()->SizeImage});
+        stream.Write({strip.DIBSectionBitsPtr(), strip.hDib()->SizeImage}, owner);
     }
     stream.Commit();
 }

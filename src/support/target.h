@@ -3,6 +3,7 @@
 #include <concepts>
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <span>
 #include <utility>
 
@@ -16,8 +17,9 @@ class FileWatcher {
     FileWatcher& operator=(const FileWatcher&) = delete;
     virtual ~FileWatcher() = default;
 
-    /// The next bytes of the file. They may be read as long as AwaitAllBut does not tell otherwise.
-    virtual void See(std::span<const std::byte> bytes) = 0;
+    /// The next bytes of the file, which `owner` keeps. They may be read for a while: AwaitAllBut
+    /// tells when they may change.
+    virtual void See(std::span<const std::byte> bytes, std::shared_ptr<const void> owner) = 0;
     /// Waits until at most so many of the blocks handed over may still be read.
     virtual void AwaitAllBut(std::size_t blocks) = 0;
 };

@@ -71,7 +71,7 @@ TEST(Sums, AreThoseOfSha256sumWhetherReadOrWatched) {
     for (const char* part : {"a", "b", "c"}) {
         running.AwaitAllBut(0);  // the block is free again
         block = part;
-        running.See(std::as_bytes(std::span(block)));
+        running.See(std::as_bytes(std::span(block)), nullptr);
     }
     EXPECT_EQ(running.Finish(), abc);
 }
