@@ -1,6 +1,7 @@
 #include "cleanup/join_corners.h"
 
 #include "paintable/print_areas.h"
+#include "shell/stipple_grid.h"
 
 namespace vendrel {
 namespace {
@@ -16,18 +17,8 @@ ValueGrid BrushedPixels(const PaintedPixels& painted, const Surface& picture) {
     return paints;
 }
 
-ValueGrid StipplePaints(const StippleGrid& grid) {
-    ValueGrid paints(grid.CellsAcross - 1, grid.CellsDown - 1);
-    for (int y = 1; y <= grid.CellsDown; ++y) {
-        for (int x = 1; x <= grid.CellsAcross; ++x) {
-            paints(x - 1, y - 1) = grid.Stipples(x, y).ColorIndex - 1;
-        }
-    }
-    return paints;
-}
-
 // The map's last column and row lie behind the picture, where nothing is left to number.
-void Record(const Easel& easel) {
+void TakeOver(const Easel& easel) {
     PaintedPixels& painted = easel.Pixels;
     Surface& picture = easel.Picture;
     painted.PixelMap = Grid<MapPixel>(picture.Width(), picture.Height());
@@ -49,14 +40,14 @@ void JoinCorners(const Easel& easel, const StippleGrid& grid) {
     const Settings& chosen = easel.Settings.Chosen;
     const PrintScale scale = CanvasScale(chosen, easel.Picture.Width());
     PaintedPixels& painted = easel.Pixels;
-    painted.PrintPaints = PaintsForPrint(
-        {BrushedPixels(painted, easel.Picture), StipplePaints(grid), grid.Protected,
-         easel.Settings.StippleSize},
-        LimitsInPixels(chosen.Limits, scale), LimitsInPixels(ThirdOf(chosen.Limits), scale));
+    painted.PrintPaints = PaintsForPrint({BrushedPixels(painted, easel.Picture), PaintsOf(grid),
+                                          grid.Protected, easel.Settings.StippleSize},
+                                         LimitsInPixels(chosen.Limits, scale),
+                                         LimitsInPixels(ThirdOf(chosen.Limits), scale));
     for (int& paint : painted.PrintPaints.All()) {
         ++paint;
     }
-    Record(easel);
+    TakeOver(easel);
     easel.Screen.RefreshWorkFrame();
 }
 

@@ -15,16 +15,6 @@
 namespace vendrel {
 namespace {
 
-ValueGrid PaintsOf(const Grid<StippleCell>& stipples) {
-    ValueGrid paints(stipples.Across() - 1, stipples.Down() - 1);
-    for (int y = 1; y <= stipples.Down(); ++y) {
-        for (int x = 1; x <= stipples.Across(); ++x) {
-            paints(x - 1, y - 1) = stipples(x, y).ColorIndex - 1;
-        }
-    }
-    return paints;
-}
-
 AreaTerms TermsFor(const WorkState& state, const Surface& photo) {
     const PrintScale scale = CanvasScale(state.Chosen, photo.Width());
     return {{SidesOf(photo.Width(), state.StippleSize, state.CellsAcross),
@@ -67,7 +57,7 @@ void MakeStipplesPaintable(Workplace& place) {
     const DistinctColors distinct = FindDistinctColors(
         StippleColors(photo, {state.CellsAcross, state.CellsDown}, size, state.Chosen.Sample));
     const SeenTable table(distinct.Colors, ColorsOf(state.PaintColors));
-    StipplePicture picture{PaintsOf(state.Stipples), {}, state.Protected};
+    StipplePicture picture{PaintsOf(state), {}, state.Protected};
     picture.Colors = ValueGrid(state.CellsAcross - 1, state.CellsDown - 1);
     std::ranges::copy(distinct.IndexOf, picture.Colors.All().begin());
     place.Screen.SetCaption("Making Areas Paintable");

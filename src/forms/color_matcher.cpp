@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "convert/stipple_conversion.h"
+#include "forms/require_grid.h"
 #include "output/chart_contents.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
@@ -18,14 +19,6 @@
 
 namespace vendrel {
 namespace {
-
-void RequireGrid(const WorkState& state) {
-    if (!state.PictureLoaded || state.Stipples.Across() < 1 || state.PaintCount == 0) {
-        throw Error(
-            "The photo has no stipples yet. Choose \"Change To Stipples\" in the Picture menu "
-            "first.");
-    }
-}
 
 Surface DrawSmall(const WorkState& state) {
     Surface small(state.Stipples.Across(), state.Stipples.Down());

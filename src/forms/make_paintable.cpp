@@ -5,6 +5,7 @@
 
 #include "cleanup/paint_pass.h"
 #include "convert/stipple_conversion.h"
+#include "forms/require_grid.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
 #include "support/decimals.h"
@@ -15,14 +16,6 @@ namespace vendrel {
 namespace {
 
 constexpr Color kOutline = Rgb(60, 60, 60);
-
-void RequireGrid(const WorkState& state) {
-    if (!state.PictureLoaded || state.CellsAcross < 1 || state.PaintCount == 0) {
-        throw Error(
-            "The photo has no stipples yet. Choose \"Change To Stipples\" in the Picture menu "
-            "first.");
-    }
-}
 
 }  // namespace
 

@@ -38,14 +38,8 @@ void PaintablePreview::Convert(const Settings& wish) {
     converted_ = {wish.Match, wish.FinalPaints, state.PaintColors, state.Stipples};
 }
 
-int CountGridAreas(const WorkState& state) {
-    ValueGrid paints(state.CellsAcross - 1, state.CellsDown - 1);
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            paints(x - 1, y - 1) = state.Stipples(x, y).ColorIndex;
-        }
-    }
-    return FindRegions(paints).Count();
+int CountGridAreas(const StippleGrid& grid) {
+    return FindRegions(PaintsOf(grid)).Count();
 }
 
 }  // namespace vendrel

@@ -39,6 +39,6 @@ class PaintablePreview {
 };
 
 /// Stipples that touch side by side and have one paint, counted.
-[[nodiscard]] int CountGridAreas(const WorkState& state);
+[[nodiscard]] int CountGridAreas(const StippleGrid& grid);
 
 }  // namespace vendrel

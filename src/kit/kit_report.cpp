@@ -31,7 +31,7 @@ struct FitWords {
     std::string_view Sentence;
 };
 
-constexpr FitWords kFits[] = {
+constexpr FitWords kFitWords[] = {
     {PhotoFit::Keep, "keep", ", its shape kept"},
     {PhotoFit::Crop, "crop", ", cropped"},
     {PhotoFit::CropTop, "top", ", cropped below its top"},
@@ -40,7 +40,7 @@ constexpr FitWords kFits[] = {
 constexpr FitWords kFitsByItself{PhotoFit::Keep, "none", ""};
 
 const FitWords& WordsOf(const std::optional<PhotoFit>& fit) {
-    return fit ? *std::ranges::find(kFits, *fit, &FitWords::Fit) : kFitsByItself;
+    return fit ? *std::ranges::find(kFitWords, *fit, &FitWords::Fit) : kFitsByItself;
 }
 
 std::string MillisecondsLine(const KitReport& report) {

@@ -12,6 +12,16 @@ void SetGrid(StippleGrid& grid, Grid<StippleCell> cells) {
     grid.PaintableKit = false;
 }
 
+ValueGrid PaintsOf(const StippleGrid& grid) {
+    ValueGrid paints(grid.CellsAcross - 1, grid.CellsDown - 1);
+    for (int y = 1; y <= grid.CellsDown; ++y) {
+        for (int x = 1; x <= grid.CellsAcross; ++x) {
+            paints(x - 1, y - 1) = grid.Stipples(x, y).ColorIndex - 1;
+        }
+    }
+    return paints;
+}
+
 OneBased<int> CountStipples(const Grid<StippleCell>& cells, int across, int down, int paintCount) {
     OneBased<int> counts(paintCount);
     for (int y = 1; y <= down; ++y) {

@@ -23,6 +23,9 @@ struct StippleGrid {
 /// CellsDown.
 void SetGrid(StippleGrid& grid, Grid<StippleCell> cells);
 
+/// The paint of every stipple, both from 0.
+[[nodiscard]] ValueGrid PaintsOf(const StippleGrid& grid);
+
 /// Stipples of every paint 1..paintCount in columns 1..across of rows 1..down.
 [[nodiscard]] OneBased<int> CountStipples(const Grid<StippleCell>& cells, int across, int down,
                                           int paintCount);
