@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 #include "desktop/text.h"
 
@@ -59,6 +60,8 @@ constexpr Keys kKeys[] = {
     {ShowAbout, 'A'},
     {EndItAll, 'x', "Ctrl+Q"},
 };
+
+static_assert(std::size(kKeys) == kMenuEntryCount, "every entry has its keys");
 
 constexpr MenuId kCheckable[] = {EasySet,     MediumSet,   HardSet,     Set16Colors,
                                  Set32Colors, Set40Colors, Set50Colors, AveragePixel,
