@@ -73,6 +73,7 @@ void SizeGrid(Workplace& place) {
     SetFoundColors(state, {});
     SetGrid(state, Grid<StippleCell>(state.PictureWidth / twips.X / state.StippleSize,
                                      state.PictureHeight / twips.Y / state.StippleSize));
+    state.PaintableKit = false;
 }
 
 void FillBlock(Surface& picture, const StippleCell& cell, int half) {

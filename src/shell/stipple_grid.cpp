@@ -9,7 +9,6 @@ void SetGrid(StippleGrid& grid, Grid<StippleCell> cells) {
     grid.CellsAcross = grid.Stipples.Across();
     grid.CellsDown = grid.Stipples.Down();
     grid.CellMarks = Grid<CellMark>(grid.CellsAcross, grid.CellsDown);
-    grid.PaintableKit = false;
 }
 
 ValueGrid PaintsOf(const StippleGrid& grid) {

@@ -72,6 +72,7 @@ void Commit(WorkState& state, LoadedGrid loaded) {
     SetFoundColors(state, loaded.Palette);
     SetPalette(state, std::move(loaded.Palette));
     SetGrid(state, std::move(loaded.Cells));
+    state.PaintableKit = false;  // a file does not know
 }
 
 void TellOtherShape(Ui& screen, const StippleGrid& grid, const std::filesystem::path& path,

@@ -6,6 +6,7 @@
 #include "convert/stipple_conversion.h"
 #include "forms/main_form.h"
 #include "forms/studio.h"
+#include "forms/touch_up_form.h"
 #include "support/error.h"
 
 namespace vendrel::test {
@@ -99,6 +100,10 @@ TEST_F(MakePaintableTest, PaintsAPaintedKitAnewAndProtectsItUntilAnotherPhotoCom
     EXPECT_TRUE(studio_.MainMenu[MenuId::PrintMenu].Enabled);
     EXPECT_EQ(studio_.Frames.WorkFrame.Picture, form_.After());
     EXPECT_EQ(studio_.State.Protected, form_.Protected());
+    TouchUpForm editor(studio_.Place);
+    editor.Form_Load();
+    editor.Accept_Click();
+    EXPECT_TRUE(studio_.State.PaintableKit) << "touched up it is painted as before";
     main_.TakePhoto(studio_.Files / "Pictures/four.bmp");
     EXPECT_TRUE(studio_.State.Protected.All().empty());
 }
