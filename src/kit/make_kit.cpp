@@ -116,7 +116,13 @@ void FillBrushFigures(const Workplace& place, const KitOptions& options, KitRepo
     if (options.Json || options.Figures) {
         report.Seen = CompareWithPhoto(place);
     }
-    if (IsHardToPaint(report.Figures)) {
+    if (report.Paintable && report.Figures.BelowLimits > 0) {
+        report.Notes.push_back(
+            std::to_string(report.Figures.BelowLimits) + " of " +
+            std::to_string(report.Figures.Areas) +
+            " areas are below the limits, since the saved grid was taken as it is; without "
+            "--from-grid none would be.");
+    } else if (IsHardToPaint(report.Figures)) {
         report.Notes.push_back(
             std::to_string(report.Figures.BelowLimits) + " of " +
             std::to_string(report.Figures.Areas) +

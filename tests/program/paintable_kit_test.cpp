@@ -1,11 +1,13 @@
 #include <gmock/gmock.h>
 
-#include <map>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include "convert/bitmap_reader.h"
 #include "program/studio.h"
+#include "support/cell_pos.h"
+#include "support/grid.h"
 #include "support/print_scale.h"
 
 namespace vendrel {
@@ -14,20 +16,18 @@ namespace {
 using test::Figure;
 using test::Studio;
 
-using Pixel = std::pair<int, int>;
-
-// The pixels of one color that touch side by side, from one of them; they are taken out of `rest`.
-std::vector<Pixel> TakeArea(const Surface& painting, std::map<Pixel, Color>& rest) {
-    std::vector<Pixel> area = {rest.begin()->first};
-    const Color color = rest.begin()->second;
-    rest.erase(rest.begin());
+// The pixels of one color that touch side by side, from one of them on; they become area `id`.
+std::vector<CellPos> TakeArea(const Surface& painting, CellPos from, int id, ValueGrid& owner) {
+    std::vector<CellPos> area = {from};
+    owner(from.X, from.Y) = id;
     for (std::size_t i = 0; i < area.size(); ++i) {
-        const auto [y, x] = area[i];
-        for (const Pixel& beside : {Pixel{y - 1, x}, {y, x - 1}, {y, x + 1}, {y + 1, x}}) {
-            const auto found = rest.find(beside);
-            if (found != rest.end() && painting.Get(beside.second, beside.first) == color) {
-                area.push_back(beside);
-                rest.erase(found);
+        const auto [x, y] = area[i];
+        for (const CellPos at :
+             {CellPos{x, y - 1}, CellPos{x - 1, y}, CellPos{x + 1, y}, CellPos{x, y + 1}}) {
+            if (owner.Holds(at.X, at.Y) && owner(at.X, at.Y) == 0 &&
+                painting.Get(at.X, at.Y) == painting.Get(from.X, from.Y)) {
+                owner(at.X, at.Y) = id;
+                area.push_back(at);
             }
         }
     }
@@ -35,18 +35,17 @@ std::vector<Pixel> TakeArea(const Surface& painting, std::map<Pixel, Color>& res
 }
 
 // Whether a disc around a pixel's middle or corner stays in the area: `twice` counts half pixels.
-bool HoldsDiscAt(const std::map<Pixel, int>& owner, int id, Pixel twice, double radius) {
+bool HoldsDiscAt(const ValueGrid& owner, int id, CellPos twice, double radius) {
     const int reach = static_cast<int>(radius) + 2;
-    for (int y = twice.first / 2 - reach; y <= twice.first / 2 + reach; ++y) {
-        for (int x = twice.second / 2 - reach; x <= twice.second / 2 + reach; ++x) {
+    for (int y = twice.Y / 2 - reach; y <= twice.Y / 2 + reach; ++y) {
+        for (int x = twice.X / 2 - reach; x <= twice.X / 2 + reach; ++x) {
             const auto gap = [](double at, int pixel) {
                 return std::max({pixel - at, at - pixel - 1, 0.0});
             };
-            const double dy = gap(twice.first / 2.0, y);
-            const double dx = gap(twice.second / 2.0, x);
-            const auto found = owner.find({y, x});
+            const double dy = gap(twice.Y / 2.0, y);
+            const double dx = gap(twice.X / 2.0, x);
             if (dx * dx + dy * dy < radius * radius - 1e-9 &&
-                (found == owner.end() || found->second != id)) {
+                (!owner.Holds(x, y) || owner(x, y) != id)) {
                 return false;
             }
         }
@@ -54,43 +53,42 @@ bool HoldsDiscAt(const std::map<Pixel, int>& owner, int id, Pixel twice, double 
     return true;
 }
 
-// Every area of a painting, looked at pixel by pixel.
-void ExpectPaintable(const Surface& painting, PrintScale scale, int areaCount) {
-    std::map<Pixel, Color> rest;
-    for (int y = 0; y < painting.Height(); ++y) {
-        for (int x = 0; x < painting.Width(); ++x) {
-            rest[{y, x}] = painting.Get(x, y);
+bool HoldsDisc(const ValueGrid& owner, int id, CellPos at, double radius) {
+    for (int half = 0; half < 4; ++half) {
+        if (HoldsDiscAt(owner, id, {2 * at.X + half % 2, 2 * at.Y + half / 2}, radius)) {
+            return true;
         }
     }
-    std::vector<std::vector<Pixel>> areas;
-    std::map<Pixel, int> owner;
-    while (!rest.empty()) {
-        areas.push_back(TakeArea(painting, rest));
-        for (const Pixel& pixel : areas.back()) {
-            owner[pixel] = static_cast<int>(areas.size()) - 1;
+    return false;
+}
+
+// Every area of a painting, looked at pixel by pixel.
+void ExpectPaintable(const Surface& painting, PrintScale scale, int areaCount) {
+    ValueGrid owner(painting.Width() - 1, painting.Height() - 1);
+    std::vector<std::vector<CellPos>> areas;
+    for (int y = 0; y < painting.Height(); ++y) {
+        for (int x = 0; x < painting.Width(); ++x) {
+            if (owner(x, y) == 0) {
+                const int id = static_cast<int>(areas.size()) + 1;
+                areas.push_back(TakeArea(painting, {x, y}, id, owner));
+            }
         }
     }
     EXPECT_EQ(static_cast<int>(areas.size()), areaCount);
-    for (int id = 0; id < static_cast<int>(areas.size()); ++id) {
-        const std::vector<Pixel>& area = areas[static_cast<std::size_t>(id)];
+    for (const std::vector<CellPos>& area : areas) {
+        const CellPos first = area.front();
+        const int id = owner(first.X, first.Y);
         EXPECT_GE(scale.Mm2(static_cast<double>(area.size())), 25 - 1e-9);
         EXPECT_TRUE(std::ranges::any_of(
-            area,
-            [&](const Pixel& at) {
-                for (int half = 0; half < 4; ++half) {
-                    const Pixel twice{2 * at.first + half / 2, 2 * at.second + half % 2};
-                    if (HoldsDiscAt(owner, id, twice, scale.Pixels(1))) {
-                        return true;
-                    }
-                }
-                return false;
-            }))
-            << "too narrow at " << area.front().second << ", " << area.front().first;
+            area, [&](CellPos at) { return HoldsDisc(owner, id, at, scale.Pixels(1)); }))
+            << "too narrow at " << first.X << ", " << first.Y;
     }
 }
 
 TEST(PaintableKit, HasNoAreaBelowTheLimitsAndTheSameAreasInPaintingSheetAndFigures) {
-    for (const char* level : {"easy"}) {  // larger stipples lose more to the brush's corners
+    for (const auto& [level, name] :
+         {std::pair<const char*, std::string>{"easy", "own Easy Painting.BMP"},
+          {"difficult", "own Difficult Painting.BMP"}}) {
         Studio studio;
         ASSERT_EQ(studio.Kit({VENDREL_SOURCE_DIR "/Pictures/PBNLady.bmp", "--paintable", "--json",
                               "--title", "own", "--difficulty", level}),
@@ -99,8 +97,6 @@ TEST(PaintableKit, HasNoAreaBelowTheLimitsAndTheSameAreasInPaintingSheetAndFigur
         const int areas = Figure(studio.Out, "figures", "areas");
         EXPECT_EQ(Figure(studio.Out, "numbering", "areas"), areas);
         EXPECT_EQ(Figure(studio.Out, "numbering", "withoutSymbol"), 0);
-        const std::string name =
-            level == std::string("easy") ? "own Easy Painting.BMP" : "own Difficult Painting.BMP";
         const Surface painting = ReadBitmap(studio.Files / ("Results/" + name));
         ExpectPaintable(painting, PrintScale::OfCanvas(40, painting.Width()), areas);
 
@@ -121,6 +117,15 @@ TEST(PaintableKit, APlainKitCountsWhatIsTooSmallAndSaysWhatWouldHelp) {
                           "--canvas", "20cm", "--outputs", "painting"}),
               0);
     EXPECT_THAT(studio.Out, testing::HasSubstr("--paintable makes a kit without them."));
+    // A plain grid stays as it is, though it is painted as it will be printed.
+    ASSERT_EQ(studio.Kit({VENDREL_SOURCE_DIR "/Pictures/PBNLady.bmp", "--difficulty", "medium",
+                          "--canvas", "20cm", "--outputs", "grid,painting"}),
+              0);
+    ASSERT_EQ(
+        studio.Kit({VENDREL_SOURCE_DIR "/Pictures/PBNLady.bmp", "--difficulty", "medium",
+                    "--canvas", "20cm", "--outputs", "painting", "--paintable", "--from-grid"}),
+        0);
+    EXPECT_THAT(studio.Out, testing::HasSubstr("since the saved grid was taken as it is"));
     ASSERT_EQ(studio.Kit({VENDREL_SOURCE_DIR "/Pictures/PBNLady.bmp", "--difficulty", "medium",
                           "--match", "eye", "--smallest", "0", "--narrowest", "0", "--canvas",
                           "300cm", "--outputs", "painting"}),
