@@ -1,6 +1,7 @@
 #include "output/cell_numbering.h"
 
 #include <array>
+#include <future>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,6 +18,22 @@ namespace {
 constexpr int kForeign = 127;  // stands for every index beyond the palette
 static_assert(kSymbolCount < kForeign);
 
+// What the numbers know of each pixel before the walk.
+Grid<NumberPixel> PixelsOf(const Grid<MapPixel>& map, int width, int height, TwipsPerPixel twips) {
+    Grid<NumberPixel> pixels(width, height);
+    for (int y = 1; y <= height; ++y) {
+        const auto from = map.Row(y);
+        const auto to = pixels.Row(y);
+        for (int x = 1; x <= width; ++x) {
+            NumberPixel& pixel = to[x];
+            pixel.ColorIndex = static_cast<std::int16_t>(from[x].ColorIndex);
+            pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
+            pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
+        }
+    }
+    return pixels;
+}
+
 class Numbering {
   public:
     Numbering(Workplace& place, Surface* picture)
@@ -32,7 +49,7 @@ class Numbering {
 
   private:
     void SizeGrids();
-    void FillRow(int y, TwipsPerPixel twips);
+    void FillRow(int y);
     void ReMarkCells(int paint);
     void MarkOneNumber(CellPos seed);
     void AddSeedNeighbours(CellPos seed);
@@ -70,32 +87,31 @@ void Numbering::SizeGrids() {
         painted_.PixelMap.Down() < numbers_.NumberHeight) {
         throw Error("The picture is not painted yet. Paint it before its areas are numbered.");
     }
-    numbers_.NumberGrid = Grid<NumberPixel>(numbers_.NumberWidth, numbers_.NumberHeight);
+    // Filling fresh memory takes its time, so the large grid is filled beside the others.
+    auto pixels = std::async(std::launch::async, [this] {
+        return PixelsOf(painted_.PixelMap, numbers_.NumberWidth, numbers_.NumberHeight,
+                        place_.Screen.Screen().Twips);
+    });
     numbers_.NumberMarks = Grid<NumberMark>(numbers_.NumberWidth, numbers_.NumberHeight);
     record_ = SheetRecord(numbers_.NumberWidth, numbers_.NumberHeight);
     seeds_ = OneBased<std::vector<CellPos>>(painted_.PaintCount);
-    const TwipsPerPixel twips = place_.Screen.Screen().Twips;
     for (int y = 1; y <= numbers_.NumberHeight; ++y) {
-        FillRow(y, twips);
+        FillRow(y);
     }
+    numbers_.NumberGrid = pixels.get();
 }
 
 // An area can begin only where a run of its paint begins, or in the last column, which the walk
 // never enters from the left: every other pixel is reached from its left neighbour. So the search
 // for first pixels looks at these alone, once for all paints.
-void Numbering::FillRow(int y, TwipsPerPixel twips) {
+void Numbering::FillRow(int y) {
     const auto from = painted_.PixelMap.Row(y);
-    const auto to = numbers_.NumberGrid.Row(y);
     const auto marks = numbers_.NumberMarks.Row(y);
     int before = 0;
     for (int x = 1; x <= numbers_.NumberWidth; ++x) {
         const int paint = from[x].ColorIndex;
-        NumberPixel& pixel = to[x];
-        pixel.ColorIndex = static_cast<std::int16_t>(paint);
         const bool known = paint >= 0 && paint <= painted_.PaintCount;
         marks[x].ColorIndex = static_cast<std::uint8_t>(known ? paint : kForeign) & 0x7F;
-        pixel.XTwips = static_cast<std::int16_t>(x * twips.X);
-        pixel.YTwips = static_cast<std::int16_t>(y * twips.Y);
         if ((paint != before || x == numbers_.NumberWidth) && paint > 0 && known) {
             seeds_[paint].push_back({x, y});
         }
