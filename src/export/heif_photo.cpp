@@ -4,7 +4,10 @@
 
 #include <QColorSpace>
 #include <algorithm>
+#include <array>
 #include <utility>
+
+#include "export/deep_planes.h"
 
 namespace vendrel {
 namespace {
@@ -19,6 +22,7 @@ struct Releaser {
 using Context = std::unique_ptr<heif_context, Releaser<heif_context_free>>;
 using Handle = std::unique_ptr<heif_image_handle, Releaser<heif_image_handle_release>>;
 using Options = std::unique_ptr<heif_decoding_options, Releaser<heif_decoding_options_free>>;
+using Picture = std::unique_ptr<heif_image, Releaser<heif_image_release>>;
 using CodedColors =
     std::unique_ptr<heif_color_profile_nclx, Releaser<heif_nclx_color_profile_free>>;
 
@@ -101,31 +105,62 @@ class HeifPhoto final : public PhotoSource {
         return QImageIOHandler::TransformationNone;
     }
     // The result beside the planes of brightness and color that it is made from.
-    [[nodiscard]] std::size_t MemoryFor(int /*divisor*/) const override {
-        const std::size_t deep =
-            heif_image_handle_get_luma_bits_per_pixel(photo_.get()) > 8 ? 2 : 1;
-        return static_cast<std::size_t>(Size().Width) * static_cast<std::size_t>(Size().Height) *
-               (HasAlpha() ? 8 : 6) * deep;
+    [[nodiscard]] std::size_t MemoryFor(int divisor) const override {
+        const std::size_t pixels =
+            static_cast<std::size_t>(Size().Width) * static_cast<std::size_t>(Size().Height);
+        if (IsDeep()) {
+            return pixels * 9 + pixels * 3 / static_cast<std::size_t>(divisor * divisor);
+        }
+        return pixels * (HasAlpha() ? 8 : 6);
     }
 
-    [[nodiscard]] QImage Read(int /*divisor*/, const ReadProgress& progress) override {
-        const Options options(heif_decoding_options_alloc());
-        options->convert_hdr_to_8bit = 1;
-        options->strict_decoding = 1;
-        heif_image* decoded = nullptr;
-        Require(heif_decode_image(
-            photo_.get(), &decoded, heif_colorspace_RGB,
-            HasAlpha() ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB,
-            options.get()));
+    [[nodiscard]] QImage Read(int divisor, const ReadProgress& progress) override {
+        QImage image =
+            IsDeep()
+                ? ReadDeep(divisor)
+                : Wrapped(Decoded(heif_colorspace_RGB, HasAlpha() ? heif_chroma_interleaved_RGBA
+                                                                  : heif_chroma_interleaved_RGB));
         if (progress) {
             progress(100);
         }
-        QImage image = Wrapped(decoded);
         image.setColorSpace(ColorsOf(photo_.get()));
         return image;
     }
 
   private:
+    [[nodiscard]] heif_image* Decoded(heif_colorspace space, heif_chroma chroma) const {
+        const Options options(heif_decoding_options_alloc());
+        options->convert_hdr_to_8bit = IsDeep() ? 0 : 1;
+        options->strict_decoding = 1;
+        heif_image* decoded = nullptr;
+        Require(heif_decode_image(photo_.get(), &decoded, space, chroma, options.get()));
+        return decoded;
+    }
+
+    // With transparency it takes the other way: that of a telephone has none.
+    [[nodiscard]] bool IsDeep() const {
+        return heif_image_handle_get_luma_bits_per_pixel(photo_.get()) > 8 && !HasAlpha();
+    }
+
+    // Brought to eight bits by the decoder, a photo of ten would be held in three depths at once.
+    [[nodiscard]] QImage ReadDeep(int divisor) const {
+        const Picture decoded(Decoded(heif_colorspace_RGB, heif_chroma_444));
+        std::array<DeepPlane, 3> planes;
+        constexpr std::array kChannels = {heif_channel_R, heif_channel_G, heif_channel_B};
+        for (std::size_t i = 0; i < planes.size(); ++i) {
+            DeepPlane& plane = planes[i];
+            plane.Bytes =
+                heif_image_get_plane_readonly(decoded.get(), kChannels[i], &plane.RowBytes);
+            plane.Bits = heif_image_get_bits_per_pixel_range(decoded.get(), kChannels[i]);
+            const BitmapSize size{heif_image_get_width(decoded.get(), kChannels[i]),
+                                  heif_image_get_height(decoded.get(), kChannels[i])};
+            if (plane.Bytes == nullptr || plane.Bits <= 8 || plane.Bits > 16 || size != Size()) {
+                ThrowDamaged();
+            }
+        }
+        return Shrunk(planes, Size(), divisor);
+    }
+
     [[nodiscard]] bool HasAlpha() const {
         return heif_image_handle_has_alpha_channel(photo_.get()) != 0;
     }

@@ -2,6 +2,8 @@
 
 #include <QBuffer>
 #include <QImageWriter>
+#include <algorithm>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 
@@ -52,18 +54,31 @@ heif_error Append(heif_context* /*context*/, const void* data, std::size_t size,
 // The encoder's picture of an image, with its colors noted.
 std::shared_ptr<heif_image> HeifPicture(const QImage& image, const HeifNotes& notes) {
     const bool alpha = image.hasAlphaChannel();
-    const QImage plain =
-        image.convertToFormat(alpha ? QImage::Format_RGBA8888 : QImage::Format_RGB888);
-    const auto chroma = alpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB;
+    const bool deep = notes.Bits > 8;
+    const QImage plain = image.convertToFormat(alpha  ? QImage::Format_RGBA8888
+                                               : deep ? QImage::Format_RGBX64
+                                                      : QImage::Format_RGB888);
+    const auto chroma = alpha  ? heif_chroma_interleaved_RGBA
+                        : deep ? heif_chroma_interleaved_RRGGBB_LE
+                               : heif_chroma_interleaved_RGB;
     heif_image* made = nullptr;
     heif_image_create(plain.width(), plain.height(), heif_colorspace_RGB, chroma, &made);
     std::shared_ptr<heif_image> picture(made, heif_image_release);
-    heif_image_add_plane(made, heif_channel_interleaved, plain.width(), plain.height(), 8);
+    heif_image_add_plane(made, heif_channel_interleaved, plain.width(), plain.height(), notes.Bits);
     int rowBytes = 0;
     std::uint8_t* const to = heif_image_get_plane(made, heif_channel_interleaved, &rowBytes);
     for (int y = 0; y < plain.height(); ++y) {
-        std::copy_n(plain.constScanLine(y), plain.width() * (alpha ? 4 : 3),
-                    to + std::ptrdiff_t{y} * rowBytes);
+        const uchar* const from = plain.constScanLine(y);
+        std::uint8_t* const row = to + std::ptrdiff_t{y} * rowBytes;
+        if (!deep) {
+            std::copy_n(from, plain.width() * (alpha ? 4 : 3), row);
+        }
+        for (int i = 0; deep && i < plain.width() * 3; ++i) {
+            quint16 value = 0;
+            std::memcpy(&value, from + i / 3 * 8 + i % 3 * 2, sizeof value);
+            value = static_cast<quint16>(value >> (16 - notes.Bits));
+            std::memcpy(row + std::ptrdiff_t{i} * 2, &value, sizeof value);
+        }
     }
     const std::shared_ptr<heif_color_profile_nclx> colors(heif_nclx_color_profile_alloc(),
                                                           heif_nclx_color_profile_free);

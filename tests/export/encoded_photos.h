@@ -15,6 +15,7 @@ struct HeifNotes {
     std::string Profile = {};  // ICC
     int Primaries = 1;         // of the profile without ICC
     int Curve = 13;
+    int Bits = 8;  // per channel, or 10
 };
 
 /// A picture as a file of "jpeg", "png", "webp", "tiff", "bmp", "gif" (128 greys), "heic" or

@@ -259,9 +259,11 @@ TEST(PhotoReader, BringsTheColorsOfTelephonesToSrgb) {
         {{}, QColorSpace(QColorSpace::SRgb)},
         {{.Profile = profile}, QColorSpace(QColorSpace::DisplayP3)},
         {{.Primaries = 12}, QColorSpace(QColorSpace::DisplayP3)},
+        {{.Primaries = 12, .Bits = 10}, QColorSpace(QColorSpace::DisplayP3)},
         {{.Curve = 8}, QColorSpace(QColorSpace::Primaries::SRgb, Curve::Linear)}};
     for (const auto& [notes, space] : cases) {
-        const Color seen = Decode(test::EncodedHeif(image, "avif", notes)).Get(9, 9);
+        const Color seen =
+            Decode(test::EncodedHeif(image, notes.Bits > 8 ? "heic" : "avif", notes)).Get(9, 9);
         const QRgb meant =
             space.transformationToColorSpace(QColorSpace(QColorSpace::SRgb)).map(image.pixel(9, 9));
         EXPECT_NEAR(RedOf(seen), qRed(meant), 2) << notes.Primaries << notes.Curve;
@@ -274,7 +276,8 @@ TEST(PhotoReader, ReadsLargePhotosSmaller) {
     const QImage wide = Quadrants("RGBW", 4102, 64);
     for (const std::string& file :
          {Encoded(wide, "jpeg"), Encoded(wide, "png"), Encoded(wide, "heic"), Encoded(wide, "tiff"),
-          Encoded(wide.convertToFormat(QImage::Format_Indexed8), "png")}) {
+          Encoded(wide.convertToFormat(QImage::Format_Indexed8), "png"),
+          test::EncodedHeif(wide, "heic", {.Bits = 10})}) {
         const Surface photo = Decode(file);
         EXPECT_EQ(photo.Width(), 2051);
         EXPECT_EQ(photo.Height(), 32);
