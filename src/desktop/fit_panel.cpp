@@ -34,7 +34,7 @@ void WrapText(QLabel& text, int lines) {
 FitPanel::FitPanel(Shows shows)
     : shows_(shows),
       preview_(Named<QLabel>("Preview", tr("Preview of the photo"))),
-      description_(Named<QLabel>("Description", tr("About the photo"))),
+      description_(new ValueLabel("Description", tr("About the photo"))),
       box_(Named<QGroupBox>("Ways", tr("How the photo comes onto the sheet"))),
       ways_{MakeWay(PhotoFit::Keep, "KeepWay", tr("&Keep Its Shape")),
             MakeWay(PhotoFit::Crop, "CropWay", tr("Crop to &Fit")),
@@ -108,7 +108,7 @@ void FitPanel::ArrangeSideBySide() {
 
 void FitPanel::Mirror(const FitControls& shown) {
     const bool every = shows_ == Shows::EveryWay;
-    description_->setText(Text(every ? shown.Title : shown.Description));
+    description_->Show(Text(every ? shown.Title : shown.Description));
     preview_->setAccessibleDescription(description_->text());
     if (shown.Preview.Empty()) {
         preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));
