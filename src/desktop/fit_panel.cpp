@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -14,9 +15,17 @@ namespace vendrel {
 namespace {
 
 constexpr int kPreviewSide = 270;
+constexpr int kSmallestPreview = 150;
+constexpr int kBesidePreview = 360;  // height of what the chooser shows over and under it
 
-void FramePicture(QLabel& picture) {
-    picture.setFixedSize(kPreviewSide, kPreviewSide);
+// Of the chooser's preview: on a small screen its buttons need the room.
+int PreviewHeight() {
+    const int room = QGuiApplication::primaryScreen()->availableSize().height() - kBesidePreview;
+    return std::clamp(room, kSmallestPreview, kPreviewSide);
+}
+
+void FramePicture(QLabel& picture, int height = kPreviewSide) {
+    picture.setFixedSize(kPreviewSide, height);
     picture.setAlignment(Qt::AlignCenter);
     picture.setFrameShape(QFrame::StyledPanel);
 }
@@ -68,7 +77,7 @@ void FitPanel::Arrange() {
 }
 
 void FitPanel::ArrangeInOneColumn() {
-    FramePicture(*preview_);
+    FramePicture(*preview_, PreviewHeight());
     WrapText(*description_, 5);
     auto* ways = new QVBoxLayout(box_);
     for (const Way& way : ways_) {
@@ -113,7 +122,11 @@ void FitPanel::Mirror(const FitControls& shown) {
     if (shown.Preview.Empty()) {
         preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));
     } else {
-        preview_->setPixmap(QPixmap::fromImage(ToImage(shown.Preview)));
+        QPixmap picture = QPixmap::fromImage(ToImage(shown.Preview));
+        if (const int height = preview_->contentsRect().height(); picture.height() > height) {
+            picture = picture.scaledToHeight(height, Qt::SmoothTransformation);
+        }
+        preview_->setPixmap(picture);
     }
     box_->setVisible(!shown.Ways.empty());
     for (const Way& way : ways_) {

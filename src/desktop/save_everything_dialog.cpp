@@ -1,6 +1,5 @@
 #include "desktop/save_everything_dialog.h"
 
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -24,6 +23,7 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
       grid_(Named<QCheckBox>("SaveGrid", tr("Stipples, to touch them up another day"))),
       pdf_(Named<QCheckBox>("SavePdfToo", tr("Kit as PDF, to print"))),
       plan_(new PlanPanel),
+      pages_(new QGroupBox(tr("The PDF"))),
       folders_(new ValueLabel("SaveFolders", tr("Folders"))) {
     setWindowTitle(tr("Save Everything"));
     Arrange();
@@ -38,8 +38,7 @@ void SaveEverythingDialog::Arrange() {
     auto* choices = new QVBoxLayout(chosen);
     choices->addWidget(grid_);
     choices->addWidget(pdf_);
-    choices->addWidget(plan_);
-    plan_->hide();
+    (new QVBoxLayout(pages_))->addWidget(plan_);
     QPushButton* save =
         MakeButton("SaveEverything", tr("&Save"), [this] { form_.SaveButton_Click(); });
     save->setDefault(true);
@@ -49,9 +48,16 @@ void SaveEverythingDialog::Arrange() {
     buttons->addStretch(1);
     buttons->addWidget(save);
     buttons->addWidget(cancel);
+    // Side by side, and always there: under one another they would leave small screens.
+    auto* files = new QVBoxLayout;
+    files->addWidget(always);
+    files->addWidget(chosen);
+    files->addStretch(1);
+    auto* parts = new QHBoxLayout;
+    parts->addLayout(files);
+    parts->addWidget(pages_);
     auto* all = new QVBoxLayout(this);
-    all->addWidget(always);
-    all->addWidget(chosen);
+    all->addLayout(parts);
     all->addWidget(folders_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
@@ -84,11 +90,11 @@ void SaveEverythingDialog::Mirror() {
     always_->Show(always.join(QLatin1Char('\n')));
     grid_->setText(
         tr("S&tipples, to touch them up another day: %1").arg(InCaption(shown.GridFile)));
-    pdf_->setText(tr("Kit as &PDF, to print: %1").arg(InCaption(shown.PdfFile)));
+    pdf_->setText(tr("&Kit as PDF, to print: %1").arg(InCaption(shown.PdfFile)));
     folders_->Show(tr("In %1").arg(Text(shown.Folders)));
     grid_->setChecked(form_.Grid());
     pdf_->setChecked(form_.Pdf());
-    plan_->setVisible(form_.Pdf());
+    pages_->setEnabled(form_.Pdf());
     plan_->Mirror(form_.Plan());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QGroupBox>
 
 #include "desktop/form_dialog.h"
 #include "desktop/plan_panel.h"
@@ -30,6 +31,7 @@ class SaveEverythingDialog : public FormDialog {
     QCheckBox* grid_;
     QCheckBox* pdf_;
     PlanPanel* plan_;
+    QGroupBox* pages_;
     ValueLabel* folders_;
 };
 
