@@ -86,11 +86,11 @@ TEST_F(KitPhotos, ACropIsAPhotoOfItsOwnAndNotStretched) {
     const std::vector<std::string> words = {studio_.Path("aunt.jpg"), "--crop", "top", "--json"};
     ASSERT_EQ(studio_.Kit(words), 0) << studio_.Err;
     EXPECT_LT(Stretch(studio_.Out), 0.5);
-    EXPECT_THAT(studio_.Out, HasSubstr("\"name\": \"aunt top crop\""));
+    EXPECT_THAT(studio_.Out, HasSubstr("\"name\": \"aunt crop\""));
     EXPECT_THAT(studio_.Out, Not(HasSubstr("stretched")));
     EXPECT_EQ(studio_.Kit(words), 0) << "the same crop again";
-    EXPECT_THAT(studio_.Names("Pictures"), UnorderedElementsAre("aunt.bmp", "aunt top crop.bmp"));
-    EXPECT_THAT(studio_.Names("Saved Stipples"), UnorderedElementsAre("aunt top crop-Easy.stp"));
+    EXPECT_THAT(studio_.Names("Pictures"), UnorderedElementsAre("aunt.bmp", "aunt crop.bmp"));
+    EXPECT_THAT(studio_.Names("Saved Stipples"), UnorderedElementsAre("aunt crop-Easy.stp"));
 }
 
 TEST_F(KitPhotos, DifferentPhotosOfOneNameAreNumberedAndTheSameOneIsRefused) {
