@@ -11,7 +11,6 @@ class AboutDialog : public FormDialog {
   public:
     AboutDialog(const ViewContext& context, QWidget* parent);
 
-    void Load() override {}
     void Mirror() override {}
     /// Nothing hangs on it: it closes in mid-work as well.
     void reject() override { hide(); }

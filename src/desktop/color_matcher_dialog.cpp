@@ -144,7 +144,7 @@ void ColorMatcherDialog::MirrorOffers() {
 
 void ColorMatcherDialog::MirrorPreview() {
     const auto exchanged = std::ranges::count_if(form_.Rows(), &MatcherRow::Exchanged);
-    preview_->setAccessibleName(tr("Preview with %1 paints exchanged").arg(exchanged));
+    preview_->setAccessibleName(tr("Preview, paints exchanged: %1").arg(exchanged));
     const QImage image = ToImage(form_.Preview());
     preview_->setPixmap(QPixmap::fromImage(
         image.scaled(preview_->size().expandedTo(kPreview) * 0.95, Qt::KeepAspectRatio)));

@@ -17,7 +17,6 @@ class CropPhotoDialog : public FormDialog {
   public:
     CropPhotoDialog(const ViewContext& context, QWidget* parent);
 
-    void Load() override {}  // the chooser has filled the form
     void Mirror() override;
 
   protected:

@@ -17,7 +17,6 @@ class FileImportDialog : public FormDialog {
   public:
     FileImportDialog(const ViewContext& context, QWidget* parent);
 
-    void Load() override {}  // Load Photo has filled the form
     void Mirror() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -14,9 +15,17 @@ namespace vendrel {
 namespace {
 
 constexpr int kPreviewSide = 270;
+constexpr int kSmallestPreview = 150;
+constexpr int kBesidePreview = 360;  // height of what the chooser shows over and under it
 
-void FramePicture(QLabel& picture) {
-    picture.setFixedSize(kPreviewSide, kPreviewSide);
+// Of the chooser's preview: on a small screen its buttons need the room.
+int PreviewHeight() {
+    const int room = QGuiApplication::primaryScreen()->availableSize().height() - kBesidePreview;
+    return std::clamp(room, kSmallestPreview, kPreviewSide);
+}
+
+void FramePicture(QLabel& picture, int height = kPreviewSide) {
+    picture.setFixedSize(kPreviewSide, height);
     picture.setAlignment(Qt::AlignCenter);
     picture.setFrameShape(QFrame::StyledPanel);
 }
@@ -34,7 +43,7 @@ void WrapText(QLabel& text, int lines) {
 FitPanel::FitPanel(Shows shows)
     : shows_(shows),
       preview_(Named<QLabel>("Preview", tr("Preview of the photo"))),
-      description_(Named<QLabel>("Description", tr("About the photo"))),
+      description_(new ValueLabel("Description", tr("About the photo"))),
       box_(Named<QGroupBox>("Ways", tr("How the photo comes onto the sheet"))),
       ways_{MakeWay(PhotoFit::Keep, "KeepWay", tr("&Keep Its Shape")),
             MakeWay(PhotoFit::Crop, "CropWay", tr("Crop to &Fit")),
@@ -68,7 +77,7 @@ void FitPanel::Arrange() {
 }
 
 void FitPanel::ArrangeInOneColumn() {
-    FramePicture(*preview_);
+    FramePicture(*preview_, PreviewHeight());
     WrapText(*description_, 5);
     auto* ways = new QVBoxLayout(box_);
     for (const Way& way : ways_) {
@@ -108,12 +117,16 @@ void FitPanel::ArrangeSideBySide() {
 
 void FitPanel::Mirror(const FitControls& shown) {
     const bool every = shows_ == Shows::EveryWay;
-    description_->setText(Text(every ? shown.Title : shown.Description));
+    description_->Show(Text(every ? shown.Title : shown.Description));
     preview_->setAccessibleDescription(description_->text());
     if (shown.Preview.Empty()) {
         preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));
     } else {
-        preview_->setPixmap(QPixmap::fromImage(ToImage(shown.Preview)));
+        QPixmap picture = QPixmap::fromImage(ToImage(shown.Preview));
+        if (const int height = preview_->contentsRect().height(); picture.height() > height) {
+            picture = picture.scaledToHeight(height, Qt::SmoothTransformation);
+        }
+        preview_->setPixmap(picture);
     }
     box_->setVisible(!shown.Ways.empty());
     for (const Way& way : ways_) {

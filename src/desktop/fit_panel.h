@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <array>
 
+#include "desktop/value_label.h"
 #include "forms/fit_choice.h"
 
 namespace vendrel {
@@ -48,7 +49,7 @@ class FitPanel : public QWidget {
 
     Shows shows_;
     QLabel* preview_;
-    QLabel* description_;
+    ValueLabel* description_;
     QGroupBox* box_;
     std::array<Way, 3> ways_;
     QPushButton* cropButton_;

@@ -32,9 +32,4 @@ FitPhotoDialog::FitPhotoDialog(const ViewContext& context, QWidget* parent)
     SetTabOrder({ways[0], ways[1], ways[2], ways[3], ok, cancel});
 }
 
-void FitPhotoDialog::Load() {
-    Mirror();
-    panel_->FocusWay();
-}
-
 }  // namespace vendrel

@@ -15,7 +15,8 @@ class FitPhotoDialog : public FormDialog {
   public:
     FitPhotoDialog(const ViewContext& context, QWidget* parent);
 
-    void Load() override;
+    void Prepare() override { Mirror(); }
+    void Load() override { panel_->FocusWay(); }
     void Mirror() override { panel_->Mirror(form_.Fit().Controls()); }
 
   protected:

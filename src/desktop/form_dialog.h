@@ -15,8 +15,11 @@ class FormDialog : public QDialog {
   public:
     FormDialog(const ViewContext& context, QWidget* parent);
 
+    /// Fills what the window's size follows from; called before it is on screen, where a window
+    /// that grows may be put into a corner. Throws Error; then it stays closed.
+    virtual void Prepare() {}
     /// Fills the form; called once the dialog is on screen.
-    virtual void Load() = 0;
+    virtual void Load() {}
     /// Takes over what the form shows.
     virtual void Mirror() = 0;
     /// The session ends: what is not saved has to outlive it. Throws Error.

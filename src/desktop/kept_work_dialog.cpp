@@ -14,7 +14,7 @@ namespace vendrel {
 KeptWorkDialog::KeptWorkDialog(QWidget* parent)
     : QDialog(parent),
       list_(Named<QTreeWidget>("KeptList", tr("Kept work"))),
-      hint_(Named<QLabel>("KeptHint", tr("What can be done with it"))),
+      hint_(new ValueLabel("KeptHint", tr("What can be done with it"))),
       throwAway_(MakeButton("ThrowAway", tr("&Throw Away…"))),
       restore_(MakeButton("Restore", tr("&Restore"))),
       close_(MakeButton("CloseKept", tr("Close"))) {
@@ -24,7 +24,6 @@ KeptWorkDialog::KeptWorkDialog(QWidget* parent)
     list_->setHeaderLabels({tr("Last change"), tr("Photo"), tr("Difficulty")});
     list_->setRootIsDecorated(false);
     list_->setAllColumnsShowFocus(true);
-    hint_->setTextFormat(Qt::PlainText);
     hint_->setWordWrap(true);
     auto* told =
         new QLabel(tr("This work ended without being saved. It is kept here until what "
@@ -69,7 +68,7 @@ void KeptWorkDialog::Mirror(const KeptControls& shown) {
         const QSignalBlocker quiet(list_);
         list_->setCurrentItem(list_->topLevelItem(shown.Row));
     }
-    hint_->setText(Text(shown.Hint));
+    hint_->Show(Text(shown.Hint));
     restore_->setEnabled(shown.RestoreEnabled);
     throwAway_->setEnabled(shown.ThrowAwayEnabled);
     if (shown.Shown && !isVisible()) {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QDialog>
-#include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include "desktop/value_label.h"
 #include "forms/touch_up_form.h"
 
 namespace vendrel {
@@ -30,7 +30,7 @@ class KeptWorkDialog : public QDialog {
     void Fill(const std::vector<KeptRow>& rows);
 
     QTreeWidget* list_;
-    QLabel* hint_;
+    ValueLabel* hint_;
     QPushButton* throwAway_;
     QPushButton* restore_;
     QPushButton* close_;

@@ -1,11 +1,7 @@
 #pragma once
 
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QRadioButton>
-
 #include "desktop/form_dialog.h"
+#include "desktop/plan_panel.h"
 #include "forms/kit_pdf.h"
 
 namespace vendrel {
@@ -17,29 +13,15 @@ class KitPdfDialog : public FormDialog {
   public:
     KitPdfDialog(const ViewContext& context, QWidget* parent);
 
-    void Load() override;
-    void Mirror() override;
+    void Prepare() override;
+    void Mirror() override { plan_->Mirror(form_.Plan()); }
 
   protected:
     void Dismiss() override { form_.CancelButton_Click(); }
 
   private:
-    [[nodiscard]] QLayout* MakeChoices();
-    [[nodiscard]] QWidget* MakeFigures();
-    [[nodiscard]] QLayout* MakeButtons();
-    void Connect();
-    void CanvasChanged();
-    void MirrorFigures(const PlanFigures& figures);
-
     KitPdfForm form_;
-    QComboBox* paper_;
-    QRadioButton* legible_;
-    QRadioButton* chosenSize_;
-    QDoubleSpinBox* width_;
-    QLabel* pages_;
-    QLabel* canvas_;
-    QLabel* smallest_;
-    QLabel* warning_;
+    PlanPanel* plan_;
 };
 
 }  // namespace vendrel

@@ -122,6 +122,7 @@ void MainWindow::OpenForm(FormId form) {
     const QSize before = dialog ? dialog->size() : QSize();
     dialog = MakeDialog(form, {place_, form_, edge_}, this);
     if (dialog) {
+        dialog->Prepare();
         const QSize wanted = before.isValid() ? before : dialog->size();
         dialog->resize(wanted.boundedTo(screen()->availableSize() - kWindowFrame));
         if (below != nullptr) {

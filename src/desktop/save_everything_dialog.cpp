@@ -1,6 +1,5 @@
 #include "desktop/save_everything_dialog.h"
 
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -8,38 +7,38 @@
 #include "desktop/text.h"
 
 namespace vendrel {
+namespace {
+
+// In a caption a lone & would underline the letter behind it.
+QString InCaption(const std::string& file) {
+    return Text(file).replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+}  // namespace
 
 SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       form_(context.Form.Everything()),
-      always_(Named<QLabel>("AlwaysSaved", tr("Saved in any case"))),
+      always_(new ValueLabel("AlwaysSaved", tr("Saved in any case"))),
       grid_(Named<QCheckBox>("SaveGrid", tr("Stipples, to touch them up another day"))),
       pdf_(Named<QCheckBox>("SavePdfToo", tr("Kit as PDF, to print"))),
-      paper_(Named<QComboBox>("EverythingPaper", tr("Paper of the PDF"))),
-      folders_(Named<QLabel>("SaveFolders", tr("Folders"))) {
+      plan_(new PlanPanel),
+      pages_(new QGroupBox(tr("The PDF"))),
+      folders_(new ValueLabel("SaveFolders", tr("Folders"))) {
     setWindowTitle(tr("Save Everything"));
-    for (QLabel* label : {always_, folders_}) {
-        label->setTextFormat(Qt::PlainText);
-    }
-    paper_->addItems({tr("A4"), tr("Letter"), tr("A3")});
-    connect(grid_, &QCheckBox::clicked, this,
-            [this](bool on) { Run([this, on] { form_.Grid_Click(on); }); });
-    connect(pdf_, &QCheckBox::clicked, this,
-            [this](bool on) { Run([this, on] { form_.Pdf_Click(on); }); });
-    connect(paper_, &QComboBox::activated, this, [this](int index) {
-        Run([this, index] { form_.Paper_Click(static_cast<Paper>(index)); });
-    });
-    auto* pdf = new QHBoxLayout;
-    pdf->addWidget(pdf_);
-    pdf->addWidget(LabelFor(*paper_, tr("&on")));
-    pdf->addWidget(paper_);
-    pdf->addStretch(1);
+    Arrange();
+    Connect();
+    grid_->setFocus();
+}
+
+void SaveEverythingDialog::Arrange() {
     auto* always = new QGroupBox(tr("Always"));
     (new QVBoxLayout(always))->addWidget(always_);
     auto* chosen = new QGroupBox(tr("If you like"));
     auto* choices = new QVBoxLayout(chosen);
     choices->addWidget(grid_);
-    choices->addLayout(pdf);
+    choices->addWidget(pdf_);
+    (new QVBoxLayout(pages_))->addWidget(plan_);
     QPushButton* save =
         MakeButton("SaveEverything", tr("&Save"), [this] { form_.SaveButton_Click(); });
     save->setDefault(true);
@@ -49,34 +48,54 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
     buttons->addStretch(1);
     buttons->addWidget(save);
     buttons->addWidget(cancel);
+    // Side by side, and always there: under one another they would leave small screens.
+    auto* files = new QVBoxLayout;
+    files->addWidget(always);
+    files->addWidget(chosen);
+    files->addStretch(1);
+    auto* parts = new QHBoxLayout;
+    parts->addLayout(files);
+    parts->addWidget(pages_);
     auto* all = new QVBoxLayout(this);
-    all->addWidget(always);
-    all->addWidget(chosen);
+    all->addLayout(parts);
     all->addWidget(folders_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
-    SetTabOrder({grid_, pdf_, paper_, save, cancel});
-    grid_->setFocus();
+    const auto plan = plan_->Controls();
+    SetTabOrder({grid_, pdf_, plan[0], plan[1], plan[2], plan[3], save, cancel});
 }
 
-void SaveEverythingDialog::Load() {
+void SaveEverythingDialog::Connect() {
+    connect(grid_, &QCheckBox::clicked, this,
+            [this](bool on) { Run([this, on] { form_.Grid_Click(on); }); });
+    connect(pdf_, &QCheckBox::clicked, this,
+            [this](bool on) { Run([this, on] { form_.Pdf_Click(on); }); });
+    connect(plan_, &PlanPanel::PaperChosen, this,
+            [this](Paper paper) { Run([&] { form_.Plan().Paper_Click(paper); }); });
+    connect(plan_, &PlanPanel::CanvasChosen, this,
+            [this](double width) { Run([&] { form_.Plan().Canvas_Change(width); }); });
+}
+
+void SaveEverythingDialog::Prepare() {
     form_.Form_Load();
+    Mirror();
+}
+
+void SaveEverythingDialog::Mirror() {
     const SaveEverythingControls& shown = form_.Controls();
     QStringList always;
     for (const std::string& file : shown.Always) {
         always += Text(file);
     }
-    always_->setText(always.join(QLatin1Char('\n')));
-    grid_->setText(tr("S&tipples, to touch them up another day: %1").arg(Text(shown.GridFile)));
-    pdf_->setText(tr("Kit as &PDF, to print: %1").arg(Text(shown.PdfFile)));
-    folders_->setText(tr("In %1").arg(Text(shown.Folders)));
-}
-
-void SaveEverythingDialog::Mirror() {
+    always_->Show(always.join(QLatin1Char('\n')));
+    grid_->setText(
+        tr("S&tipples, to touch them up another day: %1").arg(InCaption(shown.GridFile)));
+    pdf_->setText(tr("&Kit as PDF, to print: %1").arg(InCaption(shown.PdfFile)));
+    folders_->Show(tr("In %1").arg(Text(shown.Folders)));
     grid_->setChecked(form_.Grid());
     pdf_->setChecked(form_.Pdf());
-    paper_->setCurrentIndex(static_cast<int>(form_.Sheet()));
-    paper_->setEnabled(form_.Pdf());
+    pages_->setEnabled(form_.Pdf());
+    plan_->Mirror(form_.Plan());
 }
 
 }  // namespace vendrel

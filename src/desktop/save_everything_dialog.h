@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
+#include <QGroupBox>
 
 #include "desktop/form_dialog.h"
+#include "desktop/plan_panel.h"
+#include "desktop/value_label.h"
 
 namespace vendrel {
 
@@ -15,19 +16,23 @@ class SaveEverythingDialog : public FormDialog {
   public:
     SaveEverythingDialog(const ViewContext& context, QWidget* parent);
 
-    void Load() override;
+    void Prepare() override;
     void Mirror() override;
 
   protected:
     void Dismiss() override { form_.CancelButton_Click(); }
 
   private:
+    void Arrange();
+    void Connect();
+
     SaveEverythingForm& form_;
-    QLabel* always_;
+    ValueLabel* always_;
     QCheckBox* grid_;
     QCheckBox* pdf_;
-    QComboBox* paper_;
-    QLabel* folders_;
+    PlanPanel* plan_;
+    QGroupBox* pages_;
+    ValueLabel* folders_;
 };
 
 }  // namespace vendrel

@@ -76,14 +76,18 @@ void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPla
     painter.restore();
 }
 
-// The stipples begin one pixel inside the photo.
+// The stipples begin one pixel inside the photo, which a sheet of another shape stretches.
 void SheetPainter::PaintPhoto(QPainter& painter, const SheetPlace& place) {
     const double scale = place.Edge / stippleSize_;
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, scale < 1);
     painter.translate(place.Corner);
     painter.scale(scale, scale);
-    painter.drawImage(QPoint(-1, -1), photo_);
+    const QSizeF across(std::max(photo_.width() / stippleSize_, 1),
+                        std::max(photo_.height() / stippleSize_, 1));
+    const QSizeF shown(photo_.width() * cells_.width() / across.width(),
+                       photo_.height() * cells_.height() / across.height());
+    painter.drawImage(QRectF(QPointF(-1, -1), shown), photo_);
     painter.restore();
 }
 

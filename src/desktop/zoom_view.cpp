@@ -111,14 +111,16 @@ void ZoomView::Place() {
     }
     const QSize picture(static_cast<int>(std::ceil(PictureSize().width())),
                         static_cast<int>(std::ceil(PictureSize().height())));
-    const auto setUp = [this](QScrollBar* bar, int whole, int seen) {
+    const auto setUp = [this](QScrollBar* bar, int whole, int room) {
         // Rounded up, a picture that fits may be a part of a pixel too large.
-        bar->setRange(0, std::max(0, whole - seen - (fits_ ? 1 : 0)));
-        bar->setPageStep(seen);
+        bar->setRange(0, std::max(0, whole - room - (fits_ ? 1 : 0)));
+        bar->setPageStep(room);
         bar->setSingleStep(20);
     };
-    setUp(horizontalScrollBar(), picture.width(), viewport()->width());
-    setUp(verticalScrollBar(), picture.height(), viewport()->height());
+    // Of a picture that fits, bars from before may not keep one another.
+    const QSize seen = fits_ ? maximumViewportSize() : viewport()->size();
+    setUp(horizontalScrollBar(), picture.width(), seen.width());
+    setUp(verticalScrollBar(), picture.height(), seen.height());
     scaled_ = {};
     ShowPointer();
     viewport()->update();

@@ -7,32 +7,11 @@
 namespace vendrel {
 
 void KitPdfForm::Form_Load() {
-    sketch_ = SketchPlan(place_.State, place_.Frames->WorkFrame.Picture, exporter_.Aspects());
-    Measure();
-}
-
-void KitPdfForm::Measure() {
-    if (sketch_) {
-        figures_ = FiguresOf(*sketch_, settings_);
-    }
-}
-
-void KitPdfForm::Paper_Click(Paper paper) {
-    settings_.Sheet = paper;
-    Measure();
-}
-
-void KitPdfForm::Canvas_Change(double centimetres) {
-    settings_.CanvasCm = centimetres;
-    Measure();
-}
-
-double KitPdfForm::WidestCm() const {
-    return sketch_ ? WidestCanvasCm(*sketch_) : kLargestCanvasCm;
+    plan_.Measure(place_, exporter_);
 }
 
 void KitPdfForm::SaveButton_Click() {
-    KitOrder order{.Outputs = {}, .Fonts = &exporter_, .Plan = settings_};
+    KitOrder order{.Outputs = {}, .Fonts = &exporter_, .Plan = plan_.Settings()};
     order.Outputs.Add(OutputId::Pdf);
     const std::filesystem::path file = SaveFromWindow(place_, order).front();
     place_.Screen.CloseForm(FormId::KitPdf);

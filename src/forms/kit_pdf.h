@@ -1,10 +1,6 @@
 #pragma once
 
-#include <optional>
-
-#include "plan/exporter.h"
-#include "plan/plan_sketch.h"
-#include "shell/workplace.h"
+#include "forms/plan_choice.h"
 
 namespace vendrel {
 
@@ -15,27 +11,16 @@ class KitPdfForm {
 
     /// Measures the painting. Throws Error when it cannot be printed.
     void Form_Load();
-    void Paper_Click(Paper paper);
-    /// Width of the canvas in centimetres; 0 to fill the pages that legible symbols need.
-    void Canvas_Change(double centimetres);
     /// Writes the PDF, closes, and offers to open its folder.
     void SaveButton_Click();
     void CancelButton_Click();
 
-    [[nodiscard]] const PlanSettings& Settings() const { return settings_; }
-    /// Of the settings; nothing before the painting is measured.
-    [[nodiscard]] const std::optional<PlanFigures>& Figures() const { return figures_; }
-    /// The widest canvas that can be chosen, in centimeters.
-    [[nodiscard]] double WidestCm() const;
+    [[nodiscard]] PlanChoice& Plan() { return plan_; }
 
   private:
-    void Measure();
-
     Workplace& place_;
     const Exporter& exporter_;
-    PlanSettings settings_;
-    std::optional<PlanSketch> sketch_;
-    std::optional<PlanFigures> figures_;
+    PlanChoice plan_;
 };
 
 }  // namespace vendrel

@@ -131,6 +131,11 @@ std::string MainForm::StatusHint() const {
     if (menu[PaintItNow].Enabled) {
         return "Paint the stipples: Picture, Paint It.";
     }
+    if (menu[ColorPickerSelect].Enabled) {
+        return "Too many areas to paint. Choose an easier difficulty or fewer final paints, or "
+               "clean "
+               "up: Picture, Touch Up.";
+    }
     if (menu[LoadStipples].Enabled) {
         return "Change it to stipples, or take up the saved ones: Picture, Load Stipple Picture.";
     }

@@ -1,6 +1,7 @@
 #include "forms/save_everything.h"
 
 #include <filesystem>
+#include <utility>
 
 #include "forms/kit_saving.h"
 #include "kitset/kit_paths.h"
@@ -30,6 +31,14 @@ void SaveEverythingForm::Form_Load() {
     controls_.PdfFile = fileOf(OutputId::Pdf).filename().string();
     controls_.Folders = FolderText(fileOf(OutputId::Sheet)) + "; the stipples in " +
                         FolderText(fileOf(OutputId::Grid));
+    Pdf_Click(std::exchange(pdf_, false));
+}
+
+void SaveEverythingForm::Pdf_Click(bool wanted) {
+    if (wanted && exporter_ != nullptr) {
+        plan_.Measure(place_, *exporter_);
+    }
+    pdf_ = wanted;
 }
 
 OutputChoice SaveEverythingForm::Chosen() const {
@@ -48,7 +57,7 @@ void SaveEverythingForm::SaveButton_Click() {
         return;
     }
     const std::vector<fs::path> files =
-        SaveFromWindow(place_, {.Outputs = Chosen(), .Fonts = exporter_, .Plan = plan_});
+        SaveFromWindow(place_, {.Outputs = Chosen(), .Fonts = exporter_, .Plan = plan_.Settings()});
     place_.Screen.CloseForm(FormId::SaveEverything);
     if (grid_) {
         KitIsSaved(place_);

@@ -3,9 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/plan_choice.h"
 #include "kitset/outputs.h"
-#include "plan/exporter.h"
-#include "shell/workplace.h"
 
 namespace vendrel {
 
@@ -23,12 +22,12 @@ class SaveEverythingForm {
     SaveEverythingForm(Workplace& place, const Exporter* exporter)
         : place_(place), exporter_(exporter) {}
 
+    /// Throws Error, and leaves the printed kit out, when it was chosen and cannot be printed.
     void Form_Load();
     /// Whether the stipples are saved too, to be touched up another day.
     void Grid_Click(bool wanted) { grid_ = wanted; }
-    /// Whether the printed kit is saved too.
-    void Pdf_Click(bool wanted) { pdf_ = wanted; }
-    void Paper_Click(Paper paper) { plan_.Sheet = paper; }
+    /// Whether the printed kit is saved too. Throws Error when the painting cannot be printed.
+    void Pdf_Click(bool wanted);
     /// Saves all that is chosen as one set, closes, lists the files and offers to open their
     /// folder. The painted picture on screen is the same before and after. Throws Error and
     /// FileError; then the files stay as they were, and the window open.
@@ -38,7 +37,8 @@ class SaveEverythingForm {
     [[nodiscard]] const SaveEverythingControls& Controls() const { return controls_; }
     [[nodiscard]] bool Grid() const { return grid_; }
     [[nodiscard]] bool Pdf() const { return pdf_; }
-    [[nodiscard]] Paper Sheet() const { return plan_.Sheet; }
+    /// Measured while the printed kit is chosen.
+    [[nodiscard]] PlanChoice& Plan() { return plan_; }
 
   private:
     [[nodiscard]] OutputChoice Chosen() const;
@@ -48,7 +48,7 @@ class SaveEverythingForm {
     SaveEverythingControls controls_;
     bool grid_ = false;
     bool pdf_ = false;
-    PlanSettings plan_;
+    PlanChoice plan_;
 };
 
 }  // namespace vendrel

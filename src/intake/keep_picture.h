@@ -18,5 +18,9 @@ std::string KeepPicture(const ProgramFolder& folder, const std::string& stem,
 /// Gives the file's name.
 std::string KeepCrop(const ProgramFolder& folder, std::string_view pictureFile,
                      const Surface& crop);
+/// The same as "<name> top crop.bmp", so that neither name depends on which part was kept first; a
+/// "<name> crop.bmp" that is this part already is used instead.
+std::string KeepTopCrop(const ProgramFolder& folder, std::string_view pictureFile,
+                        const Surface& crop);
 
 }  // namespace vendrel

@@ -61,11 +61,13 @@ std::string CropInPictures(const ProgramFolder& folder, const std::string& pictu
     }
     BitmapFile photo(folder.Path("Pictures/" + pictureFile));
     const BitmapSize size = photo.Size();
-    const CropRect cut = part == CropPart::Top ? CropTop(size, target) : CropCentre(size, target);
+    const CropRect middle = CropCentre(size, target);
+    const CropRect cut = part == CropPart::Top ? CropTop(size, target) : middle;
     if (cut == CropRect{0, 0, size.Width, size.Height}) {
         return pictureFile;
     }
-    return KeepCrop(folder, pictureFile, CutOut(photo.Picture(), cut));
+    const auto keep = cut == middle ? KeepCrop : KeepTopCrop;
+    return keep(folder, pictureFile, CutOut(photo.Picture(), cut));
 }
 
 }  // namespace vendrel

@@ -32,7 +32,8 @@ void RequirePaintable(IncomingPhoto& photo, const CropTarget& target,
                                            const ReadProgress& progress = {});
 
 /// Cuts that part from a photo of Pictures and keeps it as a photo of its own; the photo stays.
-/// Gives the crop's file name, or the photo's where there is nothing to cut off. Throws FileError,
+/// Gives the crop's file name, "<photo> crop.bmp", or "<photo> top crop.bmp" for a top that is not
+/// the middle too, or the photo's own where there is nothing to cut off. Throws FileError,
 /// FormatError.
 [[nodiscard]] std::string CropInPictures(const ProgramFolder& folder,
                                          const std::string& pictureFile, const CropTarget& target,

@@ -146,9 +146,8 @@ void FillFigures(const Workplace& place, KitReport& report) {
     report.Loners = CountLoners(state.Stipples);
     if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
-            "The photo's shape does not fit whole stipples on this screen, so it is stretched; "
-            "--fit keep keeps its shape, --fit crop, or top for faces, cuts off what is too "
-            "much.");
+            "The photo's shape does not fit the sheet, so it is stretched; --fit keep keeps its "
+            "shape, --fit crop, or top for faces, cuts off what is too much.");
     }
 }
 

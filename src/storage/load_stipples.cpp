@@ -20,12 +20,6 @@
 namespace vendrel {
 namespace {
 
-struct LoadedGrid {
-    StippleHeader Header;
-    PaintList Palette;
-    Grid<StippleCell> Cells;
-};
-
 // How many whole stipples the loaded photo holds.
 CellPos PhotoCells(const LoadedPhoto& photo, TwipsPerPixel twips, int stippleSize) {
     return {photo.PictureWidth / twips.X / stippleSize,
@@ -40,31 +34,6 @@ void RequireSides(const std::filesystem::path& path, CellPos shape, int stippleT
                               " stipples are more than a sheet can have. Restore the file or "
                               "correct its counts.");
     }
-}
-
-LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips) {
-    const std::string text = ReadTextFile(path);
-    StippleFileReader reader(text, path);
-    const CellPos shape{reader.Header().Across, reader.Header().Down};
-    LoadedGrid loaded{reader.Header(), reader.ReadPalette(), {}};
-    reader.RequireCells();
-    RequireSides(path, shape, stippleTwips);
-    loaded.Cells = {shape.X, shape.Y};
-    for (int y = 1; y <= shape.Y; ++y) {
-        reader.ReadRow(loaded.Cells, y, shape.X);
-    }
-    return loaded;
-}
-
-// A grid made for another screen or from another crop of the photo stays what it is; the photo
-// takes its shape. Rows of the photo's length would cut it to noise.
-std::optional<Photo> PhotoInShapeOf(const Grid<StippleCell>& cells, CellPos own,
-                                    const std::filesystem::path& photo, const ScreenSize& screen,
-                                    int stippleSize) {
-    if (cells.Across() == own.X && cells.Down() == own.Y) {
-        return std::nullopt;
-    }
-    return ReadPhotoInShape(photo, screen, {cells.Across(), cells.Down()}, stippleSize);
 }
 
 void Commit(WorkState& state, LoadedGrid loaded) {
@@ -86,6 +55,37 @@ void TellOtherShape(Ui& screen, const StippleGrid& grid, const std::filesystem::
 
 }  // namespace
 
+LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips) {
+    const std::string text = ReadTextFile(path);
+    StippleFileReader reader(text, path);
+    const CellPos shape{reader.Header().Across, reader.Header().Down};
+    LoadedGrid loaded{reader.Header(), reader.ReadPalette(), {}};
+    reader.RequireCells();
+    RequireSides(path, shape, stippleTwips);
+    loaded.Cells = {shape.X, shape.Y};
+    for (int y = 1; y <= shape.Y; ++y) {
+        reader.ReadRow(loaded.Cells, y, shape.X);
+    }
+    return loaded;
+}
+
+// A grid made for another screen or from another crop of the photo stays what it is; the photo
+// takes its shape. Rows of the photo's length would cut it to noise.
+bool ShapePhotoBy(Workplace& place, CellPos stipples) {
+    WorkState& state = place.State;
+    const ScreenSize screen = place.Screen.Screen();
+    if (stipples == PhotoCells(state, screen.Twips, state.StippleSize)) {
+        return false;
+    }
+    std::optional<Photo> photo =
+        ReadPhotoInShape(state.PicturePath, screen, stipples, state.StippleSize);
+    if (photo) {
+        ShowPhoto(place, std::move(*photo));
+        state.ShapedByGrid = true;
+    }
+    return photo.has_value();
+}
+
 void CheckSavedStipples(Workplace& place) {
     place.MainMenu[MenuId::LoadStipples].Enabled =
         StippleFileExists(place.Folder, place.State, place.State);
@@ -97,19 +97,14 @@ void LoadStipples_Click(Workplace& place) {
     const std::filesystem::path path = StippleFilePath(place.Folder, state, state);
     LoadedGrid loaded = ReadGrid(path, state.StippleSize * screen.Twips.X);
     const CellPos own = PhotoCells(state, screen.Twips, state.StippleSize);
-    std::optional<Photo> photo =
-        PhotoInShapeOf(loaded.Cells, own, state.PicturePath, screen, state.StippleSize);
-    if (photo) {
-        ShowPhoto(place, std::move(*photo));
-        state.ShapedByGrid = true;
-    }
+    const bool reshaped = ShapePhotoBy(place, {loaded.Cells.Across(), loaded.Cells.Down()});
     Commit(state, std::move(loaded));
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;
     SetColorChecks(state.Chosen, state.FinalColors);
     EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
-    if (photo) {
+    if (reshaped) {
         TellOtherShape(place.Screen, state, path, own);
     }
 }

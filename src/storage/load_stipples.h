@@ -1,8 +1,27 @@
 #pragma once
 
+#include <filesystem>
+
 #include "shell/workplace.h"
+#include "storage/stipple_file.h"
 
 namespace vendrel {
+
+/// What a stipple file holds, in the shape that its header names.
+struct LoadedGrid {
+    StippleHeader Header;
+    PaintList Palette;
+    Grid<StippleCell> Cells;
+};
+
+/// Reads all of it. Throws FileError, and FormatError when stipples are missing or more than a
+/// sheet of stipples of that size can have.
+[[nodiscard]] LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips);
+
+/// Gives the loaded photo that many stipples; true when it had another shape until now. Its grid
+/// must follow. Throws FileError and FormatError when the photo cannot be read anew; it is then as
+/// before.
+bool ShapePhotoBy(Workplace& place, CellPos stipples);
 
 /// Enables "Load Stipple Picture" exactly when a file is kept for the photo and the difficulty
 /// chosen now. Loads nothing.

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "shell/found_palette.h"
+#include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
-#include "support/size_text.h"
 #include "support/text_file.h"
 #include "touchup/acceptance.h"
 #include "touchup/clean_up.h"
@@ -238,13 +238,7 @@ void TouchUp::Accept() {
     EndStroke();
     WorkState& state = place_.State;
     RefuseFlaw(sheet_, "The stipples cannot be accepted");
-    const Grid<StippleCell>& photo = state.Stipples;
-    if (sheet_.Across() != photo.Across() || sheet_.Down() != photo.Down()) {
-        throw Error("The loaded grid has " + SizeText(sheet_.Across(), sheet_.Down()) +
-                    " stipples, but the photo has " + SizeText(photo.Across(), photo.Down()) +
-                    " stipples. Take the load back with Undo; or save it, close the editor and "
-                    "choose Picture, Load Stipple Picture, which keeps the grid's shape.");
-    }
+    ShapePhotoBy(place_, {sheet_.Across(), sheet_.Down()});
     state.HasUnsavedWork = !InSavedGrid() && (unsavedAtOpening_ || history_.StateId() != 0);
     accepted_ = true;
     TakeOverCopies(state, state, state, state);
@@ -264,11 +258,11 @@ bool TouchUp::Cancel() {
 }
 
 bool TouchUp::GiveSavedToKit() {
-    const Grid<StippleCell>& kit = place_.State->Stipples;
-    if (!saved_ || saved_->Step == 0 || saved_->Contents.Announced.Across != kit.Across() ||
-        saved_->Contents.Announced.Down != kit.Down()) {
+    if (!saved_ || saved_->Step == 0) {
         return false;
     }
+    const SheetSizes& size = saved_->Contents.Announced;
+    ShapePhotoBy(place_, {size.Across, size.Down});
     sheet_.Exchange(saved_->Contents);
     WorkState& state = place_.State;
     TakeOverCopies(state, state, state, state);
@@ -277,33 +271,22 @@ bool TouchUp::GiveSavedToKit() {
 
 CellRect TouchUp::Restore(const KeptWork& work) {
     EndStroke();
-    const WorkState& state = place_.State;
     const auto held = HoldKept(work);
-    const std::string text = ReadTextFile(work.File);
-    StippleFileReader reader(text, work.File);
-    const StippleHeader header = reader.Header();
-    if (header.Across != state.CellsAcross || header.Down != state.CellsDown) {
-        throw FormatError(
-            work.File, 1,
-            "the work was done on " + SizeText(header.Across, header.Down) +
-                " stipples, but the photo has " + SizeText(state.CellsAcross, state.CellsDown) +
-                " stipples. Take up the saved stipples of that shape first (Picture, Load Stipple "
-                "Picture), or throw the work away.");
-    }
-    SheetContents found{reader.ReadPalette(),
+    const int stippleTwips = place_.State->StippleSize * place_.Screen.Screen().Twips.X;
+    LoadedGrid kept = ReadGrid(work.File, stippleTwips);
+    const StippleHeader& header = kept.Header;
+    SheetContents found{std::move(kept.Palette),
                         {},
-                        Grid<StippleCell>(header.Across, header.Down),
+                        std::move(kept.Cells),
                         {header.PaintCount, header.Across, header.Down},
                         header.FinalColors};
-    for (int y = 1; y <= header.Down; ++y) {
-        reader.ReadRow(found.EditStipples, y, header.Across);
-    }
+    const CellRect before = sheet_.Bounds();
     PushReplacement("Restore");
     replacements_.back().Restored = held;
     sheet_.Exchange(found);
     sheet_.Recount();
     ShowFinalColors();
-    return sheet_.Bounds();
+    return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
 }
 
 void TouchUp::RemoveRestored() {

@@ -79,18 +79,19 @@ class TouchUp {
     /// Takes the load back that buried changes last.
     CellRect DigOut();
     /// Makes the copies the kit's grid and closes; the main window then draws the stipples anew
-    /// and goes to stage 3. Throws Error, and stays open, when the copies do not fit the photo.
+    /// and goes to stage 3. The photo takes the shape of copies that have another. Throws Error,
+    /// and stays open, when a broken load left copies without paint or the photo cannot be read for
+    /// that.
     void Accept();
     /// Closes. The kit takes over what this session saved last, and is as it was at the opening
-    /// when nothing was saved. True when it was given another grid, as by Accept.
+    /// when nothing was saved. True when it was given another grid, as by Accept. Throws as that.
     [[nodiscard]] bool Cancel();
     /// The last thing to do after Accept or Cancel: keeps an accepted but unsaved grid recoverable
     /// and removes the recovery file when nothing unsaved is left. Throws FileError.
     void SettleRecovery();
 
-    /// Brings kept work back, as one step. Its file goes when what came of it is saved or accepted.
-    /// Throws Error, with nothing changed, when the file is broken, belongs to another size or is
-    /// in use.
+    /// Brings kept work back in its own shape, as one step. Its file goes when what came of it is
+    /// saved or accepted. Throws Error, with nothing changed, when the file is broken or in use.
     CellRect Restore(const KeptWork& work);
     /// To be called about once a second: keeps the recovery file close behind the edits. Throws
     /// FileError.

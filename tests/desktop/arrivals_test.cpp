@@ -82,7 +82,10 @@ class ArrivalsTest : public QObject {
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
         QVERIFY(QApplication::activeModalWidget() == nullptr);
         QVERIFY(!desktop.Place().State->PictureLoaded);
+        const AsShown sizes;
         desktop.Form().PastePicture(ToSurface(Square()));
+        QCoreApplication::processEvents();
+        QCOMPARE(QApplication::activeModalWidget()->size(), sizes.Size);
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
         NextMessage message;
         QMimeData text;

@@ -33,6 +33,21 @@ class NextMessage {
     QTimer timer_;
 };
 
+/// The size at which a window comes on screen: one that grows there may be put into a corner.
+class AsShown : public QObject {
+  public:
+    AsShown() { qApp->installEventFilter(this); }
+    QSize Size;
+
+  private:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Show && qobject_cast<QDialog*>(watched) != nullptr) {
+            Size = static_cast<QWidget*>(watched)->size();
+        }
+        return false;
+    }
+};
+
 /// A program folder with one photo, Pictures/PBNLady.bmp, and what ships.
 class Studio {
   public:

@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QInputDialog>
 #include <QLabel>
@@ -31,6 +32,7 @@ class ToolsTest : public QObject {
     void TemplateShopKeepsWhatIsAddedAndRemoved();
     void ColorMatcherExchangesAndConverts();
     void ThePdfWindowTellsWhatACanvasDoesToTheSymbols();
+    void SaveEverythingShowsThePlanItPrints();
     void ValuesAreReadOutAndReachedByKeys();
 
   private:
@@ -107,6 +109,43 @@ void ToolsTest::ThePdfWindowTellsWhatACanvasDoesToTheSymbols() {
     QVERIFY2(text("PlanWarning").contains("smaller than 2 mm"), qPrintable(text("PlanWarning")));
     QCOMPARE(Spoken(Find<QLabel>(window, "PlanWarning")), text("PlanWarning"));
     Press(window, "CancelPdf");
+}
+
+void ToolsTest::SaveEverythingShowsThePlanItPrints() {
+    MainWindow& main = desktop_->Window();
+    QVERIFY(Choose(main, "WatchItPaint") && Choose(main, "ChangeToStipples"));
+    QVERIFY(Choose(main, "PaintItNow") && Choose(main, "SaveItAll"));
+    QWidget& window = *QApplication::activeModalWidget();
+    QVERIFY(Spoken(Find<QLabel>(window, "AlwaysSaved")).contains("Easy PBS.BMP"));
+    const auto& warning = Find<QLabel>(window, "PlanWarning");
+    QVERIFY(!warning.isEnabled());
+    for (const char* wanted : {"SaveGrid", "SavePdfToo"}) {
+        QTest::keyClick(&Find<QCheckBox>(window, wanted), Qt::Key_Space);
+    }
+    QVERIFY(warning.isEnabled() && !warning.text().contains("smaller"));
+    QTest::mouseClick(&Find<QRadioButton>(window, "ChosenCanvas"), Qt::LeftButton);
+    auto& width = Find<QDoubleSpinBox>(window, "CanvasWidth");
+    width.selectAll();
+    QTest::keyClicks(&width, "12");
+    QTest::keyClick(&width, Qt::Key_Tab);
+    QVERIFY2(warning.text().contains("smaller than 2 mm"), qPrintable(warning.text()));
+    {
+        NextMessage saved;
+        QTest::keyClick(&window, Qt::Key_Return);
+        QVERIFY2(saved.Text.contains("PBNLady-Easy.stp"), qPrintable(saved.Text));
+    }
+    QVERIFY(!window.isVisible());
+    QVERIFY(std::filesystem::exists(studio_->Files / "Results/PBNLady Easy Kit.pdf"));
+    const AsShown sizes;
+    for (const char* entry : {"SaveItAll", "SaveKitPdf"}) {
+        QVERIFY(Choose(main, entry));
+        QWidget& again = *QApplication::activeModalWidget();
+        QCoreApplication::processEvents();
+        QCOMPARE(again.size(), sizes.Size);
+        QTest::keyClick(&again, Qt::Key_Escape);
+    }
+    QVERIFY(desktop_->Form().Everything().Grid());
+    QCOMPARE(desktop_->Form().Everything().Plan().Settings().CanvasCm, 12.0);
 }
 
 void ToolsTest::ValuesAreReadOutAndReachedByKeys() {

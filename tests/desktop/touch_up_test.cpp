@@ -57,6 +57,7 @@ class TouchUpWindowTest : public QObject {
     void ValuesAreReadOut();
     void StrokesRepaintOnlyWhatTheyTouch();
     void ClosingTheProgramWithAcceptedWorkAsks();
+    void KeptWorkIsRestoredOrThrownAway();
     void AnEditorThatCannotOpenDoesNothingButClose();
     void TheEndOfTheSessionKeepsOpenWorkOrIsRefused();
 
@@ -260,6 +261,42 @@ void TouchUpWindowTest::ClosingTheProgramWithAcceptedWorkAsks() {
     const Answer discard(QMessageBox::Discard);
     QVERIFY(window.close());
     QCOMPARE(discard.Asked, 1);
+}
+
+void TouchUpWindowTest::KeptWorkIsRestoredOrThrownAway() {
+    QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(2, 2));
+    static_cast<FormDialog*>(canvas_->window())->KeepWork();
+    const std::filesystem::path crashed = *files_ / "Saved Stipples/halves-Easy.recovery.stp";
+    std::filesystem::copy(crashed, *files_ / "Saved Stipples/halves-Easy.recovery-2.stp");
+    std::filesystem::copy(crashed, *files_ / "Saved Stipples/dog-Medium.recovery.stp");
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QTest::keyClick(canvas_, Qt::Key_Escape);
+    QVERIFY(Choose(desktop_->Window(), "ColorPickerSelect"));
+    QWidget& kept = *QApplication::activeModalWidget();
+    auto& list = Find<QTreeWidget>(kept, "KeptList");
+    auto& restore = Find<QPushButton>(kept, "Restore");
+    canvas_ = &Find<TouchUpCanvas>(desktop_->Window(), "Canvas");
+    QCOMPARE(list.topLevelItemCount(), 2);
+    const int dog = list.topLevelItem(0)->text(1) == "dog" ? 0 : 1;
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualItemRect(list.topLevelItem(dog)).center());
+    QVERIFY(!restore.isEnabled());
+    QVERIFY(Find<QLabel>(kept, "KeptHint").accessibleName().contains("photo dog at Medium"));
+    QVERIFY(QTest::qWaitForWindowActive(&kept));
+    QTimer::singleShot(0, &kept, [] {
+        auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(question != nullptr && question->text().contains("dog (Medium)"));
+        QTest::mouseClick(question->button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(list.topLevelItemCount(), 1);
+    QTest::keyClick(&kept, Qt::Key_Escape);
+    QVERIFY(!kept.isVisible());
+    QTest::mouseClick(&Button("KeptWork"), Qt::LeftButton);
+    QTest::mouseClick(&restore, Qt::LeftButton);
+    QVERIFY(!kept.isVisible());
+    QCOMPARE(PaintAt(2, 2), 2);
+    QCOMPARE(UndoText(), QStringLiteral("Undo Restore"));
 }
 
 void TouchUpWindowTest::AnEditorThatCannotOpenDoesNothingButClose() {

@@ -59,6 +59,10 @@ class ViewsTest : public QObject {
         for (const auto& [x, white] : {std::pair(23, false), {24, true}, {31, true}, {32, false}}) {
             QCOMPARE(shown.pixel(x, 20) == qRgb(255, 255, 255), white);  // crisp to the edge
         }
+        view.resize(300, 204);
+        view.Fit();
+        QCoreApplication::processEvents();
+        QCOMPARE(view.PictureRect(), QRectF(0, 2, 300, 200));  // the bars are gone
         for (const auto& [ratio, scale] : {std::pair(1.0, 1), {1.5, 1}, {2.0, 2}, {3.5, 3}}) {
             QCOMPARE(ZoomView::Scale(ratio), scale);
         }

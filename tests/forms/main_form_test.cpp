@@ -123,6 +123,9 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
     EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy PBS.BMP"));
     EXPECT_TRUE(fs::exists(studio_.Files / "Results/four Easy Painting.BMP"));
     EXPECT_THAT(studio_.Screen.Messages, IsEmpty());
+    form_.Click(ChangeToStipples);
+    studio_.MainMenu[PaintItNow].Enabled = false;  // as when they come to more areas than can be
+    EXPECT_THAT(form_.StatusHint(), HasSubstr("Too many areas"));
 }
 
 // Draws nothing, but tells of its progress; fails when told to.
@@ -166,7 +169,7 @@ TEST(SaveEverything, SavesWhatIsChosenWithOneProgressAndRemembersIt) {
     printer.Fails = true;
     form.Grid_Click(true);
     form.Pdf_Click(true);
-    form.Paper_Click(Paper::A3);
+    form.Plan().Paper_Click(Paper::A3);
     EXPECT_THROW(form.SaveButton_Click(), Error);
     EXPECT_THAT(studio.Screen.OpenForms, ElementsAre(FormId::SaveEverything));
     EXPECT_EQ(studio.Screen.Captions.back(), "Vendrel -four");

@@ -8,6 +8,7 @@
 #include <functional>
 #include <random>
 
+#include "convert/bitmap_writer.h"
 #include "sheets.h"
 #include "support/error.h"
 #include "support/leftovers.h"
@@ -192,7 +193,7 @@ TEST(Cancelling, PutsTheKitBackAsItWas) {
     EXPECT_EQ(editor.LoadIt_Click(), (CellRect{1, 1, 3, 2}));
     EXPECT_EQ(editor.Sheet().Across(), 2) << "the file's own size";
     EXPECT_TRUE(IsChecked(bench.State.Chosen, MenuId::Set16Colors));
-    EXPECT_THAT([&] { editor.Accept(); }, ThrowsMessage<Error>(HasSubstr("3 x 2 stipples")));
+    EXPECT_THROW(editor.Accept(), FileError) << "there is no photo to take that shape";
     EXPECT_FALSE(editor.Cancel());
     EXPECT_TRUE(IsChecked(bench.State.Chosen, MenuId::Set50Colors));
     EXPECT_EQ(bench.State.FinalColors, 50);
@@ -419,12 +420,36 @@ TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
     EXPECT_FALSE(fs::exists(bench.Files / kRecovery));
 }
 
+TEST(Recovery, OfAnotherShapeIsRestoredInIt) {
+    for (const bool accept : {true, false}) {
+        KitBench bench({"12", "12"}, 2);
+        bench.State.PicturePath = (bench.Files / "Pictures/Lady.bmp").string();
+        WriteBitmap(bench.State.PicturePath, Surface(48, 16, kWhite));
+        bench.Files.Write(kRecovery, "1,3,1,16\r\n" + kRed + "0,1,5,5\r\n0,1,13,5\r\n0,1,21,5\r\n");
+        TouchUp editor(bench.Place);
+        EXPECT_EQ(editor.Restore(ListKeptWork(bench.Place)[0]), (CellRect{1, 1, 3, 2}));
+        EXPECT_EQ(bench.Edited(), (Rows{"111"}));
+        editor.Undo();
+        EXPECT_EQ(bench.Edited(), (Rows{"12", "12"}));
+        editor.Redo();
+        if (accept) {
+            editor.Accept();
+        } else {
+            editor.SaveIt_Click();
+            EXPECT_TRUE(editor.Cancel());
+        }
+        EXPECT_EQ(GridOf(bench.State.Stipples), (Rows{"111"}));
+        EXPECT_EQ(bench.State.PictureWidth, 3 * 8 * 15);
+        EXPECT_TRUE(bench.State.ShapedByGrid) << "until the photo is converted afresh";
+    }
+}
+
 TEST(Recovery, ThatCannotBeTakenStaysBesideNewWork) {
     KitBench bench({"12", "12"}, 2);
     bench.Files.Write(kRecovery, "1,5,5,16\r\n" + kRed);
     TouchUp editor(bench.Place);
     EXPECT_THAT([&] { editor.Restore(ListKeptWork(bench.Place)[0]); },
-                ThrowsMessage<FormatError>(HasSubstr("5 x 5")));
+                ThrowsMessage<FormatError>(HasSubstr("0 of the 25 stipples")));
     editor.Fill({1, 1}, 2);
     editor.KeepRecovery(At(1));
     EXPECT_THAT(bench.Files.Read(kRecovery), HasSubstr("5,5"));
