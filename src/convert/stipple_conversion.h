@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "convert/seen_stipples.h"
 #include "shell/workplace.h"
 
 namespace vendrel {
@@ -11,6 +14,18 @@ namespace vendrel {
 /// paint is wanted or no paint is selected. Answers how many paints the photo matched before the
 /// reduction.
 int ApplyStipples(Workplace& place);
+
+/// What matching found out about the photo on its way.
+struct Matched {
+    int Paints = 0;                    // before the reduction
+    std::optional<SeenStipples> Seen;  // with the palette chosen, by eye alone
+};
+
+/// The part of ApplyStipples before areas are made paintable.
+Matched MatchStipples(Workplace& place);
+
+/// Of the photo loaded, with the palette and the stipples as they are.
+[[nodiscard]] SeenStipples LookAtPhoto(const Workplace& place);
 
 /// Draws the dot of every stipple from the grid and the palette, and keeps the drawing in
 /// StippleFrame. What lies between the dots stays as it is.
