@@ -22,7 +22,8 @@ ValueGrid BrushedPixels(const PaintedPixels& painted, const Surface& picture) {
     return paints;
 }
 
-// The map's last column and row lie behind the picture, where nothing is left to number.
+// Paints count from 1 again. The map's last column and row lie behind the picture, where nothing is
+// left to number.
 void TakeOver(const Easel& easel) {
     PaintedPixels& painted = easel.Pixels;
     Surface& picture = easel.Picture;
@@ -36,10 +37,11 @@ void TakeOver(const Easel& easel) {
         const RowView<Color> pixels = picture.Row(y);
         const RowView<MapPixel> map = painted.PixelMap.Row(y);
         for (int x = 0; x < picture.Width(); ++x) {
+            ++paints[x];
             pixels[x] = colors[paints[x]];
-            if (x > 0 && y > 0) {
-                map[x] = {paints[x], pixels[x]};
-            }
+        }
+        for (int x = 1; y > 0 && x < picture.Width(); ++x) {
+            map[x] = {paints[x], pixels[x]};
         }
     }
 }
@@ -54,9 +56,6 @@ void JoinCorners(const Easel& easel, const StippleGrid& grid) {
                                           grid.Protected, easel.Settings.StippleSize},
                                          LimitsInPixels(chosen.Limits, scale),
                                          LimitsInPixels(ThirdOf(chosen.Limits), scale));
-    for (int& paint : painted.PrintPaints.All()) {
-        ++paint;
-    }
     TakeOver(easel);
     easel.Screen.RefreshWorkFrame();
 }
