@@ -175,6 +175,21 @@ Matched ApplyByEye(Workplace& place) {
     return {match.Considered, std::move(match.Seen)};
 }
 
+class KitStaysPaintable {
+  public:
+    explicit KitStaysPaintable(WorkState& state)
+        : chosen_(state.Chosen.Paintable), before_(state.Chosen.Paintable) {
+        chosen_ = chosen_ || state.PaintableKit;
+    }
+    ~KitStaysPaintable() { chosen_ = before_; }
+    KitStaysPaintable(const KitStaysPaintable&) = delete;
+    KitStaysPaintable& operator=(const KitStaysPaintable&) = delete;
+
+  private:
+    bool& chosen_;
+    bool before_;
+};
+
 }  // namespace
 
 Matched MatchStipples(Workplace& place) {
@@ -235,6 +250,7 @@ int ChangeToStipples_Click(Workplace& place) {
 }
 
 int AutoChangeToStipples(Workplace& place) {
+    const KitStaysPaintable stays(place.State);
     return ChangeToStipples_Click(place);
 }
 

@@ -34,7 +34,8 @@ void DrawStipplePicture(Workplace& place);
 /// The whole way from the photo to the stipple picture. Throws and answers as ApplyStipples.
 int ChangeToStipples_Click(Workplace& place);
 
-/// The same, asked for by another window.
+/// The same, asked for by another window, with what is in hand kept: a paintable kit comes out
+/// paintable, whatever the next photo is made into.
 int AutoChangeToStipples(Workplace& place);
 
 }  // namespace vendrel

@@ -166,7 +166,7 @@ void CompareView::mousePressEvent(QMouseEvent* event) {
     const bool marks = event->button() == Qt::LeftButton;
     if (marking_ && (marks || event->button() == Qt::RightButton) &&
         PaneAt(event->position()) >= 0) {
-        stroking_ = true;
+        strokePane_ = PaneAt(event->position());
         emit StrokeBegun(marks);
         emit StrokeMoved(PixelAt(event->position()).toPoint());
     } else {
@@ -177,7 +177,8 @@ void CompareView::mousePressEvent(QMouseEvent* event) {
 }
 
 void CompareView::mouseMoveEvent(QMouseEvent* event) {
-    if (stroking_ && PaneAt(event->position()) >= 0) {
+    // In another picture the same stroke would be somewhere else.
+    if (strokePane_ >= 0 && PaneAt(event->position()) == strokePane_) {
         emit StrokeMoved(PixelAt(event->position()).toPoint());
     } else if (dragging_) {
         MoveBy((last_ - event->position()) / Zoom());
@@ -186,7 +187,7 @@ void CompareView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CompareView::mouseReleaseEvent(QMouseEvent* /*event*/) {
-    if (std::exchange(stroking_, false)) {
+    if (std::exchange(strokePane_, -1) >= 0) {
         emit StrokeEnded();
     }
     if (std::exchange(dragging_, false)) {

@@ -70,7 +70,7 @@ class CompareView : public QWidget {
     QPointF last_;     // of the pointer, while it drags
     bool marking_ = false;
     bool dragging_ = false;
-    bool stroking_ = false;
+    int strokePane_ = -1;  // the picture that a stroke is in
 };
 
 }  // namespace vendrel

@@ -12,6 +12,7 @@ namespace vendrel {
 SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       form_(context.Form.Everything()),
+      name_(Named<QLineEdit>("KitName", tr("Kit's name"))),
       always_(Named<QLabel>("AlwaysSaved", tr("Saved in any case"))),
       grid_(Named<QCheckBox>("SaveGrid", tr("Stipples, to touch them up another day"))),
       pdf_(Named<QCheckBox>("SavePdfToo", tr("Kit as PDF, to print"))),
@@ -22,6 +23,12 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
         label->setTextFormat(Qt::PlainText);
     }
     paper_->addItems({tr("A4"), tr("Letter"), tr("A3")});
+    name_->setToolTip(
+        tr("Names the files in place of the photo's name: two kits of one photo do "
+           "not overwrite each other."));
+    connect(name_, &QLineEdit::textEdited, this, [this](const QString& name) {
+        Run([this, name] { form_.Name_Change(name.toStdString()); });
+    });
     connect(grid_, &QCheckBox::clicked, this,
             [this](bool on) { Run([this, on] { form_.Grid_Click(on); }); });
     connect(pdf_, &QCheckBox::clicked, this,
@@ -49,18 +56,27 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
     buttons->addStretch(1);
     buttons->addWidget(save);
     buttons->addWidget(cancel);
+    auto* name = new QHBoxLayout;
+    name->addWidget(LabelFor(*name_, tr("Kit's &name")));
+    name->addWidget(name_, 1);
     auto* all = new QVBoxLayout(this);
+    all->addLayout(name);
     all->addWidget(always);
     all->addWidget(chosen);
     all->addWidget(folders_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
-    SetTabOrder({grid_, pdf_, paper_, save, cancel});
+    SetTabOrder({name_, grid_, pdf_, paper_, save, cancel});
     grid_->setFocus();
 }
 
 void SaveEverythingDialog::Load() {
     form_.Form_Load();
+    name_->setText(Text(form_.Name()));
+    name_->setPlaceholderText(Text(form_.Controls().PhotoName));
+}
+
+void SaveEverythingDialog::ListFiles() {
     const SaveEverythingControls& shown = form_.Controls();
     QStringList always;
     for (const std::string& file : shown.Always) {
@@ -73,6 +89,7 @@ void SaveEverythingDialog::Load() {
 }
 
 void SaveEverythingDialog::Mirror() {
+    ListFiles();
     grid_->setChecked(form_.Grid());
     pdf_->setChecked(form_.Pdf());
     paper_->setCurrentIndex(static_cast<int>(form_.Sheet()));

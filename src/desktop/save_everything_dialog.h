@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 
 #include "desktop/form_dialog.h"
 
@@ -22,7 +23,10 @@ class SaveEverythingDialog : public FormDialog {
     void Dismiss() override { form_.CancelButton_Click(); }
 
   private:
+    void ListFiles();
+
     SaveEverythingForm& form_;
+    QLineEdit* name_;
     QLabel* always_;
     QCheckBox* grid_;
     QCheckBox* pdf_;

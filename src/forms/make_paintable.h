@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,8 @@ class MakePaintable {
     void Canvas_Change(double centimeters);
     void Outlines_Click(bool only);
 
-    // The protecting brush. Cells count from 0; a stroke is undone as a whole.
+    // The protecting brush. Cells count from 0, those between two that it passes over belong to its
+    // way; a stroke is undone as a whole.
     void Brush_Change(int stipples);
     void Stroke_Begin(bool protects);
     void Stroke_Over(CellPos cell);
@@ -61,6 +63,7 @@ class MakePaintable {
 
   private:
     void Show();
+    void Dab(CellPos cell);
     [[nodiscard]] Surface Outlines() const;
 
     Workplace& place_;
@@ -73,6 +76,7 @@ class MakePaintable {
     ValueGrid strokeStart_;
     std::vector<ValueGrid> undo_;
     std::vector<ValueGrid> redo_;
+    std::optional<CellPos> lastCell_;  // of the stroke
     int brush_ = 5;
     bool protects_ = true;
     bool stroking_ = false;
