@@ -153,8 +153,9 @@ SeenTable::SeenTable(std::span<const Color> colors, std::span<const Color> paint
       paints_(paints.size()),
       seen_(colors.size() * paints.size()) {
     const PaintLists lists(paints);
-    InParts(colors_, [&](int first, int end) {
-        for (auto i = static_cast<std::size_t>(first); i < static_cast<std::size_t>(end); ++i) {
+    InParts(colors_, [&](Part part) {
+        for (auto i = static_cast<std::size_t>(part.First); i < static_cast<std::size_t>(part.End);
+             ++i) {
             const Lab lab = LabOf(colors[i]);
             FillRow({static_cast<float>(lab.L), static_cast<float>(lab.A),
                      static_cast<float>(lab.B), static_cast<float>(ChromaOf(lab))},
