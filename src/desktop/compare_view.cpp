@@ -150,7 +150,8 @@ void CompareView::PaintPicture(QPainter& painter, int picture) const {
     painter.translate(-center_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, Zoom() < 1);
     painter.drawImage(0, 0, image);
-    if (!marks_.isNull()) {
+    // What protection does to the result shows only without the layer, but a stroke shows its way.
+    if (!marks_.isNull() && (picture + 1 < kPictures || strokePane_ >= 0)) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
         painter.drawImage(
             QRectF(1, 1, marks_.width() * stippleSize_, marks_.height() * stippleSize_), marks_);
@@ -188,6 +189,7 @@ void CompareView::mouseMoveEvent(QMouseEvent* event) {
 
 void CompareView::mouseReleaseEvent(QMouseEvent* /*event*/) {
     if (std::exchange(strokePane_, -1) >= 0) {
+        update();
         emit StrokeEnded();
     }
     if (std::exchange(dragging_, false)) {

@@ -9,7 +9,8 @@
 namespace vendrel {
 
 /// Three pictures of one size beside each other, always at the same zoom and place: dragging and
-/// the wheel move all of them. A layer over them marks stipples.
+/// the wheel move all of them. A layer over them marks stipples; on the last picture it shows only
+/// during a stroke.
 class CompareView : public QWidget {
     Q_OBJECT
 

@@ -8,6 +8,7 @@
 #include "convert/stipple_conversion.h"
 #include "forms/require_grid.h"
 #include "shell/palette.h"
+#include "shell/scratch_place.h"
 #include "shell/stipple_grid.h"
 #include "support/decimals.h"
 #include "support/error.h"
@@ -17,6 +18,16 @@ namespace vendrel {
 namespace {
 
 constexpr Color kOutline = Rgb(60, 60, 60);
+
+// Dots on black would be no picture to compare with.
+Surface PaintedAsItIs(const Workplace& place) {
+    if (place.MainMenu[MenuId::PrintMenu].Enabled) {
+        return place.Frames->WorkFrame.Picture;
+    }
+    ScratchPlace scratch(place);
+    PaintAllCells(scratch.Place);
+    return scratch.Frames.WorkFrame.Picture;
+}
 
 }  // namespace
 
@@ -30,7 +41,7 @@ void MakePaintable::Form_Load() {
     wish_.FinalPaints = wish_.FinalPaints > 0 ? wish_.FinalPaints : kFinalPaints.back();
     preview_ = std::make_unique<PaintablePreview>(place_);
     areasBefore_ = CountGridAreas(state);
-    before_ = place_.Frames->WorkFrame.Picture;
+    before_ = PaintedAsItIs(place_);
     protected_ = state.Protected.All().empty()
                      ? ValueGrid(state.CellsAcross - 1, state.CellsDown - 1)
                      : state.Protected;

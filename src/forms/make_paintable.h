@@ -56,6 +56,7 @@ class MakePaintable {
     [[nodiscard]] int StippleSize() const { return place_.State->StippleSize; }
     /// All of one size.
     [[nodiscard]] const Surface& Photo() const { return preview_->Photo(); }
+    /// Painted, whether the kit in hand is or not.
     [[nodiscard]] const Surface& Before() const { return before_; }
     [[nodiscard]] const Surface& After() const { return after_; }
     /// The figures of what is shown, a line each.
