@@ -17,31 +17,20 @@ int CountNearest(const SeenTable& table) {
     return static_cast<int>(nearest.size());
 }
 
-std::vector<int> MatchAll(std::span<const Color> stipples, const PaintList& palette) {
-    const DistinctColors distinct = FindDistinctColors(stipples);
-    const SeenTable table(distinct.Colors, ColorsOf(palette));
-    std::vector<int> nearest(distinct.Colors.size());
+std::vector<int> MatchAll(const SeenStipples& seen) {
+    std::vector<int> nearest(seen.Distinct.Colors.size());
     for (std::size_t c = 0; c < nearest.size(); ++c) {
-        nearest[c] = 1 + table.NearestTo(static_cast<int>(c));
+        nearest[c] = 1 + seen.Table.NearestTo(static_cast<int>(c));
     }
     std::vector<int> paints;
-    paints.reserve(stipples.size());
-    for (const int color : distinct.IndexOf) {
+    paints.reserve(seen.Distinct.IndexOf.size());
+    for (const int color : seen.Distinct.IndexOf) {
         paints.push_back(nearest[static_cast<std::size_t>(color)]);
     }
     return paints;
 }
 
 }  // namespace
-
-std::vector<Color> ColorsOf(const PaintList& paints) {
-    std::vector<Color> colors;
-    colors.reserve(paints.Entries().size());
-    for (const PaintColor& paint : paints) {
-        colors.push_back(ColorOf(paint));
-    }
-    return colors;
-}
 
 EyeMatch MatchByEye(std::span<const Color> stipples, const PaintList& allowed, int count) {
     EyeMatch match;
@@ -51,7 +40,8 @@ EyeMatch MatchByEye(std::span<const Color> stipples, const PaintList& allowed, i
         match.Palette.Add(allowed[paint + 1]);
     }
     match.Considered = CountNearest(table);
-    match.Paints = MatchAll(stipples, match.Palette);
+    match.Seen = LookAt(stipples, match.Palette);
+    match.Paints = MatchAll(match.Seen);
     return match;
 }
 

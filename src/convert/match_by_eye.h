@@ -3,6 +3,7 @@
 #include <span>
 #include <vector>
 
+#include "convert/seen_stipples.h"
 #include "shell/records.h"
 
 namespace vendrel {
@@ -12,14 +13,12 @@ struct EyeMatch {
     PaintList Palette;
     std::vector<int> Paints;  // per stipple, from 1
     int Considered = 0;       // how many of the allowed paints are nearest to some stipple
+    SeenStipples Seen;        // with that palette
 };
 
 /// Chooses at most `count` of the allowed paints for stipples of those colors, and gives each
 /// stipple the one that differs least from it.
 [[nodiscard]] EyeMatch MatchByEye(std::span<const Color> stipples, const PaintList& allowed,
                                   int count);
-
-/// The colors of a palette from 0, as tables of seen differences count them.
-[[nodiscard]] std::vector<Color> ColorsOf(const PaintList& paints);
 
 }  // namespace vendrel

@@ -4,13 +4,9 @@
 #include <cstddef>
 #include <utility>
 
-#include "convert/cell_color.h"
-#include "convert/match_by_eye.h"
-#include "eye/seen_table.h"
 #include "paintable/make_paintable.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
-#include "support/error.h"
 
 namespace vendrel {
 namespace {
@@ -50,20 +46,16 @@ double MeanSeen(const StipplePicture& picture, const SeenTable& table, const Val
 
 }  // namespace
 
-void MakeStipplesPaintable(Workplace& place) {
+void MakeStipplesPaintable(Workplace& place, const SeenStipples& seen) {
     WorkState& state = place.State;
-    const Surface& photo = place.Frames->CaptureFrame.Picture;
-    const int size = state.StippleSize;
-    const DistinctColors distinct = FindDistinctColors(
-        StippleColors(photo, {state.CellsAcross, state.CellsDown}, size, state.Chosen.Sample));
-    const SeenTable table(distinct.Colors, ColorsOf(state.PaintColors));
     StipplePicture picture{PaintsOf(state), {}, state.Protected};
     picture.Colors = ValueGrid(state.CellsAcross - 1, state.CellsDown - 1);
-    std::ranges::copy(distinct.IndexOf, picture.Colors.All().begin());
+    std::ranges::copy(seen.Distinct.IndexOf, picture.Colors.All().begin());
     place.Screen.SetCaption("Making Areas Paintable");
     const ValueGrid paints =
-        MakePaintable(picture, table, TermsFor(state, photo), state.Chosen.Detail);
-    state.SeenPerStipple = MeanSeen(picture, table, paints);
+        MakePaintable(picture, seen.Table, TermsFor(state, place.Frames->CaptureFrame.Picture),
+                      state.Chosen.Detail);
+    state.SeenPerStipple = MeanSeen(picture, seen.Table, paints);
     const OneBased<int> newIndex = DropUnneeded(state, paints);
     for (int y = 1; y <= state.CellsDown; ++y) {
         for (int x = 1; x <= state.CellsAcross; ++x) {

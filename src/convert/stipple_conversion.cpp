@@ -122,7 +122,7 @@ void CheckPaints(Workplace& place) {
     }
 }
 
-int ApplyPlainly(Workplace& place) {
+Matched ApplyPlainly(Workplace& place) {
     WorkState& state = place.State;
     FoundPaints found(state, state, place.Screen);
     for (int j = 1; j <= state.CellsDown; ++j) {
@@ -136,7 +136,7 @@ int ApplyPlainly(Workplace& place) {
     if (!state.KeepAllColors) {
         ReduceColors(state, state, place.Screen, state.FinalColors);
     }
-    return matched;
+    return {matched, {}};
 }
 
 void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
@@ -156,7 +156,7 @@ void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
 
 // Which paints suit a photo shows only in all its stipples together: they are matched first and
 // shown afterwards.
-int ApplyByEye(Workplace& place) {
+Matched ApplyByEye(Workplace& place) {
     WorkState& state = place.State;
     const std::vector<Color> stipples =
         StippleColors(place.Frames->WorkFrame.Picture, {state.CellsAcross, state.CellsDown},
@@ -172,22 +172,47 @@ int ApplyByEye(Workplace& place) {
         EndRow(place.Screen, j, state.CellsDown);
     }
     state.StipplesMade = true;
-    return match.Considered;
+    return {match.Considered, std::move(match.Seen)};
 }
+
+class KitStaysPaintable {
+  public:
+    explicit KitStaysPaintable(WorkState& state)
+        : chosen_(state.Chosen.Paintable), before_(state.Chosen.Paintable) {
+        chosen_ = chosen_ || state.PaintableKit;
+    }
+    ~KitStaysPaintable() { chosen_ = before_; }
+    KitStaysPaintable(const KitStaysPaintable&) = delete;
+    KitStaysPaintable& operator=(const KitStaysPaintable&) = delete;
+
+  private:
+    bool& chosen_;
+    bool before_;
+};
 
 }  // namespace
 
-int ApplyStipples(Workplace& place) {
-    WorkState& state = place.State;
+Matched MatchStipples(Workplace& place) {
     CheckPaints(place);
     place.Screen.SetCaption("Getting Colors");
     SizeGrid(place);
-    const int matched =
-        state.Chosen.Match == Matching::ByEye ? ApplyByEye(place) : ApplyPlainly(place);
-    if (state.Chosen.Paintable) {
-        MakeStipplesPaintable(place);
+    return place.State->Chosen.Match == Matching::ByEye ? ApplyByEye(place) : ApplyPlainly(place);
+}
+
+SeenStipples LookAtPhoto(const Workplace& place) {
+    const WorkState& state = place.State;
+    return LookAt(
+        StippleColors(place.Frames->CaptureFrame.Picture, {state.CellsAcross, state.CellsDown},
+                      state.StippleSize, state.Chosen.Sample),
+        state.PaintColors);
+}
+
+int ApplyStipples(Workplace& place) {
+    const Matched matched = MatchStipples(place);
+    if (place.State->Chosen.Paintable) {
+        MakeStipplesPaintable(place, matched.Seen ? *matched.Seen : LookAtPhoto(place));
     }
-    return matched;
+    return matched.Paints;
 }
 
 void DrawStipplePicture(Workplace& place) {
@@ -225,6 +250,7 @@ int ChangeToStipples_Click(Workplace& place) {
 }
 
 int AutoChangeToStipples(Workplace& place) {
+    const KitStaysPaintable stays(place.State);
     return ChangeToStipples_Click(place);
 }
 

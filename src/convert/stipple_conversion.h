@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "convert/seen_stipples.h"
 #include "shell/workplace.h"
 
 namespace vendrel {
@@ -12,6 +15,18 @@ namespace vendrel {
 /// reduction.
 int ApplyStipples(Workplace& place);
 
+/// What matching found out about the photo on its way.
+struct Matched {
+    int Paints = 0;                    // before the reduction
+    std::optional<SeenStipples> Seen;  // with the palette chosen, by eye alone
+};
+
+/// The part of ApplyStipples before areas are made paintable.
+Matched MatchStipples(Workplace& place);
+
+/// Of the photo loaded, with the palette and the stipples as they are.
+[[nodiscard]] SeenStipples LookAtPhoto(const Workplace& place);
+
 /// Draws the dot of every stipple from the grid and the palette, and keeps the drawing in
 /// StippleFrame. What lies between the dots stays as it is.
 void DrawStipplePicture(Workplace& place);
@@ -19,7 +34,8 @@ void DrawStipplePicture(Workplace& place);
 /// The whole way from the photo to the stipple picture. Throws and answers as ApplyStipples.
 int ChangeToStipples_Click(Workplace& place);
 
-/// The same, asked for by another window.
+/// The same, asked for by another window, with what is in hand kept: a paintable kit comes out
+/// paintable, whatever the next photo is made into.
 int AutoChangeToStipples(Workplace& place);
 
 }  // namespace vendrel

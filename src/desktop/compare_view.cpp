@@ -150,7 +150,8 @@ void CompareView::PaintPicture(QPainter& painter, int picture) const {
     painter.translate(-center_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, Zoom() < 1);
     painter.drawImage(0, 0, image);
-    if (!marks_.isNull()) {
+    // What protection does to the result shows only without the layer, but a stroke shows its way.
+    if (!marks_.isNull() && (picture + 1 < kPictures || strokePane_ >= 0)) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
         painter.drawImage(
             QRectF(1, 1, marks_.width() * stippleSize_, marks_.height() * stippleSize_), marks_);
@@ -166,7 +167,7 @@ void CompareView::mousePressEvent(QMouseEvent* event) {
     const bool marks = event->button() == Qt::LeftButton;
     if (marking_ && (marks || event->button() == Qt::RightButton) &&
         PaneAt(event->position()) >= 0) {
-        stroking_ = true;
+        strokePane_ = PaneAt(event->position());
         emit StrokeBegun(marks);
         emit StrokeMoved(PixelAt(event->position()).toPoint());
     } else {
@@ -177,7 +178,8 @@ void CompareView::mousePressEvent(QMouseEvent* event) {
 }
 
 void CompareView::mouseMoveEvent(QMouseEvent* event) {
-    if (stroking_ && PaneAt(event->position()) >= 0) {
+    // In another picture the same stroke would be somewhere else.
+    if (strokePane_ >= 0 && PaneAt(event->position()) == strokePane_) {
         emit StrokeMoved(PixelAt(event->position()).toPoint());
     } else if (dragging_) {
         MoveBy((last_ - event->position()) / Zoom());
@@ -186,7 +188,8 @@ void CompareView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CompareView::mouseReleaseEvent(QMouseEvent* /*event*/) {
-    if (std::exchange(stroking_, false)) {
+    if (std::exchange(strokePane_, -1) >= 0) {
+        update();
         emit StrokeEnded();
     }
     if (std::exchange(dragging_, false)) {

@@ -9,7 +9,8 @@
 namespace vendrel {
 
 /// Three pictures of one size beside each other, always at the same zoom and place: dragging and
-/// the wheel move all of them. A layer over them marks stipples.
+/// the wheel move all of them. A layer over them marks stipples; on the last picture it shows only
+/// during a stroke.
 class CompareView : public QWidget {
     Q_OBJECT
 
@@ -70,7 +71,7 @@ class CompareView : public QWidget {
     QPointF last_;     // of the pointer, while it drags
     bool marking_ = false;
     bool dragging_ = false;
-    bool stroking_ = false;
+    int strokePane_ = -1;  // the picture that a stroke is in
 };
 
 }  // namespace vendrel

@@ -1,7 +1,9 @@
 #include "desktop/make_paintable_dialog.h"
 
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <utility>
@@ -14,12 +16,19 @@ namespace vendrel {
 namespace {
 
 constexpr int kPauseMs = 40;
+constexpr double kShareOfScreen = 0.86;
 
 QDoubleSpinBox* Number(const char* name, const QString& spoken, double most, const QString& unit) {
     auto* box = Named<QDoubleSpinBox>(name, spoken);
     box->setRange(0, most);
     box->setSuffix(" " + unit);
     box->setKeyboardTracking(false);
+    return box;
+}
+
+QGroupBox* Group(const QString& title, QLayout* inside) {
+    auto* box = new QGroupBox(title);
+    box->setLayout(inside);
     return box;
 }
 
@@ -45,12 +54,14 @@ MakePaintableDialog::MakePaintableDialog(const ViewContext& context, QWidget* pa
     setWindowTitle(tr("Make It Paintable"));
     view_->setObjectName("PaintableView");
     view_->setAccessibleName(tr("Photo, as it was and as it becomes"));
+    auto* figures = new QVBoxLayout;
+    figures->addWidget(figures_);
+    figures->addStretch(1);
+    // Below, not beside: photos of either shape come out largest so.
     auto* below = new QHBoxLayout;
-    below->addLayout(MakeSettings());
-    below->addSpacing(16);
-    below->addLayout(MakeBrush());
-    below->addSpacing(16);
-    below->addWidget(figures_, 1);
+    below->addWidget(Group(tr("Kit"), MakeSettings()));
+    below->addWidget(Group(tr("Show and protect"), MakeBrush()));
+    below->addWidget(Group(tr("What it takes"), figures), 1);
     auto* all = new QVBoxLayout(this);
     all->addWidget(view_, 1);
     all->addLayout(below);
@@ -58,7 +69,7 @@ MakePaintableDialog::MakePaintableDialog(const ViewContext& context, QWidget* pa
     ConnectView();
     pause_.setSingleShot(true);
     connect(&pause_, &QTimer::timeout, this, [this] { Run(std::exchange(pending_, {})); });
-    resize(1180, 720);
+    resize(screen()->availableSize() * kShareOfScreen);
 }
 
 QLayout* MakePaintableDialog::MakeSettings() {

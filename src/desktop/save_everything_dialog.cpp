@@ -19,6 +19,7 @@ QString InCaption(const std::string& file) {
 SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       form_(context.Form.Everything()),
+      name_(Named<QLineEdit>("KitName", tr("Kit's name"))),
       always_(new ValueLabel("AlwaysSaved", tr("Saved in any case"))),
       grid_(Named<QCheckBox>("SaveGrid", tr("Stipples, to touch them up another day"))),
       pdf_(Named<QCheckBox>("SavePdfToo", tr("Kit as PDF, to print"))),
@@ -56,16 +57,26 @@ void SaveEverythingDialog::Arrange() {
     auto* parts = new QHBoxLayout;
     parts->addLayout(files);
     parts->addWidget(pages_);
+    name_->setToolTip(
+        tr("Names the files in place of the photo's name: two kits of one photo do "
+           "not overwrite each other."));
+    auto* name = new QHBoxLayout;
+    name->addWidget(LabelFor(*name_, tr("Kit's &name")));
+    name->addWidget(name_, 1);
     auto* all = new QVBoxLayout(this);
+    all->addLayout(name);
     all->addLayout(parts);
     all->addWidget(folders_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
     const auto plan = plan_->Controls();
-    SetTabOrder({grid_, pdf_, plan[0], plan[1], plan[2], plan[3], save, cancel});
+    SetTabOrder({name_, grid_, pdf_, plan[0], plan[1], plan[2], plan[3], save, cancel});
 }
 
 void SaveEverythingDialog::Connect() {
+    connect(name_, &QLineEdit::textEdited, this, [this](const QString& name) {
+        Run([this, name] { form_.Name_Change(name.toStdString()); });
+    });
     connect(grid_, &QCheckBox::clicked, this,
             [this](bool on) { Run([this, on] { form_.Grid_Click(on); }); });
     connect(pdf_, &QCheckBox::clicked, this,
@@ -78,6 +89,8 @@ void SaveEverythingDialog::Connect() {
 
 void SaveEverythingDialog::Prepare() {
     form_.Form_Load();
+    name_->setText(Text(form_.Name()));
+    name_->setPlaceholderText(Text(form_.Controls().PhotoName));
     Mirror();
 }
 

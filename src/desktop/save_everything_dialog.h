@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QLineEdit>
 
 #include "desktop/form_dialog.h"
 #include "desktop/plan_panel.h"
@@ -27,6 +28,7 @@ class SaveEverythingDialog : public FormDialog {
     void Connect();
 
     SaveEverythingForm& form_;
+    QLineEdit* name_;
     ValueLabel* always_;
     QCheckBox* grid_;
     QCheckBox* pdf_;

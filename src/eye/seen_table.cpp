@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "eye/lab.h"
+#include "support/in_parts.h"
 
 namespace vendrel {
 namespace {
@@ -152,12 +153,15 @@ SeenTable::SeenTable(std::span<const Color> colors, std::span<const Color> paint
       paints_(paints.size()),
       seen_(colors.size() * paints.size()) {
     const PaintLists lists(paints);
-    for (std::size_t i = 0; i < colors.size(); ++i) {
-        const Lab lab = LabOf(colors[i]);
-        FillRow({static_cast<float>(lab.L), static_cast<float>(lab.A), static_cast<float>(lab.B),
-                 static_cast<float>(ChromaOf(lab))},
-                lists, {seen_.data() + i * paints_, paints_});
-    }
+    InParts(colors_, [&](Part part) {
+        for (auto i = static_cast<std::size_t>(part.First); i < static_cast<std::size_t>(part.End);
+             ++i) {
+            const Lab lab = LabOf(colors[i]);
+            FillRow({static_cast<float>(lab.L), static_cast<float>(lab.A),
+                     static_cast<float>(lab.B), static_cast<float>(ChromaOf(lab))},
+                    lists, {seen_.data() + i * paints_, paints_});
+        }
+    });
 }
 
 int SeenTable::NearestTo(int color) const {

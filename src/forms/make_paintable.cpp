@@ -1,12 +1,14 @@
 #include "forms/make_paintable.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "cleanup/paint_pass.h"
 #include "convert/stipple_conversion.h"
 #include "forms/require_grid.h"
 #include "shell/palette.h"
+#include "shell/scratch_place.h"
 #include "shell/stipple_grid.h"
 #include "support/decimals.h"
 #include "support/error.h"
@@ -16,6 +18,16 @@ namespace vendrel {
 namespace {
 
 constexpr Color kOutline = Rgb(60, 60, 60);
+
+// Dots on black would be no picture to compare with.
+Surface PaintedAsItIs(const Workplace& place) {
+    if (place.MainMenu[MenuId::PrintMenu].Enabled) {
+        return place.Frames->WorkFrame.Picture;
+    }
+    ScratchPlace scratch(place);
+    PaintAllCells(scratch.Place);
+    return scratch.Frames.WorkFrame.Picture;
+}
 
 }  // namespace
 
@@ -29,7 +41,7 @@ void MakePaintable::Form_Load() {
     wish_.FinalPaints = wish_.FinalPaints > 0 ? wish_.FinalPaints : kFinalPaints.back();
     preview_ = std::make_unique<PaintablePreview>(place_);
     areasBefore_ = CountGridAreas(state);
-    before_ = place_.Frames->WorkFrame.Picture;
+    before_ = PaintedAsItIs(place_);
     protected_ = state.Protected.All().empty()
                      ? ValueGrid(state.CellsAcross - 1, state.CellsDown - 1)
                      : state.Protected;
@@ -101,13 +113,24 @@ void MakePaintable::Stroke_Begin(bool protects) {
     strokeStart_ = protected_;
     protects_ = protects;
     stroking_ = true;
+    lastCell_.reset();
 }
 
-// A round brush, so that a face is followed more easily.
+// A quick hand passes stipples that nobody is told of.
 void MakePaintable::Stroke_Over(CellPos cell) {
     if (!stroking_) {
         return;
     }
+    const CellPos from = lastCell_.value_or(cell);
+    const int steps = std::max({std::abs(cell.X - from.X), std::abs(cell.Y - from.Y), 1});
+    for (int i = 1; i <= steps; ++i) {
+        Dab({from.X + (cell.X - from.X) * i / steps, from.Y + (cell.Y - from.Y) * i / steps});
+    }
+    lastCell_ = cell;
+}
+
+// A round brush, so that a face is followed more easily.
+void MakePaintable::Dab(CellPos cell) {
     const int reach = brush_ / 2;
     for (int dy = -reach; dy <= reach; ++dy) {
         for (int dx = -reach; dx <= reach; ++dx) {

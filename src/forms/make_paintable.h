@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,8 @@ class MakePaintable {
     void Canvas_Change(double centimeters);
     void Outlines_Click(bool only);
 
-    // The protecting brush. Cells count from 0; a stroke is undone as a whole.
+    // The protecting brush. Cells count from 0, those between two that it passes over belong to its
+    // way; a stroke is undone as a whole.
     void Brush_Change(int stipples);
     void Stroke_Begin(bool protects);
     void Stroke_Over(CellPos cell);
@@ -54,6 +56,7 @@ class MakePaintable {
     [[nodiscard]] int StippleSize() const { return place_.State->StippleSize; }
     /// All of one size.
     [[nodiscard]] const Surface& Photo() const { return preview_->Photo(); }
+    /// Painted, whether the kit in hand is or not.
     [[nodiscard]] const Surface& Before() const { return before_; }
     [[nodiscard]] const Surface& After() const { return after_; }
     /// The figures of what is shown, a line each.
@@ -61,6 +64,7 @@ class MakePaintable {
 
   private:
     void Show();
+    void Dab(CellPos cell);
     [[nodiscard]] Surface Outlines() const;
 
     Workplace& place_;
@@ -73,6 +77,7 @@ class MakePaintable {
     ValueGrid strokeStart_;
     std::vector<ValueGrid> undo_;
     std::vector<ValueGrid> redo_;
+    std::optional<CellPos> lastCell_;  // of the stroke
     int brush_ = 5;
     bool protects_ = true;
     bool stroking_ = false;

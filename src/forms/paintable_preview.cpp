@@ -1,5 +1,7 @@
 #include "forms/paintable_preview.h"
 
+#include <utility>
+
 #include "cleanup/paint_pass.h"
 #include "convert/paintable_stipples.h"
 #include "convert/photo_import.h"
@@ -21,7 +23,7 @@ void PaintablePreview::Make(const Settings& wish, const ValueGrid& isProtected) 
     SetPalette(state, converted_->Palette);
     SetGrid(state, converted_->Stipples);
     state.Protected = isProtected;
-    MakeStipplesPaintable(scratch_.Place);
+    MakeStipplesPaintable(scratch_.Place, converted_->Seen);
     PaintAllCells(scratch_.Place);
     state.PaintingDone = true;
     figures_ = MeasureKit(scratch_.Place);
@@ -29,13 +31,12 @@ void PaintablePreview::Make(const Settings& wish, const ValueGrid& isProtected) 
 
 void PaintablePreview::Convert(const Settings& wish) {
     WorkState& state = scratch_.State;
-    state.Chosen.Paintable = false;
     state.FinalColors = wish.FinalPaints;
     RefreshPhotoImage(scratch_.Frames, scratch_.Place.Screen);
     RestorePaintColors(scratch_.Place);
-    (void)ApplyStipples(scratch_.Place);
-    state.Chosen = wish;
-    converted_ = {wish.Match, wish.FinalPaints, state.PaintColors, state.Stipples};
+    Matched matched = MatchStipples(scratch_.Place);
+    converted_ = {wish.Match, wish.FinalPaints, state.PaintColors, state.Stipples,
+                  matched.Seen ? std::move(*matched.Seen) : LookAtPhoto(scratch_.Place)};
 }
 
 int CountGridAreas(const StippleGrid& grid) {

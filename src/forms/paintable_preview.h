@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "convert/seen_stipples.h"
 #include "output/kit_figures.h"
 #include "shell/scratch_place.h"
 
@@ -30,6 +31,7 @@ class PaintablePreview {
         int FinalPaints;
         PaintList Palette;
         Grid<StippleCell> Stipples;
+        SeenStipples Seen;
     };
     void Convert(const Settings& wish);
 

@@ -3,8 +3,12 @@
 #include <filesystem>
 #include <utility>
 
+#include "convert/picture_name.h"
 #include "forms/kit_saving.h"
 #include "kitset/kit_paths.h"
+#include "output/result_files.h"
+#include "storage/load_stipples.h"
+#include "support/error.h"
 #include "touchup/unsaved_work.h"
 
 namespace vendrel {
@@ -16,10 +20,41 @@ std::string FolderText(const fs::path& file) {
     return file.parent_path().lexically_normal().string();
 }
 
+// Gives a photo's kit another name, and the old one back unless it was saved under the new.
+class Renaming {
+  public:
+    Renaming(LoadedPhoto& photo, const std::string& name)
+        : photo_(photo), before_(std::exchange(photo.PictureName, name)) {}
+    ~Renaming() {
+        if (!done_) {
+            photo_.PictureName = before_;
+        }
+    }
+    Renaming(const Renaming&) = delete;
+    Renaming& operator=(const Renaming&) = delete;
+    void Done() { done_ = true; }
+
+  private:
+    LoadedPhoto& photo_;
+    std::string before_;
+    bool done_ = false;
+};
+
 }  // namespace
 
 void SaveEverythingForm::Form_Load() {
-    const KitName kit = KitNameOf(place_.State, place_.State);
+    name_ = place_.State->PictureName;
+    ListFiles();
+    Pdf_Click(std::exchange(pdf_, false));
+}
+
+void SaveEverythingForm::Name_Change(const std::string& name) {
+    name_ = name.empty() ? std::string(PictureNameOf(place_.State->PictureFile)) : name;
+    ListFiles();
+}
+
+void SaveEverythingForm::ListFiles() {
+    const KitName kit{name_, std::string(DifficultyWord(place_.State))};
     const auto fileOf = [&](OutputId id) { return FileOf(OutputOf(id), place_.Folder, kit); };
     controls_ = {};
     for (const Output& output : AllOutputs()) {
@@ -28,10 +63,10 @@ void SaveEverythingForm::Form_Load() {
         }
     }
     controls_.GridFile = fileOf(OutputId::Grid).filename().string();
+    controls_.PhotoName = PictureNameOf(place_.State->PictureFile);
     controls_.PdfFile = fileOf(OutputId::Pdf).filename().string();
     controls_.Folders = FolderText(fileOf(OutputId::Sheet)) + "; the stipples in " +
                         FolderText(fileOf(OutputId::Grid));
-    Pdf_Click(std::exchange(pdf_, false));
 }
 
 void SaveEverythingForm::Pdf_Click(bool wanted) {
@@ -53,12 +88,20 @@ OutputChoice SaveEverythingForm::Chosen() const {
 }
 
 void SaveEverythingForm::SaveButton_Click() {
+    if (!MayNameKit(name_)) {
+        throw Error("A kit cannot be named \"" + name_ +
+                    "\"; choose a name without slashes, dots and control characters.");
+    }
+    Renaming renaming(place_.State, name_);
     if (grid_ && !MayReplaceSaved(place_)) {
         return;
     }
     const std::vector<fs::path> files =
         SaveFromWindow(place_, {.Outputs = Chosen(), .Fonts = exporter_, .Plan = plan_.Settings()});
+    renaming.Done();
     place_.Screen.CloseForm(FormId::SaveEverything);
+    place_.Screen.SetCaption("Vendrel -" + name_);
+    CheckSavedStipples(place_);
     if (grid_) {
         KitIsSaved(place_);
     }

@@ -13,7 +13,8 @@ struct SaveEverythingControls {
     std::vector<std::string> Always;  // names of the files that are saved in any case
     std::string GridFile;
     std::string PdfFile;
-    std::string Folders;  // where they come to stand
+    std::string Folders;    // where they come to stand
+    std::string PhotoName;  // names the files unless the kit has a name of its own
 };
 
 /// What Save Everything saves. What was chosen stays chosen until the program ends.
@@ -24,17 +25,22 @@ class SaveEverythingForm {
 
     /// Throws Error, and leaves the printed kit out, when it was chosen and cannot be printed.
     void Form_Load();
+    /// Names the files in place of the photo's name, which "" brings back; once saved, for all that
+    /// is made of this photo.
+    void Name_Change(const std::string& name);
     /// Whether the stipples are saved too, to be touched up another day.
     void Grid_Click(bool wanted) { grid_ = wanted; }
     /// Whether the printed kit is saved too. Throws Error when the painting cannot be printed.
     void Pdf_Click(bool wanted);
     /// Saves all that is chosen as one set, closes, lists the files and offers to open their
-    /// folder. The painted picture on screen is the same before and after. Throws Error and
-    /// FileError; then the files stay as they were, and the window open.
+    /// folder. The painted picture on screen is the same before and after. Throws Error, also for a
+    /// name that files cannot have, and FileError; then the files and the kit's name stay as they
+    /// were, and the window open.
     void SaveButton_Click();
     void CancelButton_Click();
 
     [[nodiscard]] const SaveEverythingControls& Controls() const { return controls_; }
+    [[nodiscard]] const std::string& Name() const { return name_; }
     [[nodiscard]] bool Grid() const { return grid_; }
     [[nodiscard]] bool Pdf() const { return pdf_; }
     /// Measured while the printed kit is chosen.
@@ -42,10 +48,12 @@ class SaveEverythingForm {
 
   private:
     [[nodiscard]] OutputChoice Chosen() const;
+    void ListFiles();
 
     Workplace& place_;
     const Exporter* exporter_;
     SaveEverythingControls controls_;
+    std::string name_;
     bool grid_ = false;
     bool pdf_ = false;
     PlanChoice plan_;

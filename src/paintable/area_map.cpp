@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <numeric>
 #include <utility>
 
 namespace vendrel {
@@ -11,6 +13,17 @@ std::vector<int> Framed(const std::vector<int>& sides) {
     std::vector<int> framed(sides.size() + 2);
     std::ranges::copy(sides, framed.begin() + 1);
     return framed;
+}
+
+// Per column or row of the framed grid whether so many from there on are together wide enough; none
+// of the frame's are.
+std::vector<std::uint8_t> WhereItFits(const std::vector<int>& framed, int side, double narrowest) {
+    std::vector<std::uint8_t> fits(framed.size());
+    for (int i = 1; i + side < std::ssize(framed); ++i) {
+        const auto first = framed.begin() + i;
+        fits[static_cast<std::size_t>(i)] = std::accumulate(first, first + side, 0) >= narrowest;
+    }
+    return fits;
 }
 
 }  // namespace
@@ -35,7 +48,8 @@ AreaMap::AreaMap(const StipplePicture& picture, const SeenTable& table, const Ar
 // The stipples of usual size decide; those at the edge that are short are looked at one by one.
 AreaMap::BlockSize AreaMap::SizeBlock(double narrowest) const {
     const int usual = across_ > 2 ? widths_[2] : std::max(1, widths_[1]);
-    return {std::max(1, static_cast<int>(std::ceil(narrowest / usual))), narrowest};
+    const int side = std::max(1, static_cast<int>(std::ceil(narrowest / usual)));
+    return {side, WhereItFits(widths_, side, narrowest), WhereItFits(heights_, side, narrowest)};
 }
 
 void AreaMap::Fill(const StipplePicture& picture) {
@@ -74,22 +88,6 @@ void AreaMap::Take(int cell, int sign) {
     }
 }
 
-bool AreaMap::HoldsNarrowest(int cell, int block, bool isProtected) const {
-    const double narrowest = LimitsOf(isProtected).Narrowest;
-    const int x = cell % stride_;
-    const int y = cell / stride_;
-    if (x < 1 || y < 1 || x + block > across_ + 1 || y + block > down_ + 1) {
-        return false;
-    }
-    int width = 0;
-    int height = 0;
-    for (int i = 0; i < block; ++i) {
-        width += widths_[Index(x + i)];
-        height += heights_[Index(y + i)];
-    }
-    return std::min(width, height) >= narrowest;
-}
-
 // The squares that lie in an area all but for a stipple of its own.
 int AreaMap::BlocksAround(int cell, int area, std::size_t which) const {
     const int side = blocks_.at(which).Side;
@@ -97,7 +95,7 @@ int AreaMap::BlocksAround(int cell, int area, std::size_t which) const {
     for (int up = 0; up < side; ++up) {
         for (int left = 0; left < side; ++left) {
             const int first = cell - up * stride_ - left;
-            if (!HoldsNarrowest(first, side, which == 1)) {
+            if (!HoldsNarrowest(first, which == 1)) {
                 continue;
             }
             bool isWhole = true;

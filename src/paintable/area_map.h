@@ -82,9 +82,13 @@ class AreaMap {
     /// Whether the area of a stipple stays in one piece without it, and within the limits if it is
     /// now.
     [[nodiscard]] bool MayLeave(int cell) const;
-    /// Whether the square of stipples from there on, to the right and below, holds the narrowest
-    /// part of an area. False beyond the grid's edge.
-    [[nodiscard]] bool HoldsNarrowest(int cell, int block, bool isProtected) const;
+    /// Whether the square of stipples from there on, to the right and below, with the side that
+    /// BlockOf tells, holds the narrowest part of an area. False beyond the grid's edge.
+    [[nodiscard]] bool HoldsNarrowest(int cell, bool isProtected) const {
+        const BlockSize& block = blocks_[isProtected ? 1 : 0];
+        return cell >= 0 && block.FitsAcross[Index(cell % stride_)] != 0 &&
+               block.FitsDown[Index(cell / stride_)] != 0;
+    }
     /// Gives a stipple to an area; the sums and areas of like paint stay as they are until
     /// SettleSums and JoinTwins.
     void Move(int cell, int area);
@@ -110,7 +114,8 @@ class AreaMap {
     };
     struct BlockSize {
         int Side = 1;
-        double Narrowest = 0;
+        std::vector<std::uint8_t> FitsAcross;  // by column of the framed grid, where it starts
+        std::vector<std::uint8_t> FitsDown;    // by row
     };
 
     static std::size_t Index(int i) { return static_cast<std::size_t>(i); }

@@ -103,7 +103,7 @@ class Growth {
         for (const int cell : map_.CellsOf(area_)) {
             for (int i = 0; i < block * block; ++i) {
                 const int first = cell - i / block * below - i % block;
-                if (!map_.HoldsNarrowest(first, block, map_.IsProtected(area_))) {
+                if (!map_.HoldsNarrowest(first, map_.IsProtected(area_))) {
                     continue;
                 }
                 SeenSum cost = 0;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "regions/inscribed_discs.h"
@@ -34,6 +35,7 @@ class PrintAreas {
           protectedLimits_(protectedLimits),
           areas_(FindRegions(painting.Stipples)),
           ids_(painting.Pixels.Across(), painting.Pixels.Down()),
+          isStale_(At(ids_.Down() + 1), true),
           squaredIn_(painting.Stipples.All().size()),
           cells_(areas_.List.size()),
           isProtected_(areas_.List.size()),
@@ -91,9 +93,13 @@ class PrintAreas {
             const RowView<const int> paints = painting_.Pixels.Row(y);
             const RowView<int> areas = areas_.Ids.Row(row_[At(y)]);
             const RowView<int> ids = ids_.Row(y);
-            for (int x = 0; x < ids.Count(); ++x) {
-                const int own = areas[column_[At(x)]];
-                ids[x] = paints[x] == areas_[own].Value ? own : ClaimantOf(x, y, paints[x], own);
+            for (int column = 0; column < areas.Count(); ++column) {
+                const int own = areas[column];
+                const int paint = areas_[own].Value;
+                const PixelBox box = BoxOf({column, row_[At(y)]}, {column, row_[At(y)]});
+                for (int x = box.Left; x < box.Right; ++x) {
+                    ids[x] = paints[x] == paint ? own : ClaimantOf(x, y, paints[x], own);
+                }
             }
         }
     }
@@ -121,9 +127,15 @@ class PrintAreas {
     // Two areas of one paint that meet in print would look like one: at a stipple's corner the
     // brush sweeps from one to the other.
     void SquareTwins() {
+        // What was looked at in an earlier round has no twins unless it has changed since.
+        const std::vector<bool> stale = std::exchange(isStale_, std::vector<bool>(isStale_.size()));
         for (int y = 0; y <= ids_.Down(); ++y) {
+            const int before = std::max(y - 1, 0);
+            if (!(stale[At(y)] || stale[At(before)] || isStale_[At(y)] || isStale_[At(before)])) {
+                continue;
+            }
             const RowView<int> row = ids_.Row(y);
-            const RowView<int> above = ids_.Row(std::max(y - 1, 0));
+            const RowView<int> above = ids_.Row(before);
             for (int x = 0; x < row.Count(); ++x) {
                 if (x > 0 && row[x] != row[x - 1]) {
                     SquareIfTwins({x, y}, {x - 1, y});
@@ -246,11 +258,32 @@ class PrintAreas {
                 part(x - box.Left, y - box.Top) = ids_(x, y) == area ? 1 : 0;
             }
         }
+        if (HoldsPixelSquare(part, static_cast<int>(std::ceil(narrowest)))) {
+            return true;
+        }
         const Regions regions = FindRegions(part);
         const std::vector<InscribedDisc> discs = FindLargestDiscs(regions);
         for (int id = 0; id < regions.Count(); ++id) {
             if (regions[id].Value == 1 && 2 * discs[At(id)].Radius >= narrowest) {
                 return true;
+            }
+        }
+        return false;
+    }
+
+    // Of ones: what holds a square holds its disc, and discs take far longer to find.
+    [[nodiscard]] static bool HoldsPixelSquare(const ValueGrid& part, int side) {
+        std::vector<int> above(At(part.Across() + 2));  // side of the largest that ends in a pixel
+        for (int y = 0; y <= part.Down(); ++y) {
+            const RowView<const int> row = part.Row(y);
+            int corner = 0;
+            for (int x = 0; x < row.Count(); ++x) {
+                int& here = above[At(x + 1)];
+                const int least = std::min({corner, here, above[At(x)]});
+                corner = std::exchange(here, row[x] == 1 ? least + 1 : 0);
+                if (here >= side) {
+                    return true;
+                }
             }
         }
         return false;
@@ -277,6 +310,7 @@ class PrintAreas {
         changed_ = true;
         const PixelBox box = BoxOf({x, y}, {x, y});
         for (int j = box.Top; j < box.Bottom; ++j) {
+            isStale_[At(j)] = true;
             for (int i = box.Left; i < box.Right; ++i) {
                 isSound_[At(ids_(i, j))] = false;
                 ids_(i, j) = areas_.Ids(x, y);
@@ -299,6 +333,7 @@ class PrintAreas {
     ValueGrid ids_;            // area per pixel
     std::vector<int> column_;  // of stipples, per pixel column
     std::vector<int> row_;
+    std::vector<bool> isStale_;   // rows of pixels that changed since twins were last looked for
     std::vector<int> squaredIn_;  // per stipple the round, 0 while it is round
     int round_ = 0;
     std::vector<std::vector<CellPos>> cells_;

@@ -1,10 +1,13 @@
 #include "regions/inscribed_discs.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <span>
+#include <utility>
 
+#include "support/in_parts.h"
 #include "support/list.h"
 
 namespace vendrel {
@@ -122,28 +125,59 @@ class RowDistances {
     std::vector<Parabola> envelope_;
 };
 
+// The largest discs of all regions whose centers are in some of the rows.
+class DiscsInRows {
+  public:
+    DiscsInRows() = default;
+    DiscsInRows(const Regions& regions, const Lattice& lattice, int first, int end)
+        : squared_(regions.List.size()), discs_(regions.List.size()) {
+        RowDistances distances(lattice.Width());
+        for (int j = first; j < end; ++j) {
+            const std::span<const int> ids = regions.Ids.Row(j / 2);
+            const std::span<const int> squared = distances.Measure(lattice.UprightDistances(j));
+            for (std::size_t i = 1; i + 1 < squared.size(); ++i) {
+                const auto id = static_cast<std::size_t>(ids[i / 2]);
+                if (squared[i] > squared_[id]) {
+                    squared_[id] = squared[i];
+                    discs_[id] = {static_cast<double>(i) / 2, j / 2.0, 0};
+                }
+            }
+        }
+    }
+    /// Takes over those of rows below where they are larger.
+    void Add(const DiscsInRows& below) {
+        for (std::size_t id = 0; id < below.discs_.size(); ++id) {
+            if (below.squared_[id] > squared_[id]) {
+                squared_[id] = below.squared_[id];
+                discs_[id] = below.discs_[id];
+            }
+        }
+    }
+    std::vector<InscribedDisc> Settle() {
+        for (std::size_t id = 0; id < discs_.size(); ++id) {
+            discs_[id].Radius = std::sqrt(static_cast<double>(squared_[id])) / 2;
+        }
+        return std::move(discs_);
+    }
+
+  private:
+    std::vector<int> squared_;
+    std::vector<InscribedDisc> discs_;
+};
+
 }  // namespace
 
 std::vector<InscribedDisc> FindLargestDiscs(const Regions& regions) {
     const Lattice lattice(regions.Ids);
-    RowDistances distances(lattice.Width());
-    std::vector<int> largest(regions.List.size());
-    std::vector<InscribedDisc> discs(regions.List.size());
-    for (int j = 1; j < lattice.Height() - 1; ++j) {
-        const std::span<const int> ids = regions.Ids.Row(j / 2);
-        const std::span<const int> squared = distances.Measure(lattice.UprightDistances(j));
-        for (std::size_t i = 1; i + 1 < squared.size(); ++i) {
-            const auto id = static_cast<std::size_t>(ids[i / 2]);
-            if (squared[i] > largest[id]) {
-                largest[id] = squared[i];
-                discs[id] = {static_cast<double>(i) / 2, j / 2.0, 0};
-            }
-        }
+    const int rows = lattice.Height() - 2;
+    std::array<DiscsInRows, kMostParts> parts;
+    InParts(rows, [&](Part part) {
+        At(parts, part.Index) = DiscsInRows(regions, lattice, part.First + 1, part.End + 1);
+    });
+    for (int i = 1; i < kMostParts; ++i) {
+        parts.front().Add(At(parts, i));
     }
-    for (std::size_t id = 0; id < discs.size(); ++id) {
-        discs[id].Radius = std::sqrt(static_cast<double>(largest[id])) / 2;
-    }
-    return discs;
+    return parts.front().Settle();
 }
 
 }  // namespace vendrel

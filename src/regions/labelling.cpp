@@ -1,116 +1,105 @@
 #include "regions/labelling.h"
 
-#include <span>
+#include <algorithm>
+#include <cstddef>
 
 #include "support/list.h"
 
 namespace vendrel {
 namespace {
 
-// Labels given so far. Each points to a lower one of its region or, the lowest, to itself: the
-// lowest label is that of the region's first place.
-class Labels {
-  public:
-    int Add() {
-        parents_.push_back(static_cast<int>(parents_.size()));
-        return parents_.back();
-    }
-    int Join(int one, int other) {
-        one = Root(one);
-        other = Root(other);
-        const int lower = one < other ? one : other;
-        Parent(one) = lower;
-        Parent(other) = lower;
-        return lower;
-    }
-    // Labels become numbers without gaps; answers how many.
-    int Settle() {
-        int count = 0;
-        for (std::size_t i = 0; i < parents_.size(); ++i) {
-            const bool isFirst = parents_[i] == static_cast<int>(i);
-            parents_[i] = isFirst ? count++ : Parent(parents_[i]);
-        }
-        return count;
-    }
-    [[nodiscard]] int NumberOf(int label) const { return At(parents_, label); }
-
-  private:
-    [[nodiscard]] int& Parent(int label) { return At(parents_, label); }
-    int Root(int label) {
-        while (Parent(label) != label) {
-            Parent(label) = Parent(Parent(label));
-            label = Parent(label);
-        }
-        return label;
-    }
-
-    std::vector<int> parents_;
+// Places of one value side by side in a row; labels are given to these, of which there are far
+// fewer than places.
+struct Run {
+    int First = 0;
+    int End = 0;  // the first place behind
+    int Value = 0;
+    int Parent = 0;  // a lower run of its region or, the lowest, itself
 };
 
-// Gives every place of a row the label of those before it that it hangs together with.
-class RowLabelling {
+class RunLabelling {
   public:
-    RowLabelling(Labels& labels, Connection connection)
-        : labels_(labels), corners_(connection == Connection::Corners) {}
-
-    struct Row {
-        RowView<const int> Values;
-        RowView<int> Ids;
-    };
-
-    /// `above` is empty for the first row.
-    void Run(const Row& above, const Row& row) {
-        const int count = row.Values.Count();
-        for (int x = 0; x < count; ++x) {
-            const int value = row.Values[x];
-            int label = x > 0 && row.Values[x - 1] == value ? row.Ids[x - 1] : -1;
-            if (above.Values.Count() > 0) {
-                label = JoinAbove(above, x, value, label);
-                if (corners_ && x > 0) {
-                    label = JoinAbove(above, x - 1, value, label);
-                }
-                if (corners_ && x + 1 < count) {
-                    label = JoinAbove(above, x + 1, value, label);
-                }
+    RunLabelling(const ValueGrid& values, Connection connection)
+        : values_(values), reach_(connection == Connection::Corners ? 1 : 0) {
+        for (int y = 0; y <= values.Down(); ++y) {
+            rows_.push_back(runs_.size());
+            CutRow(values.Row(y));
+            if (y > 0) {
+                JoinRows(rows_[rows_.size() - 2], rows_.back());
             }
-            row.Ids[x] = label < 0 ? labels_.Add() : label;
         }
+        rows_.push_back(runs_.size());
+    }
+
+    Regions Settle() {
+        Regions found{ValueGrid(values_.Across(), values_.Down()), {}};
+        for (int y = 0; y <= values_.Down(); ++y) {
+            const RowView<int> ids = found.Ids.Row(y);
+            for (std::size_t i = At(rows_, y); i < At(rows_, y + 1); ++i) {
+                Run& run = runs_[i];
+                // From here on a run's parent is its region, and lower runs have theirs already.
+                if (run.Parent == static_cast<int>(i)) {
+                    run.Parent = found.Count();
+                    found.List.push_back({run.Value, 0});
+                } else {
+                    run.Parent = At(runs_, run.Parent).Parent;
+                }
+                found[run.Parent].Size += run.End - run.First;
+                std::ranges::fill(ids.From(run.First).First(run.End - run.First), run.Parent);
+            }
+        }
+        return found;
     }
 
   private:
-    int JoinAbove(const Row& above, int x, int value, int label) {
-        if (above.Values[x] != value || above.Ids[x] == label) {
-            return label;
+    void CutRow(RowView<const int> row) {
+        for (int x = 0; x < row.Count();) {
+            const int first = x;
+            const int value = row[x];
+            while (x < row.Count() && row[x] == value) {
+                ++x;
+            }
+            runs_.push_back({first, x, value, static_cast<int>(runs_.size())});
         }
-        return label < 0 ? above.Ids[x] : labels_.Join(label, above.Ids[x]);
+    }
+    void JoinRows(std::size_t above, std::size_t here) {
+        std::size_t first = above;
+        for (std::size_t lower = here; lower < runs_.size(); ++lower) {
+            while (runs_[first].End + reach_ <= runs_[lower].First) {
+                ++first;
+            }
+            for (std::size_t upper = first;
+                 upper < here && runs_[upper].First < runs_[lower].End + reach_; ++upper) {
+                if (runs_[upper].Value == runs_[lower].Value) {
+                    Join(static_cast<int>(upper), static_cast<int>(lower));
+                }
+            }
+        }
+    }
+    void Join(int one, int other) {
+        one = Root(one);
+        other = Root(other);
+        At(runs_, std::max(one, other)).Parent = std::min(one, other);
+    }
+    int Root(int run) {
+        while (At(runs_, run).Parent != run) {
+            int& parent = At(runs_, run).Parent;
+            parent = At(runs_, parent).Parent;
+            run = parent;
+        }
+        return run;
     }
 
-    Labels& labels_;
-    bool corners_;
+    const ValueGrid& values_;
+    int reach_;
+    std::vector<Run> runs_;
+    std::vector<std::size_t> rows_;
 };
 
 }  // namespace
 
 Regions FindRegions(const ValueGrid& values, Connection connection) {
-    Regions found{ValueGrid(values.Across(), values.Down()), {}};
-    Labels labels;
-    RowLabelling labelling(labels, connection);
-    RowLabelling::Row above;
-    for (int y = 0; y <= values.Down(); ++y) {
-        const RowLabelling::Row row{values.Row(y), found.Ids.Row(y)};
-        labelling.Run(above, row);
-        above = row;
-    }
-    found.List.resize(static_cast<std::size_t>(labels.Settle()));
-    const std::span<const int> from = values.All();
-    const std::span<int> ids = found.Ids.All();
-    for (std::size_t i = 0; i < from.size(); ++i) {
-        ids[i] = labels.NumberOf(ids[i]);
-        Region& region = found[ids[i]];
-        region.Value = from[i];
-        ++region.Size;
-    }
-    return found;
+    return RunLabelling(values, connection).Settle();
 }
 
 }  // namespace vendrel

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -31,6 +32,8 @@ class ToolsTest : public QObject {
     }
     void TemplateShopKeepsWhatIsAddedAndRemoved();
     void ColorMatcherExchangesAndConverts();
+    void MakesAKitPaintableAsTheMouseProtectsIt();
+    void AKitSavedUnderANameKeepsIt();
     void ThePdfWindowTellsWhatACanvasDoesToTheSymbols();
     void SaveEverythingShowsThePlanItPrints();
     void ValuesAreReadOutAndReachedByKeys();
@@ -91,6 +94,85 @@ void ToolsTest::ColorMatcherExchangesAndConverts() {
         QVERIFY(paint.PaintName != before);
     }
     QVERIFY(desktop_->Place().MainMenu[MenuId::PaintItNow].Enabled);
+}
+
+void ToolsTest::MakesAKitPaintableAsTheMouseProtectsIt() {
+    const WorkState& kit = desktop_->Place().State;
+    QVERIFY(Choose(desktop_->Window(), "ChangeToStipples"));
+    QVERIFY(Choose(desktop_->Window(), "MakeItPaintable"));
+    QWidget* window = QApplication::activeModalWidget();
+    const auto figures = [&window] { return Find<QLabel>(*window, "PaintableFigures").text(); };
+    const QString usual = figures();
+    Find<QDoubleSpinBox>(*window, "SmallestSpot").setValue(200);
+    QTRY_VERIFY(figures() != usual);
+    const QString large = figures();
+
+    auto& view = Find<QWidget>(*window, "PaintableView");
+    const auto stroke = [&view](Qt::MouseButton button) {
+        const QPoint to(view.width() / 6, view.height() / 2);
+        QTest::mousePress(&view, button, {}, to - QPoint(40, 40));
+        QMouseEvent move(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, button, {});
+        QApplication::sendEvent(&view, &move);
+        QTest::mouseRelease(&view, button, {}, to);
+    };
+    stroke(Qt::LeftButton);
+    QCOMPARE(figures(), large);  // it only dragged
+    Find<QCheckBox>(*window, "ProtectParts").click();
+    stroke(Qt::LeftButton);
+    const QString held = figures();
+    QVERIFY(held != large);
+    Press(*window, "UndoProtect");
+    QCOMPARE(figures(), large);
+    Press(*window, "RedoProtect");
+    QCOMPARE(figures(), held);
+    stroke(Qt::RightButton);
+    QCOMPARE(figures(), large);
+    const QImage painted = view.grab().toImage();
+    Find<QCheckBox>(*window, "OutlinesOnly").click();
+    QVERIFY(view.grab().toImage() != painted);
+    Press(*window, "CancelButton");
+    QVERIFY(!window->isVisible() && !kit.PaintableKit && kit.Protected.All().empty());
+
+    QVERIFY(Choose(desktop_->Window(), "MakeItPaintable"));
+    window = QApplication::activeModalWidget();
+    QCOMPARE(figures(), usual);
+    Find<QDoubleSpinBox>(*window, "SmallestSpot").setValue(200);
+    Press(*window, "OkButton");  // before the figures have followed
+    QVERIFY(!window->isVisible() && kit.PaintableKit && kit.Chosen.Limits.SmallestMm2 == 200);
+
+    QVERIFY(Choose(desktop_->Window(), "NextBestColors"));
+    Press(*QApplication::activeModalWidget(), "AcceptButton");
+    QVERIFY2(kit.PaintableKit && !kit.Chosen.Paintable, "matched again it stays paintable");
+}
+
+void ToolsTest::AKitSavedUnderANameKeepsIt() {
+    MainWindow& main = desktop_->Window();
+    QVERIFY(Choose(main, "WatchItPaint") && Choose(main, "ChangeToStipples"));
+    QVERIFY(Choose(main, "PaintItNow") && Choose(main, "SaveItAll"));
+    QWidget& window = *QApplication::activeModalWidget();
+    auto& name = Find<QLineEdit>(window, "KitName");
+    const auto type = [&name](const char* text) {
+        name.clear();
+        QTest::keyClicks(&name, QString::fromLatin1(text));
+    };
+    QCOMPARE(name.text(), QStringLiteral("PBNLady"));
+    type("a/b");
+    {
+        NextMessage message;
+        Press(window, "SaveEverything");
+        QVERIFY2(message.Text.contains("without slashes"), qPrintable(message.Text));
+    }
+    type("Lady 2");
+    QVERIFY(Find<QLabel>(window, "AlwaysSaved").text().contains("Lady 2 Easy Painting.BMP"));
+    QCOMPARE(desktop_->Place().State->PictureName, std::string("PBNLady"));
+    NextMessage saved;
+    Press(window, "SaveEverything");
+    QVERIFY(!window.isVisible());
+    QVERIFY(std::filesystem::exists(studio_->Files / "Results/Lady 2 Easy Painting.BMP"));
+    QVERIFY(!std::filesystem::exists(studio_->Files / "Results/PBNLady Easy Painting.BMP"));
+    QCOMPARE(desktop_->Place().State->PictureName, std::string("Lady 2"));
+    QVERIFY(LoadFirstPhoto(main));
+    QCOMPARE(desktop_->Place().State->PictureName, std::string("PBNLady"));
 }
 
 void ToolsTest::ThePdfWindowTellsWhatACanvasDoesToTheSymbols() {
