@@ -16,6 +16,7 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       form_(context.Place, context.Form.Exports()),
       paper_(Named<QComboBox>("Paper", tr("Paper"))),
+      symbols_(Named<QComboBox>("Symbols", tr("Symbols"))),
       legible_(Named<QRadioButton>("LegibleCanvas", tr("As many pages as legible symbols need"))),
       chosenSize_(Named<QRadioButton>("ChosenCanvas", tr("A canvas of a chosen width"))),
       width_(Named<QDoubleSpinBox>("CanvasWidth", tr("Width of the canvas in centimeters"))),
@@ -34,6 +35,8 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
 
 QLayout* KitPdfDialog::MakeChoices() {
     paper_->addItems({tr("A4"), tr("Letter"), tr("A3")});
+    symbols_->addItems(
+        {tr("Letters of the sheet"), tr("The clearest letters"), tr("Numbers"), tr("Signs")});
     legible_->setText(tr("As many pages as &legible symbols need (2 mm and more)"));
     chosenSize_->setText(tr("&Width of the canvas"));
     width_->setRange(kSmallestCanvasCm, kLargestCanvasCm);
@@ -47,6 +50,7 @@ QLayout* KitPdfDialog::MakeChoices() {
     size->addStretch(1);
     auto* rows = new QFormLayout;
     rows->addRow(tr("&Paper"), paper_);
+    rows->addRow(tr("&Symbols"), symbols_);
     rows->addRow(tr("Canvas"), legible_);
     rows->addRow(QString(), size);
     return rows;
@@ -77,13 +81,16 @@ QLayout* KitPdfDialog::MakeButtons() {
     QPushButton* cancel =
         MakeButton("CancelPdf", tr("Cancel"), [this] { form_.CancelButton_Click(); });
     buttons->addWidget(cancel);
-    SetTabOrder({paper_, legible_, chosenSize_, width_, save, cancel});
+    SetTabOrder({paper_, symbols_, legible_, chosenSize_, width_, save, cancel});
     return buttons;
 }
 
 void KitPdfDialog::Connect() {
     connect(paper_, &QComboBox::activated, this, [this](int index) {
         Run([this, index] { form_.Paper_Click(static_cast<Paper>(index)); });
+    });
+    connect(symbols_, &QComboBox::activated, this, [this](int index) {
+        Run([this, index] { form_.Symbols_Click(static_cast<SymbolStyle>(index)); });
     });
     connect(legible_, &QRadioButton::clicked, this, [this] { CanvasChanged(); });
     connect(chosenSize_, &QRadioButton::clicked, this, [this] { CanvasChanged(); });
@@ -103,6 +110,7 @@ void KitPdfDialog::CanvasChanged() {
 
 void KitPdfDialog::Mirror() {
     paper_->setCurrentIndex(static_cast<int>(form_.Settings().Sheet));
+    symbols_->setCurrentIndex(static_cast<int>(form_.Settings().Symbols));
     width_->setEnabled(form_.Settings().CanvasCm > 0);
     if (form_.Figures()) {
         MirrorFigures(*form_.Figures());

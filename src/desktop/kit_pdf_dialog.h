@@ -33,6 +33,7 @@ class KitPdfDialog : public FormDialog {
 
     KitPdfForm form_;
     QComboBox* paper_;
+    QComboBox* symbols_;
     QRadioButton* legible_;
     QRadioButton* chosenSize_;
     QDoubleSpinBox* width_;

@@ -102,12 +102,13 @@ void FixDate(QByteArray& pdf) {
 
 void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
-    const PrintSymbols symbols;
+    const PrintSymbols symbols(settings.Symbols, place.State->PaintCount);
     const PrintPlan plan =
         MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
-    const KitPages kit{place,         plan,
-                       symbols,       SizeOf(settings.Sheet),
-                       BoxesOf(plan), PaintingOf(plan.Regions, place.State)};
+    const KitPages kit{place,           plan,
+                       symbols,         SizeOf(settings.Sheet),
+                       BoxesOf(plan),   PaintingOf(plan.Regions, place.State),
+                       settings.Symbols};
     const SteadyHashes steady;
     QByteArray pdf;
     QBuffer buffer(&pdf);

@@ -2,13 +2,13 @@
 
 #include "export/color_chart_image.h"
 #include "export/kit_pdf.h"
-#include "export/print_fonts.h"
+#include "export/print_symbols.h"
 #include "support/error.h"
 
 namespace vendrel {
 
-SymbolAspects QtExporter::Aspects() const {
-    return PrintSymbols().Aspects();
+SymbolAspects QtExporter::Aspects(SymbolStyle style, int paints) const {
+    return PrintSymbols(style, paints).Aspects();
 }
 
 void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettings& settings,

@@ -7,7 +7,12 @@
 namespace vendrel {
 
 void KitPdfForm::Form_Load() {
-    sketch_ = SketchPlan(place_.State, place_.Frames->WorkFrame.Picture, exporter_.Aspects());
+    Sketch();
+}
+
+void KitPdfForm::Sketch() {
+    sketch_ = SketchPlan(place_.State, place_.Frames->WorkFrame.Picture,
+                         exporter_.Aspects(settings_.Symbols, place_.State->PaintCount));
     Measure();
 }
 
@@ -20,6 +25,11 @@ void KitPdfForm::Measure() {
 void KitPdfForm::Paper_Click(Paper paper) {
     settings_.Sheet = paper;
     Measure();
+}
+
+void KitPdfForm::Symbols_Click(SymbolStyle style) {
+    settings_.Symbols = style;
+    Sketch();
 }
 
 void KitPdfForm::Canvas_Change(double centimetres) {

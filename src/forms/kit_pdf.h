@@ -16,6 +16,8 @@ class KitPdfForm {
     /// Measures the painting. Throws Error when it cannot be printed.
     void Form_Load();
     void Paper_Click(Paper paper);
+    /// Measures anew, as symbols are of different widths.
+    void Symbols_Click(SymbolStyle style);
     /// Width of the canvas in centimetres; 0 to fill the pages that legible symbols need.
     void Canvas_Change(double centimetres);
     /// Writes the PDF, closes, and offers to open its folder.
@@ -29,6 +31,7 @@ class KitPdfForm {
     [[nodiscard]] double WidestCm() const;
 
   private:
+    void Sketch();
     void Measure();
 
     Workplace& place_;

@@ -79,6 +79,11 @@ constexpr auto kMatchings =
     std::to_array<Choice<Matching>>({{"plain", Matching::Plain}, {"eye", Matching::ByEye}});
 constexpr auto kPapers =
     std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
+constexpr auto kSymbolStyles =
+    std::to_array<Choice<SymbolStyle>>({{"letters", SymbolStyle::Letters},
+                                        {"clear", SymbolStyle::Clear},
+                                        {"numbers", SymbolStyle::Numbers},
+                                        {"signs", SymbolStyle::Signs}});
 constexpr auto kFits = std::to_array<Choice<PhotoFit>>({{"keep", PhotoFit::Keep},
                                                         {"crop", PhotoFit::Crop},
                                                         {"top", PhotoFit::CropTop},
@@ -306,6 +311,11 @@ void AddOutputOptions(CLI::App& app, KitOptions& kit) {
              });
     AddChoice(app, {"--paper", "SIZE", "prints the pdf on A4 (default), Letter or A3"}, kPapers,
               kit.Plan.Sheet);
+    AddChoice(app,
+              {"--symbols", "STYLE",
+               "marks the paints in the pdf with the sheet's letters\n"
+               "(default), the clearest of them, numbers or signs"},
+              kSymbolStyles, kit.Plan.Symbols);
     AddValue(app,
              {"--canvas", "WIDTHcm",
               "makes the kit for a canvas this wide, as in 60cm; with\n"

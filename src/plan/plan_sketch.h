@@ -7,6 +7,7 @@
 #include "plan/label_placement.h"
 #include "plan/page_tiling.h"
 #include "plan/painted_regions.h"
+#include "plan/symbol_style.h"
 #include "shell/work_state.h"
 #include "support/print_scale.h"
 #include "support/surface.h"
@@ -17,6 +18,7 @@ namespace vendrel {
 struct PlanSettings {
     Paper Sheet = Paper::A4;
     double CanvasCm = 0;  // width of the finished canvas; 0: chosen by MakePrintPlan
+    SymbolStyle Symbols = SymbolStyle::Letters;
 };
 
 /// Height of the smallest symbol when the canvas may be as large as it likes, in millimetres.

@@ -128,7 +128,7 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
 // Draws nothing, but tells of its progress; fails when told to.
 class Printer : public Exporter {
   public:
-    SymbolAspects Aspects() const override {
+    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
         SymbolAspects aspects;
         aspects.fill(0.7);
         return aspects;

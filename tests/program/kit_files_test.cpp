@@ -149,7 +149,7 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
 class NamingExporter final : public Exporter {
   public:
     explicit NamingExporter(std::vector<std::string>& asked) : asked_(asked) {}
-    SymbolAspects Aspects() const override {
+    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
         SymbolAspects aspects;
         aspects.fill(0.7);
         return aspects;
