@@ -8,7 +8,7 @@
 #include <array>
 
 #include "output/symbol_set.h"
-#include "plan/label_placement.h"
+#include "plan/symbol_aspects.h"
 
 namespace vendrel {
 

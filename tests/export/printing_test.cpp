@@ -103,6 +103,18 @@ TEST_F(Printing, KitHasFrontPagesAndThePlanAndTheSameBytesEveryTime) {
     EXPECT_EQ(easel_.Work(), painting);
 }
 
+TEST_F(Printing, LinesAndTheirGrayAreThePaintersChoice) {
+    const auto pdf = [this](LineShape shape, int gray = kUsualGray) {
+        return Pdf({.Sheet = Paper::A4, .CanvasCm = 20, .Lines = shape, .Gray = gray});
+    };
+    EXPECT_TRUE(pdf(LineShape::ByKit) == pdf(LineShape::Steps));
+    easel_.State.PaintableKit = true;
+    const std::string smooth = pdf(LineShape::Smooth);
+    EXPECT_TRUE(pdf(LineShape::ByKit) == smooth);
+    EXPECT_FALSE(pdf(LineShape::Steps) == smooth);
+    EXPECT_FALSE(pdf(LineShape::Smooth, 80) == smooth);
+}
+
 TEST_F(Printing, AFolderThatCannotBeWrittenIsNamed) {
     easel_.Files.Write("Results", "in the way");
     EXPECT_THROW((void)Chart(), FileError);
@@ -115,7 +127,7 @@ TEST_F(Printing, SymbolsFitNarrowStipplesAndStandWhereTheyAreMeasured) {
     for (int symbol = 1; symbol <= kSymbolCount; ++symbol) {
         const double aspect = symbols.Aspects()[static_cast<std::size_t>(symbol)];
         EXPECT_GT(aspect, 0.2);
-        EXPECT_LE(aspect, 0.72 + 1e-9);
+        EXPECT_LE(aspect, 0.66 + 1e-9);
         QImage image(300, 300, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
