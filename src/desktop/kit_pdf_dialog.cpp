@@ -20,6 +20,8 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
       legible_(Named<QRadioButton>("LegibleCanvas", tr("As many pages as legible symbols need"))),
       chosenSize_(Named<QRadioButton>("ChosenCanvas", tr("A canvas of a chosen width"))),
       width_(Named<QDoubleSpinBox>("CanvasWidth", tr("Width of the canvas in centimeters"))),
+      lines_(Named<QComboBox>("PlanLines", tr("Shape of the lines"))),
+      gray_(Named<QSlider>("PlanGray", tr("Darkness of lines and symbols"))),
       pages_(Value("PlanPages")),
       canvas_(Value("PlanCanvas")),
       smallest_(Value("PlanSmallest")),
@@ -44,6 +46,12 @@ QLayout* KitPdfDialog::MakeChoices() {
     width_->setSuffix(tr(" cm"));
     width_->setValue(50);
     legible_->setChecked(true);
+    lines_->addItems({tr("Smooth curves"), tr("Steps, as painted")});
+    gray_->setOrientation(Qt::Horizontal);
+    gray_->setRange(kLightestGray, kDarkestGray);
+    gray_->setPageStep(10);
+    gray_->setValue(kUsualGray);
+    gray_->setToolTip(tr("Paint covers light lines; dark ones are easier to follow."));
     auto* size = new QHBoxLayout;
     size->addWidget(chosenSize_);
     size->addWidget(width_);
@@ -53,6 +61,8 @@ QLayout* KitPdfDialog::MakeChoices() {
     rows->addRow(tr("&Symbols"), symbols_);
     rows->addRow(tr("Canvas"), legible_);
     rows->addRow(QString(), size);
+    rows->addRow(tr("L&ines"), lines_);
+    rows->addRow(tr("&Darkness"), gray_);
     return rows;
 }
 
@@ -81,7 +91,7 @@ QLayout* KitPdfDialog::MakeButtons() {
     QPushButton* cancel =
         MakeButton("CancelPdf", tr("Cancel"), [this] { form_.CancelButton_Click(); });
     buttons->addWidget(cancel);
-    SetTabOrder({paper_, symbols_, legible_, chosenSize_, width_, save, cancel});
+    SetTabOrder({paper_, symbols_, legible_, chosenSize_, width_, lines_, gray_, save, cancel});
     return buttons;
 }
 
@@ -95,6 +105,13 @@ void KitPdfDialog::Connect() {
     connect(legible_, &QRadioButton::clicked, this, [this] { CanvasChanged(); });
     connect(chosenSize_, &QRadioButton::clicked, this, [this] { CanvasChanged(); });
     connect(width_, &QDoubleSpinBox::valueChanged, this, [this] { CanvasChanged(); });
+    connect(lines_, &QComboBox::activated, this, [this](int index) {
+        Run([this, index] {
+            form_.Lines_Click(index == 0 ? LineShape::Smooth : LineShape::Steps);
+        });
+    });
+    connect(gray_, &QSlider::valueChanged, this,
+            [this](int gray) { Run([this, gray] { form_.Gray_Change(gray); }); });
 }
 
 void KitPdfDialog::Load() {
@@ -111,6 +128,7 @@ void KitPdfDialog::CanvasChanged() {
 void KitPdfDialog::Mirror() {
     paper_->setCurrentIndex(static_cast<int>(form_.Settings().Sheet));
     symbols_->setCurrentIndex(static_cast<int>(form_.Settings().Symbols));
+    lines_->setCurrentIndex(form_.HasSmoothLines() ? 0 : 1);
     width_->setEnabled(form_.Settings().CanvasCm > 0);
     if (form_.Figures()) {
         MirrorFigures(*form_.Figures());

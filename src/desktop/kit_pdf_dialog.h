@@ -4,6 +4,7 @@
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QSlider>
 
 #include "desktop/form_dialog.h"
 #include "forms/kit_pdf.h"
@@ -37,6 +38,8 @@ class KitPdfDialog : public FormDialog {
     QRadioButton* legible_;
     QRadioButton* chosenSize_;
     QDoubleSpinBox* width_;
+    QComboBox* lines_;
+    QSlider* gray_;
     QLabel* pages_;
     QLabel* canvas_;
     QLabel* smallest_;

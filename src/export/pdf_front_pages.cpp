@@ -99,7 +99,8 @@ const char* const kSteps[] = {
     "Lay the cut edge of the next page on the dashed line, so that the halves of the round marks "
     "meet, and glue page to page, row by row, as the map shows.",
     "Cut off the outer margins, glue the plan onto the canvas or board, or trace it, and fill "
-    "every outline with the paint of its symbol. Small letters are underlined.",
+    "every outline with the paint of its symbol. Small letters are underlined. A symbol with a "
+    "line belongs to the area in which the line ends.",
     "Keep the color chart at hand: it has the paints' codes, and the lists on the pages vanish "
     "under their neighbors.",
 };

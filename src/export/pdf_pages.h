@@ -19,6 +19,7 @@ struct KitPages {
     SizeMm FrontPaper;                  // of cover, chart and page map, upright
     std::vector<PlanRect> SymbolBoxes;  // of all labels, in millimetres of the canvas
     Surface Painting;                   // as the plan cuts it, no pixel bare
+    int Gray = kUsualGray;              // of the plan's lines and symbols
 
     SymbolStyle Style = SymbolStyle::Letters;
 

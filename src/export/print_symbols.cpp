@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* kLetterFamily = "Liberation Mono";
 constexpr int kMeasureSize = 1000;
-constexpr double kBroadestLetter = 0.72;  // width of a symbol for its height
+constexpr double kBroadestLetter = 0.66;  // width of a symbol for its height
 constexpr double kBroadestNumber = 1.2;
 constexpr double kBarGap = 0.07;  // under a small letter, in ems
 constexpr double kBarThickness = 0.06;

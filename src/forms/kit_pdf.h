@@ -20,11 +20,17 @@ class KitPdfForm {
     void Symbols_Click(SymbolStyle style);
     /// Width of the canvas in centimetres; 0 to fill the pages that legible symbols need.
     void Canvas_Change(double centimetres);
+    void Lines_Click(LineShape shape) { settings_.Lines = shape; }
+    /// How dark lines and symbols are, kLightestGray to kDarkestGray.
+    void Gray_Change(int gray) { settings_.Gray = gray; }
     /// Writes the PDF, closes, and offers to open its folder.
     void SaveButton_Click();
     void CancelButton_Click();
 
     [[nodiscard]] const PlanSettings& Settings() const { return settings_; }
+    [[nodiscard]] bool HasSmoothLines() const {
+        return vendrel::HasSmoothLines(settings_, place_.State);
+    }
     /// Of the settings; nothing before the painting is measured.
     [[nodiscard]] const std::optional<PlanFigures>& Figures() const { return figures_; }
     /// The widest canvas that can be chosen, in centimeters.

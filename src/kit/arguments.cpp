@@ -84,6 +84,8 @@ constexpr auto kSymbolStyles =
                                         {"clear", SymbolStyle::Clear},
                                         {"numbers", SymbolStyle::Numbers},
                                         {"signs", SymbolStyle::Signs}});
+constexpr auto kLineShapes =
+    std::to_array<Choice<LineShape>>({{"smooth", LineShape::Smooth}, {"steps", LineShape::Steps}});
 constexpr auto kFits = std::to_array<Choice<PhotoFit>>({{"keep", PhotoFit::Keep},
                                                         {"crop", PhotoFit::Crop},
                                                         {"top", PhotoFit::CropTop},
@@ -179,6 +181,8 @@ double ToNumber(const std::string& option, std::string_view value, const Measure
     }
     return result;
 }
+
+constexpr Measure kGrays{"", kLightestGray, kDarkestGray, "a whole number from 10 to 100"};
 
 // "60cm" or "60.5", within what can be painted; "auto" is 0.
 double ToCanvasCm(const std::string& option, std::string_view value) {
@@ -314,8 +318,19 @@ void AddOutputOptions(CLI::App& app, KitOptions& kit) {
     AddChoice(app,
               {"--symbols", "STYLE",
                "marks the paints in the pdf with the sheet's letters\n"
-               "(default), the clearest of them, numbers or signs"},
+               "(default), its clear letters, numbers or signs"},
               kSymbolStyles, kit.Plan.Symbols);
+    AddChoice(app,
+              {"--lines", "SHAPE",
+               "draws the pdf's borders smooth (default for paintable\nkits) or in steps (default "
+               "for others)"},
+              kLineShapes, kit.Plan.Lines);
+    AddValue(app,
+             {"--gray", "N",
+              "10 to 100 (50): how dark the pdf's lines and symbols\nare; paint covers light ones"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Plan.Gray = static_cast<int>(ToNumber(option, value, kGrays));
+             });
     AddValue(app,
              {"--canvas", "WIDTHcm",
               "makes the kit for a canvas this wide, as in 60cm; with\n"

@@ -3,9 +3,9 @@
 #include <vector>
 
 #include "plan/label_placement.h"
-#include "plan/outlines.h"
 #include "plan/page_tiling.h"
 #include "plan/painted_regions.h"
+#include "plan/plan_lines.h"
 #include "plan/plan_sketch.h"
 #include "shell/work_state.h"
 #include "support/print_scale.h"
@@ -16,7 +16,7 @@ namespace vendrel {
 /// A whole plan, ready to be drawn.
 struct PrintPlan {
     PaintedRegions Regions;
-    std::vector<PlanLine> Lines;
+    PlanLines Lines;
     PaintAspects Aspects;
     std::vector<PlanLabel> Labels;
     PagePlan Pages;
