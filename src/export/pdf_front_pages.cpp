@@ -125,7 +125,7 @@ double DrawSteps(QPainter& painter, double top, double width) {
 }  // namespace
 
 std::string KitPages::Title() const {
-    return PrintedName(Place.State) + ", " + std::string(DifficultyWord(Place.State));
+    return KitTitle(Place.State, Place.State);
 }
 
 QString KitPages::StyleNote() const {

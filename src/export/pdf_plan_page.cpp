@@ -8,6 +8,7 @@
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
 #include "plan/mark_places.h"
+#include "plan/plan_pen.h"
 #include "shell/symbol_of.h"
 
 namespace vendrel {
@@ -15,9 +16,6 @@ namespace {
 
 using Design = PlanPageDesign;
 
-// Light enough to vanish under paint, dark enough to follow.
-constexpr int kBorderGray = 120;
-constexpr int kSymbolGray = 70;
 const QColor kBorderInk(kBorderGray, kBorderGray, kBorderGray);
 const QColor kCutInk(90, 140, 200);
 
@@ -51,11 +49,7 @@ class PlanPage {
     [[nodiscard]] int SymbolOf(int paint) const {
         return vendrel::SymbolOf(kit_.Place.State->PaintColors, paint);
     }
-    // As dark as the painter wants what usually is that gray.
-    [[nodiscard]] QColor Ink(int usual) const {
-        const int level = std::max(0, 255 - (255 - usual) * kit_.Gray / kUsualGray);
-        return {level, level, level};
-    }
+    [[nodiscard]] QColor Ink(int usual) const { return ToQt(PlanInk(usual, kit_.Gray)); }
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
     void DrawOutlines();
@@ -131,7 +125,6 @@ void PlanPage::DrawSymbols() {
 
 // With a dot at its end, so that nobody takes the symbol for that of the area around it.
 void PlanPage::DrawLeader(const PlanLabel& label, double aspect) {
-    constexpr double kDot = 0.3;
     if (!label.PointsAt) {
         return;
     }
@@ -142,7 +135,7 @@ void PlanPage::DrawLeader(const PlanLabel& label, double aspect) {
     painter_.drawLine(QLineF(At(leader.front()), At(leader.back())));
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(ink);
-    painter_.drawEllipse(At(leader.back()), Mm(kDot), Mm(kDot));
+    painter_.drawEllipse(At(leader.back()), Mm(kLeaderDotMm), Mm(kLeaderDotMm));
     painter_.restore();
 }
 

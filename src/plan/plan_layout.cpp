@@ -41,11 +41,17 @@ PlanLines LinesOf(const PrintPlan& plan, const WorkState& state, const PlanSetti
     return SmoothLines(plan.Regions, std::move(stairs), rules);
 }
 
-}  // namespace
+void AddLabels(PrintPlan& plan, const PageCuts& cuts) {
+    LabelRules rules;
+    rules.Aspects = plan.Aspects;
+    rules.LegibleHeight = plan.Scale.Pixels(kRepeated * kLegibleSymbolMm);
+    rules.Air = InPixels(AirInPrint(), plan.Scale);
+    rules.LatticeStep = plan.Scale.Pixels(kLatticeMm);
+    rules.Cuts = cuts;
+    plan.Labels = PlaceLabels(plan.Regions, plan.Lines, rules);
+}
 
-PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
-                        const PlanSettings& settings, const SymbolAspects& aspects) {
-    PlanSketch sketch = SketchPlan(state, picture, aspects);
+PrintPlan WithoutLabels(const WorkState& state, PlanSketch sketch, const PlanSettings& settings) {
     PlanSheets sheets = LayOutSheets(sketch, settings);
     PrintPlan plan;
     plan.Aspects = std::move(sketch.Aspects);
@@ -53,13 +59,22 @@ PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
     plan.Pages = std::move(sheets.Pages);
     plan.Scale = sheets.Scale;
     plan.Lines = LinesOf(plan, state, settings);
-    LabelRules rules;
-    rules.Aspects = plan.Aspects;
-    rules.LegibleHeight = plan.Scale.Pixels(kRepeated * kLegibleSymbolMm);
-    rules.Air = InPixels(AirInPrint(), plan.Scale);
-    rules.LatticeStep = plan.Scale.Pixels(kLatticeMm);
-    rules.Cuts = CutsInPixels(plan);
-    plan.Labels = PlaceLabels(plan.Regions, plan.Lines, rules);
+    return plan;
+}
+
+}  // namespace
+
+PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
+                        const PlanSettings& settings, const SymbolAspects& aspects) {
+    PrintPlan plan = WithoutLabels(state, SketchPlan(state, picture, aspects), settings);
+    AddLabels(plan, CutsInPixels(plan));
+    return plan;
+}
+
+PrintPlan MakeUncutPlan(const WorkState& state, const Surface& picture,
+                        const PlanSettings& settings, const SymbolAspects& aspects) {
+    PrintPlan plan = WithoutLabels(state, SketchPlan(state, picture, aspects), settings);
+    AddLabels(plan, {});
     return plan;
 }
 

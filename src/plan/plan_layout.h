@@ -29,5 +29,8 @@ struct PrintPlan {
 /// paints than symbols or a canvas outside kSmallestCanvasCm..kLargestCanvasCm.
 [[nodiscard]] PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
                                       const PlanSettings& settings, const SymbolAspects& aspects);
+/// The same for a canvas in one piece: no symbol gives way to a cut or comes back beyond it.
+[[nodiscard]] PrintPlan MakeUncutPlan(const WorkState& state, const Surface& picture,
+                                      const PlanSettings& settings, const SymbolAspects& aspects);
 
 }  // namespace vendrel
