@@ -132,6 +132,26 @@ SymbolAspects PrintSymbols::Aspects() const {
     return aspects;
 }
 
+QPainterPath PrintSymbols::Outline(int symbol) const {
+    const Shape& shape = shapes_.at(static_cast<std::size_t>(symbol - 1));
+    if (shape.Text.isEmpty()) {
+        return shape.Path;
+    }
+    QPainterPath path;
+    path.addText(0, 0, Sized(font_, kMeasureSize), shape.Text);
+    path.addRect(Scaled(shape.Bar, kMeasureSize));
+    const double toBox = 1 / shape.Box;
+    const QPointF middle = shape.Ink.center();
+    return QTransform::fromScale(shape.Squeeze * toBox / kMeasureSize, toBox / kMeasureSize)
+        .map(path)
+        .translated(-middle.x() * shape.Squeeze * toBox, -middle.y() * toBox);
+}
+
+QString PrintSymbols::Name(int symbol) const {
+    const Shape& shape = shapes_.at(static_cast<std::size_t>(symbol - 1));
+    return shape.Text.isEmpty() ? QString("sign %1").arg(symbol) : shape.Text;
+}
+
 void PrintSymbols::Draw(QPainter& painter, int symbol, QPointF centre, double height) const {
     const Shape& shape = shapes_.at(static_cast<std::size_t>(symbol - 1));
     // Whole font sizes are enough: the painter's unit is far smaller than a symbol.

@@ -8,8 +8,8 @@
 #include <QtGui/QPainterPath>
 #include <vector>
 
-#include "plan/label_placement.h"
 #include "plan/signs.h"
+#include "plan/symbol_aspects.h"
 #include "plan/symbol_style.h"
 
 namespace vendrel {
@@ -27,6 +27,10 @@ class PrintSymbols {
 
     /// A symbol that is not there is as narrow as nothing.
     [[nodiscard]] SymbolAspects Aspects() const;
+    /// A symbol's outlines, even-odd, in a box 1 unit tall with its middle at 0.
+    [[nodiscard]] QPainterPath Outline(int symbol) const;
+    /// What a list without drawings calls a symbol: "A", "12", "sign 3".
+    [[nodiscard]] QString Name(int symbol) const;
     /// Draws a symbol with the painter's pen; its box is `height` units tall, capitals fill it.
     void Draw(QPainter& painter, int symbol, QPointF centre, double height) const;
     /// Draws a symbol as one of a list: all in one size, on one base line, capitals `capitals`
