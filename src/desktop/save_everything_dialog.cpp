@@ -16,6 +16,8 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
       grid_(Named<QCheckBox>("SaveGrid", tr("Stipples, to touch them up another day"))),
       pdf_(Named<QCheckBox>("SavePdfToo", tr("Kit as PDF, to print"))),
       paper_(Named<QComboBox>("EverythingPaper", tr("Paper of the PDF"))),
+      svg_(Named<QCheckBox>("SaveSvgToo", tr("Plan as SVG, for drawing programs and cutters"))),
+      page_(Named<QCheckBox>("SavePageToo", tr("Page to paint along with"))),
       folders_(Named<QLabel>("SaveFolders", tr("Folders"))) {
     setWindowTitle(tr("Save Everything"));
     for (QLabel* label : {always_, folders_}) {
@@ -26,6 +28,10 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
             [this](bool on) { Run([this, on] { form_.Grid_Click(on); }); });
     connect(pdf_, &QCheckBox::clicked, this,
             [this](bool on) { Run([this, on] { form_.Pdf_Click(on); }); });
+    connect(svg_, &QCheckBox::clicked, this,
+            [this](bool on) { Run([this, on] { form_.Svg_Click(on); }); });
+    connect(page_, &QCheckBox::clicked, this,
+            [this](bool on) { Run([this, on] { form_.Page_Click(on); }); });
     connect(paper_, &QComboBox::activated, this, [this](int index) {
         Run([this, index] { form_.Paper_Click(static_cast<Paper>(index)); });
     });
@@ -40,6 +46,8 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
     auto* choices = new QVBoxLayout(chosen);
     choices->addWidget(grid_);
     choices->addLayout(pdf);
+    choices->addWidget(page_);
+    choices->addWidget(svg_);
     QPushButton* save =
         MakeButton("SaveEverything", tr("&Save"), [this] { form_.SaveButton_Click(); });
     save->setDefault(true);
@@ -55,7 +63,7 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
     all->addWidget(folders_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
-    SetTabOrder({grid_, pdf_, paper_, save, cancel});
+    SetTabOrder({grid_, pdf_, paper_, page_, svg_, save, cancel});
     grid_->setFocus();
 }
 
@@ -69,12 +77,18 @@ void SaveEverythingDialog::Load() {
     always_->setText(always.join(QLatin1Char('\n')));
     grid_->setText(tr("S&tipples, to touch them up another day: %1").arg(Text(shown.GridFile)));
     pdf_->setText(tr("Kit as &PDF, to print: %1").arg(Text(shown.PdfFile)));
+    page_->setText(
+        tr("Page to pa&int along with, on a phone or tablet: %1").arg(Text(shown.PageFile)));
+    svg_->setText(
+        tr("Plan as S&VG, for drawing programs and cutters: %1").arg(Text(shown.SvgFile)));
     folders_->setText(tr("In %1").arg(Text(shown.Folders)));
 }
 
 void SaveEverythingDialog::Mirror() {
     grid_->setChecked(form_.Grid());
     pdf_->setChecked(form_.Pdf());
+    svg_->setChecked(form_.Svg());
+    page_->setChecked(form_.Page());
     paper_->setCurrentIndex(static_cast<int>(form_.Sheet()));
     paper_->setEnabled(form_.Pdf());
 }

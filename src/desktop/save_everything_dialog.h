@@ -27,6 +27,8 @@ class SaveEverythingDialog : public FormDialog {
     QCheckBox* grid_;
     QCheckBox* pdf_;
     QComboBox* paper_;
+    QCheckBox* svg_;
+    QCheckBox* page_;
     QLabel* folders_;
 };
 

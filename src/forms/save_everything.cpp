@@ -1,6 +1,7 @@
 #include "forms/save_everything.h"
 
 #include <filesystem>
+#include <utility>
 
 #include "forms/kit_saving.h"
 #include "kitset/kit_paths.h"
@@ -28,17 +29,22 @@ void SaveEverythingForm::Form_Load() {
     }
     controls_.GridFile = fileOf(OutputId::Grid).filename().string();
     controls_.PdfFile = fileOf(OutputId::Pdf).filename().string();
+    controls_.SvgFile = fileOf(OutputId::Svg).filename().string();
+    controls_.PageFile = fileOf(OutputId::Page).filename().string();
     controls_.Folders = FolderText(fileOf(OutputId::Sheet)) + "; the stipples in " +
                         FolderText(fileOf(OutputId::Grid));
 }
 
 OutputChoice SaveEverythingForm::Chosen() const {
     OutputChoice outputs(IsInEverything);
-    if (grid_) {
-        outputs.Add(OutputId::Grid);
-    }
-    if (pdf_) {
-        outputs.Add(OutputId::Pdf);
+    const std::pair<OutputId, bool> wanted[] = {{OutputId::Grid, grid_},
+                                                {OutputId::Pdf, pdf_},
+                                                {OutputId::Svg, svg_},
+                                                {OutputId::Page, page_}};
+    for (const auto& [output, chosen] : wanted) {
+        if (chosen) {
+            outputs.Add(output);
+        }
     }
     return outputs;
 }

@@ -14,6 +14,8 @@ struct SaveEverythingControls {
     std::vector<std::string> Always;  // names of the files that are saved in any case
     std::string GridFile;
     std::string PdfFile;
+    std::string SvgFile;
+    std::string PageFile;
     std::string Folders;  // where they come to stand
 };
 
@@ -28,6 +30,10 @@ class SaveEverythingForm {
     void Grid_Click(bool wanted) { grid_ = wanted; }
     /// Whether the printed kit is saved too.
     void Pdf_Click(bool wanted) { pdf_ = wanted; }
+    /// Whether the plan is saved as a drawing too.
+    void Svg_Click(bool wanted) { svg_ = wanted; }
+    /// Whether the page to paint along with is saved too.
+    void Page_Click(bool wanted) { page_ = wanted; }
     void Paper_Click(Paper paper) { plan_.Sheet = paper; }
     /// Saves all that is chosen as one set, closes, lists the files and offers to open their
     /// folder. The painted picture on screen is the same before and after. Throws Error and
@@ -38,6 +44,8 @@ class SaveEverythingForm {
     [[nodiscard]] const SaveEverythingControls& Controls() const { return controls_; }
     [[nodiscard]] bool Grid() const { return grid_; }
     [[nodiscard]] bool Pdf() const { return pdf_; }
+    [[nodiscard]] bool Svg() const { return svg_; }
+    [[nodiscard]] bool Page() const { return page_; }
     [[nodiscard]] Paper Sheet() const { return plan_.Sheet; }
 
   private:
@@ -48,6 +56,8 @@ class SaveEverythingForm {
     SaveEverythingControls controls_;
     bool grid_ = false;
     bool pdf_ = false;
+    bool svg_ = false;
+    bool page_ = false;
     PlanSettings plan_;
 };
 

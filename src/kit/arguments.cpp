@@ -317,20 +317,21 @@ void AddOutputOptions(CLI::App& app, KitOptions& kit) {
               kit.Plan.Sheet);
     AddChoice(app,
               {"--symbols", "STYLE",
-               "marks the paints in the pdf with the sheet's letters\n"
+               "marks the paints on the plan with the sheet's letters\n"
                "(default), its clear letters, numbers or signs"},
               kSymbolStyles, kit.Plan.Symbols);
     AddChoice(app,
               {"--lines", "SHAPE",
-               "draws the pdf's borders smooth (default for paintable\nkits) or in steps (default "
+               "draws the plan's borders smooth (default for paintable\nkits) or in steps (default "
                "for others)"},
               kLineShapes, kit.Plan.Lines);
-    AddValue(app,
-             {"--gray", "N",
-              "10 to 100 (50): how dark the pdf's lines and symbols\nare; paint covers light ones"},
-             [&kit](const std::string& option, const std::string& value) {
-                 kit.Plan.Gray = static_cast<int>(ToNumber(option, value, kGrays));
-             });
+    AddValue(
+        app,
+        {"--gray", "N",
+         "10 to 100 (50): how dark the plan's lines and symbols\nare; paint covers light ones"},
+        [&kit](const std::string& option, const std::string& value) {
+            kit.Plan.Gray = static_cast<int>(ToNumber(option, value, kGrays));
+        });
     AddValue(app,
              {"--canvas", "WIDTHcm",
               "makes the kit for a canvas this wide, as in 60cm; with\n"
