@@ -23,6 +23,8 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
       always_(new ValueLabel("AlwaysSaved", tr("Saved in any case"))),
       grid_(Named<QCheckBox>("SaveGrid", tr("Stipples, to touch them up another day"))),
       pdf_(Named<QCheckBox>("SavePdfToo", tr("Kit as PDF, to print"))),
+      svg_(Named<QCheckBox>("SaveSvgToo", tr("Plan as SVG, for drawing programs and cutters"))),
+      page_(Named<QCheckBox>("SavePageToo", tr("Page to paint along with"))),
       plan_(new PlanPanel),
       pages_(new QGroupBox(tr("The PDF"))),
       folders_(new ValueLabel("SaveFolders", tr("Folders"))) {
@@ -39,6 +41,8 @@ void SaveEverythingDialog::Arrange() {
     auto* choices = new QVBoxLayout(chosen);
     choices->addWidget(grid_);
     choices->addWidget(pdf_);
+    choices->addWidget(page_);
+    choices->addWidget(svg_);
     (new QVBoxLayout(pages_))->addWidget(plan_);
     QPushButton* save =
         MakeButton("SaveEverything", tr("&Save"), [this] { form_.SaveButton_Click(); });
@@ -70,7 +74,7 @@ void SaveEverythingDialog::Arrange() {
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
     const auto plan = plan_->Controls();
-    SetTabOrder({name_, grid_, pdf_, plan[0], plan[1], plan[2], plan[3], save, cancel});
+    SetTabOrder({name_, grid_, pdf_, page_, svg_, plan[0], plan[1], plan[2], plan[3], save, cancel});
 }
 
 void SaveEverythingDialog::Connect() {
@@ -81,6 +85,10 @@ void SaveEverythingDialog::Connect() {
             [this](bool on) { Run([this, on] { form_.Grid_Click(on); }); });
     connect(pdf_, &QCheckBox::clicked, this,
             [this](bool on) { Run([this, on] { form_.Pdf_Click(on); }); });
+    connect(svg_, &QCheckBox::clicked, this,
+            [this](bool on) { Run([this, on] { form_.Svg_Click(on); }); });
+    connect(page_, &QCheckBox::clicked, this,
+            [this](bool on) { Run([this, on] { form_.Page_Click(on); }); });
     connect(plan_, &PlanPanel::PaperChosen, this,
             [this](Paper paper) { Run([&] { form_.Plan().Paper_Click(paper); }); });
     connect(plan_, &PlanPanel::CanvasChosen, this,
@@ -104,9 +112,15 @@ void SaveEverythingDialog::Mirror() {
     grid_->setText(
         tr("S&tipples, to touch them up another day: %1").arg(InCaption(shown.GridFile)));
     pdf_->setText(tr("&Kit as PDF, to print: %1").arg(InCaption(shown.PdfFile)));
+    page_->setText(
+        tr("Page to pa&int along with, on a phone or tablet: %1").arg(InCaption(shown.PageFile)));
+    svg_->setText(
+        tr("Plan as S&VG, for drawing programs and cutters: %1").arg(InCaption(shown.SvgFile)));
     folders_->Show(tr("In %1").arg(Text(shown.Folders)));
     grid_->setChecked(form_.Grid());
     pdf_->setChecked(form_.Pdf());
+    svg_->setChecked(form_.Svg());
+    page_->setChecked(form_.Page());
     pages_->setEnabled(form_.Pdf());
     plan_->Mirror(form_.Plan());
 }

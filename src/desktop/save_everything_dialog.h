@@ -32,6 +32,8 @@ class SaveEverythingDialog : public FormDialog {
     ValueLabel* always_;
     QCheckBox* grid_;
     QCheckBox* pdf_;
+    QCheckBox* svg_;
+    QCheckBox* page_;
     PlanPanel* plan_;
     QGroupBox* pages_;
     ValueLabel* folders_;

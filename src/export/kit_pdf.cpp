@@ -50,12 +50,10 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
 std::vector<PlanRect> BoxesOf(const PrintPlan& plan) {
     std::vector<PlanRect> boxes;
     for (const PlanLabel& label : plan.Labels) {
-        const int paint = plan.Regions[label.Region].Value;
         const PrintScale scale = plan.Scale;
-        const double reachX = scale.Mm(label.Height * plan.Aspects[paint] / 2);
-        const double reachY = scale.Mm(label.Height / 2);
-        const PlanPoint at{scale.Mm(label.Centre.X), scale.Mm(label.Centre.Y)};
-        boxes.push_back({at.X - reachX, at.Y - reachY, at.X + reachX, at.Y + reachY});
+        const PlanRect box = BoxOf(label, plan.Aspects[plan.Regions[label.Region].Value]);
+        boxes.push_back(
+            {scale.Mm(box.Left), scale.Mm(box.Top), scale.Mm(box.Right), scale.Mm(box.Bottom)});
     }
     return boxes;
 }
@@ -102,12 +100,13 @@ void FixDate(QByteArray& pdf) {
 
 void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
-    const PrintSymbols symbols;
+    const PrintSymbols symbols(settings.Symbols, place.State->PaintCount);
     const PrintPlan plan =
         MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
     const KitPages kit{place,         plan,
                        symbols,       SizeOf(settings.Sheet),
-                       BoxesOf(plan), PaintingOf(plan.Regions, place.State)};
+                       BoxesOf(plan), PaintingOf(plan.Regions, place.State),
+                       settings.Gray, settings.Symbols};
     const SteadyHashes steady;
     QByteArray pdf;
     QBuffer buffer(&pdf);

@@ -39,13 +39,15 @@ double SmallestLabelMm(const PrintPlan& plan) {
 
 QString KitSummary(const KitPages& kit) {
     const WorkState& state = kit.Place.State;
+    const QString note = kit.StyleNote();
     return QString(
                "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm")
-        .arg(state.PaintCount)
-        .arg(Centimetres(kit.Plan.Pages.Canvas))
-        .arg(kit.Plan.Pages.Tiles.size())
-        .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
-        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1);
+               .arg(state.PaintCount)
+               .arg(Centimetres(kit.Plan.Pages.Canvas))
+               .arg(kit.Plan.Pages.Tiles.size())
+               .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
+               .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1) +
+           (note.isEmpty() ? note : "  \u2022  " + note);
 }
 
 struct CoverPlaces {
@@ -97,8 +99,8 @@ const char* const kSteps[] = {
     "Lay the cut edge of the next page on the dashed line, so that the halves of the round marks "
     "meet, and glue page to page, row by row, as the map shows.",
     "Cut off the outer margins, glue the plan onto the canvas or board, or trace it, and fill "
-    "every outline with the paint of its symbol. Small letters are underlined, so that c and C "
-    "stay apart.",
+    "every outline with the paint of its symbol. Small letters are underlined. A symbol with a "
+    "line belongs to the area in which the line ends.",
     "Keep the color chart at hand: it has the paints' codes, and the lists on the pages vanish "
     "under their neighbors.",
 };
@@ -123,7 +125,11 @@ double DrawSteps(QPainter& painter, double top, double width) {
 }  // namespace
 
 std::string KitPages::Title() const {
-    return PrintedName(Place.State) + ", " + std::string(DifficultyWord(Place.State));
+    return KitTitle(Place.State, Place.State);
+}
+
+QString KitPages::StyleNote() const {
+    return Style == SymbolStyle::Letters ? QString() : "symbols differ from the sheet";
 }
 
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {
@@ -158,6 +164,9 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
 
 void DrawChartPage(QPainter& painter, const KitPages& kit) {
     ColorChart chart = MakeColorChart(kit.Place.State);
+    if (const QString note = kit.StyleNote(); !note.isEmpty()) {
+        chart.Subtitle += "  \u2022  " + note;
+    }
     chart.DrawSymbol = [&kit](QPainter& on, int symbol, const QRectF& box) {
         kit.Symbols.DrawInLine(on, symbol, box.center(), std::min(box.height() * 0.54, 34.0));
     };

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "export/print_fonts.h"
+#include "export/print_symbols.h"
 #include "plan/plan_layout.h"
 #include "shell/workplace.h"
 
@@ -18,8 +19,13 @@ struct KitPages {
     SizeMm FrontPaper;                  // of cover, chart and page map, upright
     std::vector<PlanRect> SymbolBoxes;  // of all labels, in millimetres of the canvas
     Surface Painting;                   // as the plan cuts it, no pixel bare
+    int Gray = kUsualGray;              // of the plan's lines and symbols
+
+    SymbolStyle Style = SymbolStyle::Letters;
 
     [[nodiscard]] std::string Title() const;  // photo and difficulty
+    /// What a painter must know who has the sheet too; empty for letters.
+    [[nodiscard]] QString StyleNote() const;
 };
 
 /// The painting, the photo and what the kit consists of.

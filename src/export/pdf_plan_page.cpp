@@ -8,6 +8,7 @@
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
 #include "plan/mark_places.h"
+#include "plan/plan_pen.h"
 #include "shell/symbol_of.h"
 
 namespace vendrel {
@@ -15,11 +16,8 @@ namespace {
 
 using Design = PlanPageDesign;
 
-// Light enough to vanish under paint, dark enough to follow.
-const QColor kBorderInk(120, 120, 120);
-const QColor kSymbolInk(70, 70, 70);
+const QColor kBorderInk(kBorderGray, kBorderGray, kBorderGray);
 const QColor kCutInk(90, 140, 200);
-constexpr double kBorderMm = 0.13;
 
 // Where the picture stands on the page.
 class PlanPage {
@@ -51,10 +49,12 @@ class PlanPage {
     [[nodiscard]] int SymbolOf(int paint) const {
         return vendrel::SymbolOf(kit_.Place.State->PaintColors, paint);
     }
+    [[nodiscard]] QColor Ink(int usual) const { return ToQt(PlanInk(usual, kit_.Gray)); }
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
     void DrawOutlines();
     void DrawSymbols();
+    void DrawLeader(const PlanLabel& label, double aspect);
     void DrawCuts();
     void DrawCut(const CutLine& cut);
     void DrawCropMarks();
@@ -92,32 +92,51 @@ void PlanPage::DrawHeading() {
 }
 
 void PlanPage::DrawOutlines() {
-    QPen pen(kBorderInk, Mm(kBorderMm));
+    QPen pen(Ink(kBorderGray), Mm(kBorderMm));
     pen.setJoinStyle(Qt::MiterJoin);
     pen.setCapStyle(Qt::SquareCap);
     painter_.setPen(pen);
-    for (const PlanLine& line :
-         ClipLines(kit_.Plan.Lines, InPixels(tile_.Shown, kit_.Plan.Scale))) {
-        QPolygonF points;
-        points.reserve(static_cast<qsizetype>(line.size()));
-        for (const PlanPoint& point : line) {
-            points.append(At(point));
+    const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.Scale);
+    for (const PlanChain& chain : kit_.Plan.Lines.Chains) {
+        for (const PlanLine& line : ClipLine(chain.Points, shown)) {
+            QPolygonF points;
+            points.reserve(static_cast<qsizetype>(line.size()));
+            for (const PlanPoint& point : line) {
+                points.append(At(point));
+            }
+            painter_.drawPolyline(points);
         }
-        painter_.drawPolyline(points);
     }
 }
 
 void PlanPage::DrawSymbols() {
     const PlanRect own = InPixels(tile_.Own, kit_.Plan.Scale);
     const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.Scale);
-    painter_.setPen(kSymbolInk);
+    painter_.setPen(Ink(kSymbolGray));
     for (const PlanLabel& label : kit_.Plan.Labels) {
         const int paint = kit_.Plan.Regions[label.Region].Value;
         if (IsLabelOn(label, kit_.Plan.Aspects[paint], own, shown)) {
             kit_.Symbols.Draw(painter_, SymbolOf(paint), At(label.Centre),
                               Mm(kit_.Plan.Scale.Mm(label.Height)));
+            DrawLeader(label, kit_.Plan.Aspects[paint]);
         }
     }
+}
+
+// With a dot at its end, so that nobody takes the symbol for that of the area around it.
+void PlanPage::DrawLeader(const PlanLabel& label, double aspect) {
+    if (!label.PointsAt) {
+        return;
+    }
+    const PlanLine leader = LeaderOf(label, aspect);
+    const QColor ink = painter_.pen().color();
+    painter_.save();
+    painter_.setPen(QPen(ink, Mm(kBorderMm)));
+    painter_.drawLine(QLineF(At(leader.front()), At(leader.back())));
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(ink);
+    painter_.drawEllipse(At(leader.back()), Mm(kLeaderDotMm), Mm(kLeaderDotMm));
+    painter_.restore();
 }
 
 // Below the symbols, which must stay legible, but over the outlines, which run along the cuts.

@@ -1,14 +1,16 @@
 #include "export/qt_exporter.h"
 
 #include "export/color_chart_image.h"
+#include "export/kit_page.h"
 #include "export/kit_pdf.h"
-#include "export/print_fonts.h"
+#include "export/kit_svg.h"
+#include "export/print_symbols.h"
 #include "support/error.h"
 
 namespace vendrel {
 
-SymbolAspects QtExporter::Aspects() const {
-    return PrintSymbols().Aspects();
+SymbolAspects QtExporter::Aspects(SymbolStyle style, int paints) const {
+    return PrintSymbols(style, paints).Aspects();
 }
 
 void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettings& settings,
@@ -19,6 +21,12 @@ void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettin
             return;
         case OutputId::Pdf:
             WriteKitPdf(place, settings, target);
+            return;
+        case OutputId::Svg:
+            WriteKitSvg(place, settings, target);
+            return;
+        case OutputId::Page:
+            WriteKitPage(place, settings, target);
             return;
         default:
             throw FileError(target.Place, "is written without fonts.");

@@ -8,7 +8,7 @@ namespace vendrel {
 /// Writes color charts and printable kits with the toolkit's fonts.
 class QtExporter final : public Exporter {
   public:
-    [[nodiscard]] SymbolAspects Aspects() const override;
+    [[nodiscard]] SymbolAspects Aspects(SymbolStyle style, int paints) const override;
     void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
                const Target& target) const override;
 

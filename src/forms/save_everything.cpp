@@ -65,6 +65,8 @@ void SaveEverythingForm::ListFiles() {
     controls_.GridFile = fileOf(OutputId::Grid).filename().string();
     controls_.PhotoName = PictureNameOf(place_.State->PictureFile);
     controls_.PdfFile = fileOf(OutputId::Pdf).filename().string();
+    controls_.SvgFile = fileOf(OutputId::Svg).filename().string();
+    controls_.PageFile = fileOf(OutputId::Page).filename().string();
     controls_.Folders = FolderText(fileOf(OutputId::Sheet)) + "; the stipples in " +
                         FolderText(fileOf(OutputId::Grid));
 }
@@ -78,11 +80,14 @@ void SaveEverythingForm::Pdf_Click(bool wanted) {
 
 OutputChoice SaveEverythingForm::Chosen() const {
     OutputChoice outputs(IsInEverything);
-    if (grid_) {
-        outputs.Add(OutputId::Grid);
-    }
-    if (pdf_) {
-        outputs.Add(OutputId::Pdf);
+    const std::pair<OutputId, bool> wanted[] = {{OutputId::Grid, grid_},
+                                                {OutputId::Pdf, pdf_},
+                                                {OutputId::Svg, svg_},
+                                                {OutputId::Page, page_}};
+    for (const auto& [output, chosen] : wanted) {
+        if (chosen) {
+            outputs.Add(output);
+        }
     }
     return outputs;
 }

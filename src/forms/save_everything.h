@@ -13,6 +13,8 @@ struct SaveEverythingControls {
     std::vector<std::string> Always;  // names of the files that are saved in any case
     std::string GridFile;
     std::string PdfFile;
+    std::string SvgFile;
+    std::string PageFile;
     std::string Folders;    // where they come to stand
     std::string PhotoName;  // names the files unless the kit has a name of its own
 };
@@ -32,6 +34,10 @@ class SaveEverythingForm {
     void Grid_Click(bool wanted) { grid_ = wanted; }
     /// Whether the printed kit is saved too. Throws Error when the painting cannot be printed.
     void Pdf_Click(bool wanted);
+    /// Whether the plan is saved as a drawing too.
+    void Svg_Click(bool wanted) { svg_ = wanted; }
+    /// Whether the page to paint along with is saved too.
+    void Page_Click(bool wanted) { page_ = wanted; }
     /// Saves all that is chosen as one set, closes, lists the files and offers to open their
     /// folder. The painted picture on screen is the same before and after. Throws Error, also for a
     /// name that files cannot have, and FileError; then the files and the kit's name stay as they
@@ -43,6 +49,8 @@ class SaveEverythingForm {
     [[nodiscard]] const std::string& Name() const { return name_; }
     [[nodiscard]] bool Grid() const { return grid_; }
     [[nodiscard]] bool Pdf() const { return pdf_; }
+    [[nodiscard]] bool Svg() const { return svg_; }
+    [[nodiscard]] bool Page() const { return page_; }
     /// Measured while the printed kit is chosen.
     [[nodiscard]] PlanChoice& Plan() { return plan_; }
 
@@ -56,6 +64,8 @@ class SaveEverythingForm {
     std::string name_;
     bool grid_ = false;
     bool pdf_ = false;
+    bool svg_ = false;
+    bool page_ = false;
     PlanChoice plan_;
 };
 

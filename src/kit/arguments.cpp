@@ -79,6 +79,13 @@ constexpr auto kMatchings =
     std::to_array<Choice<Matching>>({{"plain", Matching::Plain}, {"eye", Matching::ByEye}});
 constexpr auto kPapers =
     std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
+constexpr auto kSymbolStyles =
+    std::to_array<Choice<SymbolStyle>>({{"letters", SymbolStyle::Letters},
+                                        {"clear", SymbolStyle::Clear},
+                                        {"numbers", SymbolStyle::Numbers},
+                                        {"signs", SymbolStyle::Signs}});
+constexpr auto kLineShapes =
+    std::to_array<Choice<LineShape>>({{"smooth", LineShape::Smooth}, {"steps", LineShape::Steps}});
 constexpr auto kFits = std::to_array<Choice<PhotoFit>>({{"keep", PhotoFit::Keep},
                                                         {"crop", PhotoFit::Crop},
                                                         {"top", PhotoFit::CropTop},
@@ -174,6 +181,8 @@ double ToNumber(const std::string& option, std::string_view value, const Measure
     }
     return result;
 }
+
+constexpr Measure kGrays{"", kLightestGray, kDarkestGray, "a whole number from 10 to 100"};
 
 // "60cm" or "60.5", within what can be painted; "auto" is 0.
 double ToCanvasCm(const std::string& option, std::string_view value) {
@@ -306,6 +315,22 @@ void AddOutputOptions(CLI::App& app, KitOptions& kit) {
              });
     AddChoice(app, {"--paper", "SIZE", "prints the pdf on A4 (default), Letter or A3"}, kPapers,
               kit.Plan.Sheet);
+    AddChoice(app,
+              {"--symbols", "STYLE",
+               "marks the paints in the pdf with the sheet's letters\n"
+               "(default), the clearest of them, numbers or signs"},
+              kSymbolStyles, kit.Plan.Symbols);
+    AddChoice(app,
+              {"--lines", "SHAPE",
+               "draws the pdf's borders smooth (default for paintable\nkits) or in steps (default "
+               "for others)"},
+              kLineShapes, kit.Plan.Lines);
+    AddValue(app,
+             {"--gray", "N",
+              "10 to 100 (50): how dark the pdf's lines and symbols\nare; paint covers light ones"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Plan.Gray = static_cast<int>(ToNumber(option, value, kGrays));
+             });
     AddValue(app,
              {"--canvas", "WIDTHcm",
               "makes the kit for a canvas this wide, as in 60cm; with\n"

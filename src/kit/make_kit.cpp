@@ -170,8 +170,8 @@ std::optional<PhotoFit> FitUsed(const Workplace& place, const TakenPhoto& taken)
 void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
     if (exporter == nullptr && outputs.ByName && outputs.Chosen.NeedsFonts()) {
         throw Error(
-            "This build has no fonts to draw the chart and the pdf with; build it with Qt, or "
-            "choose other --outputs.");
+            "This build has no fonts to draw the chart, the pdf, the svg and the page with; build it "
+            "with Qt, or choose other --outputs.");
     }
 }
 

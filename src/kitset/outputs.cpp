@@ -43,6 +43,10 @@ constexpr Output kOutputs[] = {
     {OutputId::Grid, "grid", "", !kFonts, kByDefault, !kInEverything, Lasting::Synced, WriteGrid},
     {OutputId::Pdf, "pdf", "Kit.pdf", kFonts, !kByDefault, !kInEverything, Lasting::Remade,
      WriteWithFonts<OutputId::Pdf>},
+    {OutputId::Svg, "svg", "Plan.svg", kFonts, !kByDefault, !kInEverything, Lasting::Remade,
+     WriteWithFonts<OutputId::Svg>},
+    {OutputId::Page, "page", "Paint Along.html", kFonts, !kByDefault, !kInEverything,
+     Lasting::Remade, WriteWithFonts<OutputId::Page>},
 };
 
 }  // namespace

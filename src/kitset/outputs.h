@@ -24,7 +24,7 @@ class OutputJob {
 
     Workplace& Place;
     const Exporter* Fonts;     // for outputs that need them
-    const PlanSettings& Plan;  // of the printed pages
+    const PlanSettings& Plan;  // of pages and drawings
 
     [[nodiscard]] const NumberedPainting& Numbered();
     /// Of the numbering, when there was one.

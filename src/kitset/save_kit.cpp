@@ -84,7 +84,8 @@ class Saving {
             set_.Written(output);
             if (output.Id == OutputId::Pdf) {
                 saved_.Plan = FiguresOf(SketchPlan(place_.State, place_.Frames->WorkFrame.Picture,
-                                                   order_.Fonts->Aspects()),
+                                                   order_.Fonts->Aspects(order_.Plan.Symbols,
+                                                                         place_.State->PaintCount)),
                                         order_.Plan);
             }
         }

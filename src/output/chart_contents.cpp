@@ -82,4 +82,8 @@ std::string PrintedName(const LoadedPhoto& photo) {
     return name;
 }
 
+std::string KitTitle(const LoadedPhoto& photo, const WorkSettings& settings) {
+    return PrintedName(photo) + ", " + std::string(DifficultyWord(settings));
+}
+
 }  // namespace vendrel

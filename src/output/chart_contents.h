@@ -7,6 +7,7 @@
 #include "shell/loaded_photo.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
+#include "shell/work_settings.h"
 #include "support/color.h"
 
 namespace vendrel {
@@ -43,6 +44,9 @@ void SortChart(std::vector<ChartRow>& rows, ChartOrder order);
 
 /// The photo's name as a title: cameras and painters write "_" for a space.
 [[nodiscard]] std::string PrintedName(const LoadedPhoto& photo);
+
+/// The same with the difficulty, as a kit is called: "beach, Medium".
+[[nodiscard]] std::string KitTitle(const LoadedPhoto& photo, const WorkSettings& settings);
 
 /// "Set: Name [Code]".
 [[nodiscard]] std::string PaintLabel(const PaintColor& paint);

@@ -15,11 +15,12 @@ class Exporter {
     Exporter& operator=(const Exporter&) = delete;
     virtual ~Exporter() = default;
 
-    /// How wide the symbols are as the pages show them. Throws Error for a missing font.
-    [[nodiscard]] virtual SymbolAspects Aspects() const = 0;
+    /// How wide the symbols of so many paints are as the pages show them. Throws Error for a
+    /// missing font.
+    [[nodiscard]] virtual SymbolAspects Aspects(SymbolStyle style, int paints) const = 0;
 
-    /// Writes the color chart or the kit's pages to `target`, whole or not at all; the settings are
-    /// those of the pages. The painted picture stays as it is. Throws Error for an unpainted
+    /// Writes the color chart, the kit's pages, its plan as a drawing or the page to paint along
+    /// with to `target`, whole or not at all; the settings are those of the plan. The painted picture stays as it is. Throws Error for an unpainted
     /// picture, more paints than symbols, a missing font or an output that needs none, FileError.
     virtual void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
                        const Target& target) const = 0;

@@ -6,17 +6,14 @@
 #include <functional>
 #include <utility>
 
-#include "drawing/brush.h"
 #include "plan/inscribed_boxes.h"
+#include "plan/leaders.h"
 #include "plan/region_pieces.h"
-#include "shell/symbol_of.h"
 #include "support/list.h"
 
 namespace vendrel {
 namespace {
 
-// Leaves some white between a symbol and the border around it.
-constexpr double kFill = 0.9;
 // A second symbol in a region is welcome when it can be read about as well as the first.
 constexpr double kAsGood = 0.7;
 // Symbols that repeat on a page stand this many of their heights apart at least.
@@ -26,8 +23,8 @@ constexpr double kStepElsewhere = 4;
 
 class Placement {
   public:
-    Placement(const PaintedRegions& regions, const LabelRules& rules)
-        : regions_(regions), rules_(rules), placed_(regions.List.size()) {}
+    Placement(const PaintedRegions& regions, const LabelFit& fit, const LabelRules& rules)
+        : regions_(regions), fit_(fit), rules_(rules), placed_(regions.List.size()) {}
 
     std::vector<PlanLabel> Run() {
         PlaceFirst();
@@ -44,7 +41,7 @@ class Placement {
     void PlaceFirst() {
         const auto aspectOf = [this](int region) { return AspectOf(region); };
         for (const InscribedBox& box : FindRoomiestBoxes(regions_, aspectOf)) {
-            At(placed_, box.Region).push_back(LabelIn(box, box.Region));
+            At(placed_, box.Region).push_back(Fitted(LabelIn(box, box.Region)));
         }
     }
 
@@ -53,7 +50,7 @@ class Placement {
     // it. So has what hangs together by necks alone that look closed in print.
     void PlaceOnPages() {
         const RegionPieces cut =
-            ParedAtNecks(CutIntoPieces(regions_.Ids, {rules_.PageColumns, rules_.PageRows}));
+            ParedAtNecks(CutIntoPieces(regions_.Ids, {rules_.Cuts.Columns, rules_.Cuts.Rows}));
         const std::vector<PlanLabel> labels = LabelsOf(cut);
         KeepOffTheCuts(labels);
         std::vector<bool> has(labels.size());
@@ -66,11 +63,15 @@ class Placement {
 
     void OfferToPieces(const RegionPieces& cut, const std::vector<PlanLabel>& offers,
                        std::vector<bool>& has) {
-        for (const PlanLabel& label : offers) {
-            std::vector<PlanLabel>& others = OthersOf(label);
+        for (const PlanLabel& offer : offers) {
+            std::vector<PlanLabel>& others = OthersOf(offer);
             const double smallest = std::min(others.front().Height * kAsGood, rules_.LegibleHeight);
-            const std::size_t piece = PieceUnder(cut, label);
-            if (!has[piece] && label.Height >= smallest &&
+            const std::size_t piece = PieceUnder(cut, offer);
+            if (has[piece] || offer.Height < smallest) {
+                continue;
+            }
+            const PlanLabel label = Fitted(offer);
+            if (label.Height >= smallest && PieceUnder(cut, label) == piece &&
                 std::ranges::none_of(
                     others, [&](const PlanLabel& other) { return Overlap(label, other); })) {
                 others.push_back(label);
@@ -87,8 +88,8 @@ class Placement {
             std::ranges::sort(cuts);
             return cuts;
         };
-        return CutIntoPieces(regions_.Ids, {both(rules_.PageColumns, regions_.Ids.Across()),
-                                            both(rules_.PageRows, regions_.Ids.Down())});
+        return CutIntoPieces(regions_.Ids, {both(rules_.Cuts.Columns, regions_.Ids.Across()),
+                                            both(rules_.Cuts.Rows, regions_.Ids.Down())});
     }
 
     // A symbol on a cut would be trimmed in half; one a little smaller beside it is better.
@@ -96,7 +97,8 @@ class Placement {
         for (const PlanLabel& label : pieces) {
             PlanLabel& first = OthersOf(label).front();
             if (IsOnCut(first) && label.Height >= first.Height * kAsGood) {
-                first = label;
+                const PlanLabel beside = Fitted(label);
+                first = beside.Height >= first.Height * kAsGood ? beside : first;
             }
         }
     }
@@ -105,15 +107,24 @@ class Placement {
         if (rules_.LatticeStep < 1) {
             return;
         }
-        for (const PlanLabel& label : LabelsOf(CutWithLattice(rules_.LatticeStep))) {
-            std::vector<PlanLabel>& others = OthersOf(label);
-            if (label.Height >= others.front().Height * kAsGood &&
-                std::ranges::none_of(others, [&](const PlanLabel& other) {
-                    return IsOnPageOf(label, other) ? IsClose(label, other) : Overlap(label, other);
-                })) {
+        for (const PlanLabel& offer : LabelsOf(CutWithLattice(rules_.LatticeStep))) {
+            std::vector<PlanLabel>& others = OthersOf(offer);
+            const double smallest = others.front().Height * kAsGood;
+            if (offer.Height < smallest || IsTooClose(offer, others)) {
+                continue;
+            }
+            const PlanLabel label = Fitted(offer);
+            if (label.Height >= smallest && !IsTooClose(label, others)) {
                 others.push_back(label);
             }
         }
+    }
+    [[nodiscard]] bool IsTooClose(const PlanLabel& label,
+                                  const std::vector<PlanLabel>& others) const {
+        return std::ranges::any_of(others, [&](const PlanLabel& other) {
+            return rules_.Cuts.AreTogether(label.Centre, other.Centre) ? IsClose(label, other)
+                                                                       : Overlap(label, other);
+        });
     }
     static std::vector<int> Lattice(double step, int last) {
         std::vector<int> cuts;
@@ -152,21 +163,8 @@ class Placement {
         return std::abs(one.Centre.X - other.Centre.X) < heights * AspectOf(one.Region) &&
                std::abs(one.Centre.Y - other.Centre.Y) < heights;
     }
-    [[nodiscard]] bool IsOnPageOf(const PlanLabel& one, const PlanLabel& other) const {
-        const auto between = [](const std::vector<int>& cuts, double a, double b) {
-            return std::ranges::any_of(cuts, [a, b](int cut) { return (a < cut) != (b < cut); });
-        };
-        return !between(rules_.PageColumns, one.Centre.X, other.Centre.X) &&
-               !between(rules_.PageRows, one.Centre.Y, other.Centre.Y);
-    }
     [[nodiscard]] bool IsOnCut(const PlanLabel& label) const {
-        const auto meets = [](const std::vector<int>& cuts, double middle, double reach) {
-            return std::ranges::any_of(cuts,
-                                       [&](int cut) { return std::abs(cut - middle) < reach; });
-        };
-        const double halfWidth = label.Height * AspectOf(label.Region) / 2;
-        return meets(rules_.PageColumns, label.Centre.X, halfWidth) ||
-               meets(rules_.PageRows, label.Centre.Y, label.Height / 2);
+        return rules_.Cuts.Meet(BoxOf(label, AspectOf(label.Region)));
     }
 
     [[nodiscard]] std::vector<PlanLabel>& OthersOf(const PlanLabel& label) {
@@ -175,65 +173,43 @@ class Placement {
     [[nodiscard]] double AspectOf(int region) const {
         return rules_.Aspects[regions_[region].Value];
     }
+    // As tall as could be, lines or not.
     [[nodiscard]] PlanLabel LabelIn(const InscribedBox& box, int region) const {
         return {region,
                 {(box.Left + box.Right) / 2.0, (box.Top + box.Bottom) / 2.0},
-                std::min(box.Height * kFill, rules_.LargestHeight)};
+                std::min(box.Height, rules_.Air.Largest)};
+    }
+    // As tall as the lines around it allow, and a little aside where that makes it taller; onto a
+    // cut only where there is little room beside it.
+    [[nodiscard]] PlanLabel Fitted(const PlanLabel& label) const {
+        const double aspect = AspectOf(label.Region);
+        const auto labelOf = [&label](const FittedSymbol& fitted) -> PlanLabel {
+            return {label.Region, fitted.Centre, fitted.Height};
+        };
+        const PlanLabel moved = labelOf(fit_.Near(label.Centre, aspect, label.Region));
+        if (rules_.Cuts.AreTogether(label.Centre, moved.Centre) &&
+            (!IsOnCut(moved) || IsOnCut(label))) {
+            return moved;
+        }
+        const PlanLabel still = labelOf(fit_.At(label.Centre, aspect, label.Region));
+        return still.Height >= kAsGood * moved.Height ? still : moved;
     }
 
     const PaintedRegions& regions_;
+    const LabelFit& fit_;
     const LabelRules& rules_;
     std::vector<std::vector<PlanLabel>> placed_;  // per region, the roomiest place first
 };
 
 }  // namespace
 
-PaintAspects AspectsOf(const PaintList& palette, const SymbolAspects& aspects) {
-    PaintAspects byPaint;
-    for (int paint = 1; paint <= palette.Count(); ++paint) {
-        byPaint.Add(At(aspects, SymbolOf(palette, paint)));
-    }
-    return byPaint;
-}
-
-std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const LabelRules& rules) {
-    return Placement(regions, rules).Run();
-}
-
-bool IsLabelOn(const PlanLabel& label, double aspect, const PlanRect& own, const PlanRect& shown) {
-    const double reachX = label.Height * aspect / 2;
-    const double reachY = label.Height / 2;
-    const PlanRect box{label.Centre.X - reachX, label.Centre.Y - reachY, label.Centre.X + reachX,
-                       label.Centre.Y + reachY};
-    const bool meetsOwn = box.Left < own.Right && box.Right > own.Left && box.Top < own.Bottom &&
-                          box.Bottom > own.Top;
-    return meetsOwn || (box.Left >= shown.Left && box.Right <= shown.Right &&
-                        box.Top >= shown.Top && box.Bottom <= shown.Bottom);
-}
-
-std::vector<double> LargestSymbols(const PaintedRegions& regions, const PaintAspects& aspects) {
-    std::vector<double> heights;
-    for (const InscribedBox& box :
-         FindRoomiestBoxes(regions, [&](int region) { return aspects[regions[region].Value]; })) {
-        heights.push_back(box.Height * kFill);
-    }
-    return heights;
-}
-
-double SymbolHeightInStipple(int stippleSize, double aspect) {
-    PixelGrid dot(stippleSize - 1, stippleSize - 1);
-    for (const BrushRun& run : BrushStamp(stippleSize, BrushShape::Rounded)) {
-        for (int x = run.First; x <= run.Last; ++x) {
-            dot(x + stippleSize / 2, run.Row + stippleSize / 2) = 1;
-        }
-    }
-    const PaintedRegions regions = FindRegions(dot);
-    double tallest = 0;
-    for (const InscribedBox& box : FindRoomiestBoxes(regions, [aspect](int) { return aspect; })) {
-        const bool isDot = regions[box.Region].Value == 1;
-        tallest = isDot ? std::max(tallest, box.Height) : tallest;
-    }
-    return tallest * kFill;
+std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const PlanLines& lines,
+                                   const LabelRules& rules) {
+    const LineIndex index(lines);
+    const LabelFit fit(index, regions.Ids, rules.Air);
+    std::vector<PlanLabel> labels = Placement(regions, fit, rules).Run();
+    MoveOutside(labels, regions, fit, rules);
+    return labels;
 }
 
 }  // namespace vendrel

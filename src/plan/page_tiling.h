@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "plan/outlines.h"
+#include "plan/painted_regions.h"
 
 namespace vendrel {
 

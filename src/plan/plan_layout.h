@@ -3,9 +3,9 @@
 #include <vector>
 
 #include "plan/label_placement.h"
-#include "plan/outlines.h"
 #include "plan/page_tiling.h"
 #include "plan/painted_regions.h"
+#include "plan/plan_lines.h"
 #include "plan/plan_sketch.h"
 #include "shell/work_state.h"
 #include "support/print_scale.h"
@@ -16,7 +16,7 @@ namespace vendrel {
 /// A whole plan, ready to be drawn.
 struct PrintPlan {
     PaintedRegions Regions;
-    std::vector<PlanLine> Lines;
+    PlanLines Lines;
     PaintAspects Aspects;
     std::vector<PlanLabel> Labels;
     PagePlan Pages;
@@ -28,6 +28,9 @@ struct PrintPlan {
 /// then the largest canvas that those pages hold. Throws Error for an unpainted picture, more
 /// paints than symbols or a canvas outside kSmallestCanvasCm..kLargestCanvasCm.
 [[nodiscard]] PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
+                                      const PlanSettings& settings, const SymbolAspects& aspects);
+/// The same for a canvas in one piece: no symbol gives way to a cut or comes back beyond it.
+[[nodiscard]] PrintPlan MakeUncutPlan(const WorkState& state, const Surface& picture,
                                       const PlanSettings& settings, const SymbolAspects& aspects);
 
 }  // namespace vendrel

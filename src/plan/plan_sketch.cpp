@@ -15,7 +15,7 @@ namespace {
 // A canvas has a round width where nothing speaks against it.
 constexpr double kRoundMm = 5;
 // The share of a stipple's symbol that is left where its neighbours nibbled at it.
-constexpr double kNibbled = 0.65;
+constexpr double kNibbled = 0.75;
 // What a height reckoned in millimeters may be off.
 constexpr double kHairMm = 1e-6;
 
@@ -29,23 +29,26 @@ void RequireCanvas(double widthCm, const PlanSketch& sketch) {
     }
 }
 
-double HeightInStipple(int stippleSize, const PaintAspects& aspects) {
-    double height = stippleSize;
+SymbolRoom LeastRoomInStipple(int stippleSize, const PaintAspects& aspects) {
+    SymbolRoom least{static_cast<double>(stippleSize), static_cast<double>(stippleSize), 0};
     for (const double aspect : aspects) {
-        height = std::min(height, SymbolHeightInStipple(stippleSize, aspect));
+        const SymbolRoom room = RoomInStipple(stippleSize, aspect);
+        least = room.LegiblePixelMm() > least.LegiblePixelMm() ? room : least;
     }
-    return height;
+    return least;
 }
 
-double SmallestHeight(const PlanSketch& sketch) {
-    return *std::ranges::min_element(sketch.SymbolHeights);
+// How wide a pixel makes every symbol legible, in millimeters.
+double LegiblePixelMm(const PlanSketch& sketch) {
+    return std::ranges::max_element(sketch.Rooms, {}, &SymbolRoom::LegiblePixelMm)
+        ->LegiblePixelMm();
 }
 
 // So large that every symbol can be read. A stipple that its neighbours nibbled at may take a
 // somewhat smaller one: a single odd shape shall not blow up the whole canvas.
 PrintScale LegibleScale(const PlanSketch& sketch) {
-    return PrintScale::OfPixel(kLegibleSymbolMm /
-                               std::max(SmallestHeight(sketch), kNibbled * sketch.HeightInStipple));
+    return PrintScale::OfPixel(
+        std::min(LegiblePixelMm(sketch), sketch.InStipple.Times(kNibbled).LegiblePixelMm()));
 }
 
 PrintScale ScaleOf(const PlanSketch& sketch, double canvasCm) {
@@ -82,7 +85,7 @@ PagePlan PagesAt(const PlanSketch& sketch, PrintScale scale, Paper sheet) {
 }
 
 int CanvasThatDoesCm(const PlanSketch& sketch) {
-    const double width = kLegibleSymbolMm * sketch.Width / SmallestHeight(sketch) / 10;
+    const double width = LegiblePixelMm(sketch) * sketch.Width / 10;
     const double whole = std::max(std::ceil(width - kHairMm), kSmallestCanvasCm);
     return whole <= WidestCanvasCm(sketch) ? static_cast<int>(whole) : 0;
 }
@@ -96,9 +99,9 @@ double KeptShare(Difficulty level) {
 std::optional<Difficulty> LevelThatDoes(const PlanSketch& sketch, PrintScale scale) {
     for (auto level = kDifficulties.rbegin(); level != kDifficulties.rend(); ++level) {
         if (level->StippleSize > sketch.StippleSize &&
-            scale.Mm(KeptShare(level->Level) *
-                     HeightInStipple(level->StippleSize, sketch.Aspects)) >=
-                kLegibleSymbolMm - kHairMm) {
+            LeastRoomInStipple(level->StippleSize, sketch.Aspects)
+                    .Times(KeptShare(level->Level))
+                    .SymbolMm(scale) >= kLegibleSymbolMm - kHairMm) {
             return level->Level;
         }
     }
@@ -116,6 +119,11 @@ std::string Grouped(int number) {
 }
 
 }  // namespace
+
+bool HasSmoothLines(const PlanSettings& settings, const StippleGrid& grid) {
+    return settings.Lines == LineShape::Smooth ||
+           (settings.Lines == LineShape::ByKit && grid.PaintableKit);
+}
 
 PlanRect InPixels(const PlanRect& part, PrintScale scale) {
     return {scale.Pixels(part.Left), scale.Pixels(part.Top), scale.Pixels(part.Right),
@@ -148,8 +156,8 @@ PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
     sketch.Regions = FindRegionsWithoutCrumbs(
         PaintPerPixel(state, state, sketch.StippleSize, sketch.Width, sketch.Height),
         state.PaintableKit ? 0 : TraitsOf(state.Chosen.Level).FewestOwnPixels);
-    sketch.SymbolHeights = LargestSymbols(sketch.Regions, sketch.Aspects);
-    sketch.HeightInStipple = HeightInStipple(sketch.StippleSize, sketch.Aspects);
+    sketch.Rooms = FindSymbolRooms(sketch.Regions, sketch.Aspects);
+    sketch.InStipple = LeastRoomInStipple(sketch.StippleSize, sketch.Aspects);
     return sketch;
 }
 
@@ -170,14 +178,16 @@ double WidestCanvasCm(const PlanSketch& sketch) {
 
 PlanFigures FiguresOf(const PlanSketch& sketch, const PlanSettings& settings) {
     const PlanSheets sheets = LayOutSheets(sketch, settings);
-    const double legible = sheets.Scale.Pixels(kLegibleSymbolMm - kHairMm);
     PlanFigures figures;
     figures.Canvas = sheets.Pages.Canvas;
     figures.Pages = static_cast<int>(sheets.Pages.Tiles.size());
-    figures.Symbols = static_cast<int>(sketch.SymbolHeights.size());
-    figures.Small = static_cast<int>(std::ranges::count_if(
-        sketch.SymbolHeights, [legible](double height) { return height < legible; }));
-    figures.SmallestMm = std::min(sheets.Scale.Mm(SmallestHeight(sketch)), kLargestSymbolMm);
+    figures.Symbols = static_cast<int>(sketch.Rooms.size());
+    figures.SmallestMm = kLargestSymbolMm;
+    for (const SymbolRoom& room : sketch.Rooms) {
+        const double height = room.SymbolMm(sheets.Scale);
+        figures.Small += height < kLegibleSymbolMm - kHairMm ? 1 : 0;
+        figures.SmallestMm = std::min(figures.SmallestMm, height);
+    }
     if (figures.Small > 0) {
         figures.CanvasThatDoesCm = CanvasThatDoesCm(sketch);
         figures.LevelThatDoes =
@@ -203,10 +213,10 @@ std::string WarningOf(const PlanFigures& figures) {
         remedy += (remedy.empty() ? "" : " or ") +
                   std::string(TraitsOf(*figures.LevelThatDoes).Option) + " difficulty";
     }
-    return Grouped(figures.Small) + " of " + Grouped(figures.Symbols) + " symbols " +
-           (figures.Small == 1 ? "is" : "are") + " smaller than 2 mm, the smallest " +
-           SmallestText(figures) + " mm" +
-           (remedy.empty() ? "." : "; " + remedy + " shows them at 2 mm or more.");
+    return Grouped(figures.Small) + " of " + Grouped(figures.Symbols) + " areas " +
+           (figures.Small == 1 ? "has" : "have") +
+           " no room for a symbol of 2 mm, the smallest for one of " + SmallestText(figures) +
+           " mm" + (remedy.empty() ? "." : "; " + remedy + " gives them 2 mm or more.");
 }
 
 }  // namespace vendrel

@@ -4,25 +4,37 @@
 #include <string>
 #include <vector>
 
-#include "plan/label_placement.h"
 #include "plan/page_tiling.h"
 #include "plan/painted_regions.h"
+#include "plan/symbol_room.h"
+#include "plan/symbol_style.h"
 #include "shell/work_state.h"
 #include "support/print_scale.h"
 #include "support/surface.h"
 
 namespace vendrel {
 
+/// How the plan draws borders: as curves, as the stairs of the picture's pixels, or as curves for
+/// kits made paintable alone.
+enum class LineShape { ByKit, Smooth, Steps };
+
+/// How dark lines and symbols are, in hundredths of the darkest: lighter ones vanish under less
+/// paint.
+inline constexpr int kUsualGray = 50;
+inline constexpr int kLightestGray = 10;
+inline constexpr int kDarkestGray = 100;
+
 /// What a painter chooses for the printed plan.
 struct PlanSettings {
     Paper Sheet = Paper::A4;
     double CanvasCm = 0;  // width of the finished canvas; 0: chosen by MakePrintPlan
+    SymbolStyle Symbols = SymbolStyle::Letters;
+    LineShape Lines = LineShape::ByKit;
+    int Gray = kUsualGray;  // kLightestGray..kDarkestGray
 };
 
-/// Height of the smallest symbol when the canvas may be as large as it likes, in millimetres.
-inline constexpr double kLegibleSymbolMm = 2;
-/// A symbol larger than this wastes paint.
-inline constexpr double kLargestSymbolMm = 3;
+/// Whether a plan of such a grid has curves.
+[[nodiscard]] bool HasSmoothLines(const PlanSettings& settings, const StippleGrid& grid);
 
 /// Where things stand on a page of the plan, in millimetres.
 struct PlanPageDesign {
@@ -47,9 +59,9 @@ struct PlanPageDesign {
 struct PlanSketch {
     PaintedRegions Regions;
     PaintAspects Aspects;
-    std::vector<double> SymbolHeights;  // of each region's largest symbol, in pixels
-    double HeightInStipple = 0;         // of the symbol that fits a lone stipple, in pixels
-    int Width = 0;                      // of the picture, in pixels
+    std::vector<SymbolRoom> Rooms;  // each region's for its symbol
+    SymbolRoom InStipple;           // the least that a lone stipple has for one
+    int Width = 0;                  // of the picture, in pixels
     int Height = 0;
     int StippleSize = 0;
 };
@@ -76,10 +88,10 @@ struct PlanSheets {
 /// What a painter should know of a plan before printing it.
 struct PlanFigures {
     SizeMm Canvas;
-    int Pages = 0;    // without those in front of the plan
-    int Symbols = 0;  // one an area: its largest
-    int Small = 0;    // of them below kLegibleSymbolMm
-    double SmallestMm = 0;
+    int Pages = 0;                            // without those in front of the plan
+    int Symbols = 0;                          // one an area
+    int Small = 0;                            // of the areas without room for kLegibleSymbolMm
+    double SmallestMm = 0;                    // that the least of them has room for
     int CanvasThatDoesCm = 0;                 // whole centimeters of width; 0 where none can be
     std::optional<Difficulty> LevelThatDoes;  // on the same canvas, as far as can be told
 };

@@ -182,13 +182,13 @@ void ToolsTest::ThePdfWindowTellsWhatACanvasDoesToTheSymbols() {
     QWidget& window = *QApplication::activeModalWidget();
     const auto text = [&window](const char* label) { return Find<QLabel>(window, label).text(); };
     QVERIFY(text("PlanSmallest").startsWith("2."));
-    QVERIFY(!text("PlanWarning").contains("smaller"));
+    QVERIFY(!text("PlanWarning").contains("no room"));
     const QString pages = text("PlanPages");
     Find<QRadioButton>(window, "ChosenCanvas").click();
     Find<QDoubleSpinBox>(window, "CanvasWidth").setValue(12);
     QVERIFY(text("PlanCanvas").startsWith("12.0"));
     QVERIFY(text("PlanPages") != pages);
-    QVERIFY2(text("PlanWarning").contains("smaller than 2 mm"), qPrintable(text("PlanWarning")));
+    QVERIFY2(text("PlanWarning").contains("no room for a symbol"), qPrintable(text("PlanWarning")));
     QCOMPARE(Spoken(Find<QLabel>(window, "PlanWarning")), text("PlanWarning"));
     Press(window, "CancelPdf");
 }

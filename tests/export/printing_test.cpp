@@ -6,13 +6,16 @@
 #include <algorithm>
 #include <fstream>
 #include <sstream>
+#include <utility>
+#include <vector>
 
 #include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "convert/bitmap_reader.h"
 #include "export/color_chart_image.h"
-#include "export/print_fonts.h"
+#include "export/print_symbols.h"
 #include "export/qt_exporter.h"
+#include "export/symbol_likeness.h"
 #include "output/symbol_set.h"
 #include "support/error.h"
 
@@ -100,7 +103,20 @@ TEST_F(Printing, KitHasFrontPagesAndThePlanAndTheSameBytesEveryTime) {
         EXPECT_TRUE(Pdf({.Sheet = Paper::A4, .CanvasCm = 40}) == pdf);
     }
     EXPECT_EQ(Count(Pdf({.Sheet = Paper::A3, .CanvasCm = 20}), "/Type /Page\n"), 4);
+    EXPECT_FALSE(Pdf({.CanvasCm = 40, .Symbols = SymbolStyle::Signs}) == pdf);
     EXPECT_EQ(easel_.Work(), painting);
+}
+
+TEST_F(Printing, LinesAndTheirGrayAreThePaintersChoice) {
+    const auto pdf = [this](LineShape shape, int gray = kUsualGray) {
+        return Pdf({.Sheet = Paper::A4, .CanvasCm = 20, .Lines = shape, .Gray = gray});
+    };
+    EXPECT_TRUE(pdf(LineShape::ByKit) == pdf(LineShape::Steps));
+    easel_.State.PaintableKit = true;
+    const std::string smooth = pdf(LineShape::Smooth);
+    EXPECT_TRUE(pdf(LineShape::ByKit) == smooth);
+    EXPECT_FALSE(pdf(LineShape::Steps) == smooth);
+    EXPECT_FALSE(pdf(LineShape::Smooth, 80) == smooth);
 }
 
 TEST_F(Printing, AFolderThatCannotBeWrittenIsNamed) {
@@ -110,27 +126,61 @@ TEST_F(Printing, AFolderThatCannotBeWrittenIsNamed) {
     EXPECT_EQ(easel_.Files.Read("Results"), "in the way");
 }
 
-TEST_F(Printing, SymbolsFitNarrowStipplesAndStandWhereTheyAreMeasured) {
-    const PrintSymbols symbols;
-    for (int symbol = 1; symbol <= kSymbolCount; ++symbol) {
-        const double aspect = symbols.Aspects()[static_cast<std::size_t>(symbol)];
-        EXPECT_GT(aspect, 0.2);
-        EXPECT_LE(aspect, 0.72 + 1e-9);
-        QImage image(300, 300, QImage::Format_RGB32);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        painter.setPen(Qt::black);
-        symbols.Draw(painter, symbol, {150, 150}, 200);
-        painter.end();
-        for (int y = 0; y < 300; ++y) {
-            for (int x = 0; x < 300; ++x) {
-                const bool inside =
-                    std::abs(y - 149.5) <= 102 && std::abs(x - 149.5) <= 100 * aspect + 2;
-                ASSERT_TRUE(inside || image.pixel(x, y) == qRgb(255, 255, 255))
-                    << symbol << ": " << x << ' ' << y;
+TEST_F(Printing, SymbolsStandWhereTheyAreMeasured) {
+    const std::vector<std::pair<SymbolStyle, double>> broadest = {
+        {SymbolStyle::Letters, 0.66}, {SymbolStyle::Numbers, 1.2}, {SymbolStyle::Signs, 1}};
+    for (const auto& [style, most] : broadest) {
+        const PrintSymbols symbols(style, kSymbolCount);
+        for (int symbol = 1; symbol <= kSymbolCount; ++symbol) {
+            const double aspect = symbols.Aspects()[static_cast<std::size_t>(symbol)];
+            EXPECT_GT(aspect, 0.2);
+            EXPECT_LE(aspect, most + 1e-9);
+            QImage image(300, 300, QImage::Format_RGB32);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            painter.setPen(Qt::black);
+            symbols.Draw(painter, symbol, {150, 150}, 200);
+            painter.end();
+            const QRgb paper = qRgb(255, 255, 255);
+            int ink = 0;
+            for (int y = 0; y < 300; ++y) {
+                for (int x = 0; x < 300; ++x) {
+                    const bool inside =
+                        std::abs(y - 149.5) <= 102 && std::abs(x - 149.5) <= 100 * aspect + 2;
+                    ink += image.pixel(x, y) != paper ? 1 : 0;
+                    ASSERT_TRUE(inside || image.pixel(x, y) == paper)
+                        << symbol << ": " << x << ' ' << y;
+                }
             }
+            EXPECT_GT(ink, 1000) << symbol;
         }
     }
+}
+
+// What the orders of letters and signs promise, by the measure they were made with.
+TEST_F(Printing, TheFirstSymbolsOfAStyleAreToldApartBest) {
+    const auto worst = [](SymbolStyle style, int paints) {
+        const PrintSymbols symbols(style, paints);
+        std::vector<SymbolDrawing> drawings;
+        for (int i = 1; i <= paints; ++i) {
+            drawings.push_back([&symbols, i](QPainter& painter, QPointF centre, double height) {
+                symbols.Draw(painter, i, centre, height);
+            });
+        }
+        const auto alike = Likenesses(
+            drawings, style == SymbolStyle::Signs ? SymbolTop::Unknown : SymbolTop::Known);
+        double most = 0;
+        for (std::size_t i = 0; i < alike.size(); ++i) {
+            for (std::size_t j = 0; j < i; ++j) {
+                most = std::max(most, alike[i][j]);
+            }
+        }
+        return most;
+    };
+    EXPECT_LT(worst(SymbolStyle::Clear, 32), 0.88);
+    EXPECT_LT(worst(SymbolStyle::Signs, 50), 0.91);
+    EXPECT_GT(worst(SymbolStyle::Letters, 50), 0.93) << "8 and B";
+    EXPECT_EQ(LettersFor(SymbolStyle::Clear, 3), "1LM");
 }
 
 }  // namespace

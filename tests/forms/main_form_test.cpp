@@ -131,7 +131,7 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
 // Draws nothing, but tells of its progress; fails when told to.
 class Printer : public Exporter {
   public:
-    SymbolAspects Aspects() const override {
+    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
         SymbolAspects aspects;
         aspects.fill(0.7);
         return aspects;
@@ -169,6 +169,8 @@ TEST(SaveEverything, SavesWhatIsChosenWithOneProgressAndRemembersIt) {
     printer.Fails = true;
     form.Grid_Click(true);
     form.Pdf_Click(true);
+    form.Svg_Click(true);
+    form.Page_Click(true);
     form.Plan().Paper_Click(Paper::A3);
     EXPECT_THROW(form.SaveButton_Click(), Error);
     EXPECT_THAT(studio.Screen.OpenForms, ElementsAre(FormId::SaveEverything));
@@ -180,12 +182,14 @@ TEST(SaveEverything, SavesWhatIsChosenWithOneProgressAndRemembersIt) {
     form.SaveButton_Click();
     EXPECT_THAT(studio.Screen.OpenForms, IsEmpty());
     EXPECT_EQ(studio.Files.Read("Results/four Easy Kit.pdf"), "A3");
+    EXPECT_TRUE(fs::exists(studio.Files / "Results" / form.Controls().SvgFile));
+    EXPECT_TRUE(fs::exists(studio.Files / "Results" / form.Controls().PageFile));
     EXPECT_TRUE(fs::exists(studio.Files / "Saved Stipples/four-Easy.stp"));
     EXPECT_FALSE(studio.State.HasUnsavedWork);
     EXPECT_EQ(studio.Screen.Progress.back(), std::pair(0, 0));
     studio.Screen.Progress.pop_back();
     EXPECT_TRUE(std::ranges::is_sorted(studio.Screen.Progress)) << "it never falls back";
-    EXPECT_EQ(studio.Screen.Progress.back(), std::pair(6000, 6000));
+    EXPECT_EQ(studio.Screen.Progress.back(), std::pair(8000, 8000));
     main.Click(SaveItAll);
     EXPECT_TRUE(main.Everything().Grid() && main.Everything().Pdf());
 }

@@ -56,15 +56,19 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
     }
     EXPECT_EQ(kit.Plan.Sheet, Paper::A3);
     EXPECT_EQ(kit.Plan.CanvasCm, 60.5);
-    const KitOptions paintable = Parse({"kit", "a.bmp", "--match=plain", "--paintable",
-                                        "--smallest", "9.5mm2", "--detail=70", "--title", "Cat"})
-                                     .Kit;
+    const KitOptions paintable =
+        Parse({"kit", "a.bmp", "--match=plain", "--paintable", "--smallest", "9.5mm2",
+               "--detail=70", "--title", "Cat", "--lines=steps", "--gray", "80"})
+            .Kit;
     EXPECT_TRUE(paintable.Chosen.Paintable);
     EXPECT_EQ(paintable.Chosen.Match, Matching::Plain);
     EXPECT_EQ(paintable.Chosen.Limits, (PaintLimits{9.5, 2}));
     EXPECT_EQ(paintable.Chosen.Detail, 70);
     EXPECT_EQ(paintable.Plan.CanvasCm, 40);
     EXPECT_EQ(paintable.Title, "Cat");
+    EXPECT_EQ(paintable.Plan.Lines, LineShape::Steps);
+    EXPECT_EQ(paintable.Plan.Gray, 80);
+    EXPECT_EQ(kit.Plan.Lines, LineShape::ByKit);
     EXPECT_TRUE(kit.FromGrid && kit.ReplaceGrid && kit.Json && kit.Quiet);
     EXPECT_THAT(kit.Photos, ElementsAre("a.bmp", "--odd.bmp"));
     EXPECT_EQ(Parse({"kit", "a.bmp", "--template", "Skin"}).Kit.Template, "Skin");
@@ -114,6 +118,7 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--colour"}, "no option --colour"},
         {{"kit", "a.bmp", "-q"}, "no option -q"},
         {{"kit", "a.bmp", "--difficulty", "hard"}, "easy, medium or difficult"},
+        {{"kit", "a.bmp", "--gray", "5"}, "from 10 to 100"},
         {{"kit", "a.bmp", "--difficulty"}, "--difficulty needs a value"},
         {{"kit", "a.bmp", "--folder="}, "--folder needs a value"},
         {{"kit", "a.bmp", "--final-paints", "17"}, "16, 32, 40 or 50"},

@@ -10,8 +10,9 @@
 #include "plan/inscribed_boxes.h"
 #include "plan/label_placement.h"
 #include "plan/mark_places.h"
-#include "plan/outlines.h"
 #include "plan/painted_regions.h"
+#include "plan/plan_lines.h"
+#include "plan/symbol_room.h"
 #include "regions/crumbs.h"
 #include "regions/values.h"
 #include "support/error.h"
@@ -34,7 +35,7 @@ PixelGrid RandomPixels(int width, int height, unsigned seed, int paints) {
 LabelRules Rules(double largest, double step) {
     LabelRules rules;
     rules.Aspects = PaintAspects(kSymbolCount, 0.75);
-    rules.LargestHeight = largest;
+    rules.Air = {.Wanted = 0.1, .Least = 0.05, .Legible = 0.5, .Largest = largest};
     rules.LatticeStep = step;
     return rules;
 }
@@ -42,9 +43,10 @@ LabelRules Rules(double largest, double step) {
 // Borders as the middles of their units.
 using Units = std::multiset<std::pair<double, double>>;
 
-Units UnitsOf(const std::vector<PlanLine>& lines) {
+Units UnitsOf(const PlanLines& lines) {
     Units units;
-    for (const PlanLine& line : lines) {
+    for (const PlanChain& chain : lines.Chains) {
+        const PlanLine& line = chain.Points;
         for (std::size_t i = 1; i < line.size(); ++i) {
             for (PlanPoint at = line[i - 1]; at != line[i];) {
                 const double dx = std::clamp(line[i].X - at.X, -1.0, 1.0);
@@ -83,37 +85,60 @@ TEST(PaintedRegions, BarePixelsTakeThePaintOfTheirStipple) {
     EXPECT_THROW((void)PaintPerPixel(state, state, 4, 8, 4), Error);
 }
 
-TEST(Outlines, DrawEveryBorderOnceWithoutNeedlessPoints) {
-    EXPECT_THAT(TraceOutlines(Values({"11", "11"})),
-                ElementsAre(PlanLine{{0, 0}, {2, 0}, {2, 2}, {0, 2}, {0, 0}}));
+TEST(Lines, HoldEveryBorderOnceAndRingsRoundEveryArea) {
     for (unsigned seed = 0; seed < 20; ++seed) {
-        const PixelGrid ids = RandomPixels(9, 7, seed, 2 + static_cast<int>(seed % 3));
-        const auto lines = TraceOutlines(ids);
-        EXPECT_EQ(UnitsOf(lines), PlainUnits(ids));
-        for (const PlanLine& line : lines) {
-            for (std::size_t i = 2; i < line.size(); ++i) {
-                EXPECT_NE(line[i].X == line[i - 1].X, line[i - 1].X == line[i - 2].X);
+        const PaintedRegions areas = FindRegions(RandomPixels(9, 7, seed, 2 + int(seed % 3)));
+        const PlanLines lines = TraceLines(areas.Ids);
+        EXPECT_EQ(UnitsOf(lines), PlainUnits(areas.Ids));
+        for (const PlanChain& chain : lines.Chains) {
+            EXPECT_NE(chain.Left, chain.Right);
+            for (std::size_t i = 2; i < chain.Points.size(); ++i) {
+                EXPECT_NE(chain.Points[i].X == chain.Points[i - 1].X,
+                          chain.Points[i - 1].X == chain.Points[i - 2].X);
             }
+        }
+        for (int area = 0; area < areas.Count(); ++area) {
+            EXPECT_EQ(SizeOfArea(lines, area), areas[area].Size);
         }
     }
 }
 
-TEST(Outlines, PagesTogetherShowEveryBorder) {
+TEST(Lines, GoRoundHolesTheOtherWayAndApartWhereAreasTouchByACorner) {
+    const PlanLines lines = TraceLines(FindRegions(Values({"1111",  //
+                                                           "1211",  //
+                                                           "1121",  //
+                                                           "1111"}))
+                                           .Ids);
+    ASSERT_EQ(lines.Rings.size(), 3U);
+    EXPECT_EQ(lines.Rings[0].size(), 2U);
+    EXPECT_THAT(PointsOf(lines, lines.Rings[1][0]),
+                testing::UnorderedElementsAre(PlanPoint{1, 1}, PlanPoint{2, 1}, PlanPoint{2, 2},
+                                              PlanPoint{1, 2}));
+    EXPECT_EQ(SizeOfArea(lines, 0), 14);
+}
+
+TEST(Lines, PagesTogetherShowEveryBorder) {
     const PixelGrid ids = RandomPixels(12, 10, 5, 3);
-    const auto lines = TraceOutlines(ids);
+    const PlanLines lines = TraceLines(ids);
     double length = 0;
     for (const PlanRect& part : {PlanRect{0, 0, 4.5, 10}, PlanRect{4.5, 0, 12, 10}}) {
-        for (const PlanLine& line : ClipLines(lines, part)) {
-            for (std::size_t i = 1; i < line.size(); ++i) {
-                length += std::abs(line[i].X - line[i - 1].X) + std::abs(line[i].Y - line[i - 1].Y);
-                EXPECT_GE(std::min(line[i].X, line[i - 1].X), part.Left);
-                EXPECT_LE(std::max(line[i].X, line[i - 1].X), part.Right);
+        for (const PlanChain& chain : lines.Chains) {
+            for (const PlanLine& line : ClipLine(chain.Points, part)) {
+                for (std::size_t i = 1; i < line.size(); ++i) {
+                    length += std::hypot(line[i].X - line[i - 1].X, line[i].Y - line[i - 1].Y);
+                    EXPECT_GE(std::min(line[i].X, line[i - 1].X), part.Left);
+                    EXPECT_LE(std::max(line[i].X, line[i - 1].X), part.Right);
+                }
             }
         }
     }
     EXPECT_DOUBLE_EQ(length, static_cast<double>(PlainUnits(ids).size()));
     // A part that was reckoned in millimetres may end a hair before the picture does.
-    EXPECT_EQ(ClipLines(lines, {1e-12, 1e-12, 12 - 1e-12, 10 - 1e-12}).size(), lines.size());
+    EXPECT_EQ(ClipLine({{0, 0}, {12, 0}}, {1e-12, 1e-12, 12 - 1e-12, 9}).size(), 1U);
+    const auto aslant = ClipLine({{0, 0}, {4, 8}, {8, 0}}, {1, 0, 7, 4});
+    ASSERT_EQ(aslant.size(), 2U);
+    EXPECT_NEAR(aslant[0].front().Y, 2, 1e-5);
+    EXPECT_NEAR(aslant[1].front().X, 6, 1e-5);
 }
 
 TEST(InscribedBoxes, AreTheRoomiestThereAre) {
@@ -160,10 +185,10 @@ TEST(Labels, EveryRegionHasOneAndEveryOneLiesInsideItsRegion) {
     for (unsigned seed = 0; seed < 10; ++seed) {
         const PaintedRegions regions = FindRegionsWithoutCrumbs(RandomPixels(40, 30, seed, 3), 4);
         LabelRules rules = Rules(6, 10);
-        rules.PageColumns = {13, 27};
-        rules.PageRows = {16};
+        rules.Cuts.Columns = {13, 27};
+        rules.Cuts.Rows = {16};
         std::set<int> labelled;
-        for (const PlanLabel& label : PlaceLabels(regions, rules)) {
+        for (const PlanLabel& label : PlaceLabels(regions, TraceLines(regions.Ids), rules)) {
             labelled.insert(label.Region);
             EXPECT_GT(label.Height, 0);
             EXPECT_LE(label.Height, 6);
@@ -177,11 +202,11 @@ TEST(Labels, LargeRegionsRepeatTheirsAndEveryPageShowsOne) {
     PixelGrid plain(99, 59);
     std::ranges::fill(plain.All(), 1);
     const PaintedRegions regions = FindRegions(plain);
-    EXPECT_EQ(PlaceLabels(regions, Rules(5, 0)).size(), 1U);
-    EXPECT_GE(PlaceLabels(regions, Rules(5, 20)).size(), 12U);
+    EXPECT_EQ(PlaceLabels(regions, TraceLines(regions.Ids), Rules(5, 0)).size(), 1U);
+    EXPECT_GE(PlaceLabels(regions, TraceLines(regions.Ids), Rules(5, 20)).size(), 12U);
     LabelRules pages = Rules(5, 0);
-    pages.PageColumns = {45};
-    const auto labels = PlaceLabels(regions, pages);
+    pages.Cuts.Columns = {45};
+    const auto labels = PlaceLabels(regions, TraceLines(regions.Ids), pages);
     ASSERT_EQ(labels.size(), 2U);
     EXPECT_EQ(labels[0].Centre, (PlanPoint{50, 30}));
     EXPECT_LT(labels[1].Centre.X, 45);
@@ -198,9 +223,9 @@ TEST(Labels, StandInEveryPieceOfAPageAndBesideItsCuts) {
     }
     const PaintedRegions regions = FindRegions(horseshoe);
     LabelRules rules = Rules(6, 0);
-    rules.PageRows = {20};
+    rules.Cuts.Rows = {20};
     std::vector<std::pair<bool, bool>> legs;  // of the horseshoe's symbols: below the cut, left
-    for (const PlanLabel& label : PlaceLabels(regions, rules)) {
+    for (const PlanLabel& label : PlaceLabels(regions, TraceLines(regions.Ids), rules)) {
         EXPECT_GE(std::abs(label.Centre.Y - 20), label.Height / 2);
         if (regions[label.Region].Value == 2) {
             legs.emplace_back(label.Centre.Y > 20, label.Centre.X < 30);
@@ -221,7 +246,7 @@ TEST(Labels, StandOnBothSidesOfANarrowNeckAndOfACutHoweverNear) {
     rules.LegibleHeight = 2;
     const auto halvesOfPaint1 = [&] {
         std::set<bool> halves;
-        for (const PlanLabel& label : PlaceLabels(regions, rules)) {
+        for (const PlanLabel& label : PlaceLabels(regions, TraceLines(regions.Ids), rules)) {
             if (regions[label.Region].Value == 1) {
                 halves.insert(label.Centre.X > 5.5);
             }
@@ -229,7 +254,7 @@ TEST(Labels, StandOnBothSidesOfANarrowNeckAndOfACutHoweverNear) {
         return halves;
     };
     EXPECT_EQ(halvesOfPaint1().size(), 2U);
-    rules.PageColumns = {6};
+    rules.Cuts.Columns = {6};
     EXPECT_EQ(halvesOfPaint1().size(), 2U);
 }
 
@@ -246,10 +271,21 @@ TEST(RoundMarks, StandWhereTheyCoverNoSymbol) {
     EXPECT_GT(crowded[1].Y, 50);
 }
 
-TEST(Labels, KnowHowLargeASymbolFitsIntoALoneStipple) {
-    EXPECT_NEAR(SymbolHeightInStipple(4, 0.75), 0.9 * 2 / 0.75, 1e-9);
-    EXPECT_NEAR(SymbolHeightInStipple(6, 0.75), 0.9 * 4 / 0.75, 1e-9);
-    EXPECT_NEAR(SymbolHeightInStipple(8, 0.75), 0.9 * 6, 1e-9);
+TEST(SymbolRooms, SayHowTallASymbolIsPrinted) {
+    // Of a lone stipple.
+    EXPECT_DOUBLE_EQ(RoomInStipple(4, 0.75).Width, 2);
+    EXPECT_DOUBLE_EQ(RoomInStipple(8, 0.75).Height, 6);
+    struct Case {
+        double Mm;  // of the room's height
+        double Symbol;
+    };
+    // 0.13 mm of every height is the lines' own.
+    for (const Case& c : {Case{5, 3}, Case{3.13, 2.5}, Case{2.63, 2}, Case{2.4, 2}, Case{2.33, 2},
+                          Case{2.23, 1.9}, Case{0.1, 0.06}}) {
+        EXPECT_NEAR((SymbolRoom{100, 1, 0.5}.SymbolMm(PrintScale::OfPixel(c.Mm))), c.Symbol, 1e-9);
+    }
+    const SymbolRoom room{3, 9, 0.7};
+    EXPECT_NEAR(room.SymbolMm(PrintScale::OfPixel(room.LegiblePixelMm())), 2, 1e-9);
 }
 
 }  // namespace

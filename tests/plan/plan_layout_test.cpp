@@ -12,10 +12,18 @@
 namespace vendrel {
 namespace {
 
-std::vector<double> OneThousandAnd(double smallest) {
-    std::vector<double> heights(1000, 5);
-    heights.push_back(smallest);
-    return heights;
+// With all the width that there can be.
+std::vector<SymbolRoom> Rooms(const std::vector<double>& heights) {
+    std::vector<SymbolRoom> rooms;
+    for (const double height : heights) {
+        rooms.push_back({100, height, 0.7});
+    }
+    return rooms;
+}
+std::vector<SymbolRoom> OneThousandAnd(double smallest) {
+    std::vector<SymbolRoom> rooms(1000, {100, 5, 0.7});
+    rooms.push_back({100, smallest, 0.7});
+    return rooms;
 }
 
 // Six by five stipples of three paints, painted as the program paints.
@@ -88,17 +96,17 @@ TEST_F(PlannedPicture, TellsWhichCanvasOrDifficultyMakesSymbolsLegible) {
     EXPECT_EQ(WarningOf(FiguresOf(sketch, {})), "");
     EXPECT_EQ(FiguresOf(sketch, {}).Symbols, 5);
     EXPECT_EQ(FiguresOf(sketch, {}).Pages, 1);
-    sketch.SymbolHeights = {0.6, 0.5, 1, 3, 5};
+    sketch.Rooms = Rooms({0.7, 0.6, 1, 3, 5});
     const PlanSettings small{.Sheet = Paper::A4, .CanvasCm = 10};
     EXPECT_EQ(
         WarningOf(FiguresOf(sketch, small)),
-        "2 of 5 symbols are smaller than 2 mm, the smallest 1.3 mm; a canvas of 15 cm or easy "
-        "difficulty shows them at 2 mm or more.");
+        "2 of 5 areas have no room for a symbol of 2 mm, the smallest for one of 1.3 mm; a canvas "
+        "of 14 cm or easy difficulty gives them 2 mm or more.");
     sketch.StippleSize = 8;
-    sketch.SymbolHeights = OneThousandAnd(0.01);
+    sketch.Rooms = OneThousandAnd(0.01);
     EXPECT_EQ(WarningOf(FiguresOf(sketch, small)),
-              "1 of 1,001 symbols is smaller than 2 mm, the smallest 0.0 mm.");
-    sketch.SymbolHeights = {0.5};
+              "1 of 1,001 areas has no room for a symbol of 2 mm, the smallest for one of 0.0 mm.");
+    sketch.Rooms = Rooms({0.6});
     EXPECT_EQ(FiguresOf(sketch, {.Sheet = Paper::A4, .CanvasCm = 15}).Small, 0);
 }
 

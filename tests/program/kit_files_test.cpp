@@ -149,7 +149,7 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
 class NamingExporter final : public Exporter {
   public:
     explicit NamingExporter(std::vector<std::string>& asked) : asked_(asked) {}
-    SymbolAspects Aspects() const override {
+    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
         SymbolAspects aspects;
         aspects.fill(0.7);
         return aspects;
@@ -174,7 +174,7 @@ TEST(KitFiles, ChartAndPdfComeFromTheHalfWithFonts) {
     EXPECT_EQ(studio.Kit({"ball.bmp"}), 0);
     EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "pdf", "--canvas", "50cm"}), 0);
     EXPECT_THAT(studio.Out, HasSubstr("ball Easy Kit.pdf"));
-    EXPECT_THAT(studio.Out, Not(HasSubstr("smaller than 2 mm")));
+    EXPECT_THAT(studio.Out, Not(HasSubstr("no room for a symbol")));
     EXPECT_EQ(studio.Kit({"ball.bmp", "--outputs", "pdf", "--canvas", "12cm", "--difficulty",
                           "difficult", "--json"}),
               0);

@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "convert/bitmap_reader.h"
+#include "plan/line_checks.h"
+#include "plan/smooth_lines.h"
 #include "program/studio.h"
 #include "support/cell_pos.h"
 #include "support/grid.h"
@@ -85,6 +87,18 @@ void ExpectPaintable(const Surface& painting, PrintScale scale, int areaCount) {
     }
 }
 
+// The areas of a painting once their lines are smooth.
+void ExpectSmoothly(const Surface& painting, PrintScale scale) {
+    ValueGrid colors(painting.Width() - 1, painting.Height() - 1);
+    for (int y = 0; y < painting.Height(); ++y) {
+        for (int x = 0; x < painting.Width(); ++x) {
+            colors(x, y) = static_cast<int>(painting.Get(x, y));
+        }
+    }
+    const PaintedRegions areas = FindRegions(colors);
+    test::ExpectPartition(SmoothLines(areas, TraceLines(areas.Ids), {6, scale.Pixels(2)}), areas);
+}
+
 TEST(PaintableKit, HasNoAreaBelowTheLimitsAndTheSameAreasInPaintingSheetAndFigures) {
     for (const auto& [level, name] :
          {std::pair<const char*, std::string>{"easy", "own Easy Painting.BMP"},
@@ -98,7 +112,9 @@ TEST(PaintableKit, HasNoAreaBelowTheLimitsAndTheSameAreasInPaintingSheetAndFigur
         EXPECT_EQ(Figure(studio.Out, "numbering", "areas"), areas);
         EXPECT_EQ(Figure(studio.Out, "numbering", "withoutSymbol"), 0);
         const Surface painting = ReadBitmap(studio.Files / ("Results/" + name));
-        ExpectPaintable(painting, PrintScale::OfCanvas(40, painting.Width()), areas);
+        const PrintScale scale = PrintScale::OfCanvas(40, painting.Width());
+        ExpectPaintable(painting, scale, areas);
+        ExpectSmoothly(painting, scale);
 
         // The grid carries the areas: taken again, it gives the same painting.
         const std::string bytes = studio.Files.Read("Results/" + name);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <vector>
+
+#include "plan/label_placement.h"
+
+namespace vendrel {
+
+/// Moves the symbols that could hardly be read in their regions, where these have no other, out of
+/// them: legible and into the nearest region that has room to spare, pointing back to where they
+/// stood. No symbol and no line to one covers another; both ends are on one page. Where there is no
+/// such place they stay.
+void MoveOutside(std::vector<PlanLabel>& labels, const PaintedRegions& regions, const LabelFit& fit,
+                 const LabelRules& rules);
+
+}  // namespace vendrel
