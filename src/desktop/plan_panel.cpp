@@ -95,7 +95,7 @@ void PlanPanel::Mirror(const PlanChoice& shown) {
 }
 
 void PlanPanel::MirrorFigures(const PlanFigures& figures) {
-    pages_->setText(tr("%1 of the plan, and 3 in front").arg(figures.Pages));
+    pages_->setText(tr("%1 of the plan, and cover, chart and map in front").arg(figures.Pages));
     canvas_->setText(tr("%1 \u00d7 %2 cm")
                          .arg(figures.Canvas.Width / 10, 0, 'f', 1)
                          .arg(figures.Canvas.Height / 10, 0, 'f', 1));

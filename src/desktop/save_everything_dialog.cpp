@@ -74,7 +74,8 @@ void SaveEverythingDialog::Arrange() {
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
     const auto plan = plan_->Controls();
-    SetTabOrder({name_, grid_, pdf_, page_, svg_, plan[0], plan[1], plan[2], plan[3], save, cancel});
+    SetTabOrder(
+        {name_, grid_, pdf_, page_, svg_, plan[0], plan[1], plan[2], plan[3], save, cancel});
 }
 
 void SaveEverythingDialog::Connect() {

@@ -3,6 +3,7 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QHashFunctions>
 #include <QtCore/QMarginsF>
+#include <QtGui/QImageReader>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPdfWriter>
 
@@ -33,8 +34,10 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
     }
     DrawCoverPage(painter, kit);
     writer.newPage();
-    DrawChartPage(painter, kit);
-    writer.newPage();
+    for (int page = 0; page < CountChartPages(kit); ++page) {
+        DrawChartPage(painter, kit, page);
+        writer.newPage();
+    }
     DrawMapPage(painter, kit);
     writer.setPageLayout(LayoutOf(kit.Plan.Pages.Paper.Sheet));
     for (const PageTile& tile : kit.Plan.Pages.Tiles) {
@@ -67,6 +70,20 @@ Surface PaintingOf(const PaintedRegions& regions, const WorkState& state) {
         }
     }
     return painting;
+}
+
+QImage LogoOf(const PlanSettings& settings) {
+    if (settings.Logo.empty()) {
+        return {};
+    }
+    QImageReader reader(QString::fromStdString(settings.Logo.string()));
+    reader.setAutoTransform(true);
+    QImage logo = reader.read();
+    if (logo.isNull()) {
+        throw FileError(settings.Logo,
+                        "cannot be read as a logo. Choose a PNG or JPEG picture for it.");
+    }
+    return logo;
 }
 
 // Fonts and pictures are written in the order of hash tables, which the toolkit seeds by chance.
@@ -103,10 +120,16 @@ void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Tar
     const PrintSymbols symbols(settings.Symbols, place.State->PaintCount);
     const PrintPlan plan =
         MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
-    const KitPages kit{place,         plan,
-                       symbols,       SizeOf(settings.Sheet),
-                       BoxesOf(plan), PaintingOf(plan.Regions, place.State),
-                       settings.Gray, settings.Symbols};
+    const KitPages kit{
+        place,
+        plan,
+        symbols,
+        SizeOf(settings.Sheet),
+        BoxesOf(plan),
+        PaintingOf(plan.Regions, place.State),
+        settings,
+        PaintNeeds(plan.Regions, plan.Pages, plan.Scale, place.State->PaintCount, settings.Use),
+        LogoOf(settings)};
     const SteadyHashes steady;
     QByteArray pdf;
     QBuffer buffer(&pdf);

@@ -120,7 +120,7 @@ void SvgPlan::DrawPaints() {
     xml_.writeAttribute("fill-rule", "evenodd");
     for (int paint = 1; paint <= state_.PaintCount; ++paint) {
         const PaintColor& color = state_.PaintColors[paint];
-        const QString symbol = symbols_.Name(SymbolOf(state_.PaintColors, paint));
+        const QString symbol = ToQt(symbols_.NameOf(SymbolOf(state_.PaintColors, paint)));
         StartLayer(QString("paint-%1").arg(paint), symbol + " " + PlainText(PaintLabel(color)));
         xml_.writeAttribute("fill", ToQt(ColorOf(color)).name());
         for (const int area : areas[static_cast<std::size_t>(paint)]) {

@@ -26,10 +26,12 @@ qint64 PageLength(double pixels) {
 QJsonObject PaintOf(const PaintColor& paint, int symbol, const PrintSymbols& symbols) {
     PathText glyph(kGlyphUnit);
     AddOutline(glyph, symbols.Outline(symbol), {0, 0}, 1);
-    return {
-        {"symbol", symbols.Name(symbol)},       {"name", PlainText(paint.PaintName)},
-        {"set", PlainText(paint.Mfg)},          {"code", PlainText(paint.PaintCode)},
-        {"color", ToQt(ColorOf(paint)).name()}, {"glyph", QString::fromStdString(glyph.Text())}};
+    return {{"symbol", ToQt(symbols.NameOf(symbol))},
+            {"name", PlainText(paint.PaintName)},
+            {"set", PlainText(paint.Mfg)},
+            {"code", PlainText(paint.PaintCode)},
+            {"color", ToQt(ColorOf(paint)).name()},
+            {"glyph", QString::fromStdString(glyph.Text())}};
 }
 
 QJsonArray PaintsOf(const WorkState& state, const PrintSymbols& symbols) {

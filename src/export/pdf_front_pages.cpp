@@ -3,17 +3,18 @@
 #include <algorithm>
 #include <cmath>
 
-#include "export/chart_drawing.h"
 #include "export/page_map.h"
 #include "export/pdf_pages.h"
 #include "export/pdf_units.h"
 #include "export/qt_image.h"
 #include "kitset/kit_mark.h"
+#include "output/chart_contents.h"
 
 namespace vendrel {
 namespace {
 
 constexpr double kMargin = 15;
+constexpr double kMakerMm = 16;  // height of the maker's line on the cover
 const QColor kFaint(90, 90, 90);
 
 QSizeF Fitted(const Surface& picture, const QSizeF& room) {
@@ -90,6 +91,26 @@ void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) 
                      Qt::AlignHCenter | Qt::AlignVCenter, text);
 }
 
+bool HasMaker(const KitPages& kit) {
+    return !kit.Settings.Maker.empty() || !kit.Logo.isNull();
+}
+
+// The logo, and the maker's name behind it.
+void DrawMaker(QPainter& painter, const KitPages& kit, const QRectF& box) {
+    double left = box.left();
+    if (!kit.Logo.isNull()) {
+        const QSizeF size =
+            QSizeF(kit.Logo.size()).scaled({Mm(60), box.height()}, Qt::KeepAspectRatio);
+        painter.drawImage(QRectF(QPointF(left, box.center().y() - size.height() / 2), size),
+                          kit.Logo);
+        left += size.width() + Mm(4);
+    }
+    painter.setFont(TextFont(FontMm(4.5)));
+    painter.setPen(kFaint);
+    DrawLineOfText(painter, {left, box.top(), box.right() - left, box.height()}, Qt::AlignLeft,
+                   ToQt(kit.Settings.Maker));
+}
+
 const char* const kSteps[] = {
     "Print all pages at their actual size (100 %), never fitted to the paper.",
     "Measure the ruler below: it must be exactly 5 cm long.",
@@ -129,7 +150,7 @@ std::string KitPages::Title() const {
 }
 
 QString KitPages::StyleNote() const {
-    return Style == SymbolStyle::Letters ? QString() : "symbols differ from the sheet";
+    return Settings.Symbols == SymbolStyle::Letters ? QString() : "symbols differ from the sheet";
 }
 
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {
@@ -148,8 +169,12 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
         Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place.State, kit.Place.State, kit.Place.State)));
     DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
                    KitSummary(kit));
+    DrawMaker(painter, kit,
+              MmRect(kMargin, kit.FrontPaper.Height - kMargin - kMakerMm,
+                     kit.FrontPaper.Width - 2 * kMargin, kMakerMm));
+    const double foot = HasMaker(kit) ? Mm(kMakerMm + 4) : 0;
 
-    const QRectF room(Mm(kMargin), Mm(kMargin + 28), width, bottom - Mm(kMargin + 28));
+    const QRectF room(Mm(kMargin), Mm(kMargin + 28), width, bottom - foot - Mm(kMargin + 28));
     const Surface& photo = kit.Place.Frames->CaptureFrame.Picture;
     const CoverPlaces places = PlacesOn(room, kit.Painting, photo);
     painter.setRenderHint(QPainter::LosslessImageRendering);
@@ -160,23 +185,6 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
         DrawPicture(painter, photo, places.Photo);
         DrawCaption(painter, places.Photo, "The photo");
     }
-}
-
-void DrawChartPage(QPainter& painter, const KitPages& kit) {
-    ColorChart chart = MakeColorChart(kit.Place.State);
-    if (const QString note = kit.StyleNote(); !note.isEmpty()) {
-        chart.Subtitle += "  \u2022  " + note;
-    }
-    chart.DrawSymbol = [&kit](QPainter& on, int symbol, const QRectF& box) {
-        kit.Symbols.DrawInLine(on, symbol, box.center(), std::min(box.height() * 0.54, 34.0));
-    };
-    const double scale =
-        std::min(Mm(kit.FrontPaper.Width) / kChartWidth, Mm(kit.FrontPaper.Height) / kChartHeight);
-    painter.save();
-    painter.translate((Mm(kit.FrontPaper.Width) - kChartWidth * scale) / 2, 0);
-    painter.scale(scale, scale);
-    DrawColorChart(painter, chart);
-    painter.restore();
 }
 
 void DrawMapPage(QPainter& painter, const KitPages& kit) {

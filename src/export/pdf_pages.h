@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <string>
 #include <vector>
@@ -19,9 +20,9 @@ struct KitPages {
     SizeMm FrontPaper;                  // of cover, chart and page map, upright
     std::vector<PlanRect> SymbolBoxes;  // of all labels, in millimetres of the canvas
     Surface Painting;                   // as the plan cuts it, no pixel bare
-    int Gray = kUsualGray;              // of the plan's lines and symbols
-
-    SymbolStyle Style = SymbolStyle::Letters;
+    const PlanSettings& Settings;
+    std::vector<PaintNeed> Needs;  // by paint
+    QImage Logo;                   // null: none
 
     [[nodiscard]] std::string Title() const;  // photo and difficulty
     /// What a painter must know who has the sheet too; empty for letters.
@@ -30,8 +31,9 @@ struct KitPages {
 
 /// The painting, the photo and what the kit consists of.
 void DrawCoverPage(QPainter& painter, const KitPages& kit);
-/// The color chart, with the symbols as the plan shows them.
-void DrawChartPage(QPainter& painter, const KitPages& kit);
+[[nodiscard]] int CountChartPages(const KitPages& kit);
+/// A page of the color chart, counted from 0: what to buy, with the symbols as the plan shows them.
+void DrawChartPage(QPainter& painter, const KitPages& kit, int page);
 /// How the pages of the plan lie, and how to put them together.
 void DrawMapPage(QPainter& painter, const KitPages& kit);
 /// One page of the plan.

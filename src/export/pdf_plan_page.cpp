@@ -49,9 +49,10 @@ class PlanPage {
     [[nodiscard]] int SymbolOf(int paint) const {
         return vendrel::SymbolOf(kit_.Place.State->PaintColors, paint);
     }
-    [[nodiscard]] QColor Ink(int usual) const { return ToQt(PlanInk(usual, kit_.Gray)); }
+    [[nodiscard]] QColor Ink(int usual) const { return ToQt(PlanInk(usual, kit_.Settings.Gray)); }
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
+    double DrawLogo(double right, double top);
     void DrawOutlines();
     void DrawSymbols();
     void DrawLeader(const PlanLabel& label, double aspect);
@@ -75,17 +76,31 @@ QString PlanPage::PageCount() const {
         .arg(pages.Tiles.size());
 }
 
+// Ends at `right`; answers how wide it is, in millimeters.
+double PlanPage::DrawLogo(double right, double top) {
+    if (kit_.Logo.isNull()) {
+        return 0;
+    }
+    const QSizeF size =
+        QSizeF(kit_.Logo.size()).scaled({28, Design::kHeading - 3}, Qt::KeepAspectRatio);
+    painter_.drawImage(MmRect(right - size.width(), top, size.width(), size.height()), kit_.Logo);
+    return size.width() + 3;
+}
+
 void PlanPage::DrawHeading() {
     const double top = Design::kMargin;
     const double left = Design::kLeft;
     const double right = sheet_.Width - Design::kMargin;
     painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(4.4), Weight::Bold));
-    const double room = right - left - 60 - 30;
+    const double logo = DrawLogo(right - 30 - 60, top);
+    const double room = right - left - 60 - 30 - logo;
     DrawLineOfText(painter_, MmRect(left, top, room, 6), Qt::AlignLeft,
                    ToQt("Page " + tile_.Name()) + PageCount());
     painter_.setFont(TextFont(FontMm(3)));
-    DrawLineOfText(painter_, MmRect(left, top + 6, room, 5), Qt::AlignLeft, ToQt(kit_.Title()));
+    DrawLineOfText(painter_, MmRect(left, top + 6, room, 5), Qt::AlignLeft,
+                   ToQt(kit_.Title() +
+                        (kit_.Settings.Maker.empty() ? "" : "  \u2022  " + kit_.Settings.Maker)));
     DrawRuler(painter_, {Mm(right - 30 - 58), Mm(top + 5)});
     (void)DrawPageMap(painter_, kit_.Plan.Pages, MmRect(right - 26, top, 26, Design::kHeading - 1),
                       &tile_);

@@ -107,6 +107,7 @@ void PrintSymbols::AddNumbers(int paints) {
 void PrintSymbols::AddText(const QString& text, double broadest) {
     Shape shape;
     shape.Text = text;
+    shape.Name = text.toStdString();
     shape.Ink = InkOf(text, font_);
     shape.Box = std::max(shape.Ink.height(), capital_);
     shape.Squeeze = std::min(1.0, broadest * shape.Box / shape.Ink.width());
@@ -117,6 +118,7 @@ void PrintSymbols::AddSigns(int paints) {
     for (int i = 0; i < paints; ++i) {
         Shape shape;
         shape.Path = PathOf(At(Signs(), i));
+        shape.Name = At(Signs(), i).Name;
         const double width = shape.Path.boundingRect().width();
         shape.Ink = {-width / 2, -0.5, width, 1};
         shapes_.push_back(shape);
@@ -147,9 +149,8 @@ QPainterPath PrintSymbols::Outline(int symbol) const {
         .translated(-middle.x() * shape.Squeeze * toBox, -middle.y() * toBox);
 }
 
-QString PrintSymbols::Name(int symbol) const {
-    const Shape& shape = shapes_.at(static_cast<std::size_t>(symbol - 1));
-    return shape.Text.isEmpty() ? QString("sign %1").arg(symbol) : shape.Text;
+std::string PrintSymbols::NameOf(int symbol) const {
+    return Holds(shapes_, symbol - 1) ? At(shapes_, symbol - 1).Name : std::string();
 }
 
 void PrintSymbols::Draw(QPainter& painter, int symbol, QPointF centre, double height) const {

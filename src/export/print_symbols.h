@@ -6,6 +6,7 @@
 #include <QtGui/QFont>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
+#include <string>
 #include <vector>
 
 #include "plan/signs.h"
@@ -29,8 +30,8 @@ class PrintSymbols {
     [[nodiscard]] SymbolAspects Aspects() const;
     /// A symbol's outlines, even-odd, in a box 1 unit tall with its middle at 0.
     [[nodiscard]] QPainterPath Outline(int symbol) const;
-    /// What a list without drawings calls a symbol: "A", "12", "sign 3".
-    [[nodiscard]] QString Name(int symbol) const;
+    /// A letter, a number or the name of a sign; empty for a symbol that is not there.
+    [[nodiscard]] std::string NameOf(int symbol) const;
     /// Draws a symbol with the painter's pen; its box is `height` units tall, capitals fill it.
     void Draw(QPainter& painter, int symbol, QPointF centre, double height) const;
     /// Draws a symbol as one of a list: all in one size, on one base line, capitals `capitals`
@@ -40,7 +41,8 @@ class PrintSymbols {
   private:
     // In a font of 1 unit, from the pen's position on the base line.
     struct Shape {
-        QString Text;        // empty for a sign
+        QString Text;  // empty for a sign
+        std::string Name;
         QPainterPath Path;   // of a sign
         QRectF Ink;          // the underline included
         QRectF Bar;          // the underline; empty under capitals, digits and signs

@@ -5,6 +5,7 @@
 #include "export/kit_pdf.h"
 #include "export/kit_svg.h"
 #include "export/print_symbols.h"
+#include "export/shopping_list.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -27,6 +28,9 @@ void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettin
             return;
         case OutputId::Page:
             WriteKitPage(place, settings, target);
+            return;
+        case OutputId::List:
+            WriteShoppingList(place, settings, target);
             return;
         default:
             throw FileError(target.Place, "is written without fonts.");

@@ -5,7 +5,8 @@
 namespace vendrel {
 
 void PlanChoice::Measure(const Workplace& place, const Exporter& exporter) {
-    sketch_ = SketchPlan(place.State, place.Frames->WorkFrame.Picture, exporter.Aspects());
+    sketch_ = SketchPlan(place.State, place.Frames->WorkFrame.Picture,
+                         exporter.Aspects(settings_.Symbols, place.State->PaintCount));
     // Chosen for another painting, it may be wider than this one can be.
     settings_.CanvasCm = std::min(settings_.CanvasCm, WidestCm());
     Follow();

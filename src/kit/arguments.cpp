@@ -1,12 +1,13 @@
 #include "kit/arguments.h"
 
-#include <CLI/CLI.hpp>  // here alone: it takes seconds to compile
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <utility>
 
 #include "convert/picture_name.h"
+#include "kit/option_kinds.h"
+#include "kit/print_options.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 
@@ -58,12 +59,6 @@ class KitHelp : public CLI::Formatter {
     static constexpr std::size_t kDescriptionColumn = 29;
 };
 
-template <typename Value>
-struct Choice {
-    std::string_view Word;
-    Value Meaning;
-};
-
 constexpr auto kLevels = [] {
     std::array<Choice<Difficulty>, kDifficulties.size()> levels{};
     std::ranges::transform(kDifficulties, levels.begin(), [](const DifficultyTraits& traits) {
@@ -77,54 +72,12 @@ constexpr auto kSampleMethods =
     std::to_array<Choice<Sampling>>({{"average", Sampling::Average}, {"pixel", Sampling::Pixel}});
 constexpr auto kMatchings =
     std::to_array<Choice<Matching>>({{"plain", Matching::Plain}, {"eye", Matching::ByEye}});
-constexpr auto kPapers =
-    std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
-constexpr auto kSymbolStyles =
-    std::to_array<Choice<SymbolStyle>>({{"letters", SymbolStyle::Letters},
-                                        {"clear", SymbolStyle::Clear},
-                                        {"numbers", SymbolStyle::Numbers},
-                                        {"signs", SymbolStyle::Signs}});
-constexpr auto kLineShapes =
-    std::to_array<Choice<LineShape>>({{"smooth", LineShape::Smooth}, {"steps", LineShape::Steps}});
 constexpr auto kFits = std::to_array<Choice<PhotoFit>>({{"keep", PhotoFit::Keep},
                                                         {"crop", PhotoFit::Crop},
                                                         {"top", PhotoFit::CropTop},
                                                         {"stretch", PhotoFit::Stretch}});
 constexpr auto kCropParts =
     std::to_array<Choice<PhotoFit>>({{"center", PhotoFit::Crop}, {"top", PhotoFit::CropTop}});
-
-[[noreturn]] void RefuseValue(std::string_view option, std::string_view value,
-                              std::string_view choices) {
-    throw UsageError(std::string(option) + " cannot be \"" + std::string(value) + "\"; choose " +
-                     std::string(choices) + ".");
-}
-
-// "easy, medium or difficult"
-template <typename Choices>
-std::string Listed(const Choices& choices, std::string_view last) {
-    std::string list;
-    for (const auto& choice : choices) {
-        list += list.empty() ? "" : &choice == &choices.back() ? last : ", ";
-        list += choice.Word;
-    }
-    return list;
-}
-
-template <typename Choices>
-const auto* FindChoice(const Choices& choices, std::string_view word) {
-    const auto found = std::ranges::find_if(
-        choices, [word](const auto& choice) { return SameIgnoringCase(choice.Word, word); });
-    return found == choices.end() ? nullptr : &found->Meaning;
-}
-
-template <typename Choices>
-auto Chosen(std::string_view option, std::string_view value, const Choices& choices) {
-    const auto* const choice = FindChoice(choices, value);
-    if (choice == nullptr) {
-        RefuseValue(option, value, Listed(choices, " or "));
-    }
-    return *choice;
-}
 
 // Some spell it so.
 std::string_view American(std::string_view part) {
@@ -146,87 +99,6 @@ ScreenSize ToScreen(const std::string& option, std::string_view value) {
         RefuseValue(option, value, "WIDTHxHEIGHT in pixels, as in 1920x1080");
     }
     return ScreenSize::FromPixels(width, height);
-}
-
-KitOutputs ToOutputs(const std::string& option, const std::string& value) {
-    KitOutputs outputs{.Chosen = {}, .ByName = true};
-    for (const std::string& name : CLI::detail::split(value, ',')) {
-        const Output* const output = OutputNamed(ToLower(name));
-        if (output == nullptr) {
-            RefuseValue(option, name,
-                        "from " + OutputWords(", ", IsOutput) + ", with commas between");
-        }
-        outputs.Chosen.Add(output->Id);
-    }
-    return outputs;
-}
-
-// A number within its range, the unit behind it or not.
-struct Measure {
-    std::string_view Unit;
-    double Least;
-    double Most;
-    std::string_view Sentence;  // what may be chosen
-};
-
-double ToNumber(const std::string& option, std::string_view value, const Measure& measure) {
-    const std::string_view number =
-        value.ends_with(measure.Unit) ? value.substr(0, value.size() - measure.Unit.size()) : value;
-    double result = 0;
-    const auto [end, failure] =
-        std::from_chars(number.data(), number.data() + number.size(), result);
-    if (failure != std::errc() || end != number.data() + number.size() ||
-        !(result >= measure.Least && result <= measure.Most)) {
-        RefuseValue(option, value, measure.Sentence);
-    }
-    return result;
-}
-
-constexpr Measure kGrays{"", kLightestGray, kDarkestGray, "a whole number from 10 to 100"};
-
-// "60cm" or "60.5", within what can be painted; "auto" is 0.
-double ToCanvasCm(const std::string& option, std::string_view value) {
-    constexpr Measure kWidth{"cm", kSmallestCanvasCm, kLargestCanvasCm,
-                             "a width from 10cm to 300cm, or auto"};
-    return value == "auto" ? 0 : ToNumber(option, value, kWidth);
-}
-
-struct OptionText {
-    std::string Name;
-    std::string Value;  // as the help calls it
-    std::string Does;   // nothing: left out of the help
-};
-
-// An option with one value, handed to `take` with the option's name; the last one given counts.
-template <typename Take>
-void AddValue(CLI::App& app, const OptionText& text, Take take) {
-    const auto takeEach = [name = text.Name, take](const CLI::results_t& values) {
-        for (const std::string& value : values) {
-            if (value.empty()) {
-                throw UsageError(name + " needs a value that is not empty.");
-            }
-            take(name, value);
-        }
-        return true;
-    };
-    app.add_option(text.Name, takeEach, text.Does)->option_text(text.Value)->take_all();
-}
-
-template <typename Choices, typename Value>
-void AddChoice(CLI::App& app, const OptionText& text, const Choices& choices, Value& target) {
-    AddValue(app, text, [&](const std::string& option, const std::string& value) {
-        target = Chosen(option, value, choices);
-    });
-}
-
-template <typename Text>
-void AddText(CLI::App& app, const OptionText& text, Text& target) {
-    AddValue(app, text,
-             [&target](const std::string&, const std::string& value) { target = value; });
-}
-
-void AddSwitch(CLI::App& app, const OptionText& text, bool& target) {
-    app.add_flag(text.Name, target, text.Does)->disable_flag_override();
 }
 
 void AddHelp(CLI::App& app) {
@@ -305,43 +177,6 @@ void AddPaintableOptions(CLI::App& app, KitOptions& kit) {
              {"", 0, kMostDetail, "a whole number from 0 to 100"}, kit, kit.Chosen.Detail);
 }
 
-void AddOutputOptions(CLI::App& app, KitOptions& kit) {
-    AddValue(app,
-             {"--outputs", "LIST",
-              "of " + OutputWords(",", IsOutput) + "\n(" + OutputWords(",", IsByDefault) +
-                  " unless given)"},
-             [&kit](const std::string& option, const std::string& value) {
-                 kit.Outputs = ToOutputs(option, value);
-             });
-    AddChoice(app, {"--paper", "SIZE", "prints the pdf on A4 (default), Letter or A3"}, kPapers,
-              kit.Plan.Sheet);
-    AddChoice(app,
-              {"--symbols", "STYLE",
-               "marks the paints in the pdf with the sheet's letters\n"
-               "(default), the clearest of them, numbers or signs"},
-              kSymbolStyles, kit.Plan.Symbols);
-    AddChoice(app,
-              {"--lines", "SHAPE",
-               "draws the pdf's borders smooth (default for paintable\nkits) or in steps (default "
-               "for others)"},
-              kLineShapes, kit.Plan.Lines);
-    AddValue(app,
-             {"--gray", "N",
-              "10 to 100 (50): how dark the pdf's lines and symbols\nare; paint covers light ones"},
-             [&kit](const std::string& option, const std::string& value) {
-                 kit.Plan.Gray = static_cast<int>(ToNumber(option, value, kGrays));
-             });
-    AddValue(app,
-             {"--canvas", "WIDTHcm",
-              "makes the kit for a canvas this wide, as in 60cm; with\n"
-              "auto (default) limits and figures hold for 40cm, and\nthe pdf of a plain kit "
-              "fills the pages that legible\nsymbols need"},
-             [&kit](const std::string& option, const std::string& value) {
-                 kit.Chosen.CanvasCm = ToCanvasCm(option, value);
-             });
-    AddText(app, {"--title", "NAME", "names the files in place of the photo's name"}, kit.Title);
-}
-
 void AddRunOptions(CLI::App& app, KitOptions& kit) {
     AddSwitch(app, {"--from-grid", "", "takes the saved grid instead of converting the photo"},
               kit.FromGrid);
@@ -356,7 +191,7 @@ void AddKit(CLI::App& app, KitOptions& kit) {
     AddPaintOptions(app, kit);
     AddPictureOptions(app, kit);
     AddPaintableOptions(app, kit);
-    AddOutputOptions(app, kit);
+    AddPrintOptions(app, kit);
     AddRunOptions(app, kit);
     app.add_option("PHOTO", kit.Photos);
 }

@@ -47,6 +47,8 @@ constexpr Output kOutputs[] = {
      WriteWithFonts<OutputId::Svg>},
     {OutputId::Page, "page", "Paint Along.html", kFonts, !kByDefault, !kInEverything,
      Lasting::Remade, WriteWithFonts<OutputId::Page>},
+    {OutputId::List, "list", "Paints.csv", kFonts, !kByDefault, !kInEverything, Lasting::Remade,
+     WriteWithFonts<OutputId::List>},
 };
 
 }  // namespace

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <numeric>
+#include <string_view>
 #include <tuple>
 
 #include "shell/symbol_of.h"
@@ -77,7 +79,13 @@ std::string ShareText(int tenths) {
 }
 
 std::string PrintedName(const LoadedPhoto& photo) {
+    constexpr std::string_view kCrop = " crop";
     std::string name = photo.PictureName;
+    const std::string file = std::filesystem::path(photo.PicturePath).filename().string();
+    // A title that the painter chose stays as it is.
+    if (name.size() > kCrop.size() && name.ends_with(kCrop) && file.starts_with(name + ".")) {
+        name.resize(name.size() - kCrop.size());
+    }
     std::ranges::replace(name, '_', ' ');
     return name;
 }

@@ -3,6 +3,6 @@
 namespace vendrel {
 
 /// What a kit can consist of, in the order in which it is written.
-enum class OutputId { Sheet, Reference, Painting, Chart, Grid, Pdf, Svg, Page };
+enum class OutputId { Sheet, Reference, Painting, Chart, Grid, Pdf, Svg, Page, List };
 
 }  // namespace vendrel

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "plan/page_tiling.h"
+#include "plan/paint_needs.h"
 #include "plan/painted_regions.h"
 #include "plan/symbol_room.h"
 #include "plan/symbol_style.h"
@@ -31,6 +33,10 @@ struct PlanSettings {
     SymbolStyle Symbols = SymbolStyle::Letters;
     LineShape Lines = LineShape::ByKit;
     int Gray = kUsualGray;  // kLightestGray..kDarkestGray
+    PaintUse Use = {};
+    bool GroupBySet = false;          // the chart's paints
+    std::string Maker = {};           // whose kit it is: a name or a line of address; may be empty
+    std::filesystem::path Logo = {};  // a picture file; empty: none
 };
 
 /// Whether a plan of such a grid has curves.

@@ -39,10 +39,11 @@ class Printing : public testing::Test {
         exporter_.Write(OutputId::Chart, easel_.Place, {}, easel_.Files / "Results/chart.BMP");
         return ReadBitmap(easel_.Files / "Results/chart.BMP");
     }
-    std::string Pdf(const PlanSettings& settings) const {
-        exporter_.Write(OutputId::Pdf, easel_.Place, settings, easel_.Files / "Results/kit.pdf");
-        return easel_.Files.Read("Results/kit.pdf");
+    std::string Write(OutputId output, const PlanSettings& settings) const {
+        exporter_.Write(output, easel_.Place, settings, easel_.Files / "Results/made");
+        return easel_.Files.Read("Results/made");
     }
+    std::string Pdf(const PlanSettings& settings) const { return Write(OutputId::Pdf, settings); }
 
     mutable test::PaintBench easel_;
     QtExporter exporter_;
@@ -117,6 +118,30 @@ TEST_F(Printing, LinesAndTheirGrayAreThePaintersChoice) {
     EXPECT_TRUE(pdf(LineShape::ByKit) == smooth);
     EXPECT_FALSE(pdf(LineShape::Steps) == smooth);
     EXPECT_FALSE(pdf(LineShape::Smooth, 80) == smooth);
+}
+
+TEST_F(Printing, AMakersLogoMustBeAPicture) {
+    PlanSettings settings{.CanvasCm = 40};
+    const std::string plain = Pdf(settings);
+    settings.Maker = "Kitchen Table Kits";
+    const std::string named = Pdf(settings);
+    settings.Logo = easel_.Files / "logo.png";
+    EXPECT_THROW((void)Pdf(settings), FileError);
+    QImage logo(40, 20, QImage::Format_RGB32);
+    logo.fill(Qt::red);
+    ASSERT_TRUE(logo.save(QString::fromStdString(settings.Logo.string())));
+    EXPECT_GT(Pdf(settings).size(), named.size());
+    EXPECT_FALSE(named == plain);
+}
+
+TEST_F(Printing, TheShoppingListIsATable) {
+    easel_.State.PaintColors[1].PaintName = "Red, \"warm\"";
+    PlanSettings settings{.CanvasCm = 40, .Symbols = SymbolStyle::Numbers};
+    settings.Use.PotMl = 20;
+    const std::string list = Write(OutputId::List, settings);
+    EXPECT_TRUE(list.starts_with("\xEF\xBB\xBFsymbol,set,name,code,color,cm2,ml,pots,pages\r\n1,"));
+    EXPECT_THAT(list, HasSubstr(",\"Red, \"\"warm\"\"\","));
+    EXPECT_EQ(Count(list, "\r\n"), 1 + easel_.State.PaintCount + 1);
 }
 
 TEST_F(Printing, AFolderThatCannotBeWrittenIsNamed) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plan/paint_needs.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -112,6 +113,32 @@ TEST(PageTiling, RefusesPaperWithoutRoom) {
     EXPECT_THROW(
         (void)PlanPages({{100, 100}, {}, [](const auto&, const auto&) { return 300; }}, kA4),
         Error);
+}
+
+TEST(PaintNeeds, AreOfTheCanvasWithPotsToSpare) {
+    // 20 x 10 pixels of 1 mm: paint 1 has 150 of them, paint 3 the 50 at the right.
+    ValueGrid paints(19, 9);
+    for (int y = 0; y < 10; ++y) {
+        for (int x = 0; x < 20; ++x) {
+            paints(x, y) = x < 15 ? 1 : 3;
+        }
+    }
+    PagePlan pages;
+    pages.Tiles = {{.Column = 0, .Row = 0, .Own = {0, 0, 10, 10}, .Shown = {}},
+                   {.Column = 1, .Row = 0, .Own = {10, 0, 20, 10}, .Shown = {}}};
+    const PaintUse use{.Coats = 3, .Cm2PerMl = 0.5, .PotMl = 4};
+    const auto needs = PaintNeeds(FindRegions(paints), pages, PrintScale::OfCanvas(2, 20), 3, use);
+    ASSERT_EQ(needs.size(), 3U);
+    EXPECT_DOUBLE_EQ(needs[0].Cm2, 1.5);
+    EXPECT_DOUBLE_EQ(needs[0].Ml, 9);
+    EXPECT_EQ(needs[0].Pots, 3) << "two would do without what is to spare";
+    EXPECT_EQ(needs[0].Pages, (std::vector<std::string>{"A1", "A2"}));
+    EXPECT_EQ(needs[1].Pots, 0);
+    EXPECT_EQ(needs[2].Pages, std::vector<std::string>{"A2"});
+    EXPECT_EQ(needs[2].Pots, 1);
+    EXPECT_DOUBLE_EQ(SumOf(needs).Cm2, 2);
+    EXPECT_EQ(SumOf(needs).Pots, 4);
+    EXPECT_EQ(UseText(use), "3 coats at 1 ml for 0.5 cm\u00b2, pots of 4 ml with 15 % to spare");
 }
 
 TEST(PageTiling, ListsThePaintsOfAPage) {

@@ -1,0 +1,239 @@
+// The color chart of the printed kit: what to buy, and what each symbol means.
+#include <QtCore/QStringList>
+#include <QtGui/QFontMetricsF>
+#include <algorithm>
+#include <numeric>
+
+#include "export/pdf_pages.h"
+#include "export/pdf_units.h"
+#include "kitset/kit_mark.h"
+#include "output/chart_contents.h"
+#include "shell/symbol_of.h"
+#include "support/decimals.h"
+
+namespace vendrel {
+namespace {
+
+constexpr double kMargin = 15;
+constexpr double kTop = 44;     // of the first row
+constexpr double kRow = 8.6;    // holds a swatch of 8 mm
+constexpr double kFooter = 14;  // the sums
+const QColor kFaint(90, 90, 90);
+const QColor kRule(200, 200, 200);
+
+// Left edge and width of the columns, in millimeters from the margin; Paint takes what is left.
+struct Column {
+    double Left;
+    double Width;
+};
+constexpr Column kSwatch{0, 16};
+constexpr Column kDab{16, 16};  // left white for the painter's own paint
+constexpr Column kSymbol{32.5, 12.5};
+constexpr Column kPaint{46, 60};
+constexpr Column kArea{106, 14};
+constexpr Column kMl{120, 12};
+constexpr Column kPots{132, 10};
+constexpr double kPagesLeft = 146;
+
+// A line of the chart: a paint, or the heading of a set.
+struct Row {
+    const PaintNeed* Need = nullptr;
+    std::string Heading;
+};
+
+class ChartPage {
+  public:
+    ChartPage(QPainter& painter, const KitPages& kit) : painter_(painter), kit_(kit) {}
+
+    void DrawHeading(int page, int pages);
+    void DrawRow(const Row& row, double top);
+    void DrawSums(double top);
+
+  private:
+    [[nodiscard]] double Right() const { return kit_.FrontPaper.Width - kMargin; }
+    [[nodiscard]] const PaintColor& ColorOfRow(const PaintNeed& need) const {
+        return kit_.Place.State->PaintColors[need.Paint];
+    }
+    // Text in a column, between two heights of the row.
+    void Write(const Column& column, double top, double height, int flags, const QString& text);
+    void WriteFigures(const PaintNeed& need, double top, double height);
+    void DrawSwatch(const PaintNeed& need, double top);
+    void WriteName(const PaintNeed& need, double top);
+    void Rule(double at);
+
+    QPainter& painter_;
+    const KitPages& kit_;
+};
+
+void ChartPage::Write(const Column& column, double top, double height, int flags,
+                      const QString& text) {
+    DrawLineOfText(painter_, MmRect(kMargin + column.Left, top, column.Width, height), flags, text);
+}
+
+void ChartPage::Rule(double at) {
+    painter_.setPen(QPen(kRule, Mm(0.1)));
+    painter_.drawLine(QPointF(Mm(kMargin), Mm(at)), QPointF(Mm(Right()), Mm(at)));
+    painter_.setPen(Qt::black);
+}
+
+void ChartPage::DrawHeading(int page, int pages) {
+    const double width = Right() - kMargin;
+    painter_.setPen(Qt::black);
+    painter_.setFont(TextFont(FontMm(7), Weight::Bold));
+    DrawLineOfText(painter_, MmRect(kMargin, kMargin, width, 10), Qt::AlignLeft,
+                   ToQt(kit_.Title()));
+    painter_.setFont(TextFont(FontMm(3.6)));
+    painter_.setPen(kFaint);
+    const WorkState& state = kit_.Place.State;
+    QStringList facts{"Color chart", QString("%1 paints").arg(state.PaintCount),
+                      "kit " + ToQt(KitMark(state, state, state))};
+    if (const QString note = kit_.StyleNote(); !note.isEmpty()) {
+        facts << note;
+    }
+    if (pages > 1) {
+        facts << QString("page %1 of %2").arg(page).arg(pages);
+    }
+    DrawLineOfText(painter_, MmRect(kMargin, kMargin + 10, width, 7), Qt::AlignLeft,
+                   facts.join("  \u2022  "));
+    painter_.setFont(TextFont(FontMm(2.7)));
+    const double top = kTop - 6;
+    Write(kSwatch, top, 5, Qt::AlignLeft, "Color");
+    Write(kDab, top, 5, Qt::AlignHCenter, "Your dab");
+    Write(kSymbol, top, 5, Qt::AlignHCenter, "Symbol");
+    Write(kPaint, top, 5, Qt::AlignLeft, "Paint");
+    Write(kArea, top, 5, Qt::AlignRight, "cm\u00b2");
+    Write(kMl, top, 5, Qt::AlignRight, "ml");
+    if (kit_.Settings.Use.PotMl > 0) {
+        Write(kPots, top, 5, Qt::AlignRight, "Pots");
+    }
+    Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, 5, Qt::AlignLeft, "On pages");
+    Rule(kTop);
+}
+
+void ChartPage::DrawSwatch(const PaintNeed& need, double top) {
+    painter_.setPen(QPen(kFaint, Mm(0.1)));
+    painter_.setBrush(ToQt(ColorOf(ColorOfRow(need))));
+    painter_.drawRect(MmRect(kMargin + kSwatch.Left, top + 0.3, kSwatch.Width, kRow - 0.6));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(MmRect(kMargin + kDab.Left, top + 0.3, kDab.Width, kRow - 0.6));
+    painter_.setPen(Qt::black);
+}
+
+// What a painter orders by, smaller rather than cut short.
+void ChartPage::WriteName(const PaintNeed& need, double top) {
+    const PaintColor& paint = ColorOfRow(need);
+    painter_.setFont(TextFont(FontMm(3.4)));
+    Write(kPaint, top + 0.6, 4, Qt::AlignLeft, ToQt(paint.PaintName));
+    const QString order = ToQt(paint.Mfg + (paint.PaintCode.empty() ? "" : ", " + paint.PaintCode));
+    double size = 2.5;
+    painter_.setFont(TextFont(FontMm(size)));
+    while (size > 1.7 &&
+           QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(order) >
+               Mm(kPaint.Width)) {
+        size -= 0.1;
+        painter_.setFont(TextFont(FontMm(size)));
+    }
+    painter_.setPen(kFaint);
+    Write(kPaint, top + 4.6, 3.4, Qt::AlignLeft, order);
+    painter_.setPen(Qt::black);
+}
+
+void ChartPage::WriteFigures(const PaintNeed& need, double top, double height) {
+    Write(kArea, top, height, Qt::AlignRight, ToQt(Decimals(need.Cm2, need.Cm2 < 9.95 ? 1 : 0)));
+    Write(kMl, top, height, Qt::AlignRight, ToQt(Decimals(need.Ml, need.Ml < 9.95 ? 1 : 0)));
+    if (kit_.Settings.Use.PotMl > 0) {
+        Write(kPots, top, height, Qt::AlignRight, QString::number(need.Pots));
+    }
+}
+
+void ChartPage::DrawRow(const Row& row, double top) {
+    if (row.Need == nullptr) {
+        painter_.setFont(TextFont(FontMm(3.4), Weight::Bold));
+        DrawLineOfText(painter_, MmRect(kMargin, top, Right() - kMargin, kRow), Qt::AlignLeft,
+                       ToQt(row.Heading));
+        Rule(top + kRow);
+        return;
+    }
+    const PaintNeed& need = *row.Need;
+    DrawSwatch(need, top);
+    kit_.Symbols.DrawInLine(painter_, SymbolOf(kit_.Place.State->PaintColors, need.Paint),
+                            {Mm(kMargin + kSymbol.Left + kSymbol.Width / 2), Mm(top + kRow / 2)},
+                            Mm(3.2));
+    WriteName(need, top);
+    painter_.setFont(TextFont(FontMm(3.2)));
+    WriteFigures(need, top, kRow);
+    QStringList pages;
+    for (const std::string& page : need.Pages) {
+        pages << ToQt(page);
+    }
+    const bool everywhere = need.Pages.size() == kit_.Plan.Pages.Tiles.size() && pages.size() > 1;
+    painter_.setFont(TextFont(FontMm(2.6)));
+    Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, kRow, Qt::AlignLeft,
+          everywhere ? "all" : pages.join(' '));
+    Rule(top + kRow);
+}
+
+void ChartPage::DrawSums(double top) {
+    painter_.setFont(TextFont(FontMm(3.2), Weight::Bold));
+    Write(kPaint, top, 7, Qt::AlignLeft, "Together");
+    WriteFigures(SumOf(kit_.Needs), top, 7);
+    painter_.setFont(TextFont(FontMm(2.7)));
+    painter_.setPen(kFaint);
+    DrawLineOfText(painter_, MmRect(kMargin, top + 7, Right() - kMargin, 5), Qt::AlignLeft,
+                   "Milliliters are for " + ToQt(UseText(kit_.Settings.Use)) + ".");
+    painter_.setPen(Qt::black);
+}
+
+std::vector<Row> RowsOf(const KitPages& kit) {
+    std::vector<Row> rows;
+    std::vector<const PaintNeed*> needs;
+    for (const PaintNeed& need : kit.Needs) {
+        needs.push_back(&need);
+    }
+    const auto set = [&kit](const PaintNeed* need) -> const std::string& {
+        return kit.Place.State->PaintColors[need->Paint].Mfg;
+    };
+    if (kit.Settings.GroupBySet) {
+        std::ranges::stable_sort(needs, {}, set);
+    }
+    for (const PaintNeed* need : needs) {
+        if (kit.Settings.GroupBySet &&
+            (need == needs.front() || set(need) != rows.back().Heading)) {
+            rows.push_back({nullptr, set(need)});
+        }
+        rows.push_back({need, set(need)});
+    }
+    return rows;
+}
+
+std::size_t RowsOnPage(const SizeMm& paper) {
+    return static_cast<std::size_t>((paper.Height - kMargin - kFooter - kTop) / kRow);
+}
+
+}  // namespace
+
+int CountChartPages(const KitPages& kit) {
+    const std::size_t rows = RowsOf(kit).size();
+    const std::size_t onPage = RowsOnPage(kit.FrontPaper);
+    return static_cast<int>(std::max<std::size_t>(1, (rows + onPage - 1) / onPage));
+}
+
+void DrawChartPage(QPainter& painter, const KitPages& kit, int page) {
+    const std::vector<Row> rows = RowsOf(kit);
+    const int pages = CountChartPages(kit);
+    // About as many on each, instead of a last page with two.
+    const std::size_t onPage =
+        (rows.size() + static_cast<std::size_t>(pages) - 1) / static_cast<std::size_t>(pages);
+    ChartPage chart(painter, kit);
+    chart.DrawHeading(page + 1, pages);
+    double top = kTop;
+    const std::size_t first = onPage * static_cast<std::size_t>(page);
+    for (std::size_t i = first; i < std::min(rows.size(), first + onPage); ++i, top += kRow) {
+        chart.DrawRow(rows[i], top);
+    }
+    if (page + 1 == pages) {
+        chart.DrawSums(top + 1);
+    }
+}
+
+}  // namespace vendrel

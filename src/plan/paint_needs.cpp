@@ -1,0 +1,65 @@
+#include "plan/paint_needs.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "support/decimals.h"
+
+namespace vendrel {
+namespace {
+
+int PotsFor(double ml, const PaintUse& use) {
+    constexpr double kRounding = 1e-9;
+    return use.PotMl > 0 ? static_cast<int>(std::ceil(ml * (1 + kToSpare) / use.PotMl - kRounding))
+                         : 0;
+}
+
+std::string Short(double number) {
+    return Decimals(number, number == std::floor(number) ? 0 : 1);
+}
+
+}  // namespace
+
+std::vector<PaintNeed> PaintNeeds(const PaintedRegions& regions, const PagePlan& pages,
+                                  PrintScale scale, int paints, const PaintUse& use) {
+    constexpr double kMm2PerCm2 = 100;
+    std::vector<PaintNeed> needs(static_cast<std::size_t>(paints));
+    const auto of = [&needs](int paint) -> PaintNeed& {
+        return needs[static_cast<std::size_t>(paint - 1)];
+    };
+    for (const Region& region : regions.List) {
+        of(region.Value).Cm2 += scale.Mm2(region.Size) / kMm2PerCm2;
+    }
+    for (const PageTile& tile : pages.Tiles) {
+        const PlanRect own{scale.Pixels(tile.Own.Left), scale.Pixels(tile.Own.Top),
+                           scale.Pixels(tile.Own.Right), scale.Pixels(tile.Own.Bottom)};
+        for (const int paint : PaintsWithin(regions, own)) {
+            of(paint).Pages.push_back(tile.Name());
+        }
+    }
+    for (int paint = 1; paint <= paints; ++paint) {
+        PaintNeed& need = of(paint);
+        need.Paint = paint;
+        need.Ml = need.Cm2 * use.Coats / use.Cm2PerMl;
+        need.Pots = PotsFor(need.Ml, use);
+    }
+    return needs;
+}
+
+PaintNeed SumOf(const std::vector<PaintNeed>& needs) {
+    PaintNeed sum;
+    for (const PaintNeed& need : needs) {
+        sum.Cm2 += need.Cm2;
+        sum.Ml += need.Ml;
+        sum.Pots += need.Pots;
+    }
+    return sum;
+}
+
+std::string UseText(const PaintUse& use) {
+    return std::to_string(use.Coats) + (use.Coats == 1 ? " coat" : " coats") + " at 1 ml for " +
+           Short(use.Cm2PerMl) + " cm\u00b2" +
+           (use.PotMl > 0 ? ", pots of " + Short(use.PotMl) + " ml with 15 % to spare" : "");
+}
+
+}  // namespace vendrel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "plan/page_tiling.h"
+#include "plan/painted_regions.h"
+#include "support/print_scale.h"
+
+namespace vendrel {
+
+/// How a painter lays on paint, and the pots it is bought in.
+struct PaintUse {
+    int Coats = 2;
+    double Cm2PerMl = 60;  // one coat
+    double PotMl = 0;      // 0: not asked
+};
+
+/// Bought beyond what is needed: brushes and lids keep some.
+inline constexpr double kToSpare = 0.15;
+
+/// What one paint of a palette is needed for.
+struct PaintNeed {
+    int Paint = 0;
+    double Cm2 = 0;
+    double Ml = 0;
+    int Pots = 0;                    // 0 when their size is not known
+    std::vector<std::string> Pages;  // of the plan where it occurs
+};
+
+/// Of every paint of a palette of so many, in its order.
+[[nodiscard]] std::vector<PaintNeed> PaintNeeds(const PaintedRegions& regions,
+                                                const PagePlan& pages, PrintScale scale, int paints,
+                                                const PaintUse& use);
+
+/// All of them together; no paint and no pages.
+[[nodiscard]] PaintNeed SumOf(const std::vector<PaintNeed>& needs);
+
+/// "2 coats at 1 ml for 60 cm², pots of 20 ml with 15 % to spare".
+[[nodiscard]] std::string UseText(const PaintUse& use);
+
+}  // namespace vendrel
