@@ -5,18 +5,20 @@
 #include <QVBoxLayout>
 
 #include "desktop/named.h"
+#include "export/qt_image.h"
 
 namespace vendrel {
 
 KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
-      form_(context.Place, context.Form.Exports()),
+      form_(context.Place, context.Form.Exports(), context.Form.Everything().Plan()),
       plan_(new PlanPanel) {
     setWindowTitle(tr("Save Kit as PDF"));
-    connect(plan_, &PlanPanel::PaperChosen, this,
-            [this](Paper paper) { Run([&] { form_.Plan().Paper_Click(paper); }); });
-    connect(plan_, &PlanPanel::CanvasChosen, this,
-            [this](double width) { Run([&] { form_.Plan().Canvas_Change(width); }); });
+    connect(plan_, &PlanPanel::Chosen, this,
+            [this](const PlanSettings& wanted) { Run([&] { form_.Plan().Choose(wanted); }); });
+    connect(plan_, &PlanPanel::PageWanted, this, [this](int longest) {
+        Run([&] { plan_->ShowPage(ToImage(form_.Plan().Preview(longest))); });
+    });
     QPushButton* save = MakeButton("SavePdf", tr("Save PDF"), [this] { form_.SaveButton_Click(); });
     save->setDefault(true);
     QPushButton* cancel =
@@ -29,8 +31,9 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
     all->addWidget(plan_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
-    const auto choices = plan_->Controls();
-    SetTabOrder({choices[0], choices[1], choices[2], choices[3], save, cancel});
+    std::vector<QWidget*> order = plan_->Controls();
+    order.insert(order.end(), {save, cancel});
+    SetTabOrder(order);
 }
 
 void KitPdfDialog::Prepare() {

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QString>
 #include <QWidget>
-#include <initializer_list>
+#include <vector>
 
 namespace vendrel {
 
@@ -32,7 +32,7 @@ template <class Control>
 }
 
 /// The order in which the Tab key goes through the controls.
-inline void SetTabOrder(std::initializer_list<QWidget*> controls) {
+inline void SetTabOrder(const std::vector<QWidget*>& controls) {
     QWidget* previous = nullptr;
     for (QWidget* control : controls) {
         if (previous != nullptr) {

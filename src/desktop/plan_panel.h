@@ -1,16 +1,24 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QImage>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
-#include <array>
+#include <QSlider>
+#include <QTimer>
+#include <functional>
+#include <vector>
 
 #include "forms/plan_choice.h"
 
 namespace vendrel {
 
-/// Paper and canvas of a printed plan, and what they make of it.
+/// Everything that is chosen for a printed plan, what it makes of the painting, and its first page.
 class PlanPanel : public QWidget {
     Q_OBJECT
 
@@ -18,28 +26,67 @@ class PlanPanel : public QWidget {
     PlanPanel();
 
     void Mirror(const PlanChoice& shown);
+    void ShowPage(const QImage& page);
+    /// Asks for the first page when nothing has been changed for a moment.
+    void AskForPage() { soon_.start(); }
     /// What the Tab key goes through, in order.
-    [[nodiscard]] std::array<QWidget*, 4> Controls() const;
+    [[nodiscard]] std::vector<QWidget*> Controls() const;
 
   signals:
-    void PaperChosen(Paper paper);
-    /// In centimeters of width; 0 for as many pages as legible symbols need.
-    void CanvasChosen(double centimeters);
+    void Chosen(const PlanSettings& wanted);
+    /// The first page is wanted, so many pixels at its longer side.
+    void PageWanted(int longest);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
 
   private:
-    [[nodiscard]] QLayout* MakeChoices();
+    using Edit = std::function<void(PlanSettings&)>;
+
+    void Name();
+    void AddSizes(QFormLayout& rows);
+    void AddLooks(QFormLayout& rows);
+    void AddMaker(QFormLayout& rows);
     [[nodiscard]] QWidget* MakeFigures();
-    void Connect();
-    void TellCanvas();
+    void ConnectSizes();
+    void ConnectLooks();
+    void ConnectMaker();
+    void Change(const Edit& edit);
+    void ChangePaper();
+    void ChangeCanvas();
+    void ChooseLogo();
+    void MirrorSizes(const PlanSettings& settings);
+    void MirrorLooks(const PlanSettings& settings);
     void MirrorFigures(const PlanFigures& figures);
+    [[nodiscard]] double Unit() const { return shown_.InInches() ? kMmPerInch : 10; }
+
+    PlanSettings shown_;
+    double widestCm_ = kLargestCanvasCm;
+    QTimer soon_;
 
     QComboBox* paper_;
+    QDoubleSpinBox* paperWidth_;
+    QDoubleSpinBox* paperHeight_;
     QRadioButton* legible_;
     QRadioButton* chosenSize_;
+    QRadioButton* bothSides_;
     QDoubleSpinBox* width_;
+    QDoubleSpinBox* across_;
+    QDoubleSpinBox* down_;
+    QDoubleSpinBox* bleed_;
+    QComboBox* symbols_;
+    QComboBox* lines_;
+    QSlider* gray_;
+    QDoubleSpinBox* pot_;
+    QCheckBox* bySet_;
+    QLineEdit* maker_;
+    QPushButton* logo_;
+    QPushButton* noLogo_;
+    QLabel* page_;
     QLabel* pages_;
     QLabel* canvas_;
     QLabel* smallest_;
+    QLabel* effort_;
     QLabel* warning_;
 };
 

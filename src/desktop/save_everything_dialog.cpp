@@ -5,6 +5,7 @@
 
 #include "desktop/named.h"
 #include "desktop/text.h"
+#include "export/qt_image.h"
 
 namespace vendrel {
 namespace {
@@ -73,9 +74,10 @@ void SaveEverythingDialog::Arrange() {
     all->addWidget(folders_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
-    const auto plan = plan_->Controls();
-    SetTabOrder(
-        {name_, grid_, pdf_, page_, svg_, plan[0], plan[1], plan[2], plan[3], save, cancel});
+    std::vector<QWidget*> order = plan_->Controls();
+    order.insert(order.begin(), {name_, grid_, pdf_, page_, svg_});
+    order.insert(order.end(), {save, cancel});
+    SetTabOrder(order);
 }
 
 void SaveEverythingDialog::Connect() {
@@ -90,10 +92,14 @@ void SaveEverythingDialog::Connect() {
             [this](bool on) { Run([this, on] { form_.Svg_Click(on); }); });
     connect(page_, &QCheckBox::clicked, this,
             [this](bool on) { Run([this, on] { form_.Page_Click(on); }); });
-    connect(plan_, &PlanPanel::PaperChosen, this,
-            [this](Paper paper) { Run([&] { form_.Plan().Paper_Click(paper); }); });
-    connect(plan_, &PlanPanel::CanvasChosen, this,
-            [this](double width) { Run([&] { form_.Plan().Canvas_Change(width); }); });
+    connect(pdf_, &QCheckBox::clicked, plan_, &PlanPanel::AskForPage);
+    connect(plan_, &PlanPanel::Chosen, this,
+            [this](const PlanSettings& wanted) { Run([&] { form_.Plan().Choose(wanted); }); });
+    connect(plan_, &PlanPanel::PageWanted, this, [this](int longest) {
+        if (form_.Pdf()) {
+            Run([&] { plan_->ShowPage(ToImage(form_.Plan().Preview(longest))); });
+        }
+    });
 }
 
 void SaveEverythingDialog::Prepare() {

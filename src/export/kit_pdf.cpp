@@ -1,13 +1,14 @@
 #include "export/kit_pdf.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QHashFunctions>
 #include <QtCore/QMarginsF>
-#include <QtGui/QImageReader>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPdfWriter>
+#include <algorithm>
 
-#include "export/pdf_pages.h"
+#include "export/drawn_kit.h"
 #include "export/pdf_units.h"
 #include "support/error.h"
 #include "support/whole_file.h"
@@ -26,12 +27,8 @@ QPageLayout LayoutOf(const SizeMm& sheet) {
     return layout;
 }
 
-void DrawPages(QPdfWriter& writer, const KitPages& kit) {
-    writer.setPageLayout(LayoutOf(kit.FrontPaper));
-    QPainter painter;
-    if (!painter.begin(&writer)) {
-        throw Error("The pages cannot be drawn. Is there enough memory?");
-    }
+void DrawFrontPages(QPdfWriter& writer, QPainter& painter, const KitPages& kit) {
+    painter.scale(kit.FrontScale, kit.FrontScale);
     DrawCoverPage(painter, kit);
     writer.newPage();
     for (int page = 0; page < CountChartPages(kit); ++page) {
@@ -39,6 +36,17 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
         writer.newPage();
     }
     DrawMapPage(painter, kit);
+    painter.resetTransform();
+}
+
+void DrawPages(QPdfWriter& writer, const KitPages& kit) {
+    const double scale = kit.FrontScale;
+    writer.setPageLayout(LayoutOf({kit.FrontPaper.Width * scale, kit.FrontPaper.Height * scale}));
+    QPainter painter;
+    if (!painter.begin(&writer)) {
+        throw Error("The pages cannot be drawn. Is there enough memory?");
+    }
+    DrawFrontPages(writer, painter, kit);
     writer.setPageLayout(LayoutOf(kit.Plan.Pages.Paper.Sheet));
     for (const PageTile& tile : kit.Plan.Pages.Tiles) {
         writer.newPage();
@@ -50,42 +58,6 @@ void DrawPages(QPdfWriter& writer, const KitPages& kit) {
     kit.Place.Screen.ReportProgress(0, 0);
 }
 
-std::vector<PlanRect> BoxesOf(const PrintPlan& plan) {
-    std::vector<PlanRect> boxes;
-    for (const PlanLabel& label : plan.Labels) {
-        const PrintScale scale = plan.Scale;
-        const PlanRect box = BoxOf(label, plan.Aspects[plan.Regions[label.Region].Value]);
-        boxes.push_back(
-            {scale.Mm(box.Left), scale.Mm(box.Top), scale.Mm(box.Right), scale.Mm(box.Bottom)});
-    }
-    return boxes;
-}
-
-Surface PaintingOf(const PaintedRegions& regions, const WorkState& state) {
-    Surface painting(regions.Ids.Across() + 1, regions.Ids.Down() + 1);
-    for (int y = 0; y < painting.Height(); ++y) {
-        for (int x = 0; x < painting.Width(); ++x) {
-            const Region& region = regions[regions.Ids(x, y)];
-            painting.Set(x, y, ColorOf(state.PaintColors[region.Value]));
-        }
-    }
-    return painting;
-}
-
-QImage LogoOf(const PlanSettings& settings) {
-    if (settings.Logo.empty()) {
-        return {};
-    }
-    QImageReader reader(QString::fromStdString(settings.Logo.string()));
-    reader.setAutoTransform(true);
-    QImage logo = reader.read();
-    if (logo.isNull()) {
-        throw FileError(settings.Logo,
-                        "cannot be read as a logo. Choose a PNG or JPEG picture for it.");
-    }
-    return logo;
-}
-
 // Fonts and pictures are written in the order of hash tables, which the toolkit seeds by chance.
 class SteadyHashes {
   public:
@@ -95,53 +67,65 @@ class SteadyHashes {
     SteadyHashes& operator=(const SteadyHashes&) = delete;
 };
 
-// The hour of printing says nothing about a kit, and with it no two files would be alike. Takes
-// the same room, for the file is full of byte positions.
-void FixDate(QByteArray& pdf) {
-    constexpr QByteArrayView kKey = "/CreationDate (D:";
-    constexpr QByteArrayView kFixed = "20000101000000";
-    const qsizetype at = pdf.lastIndexOf(kKey);
-    const qsizetype end = at < 0 ? -1 : pdf.indexOf(')', at);
-    if (end < at + kKey.size() + kFixed.size()) {
+// Takes the same room, for the file is full of byte positions. What follows is the zone: "+01'00'",
+// "+01:00" or "Z".
+void FixDate(QByteArray& pdf, QByteArrayView key, QByteArrayView fixed, char closing) {
+    const qsizetype at = pdf.lastIndexOf(key);
+    const qsizetype end = at < 0 ? -1 : pdf.indexOf(closing, at + key.size());
+    if (end < at + key.size() + fixed.size()) {
         return;
     }
-    pdf.replace(at + kKey.size(), kFixed.size(), kFixed.data(), kFixed.size());
-    // What follows is the zone: "+01'00'", "-01'00'" or "Z".
-    for (qsizetype i = at + kKey.size() + kFixed.size(); i < end; ++i) {
+    pdf.replace(at + key.size(), fixed.size(), fixed.data(), fixed.size());
+    for (qsizetype i = at + key.size() + fixed.size(); i < end; ++i) {
         char& c = pdf.data()[i];
         c = c == '-' ? '+' : c >= '0' && c <= '9' ? '0' : c;
     }
+}
+
+// The hour of printing says nothing about a kit, and with it no two files would be alike.
+void FixDates(QByteArray& pdf) {
+    FixDate(pdf, "/CreationDate (D:", "20000101000000", ')');
+    FixDate(pdf, "xmp:CreateDate=\"", "2000-01-01T00:00:00", '"');
+    FixDate(pdf, "xmp:ModifyDate=\"", "2000-01-01T00:00:00", '"');
+}
+
+// The toolkit tells files apart by chance, this one by what they hold.
+void FixId(QByteArray& pdf) {
+    constexpr qsizetype kDigits = 32;
+    constexpr QByteArrayView kBetween = "> <";
+    const qsizetype key = pdf.lastIndexOf("/ID [ <");
+    const qsizetype first = key + 7;
+    const qsizetype second = first + kDigits + kBetween.size();
+    if (key < 0 || second + kDigits > pdf.size()) {
+        return;
+    }
+    const QByteArray none(kDigits, '0');
+    pdf.replace(first, kDigits, none).replace(second, kDigits, none);
+    const QByteArray sum = QCryptographicHash::hash(pdf, QCryptographicHash::Md5).toHex();
+    pdf.replace(first, kDigits, sum).replace(second, kDigits, sum);
 }
 
 }  // namespace
 
 void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
-    const PrintSymbols symbols(settings.Symbols, place.State->PaintCount);
-    const PrintPlan plan =
-        MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
-    const KitPages kit{
-        place,
-        plan,
-        symbols,
-        SizeOf(settings.Sheet),
-        BoxesOf(plan),
-        PaintingOf(plan.Regions, place.State),
-        settings,
-        PaintNeeds(plan.Regions, plan.Pages, plan.Scale, place.State->PaintCount, settings.Use),
-        LogoOf(settings)};
+    const DrawnKit drawn(place, settings);
+    const KitPages& kit = drawn.Pages();
     const SteadyHashes steady;
     QByteArray pdf;
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
+        // It names sRGB as the colors' meaning, and takes its fonts with it.
+        writer.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
         writer.setResolution(kPdfResolution);
         writer.setTitle(ToQt(kit.Title()));
         writer.setCreator("Vendrel");
         DrawPages(writer, kit);
     }
-    FixDate(pdf);
+    FixDates(pdf);
+    FixId(pdf);
     place.Screen.SetCaption("Saving File, Please Wait....");
     WriteWholeFile(target, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
 }

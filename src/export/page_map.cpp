@@ -28,6 +28,21 @@ void DrawTileName(QPainter& painter, const PageTile& tile, const QRectF& box) {
     painter.drawText(plate, Qt::AlignCenter, ToQt(tile.Name()));
 }
 
+// Two of them, with marks at the halves.
+void DrawInches(QPainter& painter, QPointF start) {
+    constexpr int kHalves = 4;
+    painter.drawLine(QLineF(start, start + QPointF(Mm(kHalves * kMmPerInch / 2), 0)));
+    for (int half = 0; half <= kHalves; ++half) {
+        const QPointF at = start + QPointF(Mm(half * kMmPerInch / 2), 0);
+        painter.drawLine(QLineF(at, at - QPointF(0, Mm(half % 2 == 0 ? 2 : 1))));
+        if (half % 2 == 0) {
+            painter.drawText(QRectF(at + QPointF(-Mm(6), -Mm(4.9)), QSizeF(Mm(12), Mm(3))),
+                             Qt::AlignHCenter | Qt::AlignBottom,
+                             half == kHalves ? QString("2 in") : QString::number(half / 2));
+        }
+    }
+}
+
 }  // namespace
 
 QRectF PageMapRect(const PagePlan& pages, const QRectF& box) {
@@ -55,7 +70,7 @@ QRectF DrawPageMap(QPainter& painter, const PagePlan& pages, const QRectF& box,
     return map;
 }
 
-void DrawRuler(QPainter& painter, QPointF start) {
+void DrawRuler(QPainter& painter, QPointF start, bool inches) {
     painter.setPen(QPen(Qt::black, Mm(0.2)));
     painter.drawLine(QLineF(start, start + QPointF(Mm(10 * kRulerCm), 0)));
     painter.setFont(TextFont(FontMm(2.4)));
@@ -65,6 +80,9 @@ void DrawRuler(QPainter& painter, QPointF start) {
         const QString text = cm == kRulerCm ? QString("%1 cm").arg(cm) : QString::number(cm);
         painter.drawText(QRectF(at + QPointF(-Mm(6), Mm(0.4)), QSizeF(Mm(12), Mm(3))),
                          Qt::AlignHCenter | Qt::AlignTop, text);
+    }
+    if (inches) {
+        DrawInches(painter, start - QPointF(0, Mm(2)));
     }
 }
 

@@ -16,8 +16,8 @@ QRectF DrawPageMap(QPainter& painter, const PagePlan& pages, const QRectF& box,
 /// The largest rectangle of the plan's shape in `box`, in the middle of its upper edge.
 [[nodiscard]] QRectF PageMapRect(const PagePlan& pages, const QRectF& box);
 
-/// A line of exactly five centimetres with a mark at each, to the right of
-/// `start`.
-void DrawRuler(QPainter& painter, QPointF start);
+/// A line of exactly five centimetres with a mark at each, to the right of `start`; with two inches
+/// on its other side for those who read them.
+void DrawRuler(QPainter& painter, QPointF start, bool inches);
 
 }  // namespace vendrel

@@ -101,7 +101,7 @@ void ChartPage::DrawHeading(int page, int pages) {
     Write(kDab, top, 5, Qt::AlignHCenter, "Your dab");
     Write(kSymbol, top, 5, Qt::AlignHCenter, "Symbol");
     Write(kPaint, top, 5, Qt::AlignLeft, "Paint");
-    Write(kArea, top, 5, Qt::AlignRight, "cm\u00b2");
+    Write(kArea, top, 5, Qt::AlignRight, kit_.Settings.InInches() ? "sq in" : "cm\u00b2");
     Write(kMl, top, 5, Qt::AlignRight, "ml");
     if (kit_.Settings.Use.PotMl > 0) {
         Write(kPots, top, 5, Qt::AlignRight, "Pots");
@@ -139,7 +139,8 @@ void ChartPage::WriteName(const PaintNeed& need, double top) {
 }
 
 void ChartPage::WriteFigures(const PaintNeed& need, double top, double height) {
-    Write(kArea, top, height, Qt::AlignRight, ToQt(Decimals(need.Cm2, need.Cm2 < 9.95 ? 1 : 0)));
+    const double area = kit_.Settings.InInches() ? need.Cm2 / kCm2PerSqIn : need.Cm2;
+    Write(kArea, top, height, Qt::AlignRight, ToQt(Decimals(area, area < 9.95 ? 1 : 0)));
     Write(kMl, top, height, Qt::AlignRight, ToQt(Decimals(need.Ml, need.Ml < 9.95 ? 1 : 0)));
     if (kit_.Settings.Use.PotMl > 0) {
         Write(kPots, top, height, Qt::AlignRight, QString::number(need.Pots));
@@ -179,8 +180,9 @@ void ChartPage::DrawSums(double top) {
     WriteFigures(SumOf(kit_.Needs), top, 7);
     painter_.setFont(TextFont(FontMm(2.7)));
     painter_.setPen(kFaint);
-    DrawLineOfText(painter_, MmRect(kMargin, top + 7, Right() - kMargin, 5), Qt::AlignLeft,
-                   "Milliliters are for " + ToQt(UseText(kit_.Settings.Use)) + ".");
+    DrawLineOfText(
+        painter_, MmRect(kMargin, top + 7, Right() - kMargin, 5), Qt::AlignLeft,
+        "Milliliters are for " + ToQt(UseText(kit_.Settings.Use, kit_.Settings.InInches())) + ".");
     painter_.setPen(Qt::black);
 }
 

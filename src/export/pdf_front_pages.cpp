@@ -1,4 +1,5 @@
 // The pages before the plan: cover, color chart and page map.
+#include <QtCore/QStringList>
 #include <QtGui/QImage>
 #include <algorithm>
 #include <cmath>
@@ -27,12 +28,6 @@ void DrawPicture(QPainter& painter, const Surface& picture, const QRectF& at) {
     painter.drawRect(at);
 }
 
-QString Centimetres(const SizeMm& size) {
-    return QString("%1 \u00d7 %2 cm")
-        .arg(size.Width / 10, 0, 'f', 1)
-        .arg(size.Height / 10, 0, 'f', 1);
-}
-
 double SmallestLabelMm(const PrintPlan& plan) {
     const auto smallest = std::ranges::min_element(plan.Labels, {}, &PlanLabel::Height);
     return plan.Scale.Mm(smallest->Height);
@@ -44,7 +39,7 @@ QString KitSummary(const KitPages& kit) {
     return QString(
                "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm")
                .arg(state.PaintCount)
-               .arg(Centimetres(kit.Plan.Pages.Canvas))
+               .arg(ToQt(SizeText(kit.Plan.Canvas, kit.Settings.InInches())))
                .arg(kit.Plan.Pages.Tiles.size())
                .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
                .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1) +
@@ -111,28 +106,66 @@ void DrawMaker(QPainter& painter, const KitPages& kit, const QRectF& box) {
                    ToQt(kit.Settings.Maker));
 }
 
-const char* const kSteps[] = {
-    "Print all pages at their actual size (100 %), never fitted to the paper.",
-    "Measure the ruler below: it must be exactly 5 cm long.",
-    "Where a page has crop marks, cut off the left margin, the top margin or both along them. The "
-    "strips beyond the dashed blue lines on the right and below stay on: the next pages are glued "
-    "over them.",
-    "Lay the cut edge of the next page on the dashed line, so that the halves of the round marks "
-    "meet, and glue page to page, row by row, as the map shows.",
-    "Cut off the outer margins, glue the plan onto the canvas or board, or trace it, and fill "
-    "every outline with the paint of its symbol. Small letters are underlined. A symbol with a "
-    "line belongs to the area in which the line ends.",
-    "Keep the color chart at hand: it has the paints' codes, and the lists on the pages vanish "
-    "under their neighbors.",
-};
+const char* const kFirstStep =
+    "Print all pages at their actual size (100 %), never fitted to the paper.";
+const char* const kPaintStep =
+    "Small letters are underlined. A symbol with a line belongs to the area in which the line "
+    "ends.";
+
+QString RulerStep(const KitPages& kit) {
+    return kit.Settings.InInches()
+               ? "Measure the ruler below: it must be exactly 2 inches and 5 cm long."
+               : "Measure the ruler below: it must be exactly 5 cm long.";
+}
+
+// How far the picture's edges are from the canvas's.
+QString MarginStep(const KitPages& kit) {
+    const PlanPoint& at = kit.Plan.PictureAt;
+    const double unit = kit.Settings.InInches() ? kMmPerInch : 10;
+    return QString(
+               "The canvas is of another shape than the picture. It stands in the middle: leave "
+               "%1 %3 free at the left and right and %2 %3 at the top and bottom.")
+        .arg(at.X / unit, 0, 'f', 1)
+        .arg(at.Y / unit, 0, 'f', 1)
+        .arg(kit.Settings.InInches() ? "in" : "cm");
+}
+
+QStringList StepsToGlue(const KitPages& kit) {
+    QStringList steps{
+        kFirstStep,
+        RulerStep(kit),
+        "Where a page has crop marks, cut off the left margin, the top margin or both along them. "
+        "The strips beyond the dashed blue lines on the right and below stay on: the next pages "
+        "are glued over them.",
+        "Lay the cut edge of the next page on the dashed line, so that the halves of the round "
+        "marks meet, and glue page to page, row by row, as the map shows.",
+        QString("Cut off the outer margins, glue the plan onto the canvas or board, or trace it, "
+                "and fill every outline with the paint of its symbol. ") +
+            kPaintStep,
+        "Keep the color chart at hand: it has the paints' codes, and the lists on the pages vanish "
+        "under their neighbors."};
+    if (kit.Plan.Canvas != kit.Plan.Pages.Canvas) {
+        steps.insert(steps.size() - 1, MarginStep(kit));
+    }
+    return steps;
+}
+
+QStringList StepsToStretch(const KitPages& kit) {
+    return {"Have the last page printed on canvas at its actual size (100 %), with its crop marks.",
+            "Measure the ruler at its foot: like the one below it must be exactly " +
+                QString(kit.Settings.InInches() ? "2 inches and 5 cm long." : "5 cm long."),
+            "The thin line is the edge of the canvas. What lies beyond is the bleed: it is wrapped "
+            "round the frame, and the outlines run on there.",
+            QString("Fill every outline with the paint of its symbol. ") + kPaintStep};
+}
 
 // Answers where the text ends.
-double DrawSteps(QPainter& painter, double top, double width) {
+double DrawSteps(QPainter& painter, const QStringList& steps, double top, double width) {
     constexpr double kIndent = 7;
     painter.setFont(TextFont(FontMm(3.6)));
     painter.setPen(Qt::black);
     int number = 0;
-    for (const char* step : kSteps) {
+    for (const QString& step : steps) {
         painter.drawText(QRectF(Mm(kMargin), top, Mm(kIndent), Mm(6)), Qt::AlignLeft,
                          QString("%1.").arg(++number));
         QRectF used;
@@ -141,6 +174,37 @@ double DrawSteps(QPainter& painter, double top, double width) {
         top = used.bottom() + Mm(1.8);
     }
     return top;
+}
+
+// However small the pages in front are printed.
+void DrawTrueRuler(QPainter& painter, const KitPages& kit, const QPointF& start) {
+    painter.save();
+    painter.translate(start);
+    painter.scale(1 / kit.FrontScale, 1 / kit.FrontScale);
+    DrawRuler(painter, {0, 0}, kit.Settings.InInches());
+    painter.restore();
+}
+
+// Blended beforehand: print shops want pages without transparent parts.
+QImage Faded(QImage picture) {
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), QColor(255, 255, 255, 140));
+    return picture;
+}
+
+// Draws the canvas around it where that is larger.
+QRectF PictureOnMap(QPainter& painter, const KitPages& kit, const QRectF& box) {
+    const SizeMm& canvas = kit.Plan.Canvas;
+    const SizeMm& picture = kit.Plan.Pages.Canvas;
+    const QSizeF size = QSizeF(canvas.Width, canvas.Height).scaled(box.size(), Qt::KeepAspectRatio);
+    const QRectF outer(QPointF(box.center().x() - size.width() / 2, box.top()), size);
+    if (canvas != picture) {
+        painter.setPen(QPen(kFaint, Mm(0.2), Qt::DashLine));
+        painter.drawRect(outer);
+    }
+    const double scale = size.width() / canvas.Width;
+    return {outer.left() + kit.Plan.PictureAt.X * scale, outer.top() + kit.Plan.PictureAt.Y * scale,
+            picture.Width * scale, picture.Height * scale};
 }
 
 }  // namespace
@@ -188,19 +252,25 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
 }
 
 void DrawMapPage(QPainter& painter, const KitPages& kit) {
+    const bool whole = kit.Settings.Sheet.IsCanvas();
     const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
     painter.setPen(Qt::black);
     painter.setFont(TextFont(FontMm(7), Weight::Bold));
     DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width, Mm(12)}, Qt::AlignLeft,
-                   "Putting the plan together");
-    const double top = DrawSteps(painter, Mm(kMargin + 16), width);
-    DrawRuler(painter, {Mm(kMargin), top + Mm(8)});
-    const QRectF box(Mm(kMargin), top + Mm(22), width,
-                     Mm(kit.FrontPaper.Height - kMargin) - top - Mm(22));
-    painter.setOpacity(0.45);
-    painter.drawImage(PageMapRect(kit.Plan.Pages, box), ToImage(kit.Painting));
-    painter.setOpacity(1);
-    DrawPageMap(painter, kit.Plan.Pages, box, nullptr);
+                   whole ? "Printing the canvas" : "Putting the plan together");
+    const double top =
+        DrawSteps(painter, whole ? StepsToStretch(kit) : StepsToGlue(kit), Mm(kMargin + 16), width);
+    DrawTrueRuler(painter, kit, {Mm(kMargin), top + Mm(11)});
+    const QRectF box(Mm(kMargin), top + Mm(24), width,
+                     Mm(kit.FrontPaper.Height - kMargin) - top - Mm(24));
+    const QRectF picture = PictureOnMap(painter, kit, box);
+    painter.drawImage(picture, Faded(ToImage(kit.Painting)));
+    if (whole) {
+        painter.setPen(QPen(Qt::black, Mm(0.2)));
+        painter.drawRect(picture);
+    } else {
+        DrawPageMap(painter, kit.Plan.Pages, picture, nullptr);
+    }
 }
 
 }  // namespace vendrel

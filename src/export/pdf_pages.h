@@ -17,7 +17,8 @@ struct KitPages {
     const Workplace& Place;
     const PrintPlan& Plan;
     const PrintSymbols& Symbols;
-    SizeMm FrontPaper;                  // of cover, chart and page map, upright
+    SizeMm FrontPaper;                  // of cover, chart and page map, upright, as they are laid
+    double FrontScale;                  // out, and how much smaller they are printed
     std::vector<PlanRect> SymbolBoxes;  // of all labels, in millimetres of the canvas
     Surface Painting;                   // as the plan cuts it, no pixel bare
     const PlanSettings& Settings;
@@ -36,7 +37,9 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit);
 void DrawChartPage(QPainter& painter, const KitPages& kit, int page);
 /// How the pages of the plan lie, and how to put them together.
 void DrawMapPage(QPainter& painter, const KitPages& kit);
-/// One page of the plan.
+/// One page of the plan, or all of it where the canvas is the paper.
 void DrawPlanPage(QPainter& painter, const KitPages& kit, const PageTile& tile);
+/// All of it with its bleed, where the canvas is the paper.
+void DrawCanvasPage(QPainter& painter, const KitPages& kit);
 
 }  // namespace vendrel

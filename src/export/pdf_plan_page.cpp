@@ -1,61 +1,46 @@
 #include <QtCore/QLineF>
-#include <QtGui/QPolygonF>
-#include <algorithm>
-#include <cmath>
+#include <QtGui/QFontMetricsF>
 #include <string>
 
 #include "export/page_map.h"
-#include "export/pdf_pages.h"
-#include "export/pdf_units.h"
+#include "export/plan_drawing.h"
 #include "plan/mark_places.h"
-#include "plan/plan_pen.h"
-#include "shell/symbol_of.h"
 
 namespace vendrel {
 namespace {
 
 using Design = PlanPageDesign;
 
-const QColor kBorderInk(kBorderGray, kBorderGray, kBorderGray);
-const QColor kCutInk(90, 140, 200);
+const QColor kFrameInk(kBorderGray, kBorderGray, kBorderGray);
 
 // Where the picture stands on the page.
 class PlanPage {
   public:
     PlanPage(QPainter& painter, const KitPages& kit, const PageTile& tile)
-        : painter_(painter), kit_(kit), tile_(tile), sheet_(kit.Plan.Pages.Paper.Sheet) {
-        offset_ = {Design::kLeft - tile.Shown.Left,
-                   Design::kMargin + Design::kHeading + Design::kMarks - tile.Shown.Top};
-    }
+        : painter_(painter),
+          kit_(kit),
+          tile_(tile),
+          paper_(kit.Plan.Pages.Paper),
+          sheet_(paper_.Sheet),
+          drawing_(painter, kit,
+                   {Design::kLeft - tile.Shown.Left, Design::kPictureTop - tile.Shown.Top}) {}
 
     void Draw() {
         DrawHeading();
-        DrawOutlines();
+        drawing_.DrawOutlines(tile_.Shown);
         DrawCuts();
-        DrawSymbols();
+        drawing_.DrawSymbols(tile_.Own, tile_.Shown);
         DrawCropMarks();
         DrawLegend();
     }
 
   private:
-    // From millimetres of the canvas to units of the page.
-    [[nodiscard]] QPointF At(double canvasX, double canvasY) const {
-        return {Mm(canvasX + offset_.X), Mm(canvasY + offset_.Y)};
-    }
-    [[nodiscard]] QPointF At(const PlanPoint& pixel) const {
-        return At(kit_.Plan.Scale.Mm(pixel.X), kit_.Plan.Scale.Mm(pixel.Y));
-    }
-
-    [[nodiscard]] int SymbolOf(int paint) const {
-        return vendrel::SymbolOf(kit_.Place.State->PaintColors, paint);
-    }
-    [[nodiscard]] QColor Ink(int usual) const { return ToQt(PlanInk(usual, kit_.Settings.Gray)); }
+    // From millimetres of the picture to units of the page.
+    [[nodiscard]] QPointF At(double x, double y) const { return drawing_.At(x, y); }
+    [[nodiscard]] int SymbolOf(int paint) const { return drawing_.SymbolOf(paint); }
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
     double DrawLogo(double right, double top);
-    void DrawOutlines();
-    void DrawSymbols();
-    void DrawLeader(const PlanLabel& label, double aspect);
     void DrawCuts();
     void DrawCut(const CutLine& cut);
     void DrawCropMarks();
@@ -65,8 +50,9 @@ class PlanPage {
     QPainter& painter_;
     const KitPages& kit_;
     const PageTile& tile_;
+    const PaperChoice& paper_;
     SizeMm sheet_;
-    PlanPoint offset_;  // from canvas to page, in millimetres
+    PlanDrawing drawing_;
 };
 
 QString PlanPage::PageCount() const {
@@ -101,57 +87,9 @@ void PlanPage::DrawHeading() {
     DrawLineOfText(painter_, MmRect(left, top + 6, room, 5), Qt::AlignLeft,
                    ToQt(kit_.Title() +
                         (kit_.Settings.Maker.empty() ? "" : "  \u2022  " + kit_.Settings.Maker)));
-    DrawRuler(painter_, {Mm(right - 30 - 58), Mm(top + 5)});
+    DrawRuler(painter_, {Mm(right - 30 - 58), Mm(top + 5)}, kit_.Settings.InInches());
     (void)DrawPageMap(painter_, kit_.Plan.Pages, MmRect(right - 26, top, 26, Design::kHeading - 1),
                       &tile_);
-}
-
-void PlanPage::DrawOutlines() {
-    QPen pen(Ink(kBorderGray), Mm(kBorderMm));
-    pen.setJoinStyle(Qt::MiterJoin);
-    pen.setCapStyle(Qt::SquareCap);
-    painter_.setPen(pen);
-    const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.Scale);
-    for (const PlanChain& chain : kit_.Plan.Lines.Chains) {
-        for (const PlanLine& line : ClipLine(chain.Points, shown)) {
-            QPolygonF points;
-            points.reserve(static_cast<qsizetype>(line.size()));
-            for (const PlanPoint& point : line) {
-                points.append(At(point));
-            }
-            painter_.drawPolyline(points);
-        }
-    }
-}
-
-void PlanPage::DrawSymbols() {
-    const PlanRect own = InPixels(tile_.Own, kit_.Plan.Scale);
-    const PlanRect shown = InPixels(tile_.Shown, kit_.Plan.Scale);
-    painter_.setPen(Ink(kSymbolGray));
-    for (const PlanLabel& label : kit_.Plan.Labels) {
-        const int paint = kit_.Plan.Regions[label.Region].Value;
-        if (IsLabelOn(label, kit_.Plan.Aspects[paint], own, shown)) {
-            kit_.Symbols.Draw(painter_, SymbolOf(paint), At(label.Centre),
-                              Mm(kit_.Plan.Scale.Mm(label.Height)));
-            DrawLeader(label, kit_.Plan.Aspects[paint]);
-        }
-    }
-}
-
-// With a dot at its end, so that nobody takes the symbol for that of the area around it.
-void PlanPage::DrawLeader(const PlanLabel& label, double aspect) {
-    if (!label.PointsAt) {
-        return;
-    }
-    const PlanLine leader = LeaderOf(label, aspect);
-    const QColor ink = painter_.pen().color();
-    painter_.save();
-    painter_.setPen(QPen(ink, Mm(kBorderMm)));
-    painter_.drawLine(QLineF(At(leader.front()), At(leader.back())));
-    painter_.setPen(Qt::NoPen);
-    painter_.setBrush(ink);
-    painter_.drawEllipse(At(leader.back()), Mm(kLeaderDotMm), Mm(kLeaderDotMm));
-    painter_.restore();
 }
 
 // Below the symbols, which must stay legible, but over the outlines, which run along the cuts.
@@ -211,21 +149,22 @@ void PlanPage::DrawCropMarks() {
 void PlanPage::DrawLegend() {
     const std::vector<int> paints =
         PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own, kit_.Plan.Scale));
-    const int columns = Design::LegendColumns(sheet_.Width);
-    const int rows = (static_cast<int>(paints.size()) + columns - 1) / columns;
-    const double width = Design::ListWidth(sheet_.Width) / columns;
-    const double top = sheet_.Height - Design::kMargin - rows * Design::kLegendRow;
+    const bool beside = paper_.Beside > 0;
+    const int rows = Design::LegendRows(paper_, static_cast<int>(paints.size()));
+    const double width = Design::ListWidth(paper_) / paper_.ListColumns;
+    const double left = beside ? sheet_.Width - Design::kMargin - paper_.Beside : Design::kLeft;
+    const double top = beside ? Design::kPictureTop + Design::kLegendTitle
+                              : sheet_.Height - Design::kMargin - rows * Design::kLegendRow;
     // The heading goes with the top margin where that is cut off.
     painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(3), Weight::Bold));
-    DrawLineOfText(painter_, MmRect(Design::kLeft, top - 4.2, Design::ListWidth(sheet_.Width), 4),
-                   Qt::AlignRight, ToQt("Page " + tile_.Name()));
+    DrawLineOfText(painter_, MmRect(left, top - 4.2, Design::ListWidth(paper_), 4),
+                   beside ? Qt::AlignLeft : Qt::AlignRight, ToQt("Page " + tile_.Name()));
     for (std::size_t i = 0; i < paints.size(); ++i) {
         const int column = static_cast<int>(i) / rows;
         const int row = static_cast<int>(i) % rows;
-        DrawLegendEntry(
-            paints[i], MmRect(Design::kLeft + column * width, top + row * Design::kLegendRow, width,
-                              Design::kLegendRow));
+        DrawLegendEntry(paints[i], MmRect(left + column * width, top + row * Design::kLegendRow,
+                                          width, Design::kLegendRow));
     }
 }
 
@@ -233,22 +172,34 @@ void PlanPage::DrawLegend() {
 void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
     const PaintColor& color = kit_.Place.State->PaintColors[paint];
     const QPointF corner = box.topLeft();
-    painter_.setPen(QPen(kBorderInk, Mm(0.1)));
+    painter_.setPen(QPen(kFrameInk, Mm(0.1)));
     painter_.setBrush(ToQt(ColorOf(color)));
     painter_.drawRect(QRectF(corner + QPointF(0, Mm(0.4)), QSizeF(Mm(6), box.height() - Mm(0.8))));
     painter_.setBrush(Qt::NoBrush);
     painter_.setPen(Qt::black);
     kit_.Symbols.DrawInLine(painter_, SymbolOf(paint), corner + QPointF(Mm(8.3), box.height() / 2),
                             Mm(2));
-    painter_.setFont(TextFont(FontMm(2.6)));
-    const QRectF text = box.adjusted(Mm(11), 0, -Mm(1.5), 0);
-    DrawLineOfText(painter_, text, Qt::AlignLeft, ToQt(color.PaintName));
+    const QRectF text = box.adjusted(Mm(11), 0, -Mm(1), 0);
+    const QString name = ToQt(color.PaintName);
+    // Smaller rather than cut short.
+    double size = 2.6;
+    painter_.setFont(TextFont(FontMm(size)));
+    while (size > 2.1 && QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(name) >
+                             text.width()) {
+        size -= 0.1;
+        painter_.setFont(TextFont(FontMm(size)));
+    }
+    DrawLineOfText(painter_, text, Qt::AlignLeft, name);
 }
 
 }  // namespace
 
 void DrawPlanPage(QPainter& painter, const KitPages& kit, const PageTile& tile) {
-    PlanPage(painter, kit, tile).Draw();
+    if (kit.Settings.Sheet.IsCanvas()) {
+        DrawCanvasPage(painter, kit);
+    } else {
+        PlanPage(painter, kit, tile).Draw();
+    }
 }
 
 }  // namespace vendrel

@@ -4,6 +4,7 @@
 #include "export/kit_page.h"
 #include "export/kit_pdf.h"
 #include "export/kit_svg.h"
+#include "export/plan_preview.h"
 #include "export/print_symbols.h"
 #include "export/shopping_list.h"
 #include "support/error.h"
@@ -12,6 +13,11 @@ namespace vendrel {
 
 SymbolAspects QtExporter::Aspects(SymbolStyle style, int paints) const {
     return PrintSymbols(style, paints).Aspects();
+}
+
+Surface QtExporter::Preview(const Workplace& place, const PlanSettings& settings,
+                            int longest) const {
+    return PreviewPlan(place, settings, longest);
 }
 
 void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettings& settings,

@@ -7,7 +7,9 @@ namespace vendrel {
 /// How large the kit is printed, and on what.
 class KitPdfForm {
   public:
-    KitPdfForm(Workplace& place, const Exporter& exporter) : place_(place), exporter_(exporter) {}
+    /// `plan` is chosen once for all windows that print.
+    KitPdfForm(Workplace& place, const Exporter& exporter, PlanChoice& plan)
+        : place_(place), exporter_(exporter), plan_(plan) {}
 
     /// Measures the painting. Throws Error when it cannot be printed.
     void Form_Load();
@@ -20,7 +22,7 @@ class KitPdfForm {
   private:
     Workplace& place_;
     const Exporter& exporter_;
-    PlanChoice plan_;
+    PlanChoice& plan_;
 };
 
 }  // namespace vendrel

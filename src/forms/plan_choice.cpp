@@ -5,31 +5,34 @@
 namespace vendrel {
 
 void PlanChoice::Measure(const Workplace& place, const Exporter& exporter) {
+    place_ = &place;
+    exporter_ = &exporter;
     sketch_ = SketchPlan(place.State, place.Frames->WorkFrame.Picture,
                          exporter.Aspects(settings_.Symbols, place.State->PaintCount));
     // Chosen for another painting, it may be wider than this one can be.
     settings_.CanvasCm = std::min(settings_.CanvasCm, WidestCm());
-    Follow();
+    figures_ = FiguresOf(*sketch_, settings_);
 }
 
-void PlanChoice::Follow() {
-    if (sketch_) {
-        figures_ = FiguresOf(*sketch_, settings_);
+void PlanChoice::Choose(const PlanSettings& wanted) {
+    if (!sketch_) {
+        settings_ = wanted;
+        return;
     }
-}
-
-void PlanChoice::Paper_Click(Paper paper) {
-    settings_.Sheet = paper;
-    Follow();
-}
-
-void PlanChoice::Canvas_Change(double centimeters) {
-    settings_.CanvasCm = centimeters;
-    Follow();
+    const bool remeasures = wanted.Symbols != settings_.Symbols;
+    figures_ = FiguresOf(*sketch_, wanted);
+    settings_ = wanted;
+    if (remeasures) {
+        Measure(*place_, *exporter_);
+    }
 }
 
 double PlanChoice::WidestCm() const {
     return sketch_ ? WidestCanvasCm(*sketch_) : kLargestCanvasCm;
+}
+
+Surface PlanChoice::Preview(int longest) const {
+    return sketch_ ? exporter_->Preview(*place_, settings_, longest) : Surface();
 }
 
 }  // namespace vendrel

@@ -8,24 +8,27 @@
 
 namespace vendrel {
 
-/// Paper and canvas of a printed plan while they are chosen, and what they make of the painting.
+/// What is chosen for a printed plan, and what it makes of the painting. Stays until the program
+/// ends.
 class PlanChoice {
   public:
     /// Measures the painting. Throws Error when it cannot be printed.
     void Measure(const Workplace& place, const Exporter& exporter);
-    void Paper_Click(Paper paper);
-    /// Width of the canvas in centimeters; 0 to fill the pages that legible symbols need.
-    void Canvas_Change(double centimeters);
+    /// Throws Error for what cannot be printed, and keeps what was chosen before.
+    void Choose(const PlanSettings& wanted);
 
     [[nodiscard]] const PlanSettings& Settings() const { return settings_; }
     /// Of the settings; nothing before the painting is measured.
     [[nodiscard]] const std::optional<PlanFigures>& Figures() const { return figures_; }
     /// The widest canvas that can be chosen, in centimeters.
     [[nodiscard]] double WidestCm() const;
+    /// The first page of the plan, so many pixels at its longer side; empty before the painting is
+    /// measured. Throws Error, FileError for the logo.
+    [[nodiscard]] Surface Preview(int longest) const;
 
   private:
-    void Follow();
-
+    const Workplace* place_ = nullptr;
+    const Exporter* exporter_ = nullptr;
     PlanSettings settings_;
     std::optional<PlanSketch> sketch_;
     std::optional<PlanFigures> figures_;

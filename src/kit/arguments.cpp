@@ -277,6 +277,9 @@ void SettleKit(KitOptions& kit) {
     kit.Chosen.Match = kit.Match.value_or(kit.MatchByEye ? Matching::ByEye : Matching::Plain);
     const bool plain = kit.Chosen.Match == Matching::Plain && !kit.Chosen.Paintable;
     kit.Plan.CanvasCm = plain || kit.Chosen.CanvasCm > 0 ? kit.Chosen.CanvasCm : kUsualCanvasCm;
+    if (kit.Plan.BleedMm > 0 && !kit.Plan.Sheet.IsCanvas()) {
+        throw UsageError("--bleed goes around a canvas printed in one piece. Add --paper canvas.");
+    }
     if (!kit.Title.empty() && kit.Photos.size() > 1) {
         throw UsageError("--title names one kit. Name one photo with it.");
     }

@@ -22,6 +22,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// A canvas the other way up is worth a word.
+constexpr double kWorthTurning = 1.02;
+
 // Runs one step and notes how long it took.
 template <class Step>
 void Timed(KitReport& report, const char* name, Step step) {
@@ -165,12 +168,29 @@ std::optional<PhotoFit> FitUsed(const Workplace& place, const TakenPhoto& taken)
     return fit == PhotoFit::Stretch ? fit : PhotoFit::Keep;
 }
 
+// Limits and figures hold for the picture as wide as it comes to stand on the canvas.
+void FitIntoCanvas(Workplace& place, const PlanSettings& plan, KitReport& report) {
+    const WorkState& state = place.State;
+    const TwipsPerPixel twips = place.Screen.Screen().Twips;
+    const BitmapSize size{state.PictureWidth / twips.X, state.PictureHeight / twips.Y};
+    const auto widthOn = [&size](const SizeMm& canvas) {
+        return FittedPixelMm(canvas, size.Width, size.Height) * size.Width / 10;
+    };
+    place.State->Chosen.CanvasCm = widthOn(plan.Canvas);
+    const double turned = widthOn({plan.Canvas.Height, plan.Canvas.Width});
+    if (turned > place.State->Chosen.CanvasCm * kWorthTurning) {
+        report.Notes.emplace_back(
+            "The canvas would hold a larger picture if it were turned; name its other side first.");
+    }
+}
+
 }  // namespace
 
 void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
     if (exporter == nullptr && outputs.ByName && outputs.Chosen.NeedsFonts()) {
         throw Error(
-            "This build has no fonts to draw the chart, the pdf, the svg and the page with; build it "
+            "This build has no fonts to draw the chart, the pdf, the svg and the page with; build "
+            "it "
             "with Qt, or choose other --outputs.");
     }
 }
@@ -185,6 +205,9 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     Timed(report, "import", [&] { ImportPhoto(place, photo, taken.File); });
     if (!options.Title.empty()) {
         place.State->PictureName = options.Title;
+    }
+    if (options.Plan.Canvas.Width > 0) {
+        FitIntoCanvas(place, options.Plan, report);
     }
     if (options.FromGrid) {
         Timed(report, "load", [&] { TakeSavedGrid(place); });

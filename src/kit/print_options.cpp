@@ -5,12 +5,11 @@
 #include <string_view>
 
 #include "kit/option_kinds.h"
+#include "kit/size_options.h"
 
 namespace vendrel {
 namespace {
 
-constexpr auto kPapers =
-    std::to_array<Choice<Paper>>({{"A4", Paper::A4}, {"Letter", Paper::Letter}, {"A3", Paper::A3}});
 constexpr auto kSymbolStyles =
     std::to_array<Choice<SymbolStyle>>({{"letters", SymbolStyle::Letters},
                                         {"clear", SymbolStyle::Clear},
@@ -38,40 +37,53 @@ constexpr Measure kPots{"ml", 1, 10'000, "a size from 1ml to 10000ml, as in 20ml
 constexpr Measure kCoats{"", 1, 10, "a number from 1 to 10"};
 constexpr Measure kCoverage{"cm2", 1, 1000, "the square centimeters of one milliliter, 1 to 1000"};
 
-// "60cm" or "60.5", within what can be painted; "auto" is 0.
-double ToCanvasCm(const std::string& option, std::string_view value) {
-    constexpr Measure kWidth{"cm", kSmallestCanvasCm, kLargestCanvasCm,
-                             "a width from 10cm to 300cm, or auto"};
-    return value == "auto" ? 0 : ToNumber(option, value, kWidth);
+void AddSizeOptions(CLI::App& app, KitOptions& kit) {
+    AddValue(
+        app,
+        {"--paper", "SIZE",
+         "prints the pdf on A5, A4 (default), A3, A2, A1, Letter,\nLegal, Tabloid, paper as in "
+         "250x400mm, or in one piece\non the canvas"},
+        [&kit](const std::string& option, const std::string& value) {
+            kit.Plan.Sheet = ToPaper(option, value);
+        });
+    AddValue(app,
+             {"--canvas", "SIZE",
+              "makes the kit for a canvas this wide, as in 60cm or 16in,\nor with both sides as in "
+              "40x50cm; with auto (default)\nlimits and figures hold for 40cm, and the pdf of a "
+              "plain\nkit fills the pages that legible symbols need"},
+             [&kit](const std::string& option, const std::string& value) {
+                 const CanvasOption canvas = ToCanvas(option, value);
+                 kit.Chosen.CanvasCm = canvas.WidthCm;
+                 kit.Plan.Canvas = canvas.Size;
+                 kit.Plan.InchCanvas = canvas.Inches;
+             });
+    AddValue(
+        app,
+        {"--bleed", "WIDTHmm",
+         "carries the outlines on around a canvas printed in one\npiece, to wrap round a frame"},
+        [&kit](const std::string& option, const std::string& value) {
+            kit.Plan.BleedMm = ToBleedMm(option, value);
+        });
 }
 
 void AddPlanOptions(CLI::App& app, KitOptions& kit) {
-    AddChoice(app, {"--paper", "SIZE", "prints the pdf on A4 (default), Letter or A3"}, kPapers,
-              kit.Plan.Sheet);
     AddChoice(app,
               {"--symbols", "STYLE",
-               "marks the paints in the pdf with the sheet's letters\n"
-               "(default), the clearest of them, numbers or signs"},
+               "marks the paints on the plan with letters (default: the\nsheet's), clear ones of "
+               "them, numbers or signs"},
               kSymbolStyles, kit.Plan.Symbols);
     AddChoice(app,
               {"--lines", "SHAPE",
-               "draws the pdf's borders smooth (default for paintable\nkits) or in steps (default "
+               "draws the plan's borders smooth (default for paintable\nkits) or in steps (default "
                "for others)"},
               kLineShapes, kit.Plan.Lines);
-    AddValue(app,
-             {"--gray", "N",
-              "10 to 100 (50): how dark the pdf's lines and symbols\nare; paint covers light ones"},
-             [&kit](const std::string& option, const std::string& value) {
-                 kit.Plan.Gray = static_cast<int>(ToNumber(option, value, kGrays));
-             });
-    AddValue(app,
-             {"--canvas", "WIDTHcm",
-              "makes the kit for a canvas this wide, as in 60cm; with\n"
-              "auto (default) limits and figures hold for 40cm, and\nthe pdf of a plain kit "
-              "fills the pages that legible\nsymbols need"},
-             [&kit](const std::string& option, const std::string& value) {
-                 kit.Chosen.CanvasCm = ToCanvasCm(option, value);
-             });
+    AddValue(
+        app,
+        {"--gray", "N",
+         "10 to 100 (50): how dark the plan's lines and symbols\nare; paint covers light ones"},
+        [&kit](const std::string& option, const std::string& value) {
+            kit.Plan.Gray = static_cast<int>(ToNumber(option, value, kGrays));
+        });
 }
 
 void AddShopOptions(CLI::App& app, KitOptions& kit) {
@@ -106,6 +118,7 @@ void AddPrintOptions(CLI::App& app, KitOptions& kit) {
              [&kit](const std::string& option, const std::string& value) {
                  kit.Outputs = ToOutputs(option, value);
              });
+    AddSizeOptions(app, kit);
     AddPlanOptions(app, kit);
     AddShopOptions(app, kit);
     AddText(app, {"--title", "NAME", "names the files in place of the photo's name"}, kit.Title);

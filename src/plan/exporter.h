@@ -3,6 +3,7 @@
 #include "output/output_id.h"
 #include "plan/plan_layout.h"
 #include "shell/workplace.h"
+#include "support/surface.h"
 #include "support/target.h"
 
 namespace vendrel {
@@ -19,8 +20,14 @@ class Exporter {
     /// missing font.
     [[nodiscard]] virtual SymbolAspects Aspects(SymbolStyle style, int paints) const = 0;
 
-    /// Writes the color chart, the kit's pages, its plan as a drawing or the page to paint along
-    /// with to `target`, whole or not at all; the settings are those of the plan. The painted picture stays as it is. Throws Error for an unpainted
+    /// The first page of the plan as it would be printed, so many pixels at its longer side. Throws
+    /// as Write.
+    [[nodiscard]] virtual Surface Preview(const Workplace& place, const PlanSettings& settings,
+                                          int longest) const = 0;
+
+    /// Writes the color chart, the kit's pages, its plan as a drawing, the page to paint along with
+    /// or the list of paints to `target`, whole or not at all; the settings are those of the plan.
+    /// The painted picture stays as it is. Throws Error for an unpainted
     /// picture, more paints than symbols, a missing font or an output that needs none, FileError.
     virtual void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
                        const Target& target) const = 0;

@@ -21,7 +21,7 @@ constexpr double kLengthRounding = 1e-9;
 using Cuts = std::vector<double>;
 
 SizeMm RoomOn(const PaperChoice& paper) {
-    return {paper.Sheet.Width - 2 * paper.Frame.Side,
+    return {paper.Sheet.Width - 2 * paper.Frame.Side - paper.Beside,
             paper.Sheet.Height - paper.Frame.Top - paper.Frame.Bottom};
 }
 
@@ -86,8 +86,10 @@ PagePlan TilesOf(const CanvasToCut& canvas, const PaperChoice& paper, const Cuts
 
 bool HoldsItsLists(const PagePlan& plan) {
     const double room = RoomOn(plan.Paper).Height + kLengthRounding;
-    return std::ranges::all_of(plan.Tiles, [room](const PageTile& tile) {
-        return tile.Shown.Bottom - tile.Shown.Top + tile.ListHeight <= room;
+    const bool beside = plan.Paper.Beside > 0;
+    return std::ranges::all_of(plan.Tiles, [room, beside](const PageTile& tile) {
+        const double height = tile.Shown.Bottom - tile.Shown.Top;
+        return (beside ? std::max(height, tile.ListHeight) : height + tile.ListHeight) <= room;
     });
 }
 
@@ -142,18 +144,6 @@ PlanRect Times(const PlanRect& rect, double times) {
 
 }  // namespace
 
-SizeMm SizeOf(Paper paper) {
-    switch (paper) {
-        case Paper::A4:
-            return {210, 297};
-        case Paper::Letter:
-            return {215.9, 279.4};
-        case Paper::A3:
-            break;
-    }
-    return {297, 420};
-}
-
 std::string PageTile::Name() const {
     constexpr int kLetters = 26;
     std::string row(1, static_cast<char>('A' + Row % kLetters));
@@ -184,7 +174,8 @@ double RoomToGrow(const PagePlan& plan) {
     double times = std::numeric_limits<double>::infinity();
     for (const PageTile& tile : plan.Tiles) {
         const double across = room.Width - (tile.Shown.Right - tile.Own.Right);
-        const double down = room.Height - tile.ListHeight - (tile.Shown.Bottom - tile.Own.Bottom);
+        const double below = plan.Paper.Beside > 0 ? 0 : tile.ListHeight;
+        const double down = room.Height - below - (tile.Shown.Bottom - tile.Own.Bottom);
         times = std::min({times, across / (tile.Own.Right - tile.Own.Left),
                           down / (tile.Own.Bottom - tile.Own.Top)});
     }

@@ -6,20 +6,9 @@
 
 #include "plan/outlines.h"
 #include "plan/painted_regions.h"
+#include "plan/paper.h"
 
 namespace vendrel {
-
-enum class Paper { A4, Letter, A3 };
-
-/// Width and height in millimetres.
-struct SizeMm {
-    double Width = 0;
-    double Height = 0;
-    bool operator==(const SizeMm&) const = default;
-};
-
-/// The sheet upright.
-[[nodiscard]] SizeMm SizeOf(Paper paper);
 
 /// What every page of the plan keeps free around its part of the picture and its list of paints,
 /// in millimetres.
@@ -40,10 +29,12 @@ struct PageTile {
     [[nodiscard]] std::string Name() const;  // "B3": row B, third page in it
 };
 
-/// One way of turning the paper.
+/// One way of turning the paper and of placing the lists.
 struct PaperChoice {
     SizeMm Sheet;
     PageFrame Frame;
+    int ListColumns = 1;
+    double Beside = 0;  // width of the list to the right of the picture; 0: it stands below
 };
 
 /// A canvas cut into pages.
@@ -65,7 +56,7 @@ struct StippleRuler {
     double Step = 0;  // 0: no stipples to spare
 };
 
-/// Height in millimetres of the list below a page's share of the canvas.
+/// Height in millimetres of the list of a page's share of the canvas.
 using ListHeight = std::function<double(const PaperChoice& paper, const PlanRect& own)>;
 
 /// What is to be cut.

@@ -56,9 +56,10 @@ PaintNeed SumOf(const std::vector<PaintNeed>& needs) {
     return sum;
 }
 
-std::string UseText(const PaintUse& use) {
+std::string UseText(const PaintUse& use, bool inches) {
     return std::to_string(use.Coats) + (use.Coats == 1 ? " coat" : " coats") + " at 1 ml for " +
-           Short(use.Cm2PerMl) + " cm\u00b2" +
+           (inches ? Short(use.Cm2PerMl / kCm2PerSqIn) + " sq in"
+                   : Short(use.Cm2PerMl) + " cm\u00b2") +
            (use.PotMl > 0 ? ", pots of " + Short(use.PotMl) + " ml with 15 % to spare" : "");
 }
 

@@ -14,10 +14,13 @@ struct PaintUse {
     int Coats = 2;
     double Cm2PerMl = 60;  // one coat
     double PotMl = 0;      // 0: not asked
+    bool operator==(const PaintUse&) const = default;
 };
 
 /// Bought beyond what is needed: brushes and lids keep some.
 inline constexpr double kToSpare = 0.15;
+
+inline constexpr double kCm2PerSqIn = 6.4516;
 
 /// What one paint of a palette is needed for.
 struct PaintNeed {
@@ -36,7 +39,7 @@ struct PaintNeed {
 /// All of them together; no paint and no pages.
 [[nodiscard]] PaintNeed SumOf(const std::vector<PaintNeed>& needs);
 
-/// "2 coats at 1 ml for 60 cm², pots of 20 ml with 15 % to spare".
-[[nodiscard]] std::string UseText(const PaintUse& use);
+/// "2 coats at 1 ml for 60 cm², pots of 20 ml with 15 % to spare"; or "for 9.3 sq in".
+[[nodiscard]] std::string UseText(const PaintUse& use, bool inches);
 
 }  // namespace vendrel

@@ -58,6 +58,8 @@ PrintPlan WithoutLabels(const WorkState& state, PlanSketch sketch, const PlanSet
     plan.Regions = std::move(sketch.Regions);
     plan.Pages = std::move(sheets.Pages);
     plan.Scale = sheets.Scale;
+    plan.Canvas = sheets.Canvas;
+    plan.PictureAt = sheets.PictureAt;
     plan.Lines = LinesOf(plan, state, settings);
     return plan;
 }

@@ -20,7 +20,9 @@ struct PrintPlan {
     PaintAspects Aspects;
     std::vector<PlanLabel> Labels;
     PagePlan Pages;
-    PrintScale Scale;  // of the painted picture on the canvas
+    PrintScale Scale;     // of the painted picture on the canvas
+    SizeMm Canvas;        // the picture and its margins
+    PlanPoint PictureAt;  // on it, in millimetres
 };
 
 /// Lays out the painted picture for printing; `aspects` are those of the symbols as they will be

@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "output/cell_numbering.h"
+#include "output/kit_figures.h"
 #include "regions/crumbs.h"
+#include "support/decimals.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -19,11 +21,11 @@ constexpr double kNibbled = 0.75;
 // What a height reckoned in millimeters may be off.
 constexpr double kHairMm = 1e-6;
 
-void RequireCanvas(double widthCm, const PlanSketch& sketch) {
-    const double heightCm = widthCm * sketch.Height / sketch.Width;
-    if (widthCm < kSmallestCanvasCm || std::max(widthCm, heightCm) > kLargestCanvasCm) {
-        throw Error("A canvas of " + std::to_string(std::lround(widthCm)) + " x " +
-                    std::to_string(std::lround(heightCm)) +
+void RequireCanvas(const SizeMm& canvas, double shortest) {
+    if (shortest / 10 < kSmallestCanvasCm ||
+        std::max(canvas.Width, canvas.Height) / 10 > kLargestCanvasCm) {
+        throw Error("A canvas of " + std::to_string(std::lround(canvas.Width / 10)) + " x " +
+                    std::to_string(std::lround(canvas.Height / 10)) +
                     " cm cannot be printed. Choose a width of 10 cm or more, and no side longer "
                     "than 300 cm.");
     }
@@ -51,18 +53,36 @@ PrintScale LegibleScale(const PlanSketch& sketch) {
         std::min(LegiblePixelMm(sketch), sketch.InStipple.Times(kNibbled).LegiblePixelMm()));
 }
 
-PrintScale ScaleOf(const PlanSketch& sketch, double canvasCm) {
-    RequireCanvas(canvasCm, sketch);
-    return PrintScale::OfCanvas(canvasCm, sketch.Width);
+PrintScale ScaleOf(const PlanSketch& sketch, const PlanSettings& settings) {
+    const SizeMm& canvas = settings.Canvas;
+    if (canvas.Width > 0) {
+        RequireCanvas(canvas, std::min(canvas.Width, canvas.Height));
+        return PrintScale::OfPixel(FittedPixelMm(canvas, sketch.Width, sketch.Height));
+    }
+    const double width = settings.CanvasCm * 10;
+    RequireCanvas({width, width * sketch.Height / sketch.Width}, width);
+    return PrintScale::OfCanvas(settings.CanvasCm, sketch.Width);
 }
 
-std::vector<PaperChoice> ChoicesFor(Paper paper) {
+// The sheet upright and lying, with the list below the picture, or beside it in a wide column or
+// two narrow ones.
+std::vector<PaperChoice> ChoicesFor(const Paper& paper) {
     using Design = PlanPageDesign;
     const PageFrame frame{Design::kMargin + Design::kMarks,
                           Design::kMargin + Design::kHeading + Design::kMarks,
                           Design::kMargin + Design::kMarks};
-    const SizeMm upright = SizeOf(paper);
-    return {{upright, frame}, {{upright.Height, upright.Width}, frame}};
+    std::vector<PaperChoice> choices;
+    for (const SizeMm sheet : {paper.Size, SizeMm{paper.Size.Height, paper.Size.Width}}) {
+        const double below = sheet.Width - Design::kLeft - Design::kMargin;
+        choices.push_back({sheet, frame, std::max(1, int(below / Design::kLegendColumn)), 0});
+        choices.push_back({sheet, frame, 1, Design::kLegendColumn});
+        choices.push_back({sheet, frame, 2, 2 * Design::kNarrowColumn});
+    }
+    return choices;
+}
+
+SizeMm PictureAt(const PlanSketch& sketch, PrintScale scale) {
+    return {scale.Mm(sketch.Width), scale.Mm(sketch.Height)};
 }
 
 // Paper that is printed anyway may as well carry larger symbols.
@@ -72,16 +92,41 @@ double Growth(const PagePlan& pages) {
     return std::max(1.0, width / pages.Canvas.Width);
 }
 
-PagePlan PagesAt(const PlanSketch& sketch, PrintScale scale, Paper sheet) {
+PagePlan PagesAt(const PlanSketch& sketch, PrintScale scale, const Paper& sheet) {
     const auto listHeight = [&sketch, scale](const PaperChoice& paper, const PlanRect& own) {
         const auto paints = PaintsWithin(sketch.Regions, InPixels(own, scale));
-        return PlanPageDesign::LegendHeight(paper.Sheet.Width, static_cast<int>(paints.size()));
+        return PlanPageDesign::LegendHeight(paper, static_cast<int>(paints.size()));
     };
-    return PlanPages({{scale.Mm(sketch.Width), scale.Mm(sketch.Height)},
+    return PlanPages({PictureAt(sketch, scale),
                       // Pixel 0 is before the first stipple.
                       {scale.MmPerPixel(), scale.MmPerStipple(sketch.StippleSize)},
                       listHeight},
                      ChoicesFor(sheet));
+}
+
+// With the margins of a canvas that is of another shape.
+PlanSheets OnCanvas(PlanSheets sheets, const PlanSettings& settings) {
+    const SizeMm& picture = sheets.Pages.Canvas;
+    sheets.Canvas = settings.Canvas.Width > 0 ? settings.Canvas : picture;
+    sheets.PictureAt = {(sheets.Canvas.Width - picture.Width) / 2,
+                        (sheets.Canvas.Height - picture.Height) / 2};
+    return sheets;
+}
+
+PrintScale OfRoundWidth(const PlanSketch& sketch, PrintScale scale) {
+    const double width = std::ceil(scale.Mm(sketch.Width) / kRoundMm) * kRoundMm;
+    return PrintScale::OfCanvas(width / 10, sketch.Width);
+}
+
+// The whole canvas as it is printed for a frame.
+PlanSheets OnOneSheet(const PlanSketch& sketch, PrintScale scale, const PlanSettings& settings) {
+    const SizeMm picture = PictureAt(sketch, scale);
+    const PlanRect all{0, 0, picture.Width, picture.Height};
+    PagePlan pages{{}, picture, 1, 1, {{0, 0, all, all, 0}}};
+    PlanSheets sheets = OnCanvas({std::move(pages), scale, {}, {}}, settings);
+    const double around = 2 * (settings.BleedMm + PlanPageDesign::kWholeCanvasEdge);
+    sheets.Pages.Paper.Sheet = {sheets.Canvas.Width + around, sheets.Canvas.Height + around};
+    return sheets;
 }
 
 int CanvasThatDoesCm(const PlanSketch& sketch) {
@@ -130,18 +175,16 @@ PlanRect InPixels(const PlanRect& part, PrintScale scale) {
             scale.Pixels(part.Bottom)};
 }
 
-double PlanPageDesign::ListWidth(double paperWidth) {
-    return paperWidth - kLeft - kMargin;
+double PlanPageDesign::ListWidth(const PaperChoice& paper) {
+    return paper.Beside > 0 ? paper.Beside : paper.Sheet.Width - kLeft - kMargin;
 }
 
-int PlanPageDesign::LegendColumns(double paperWidth) {
-    return static_cast<int>(ListWidth(paperWidth) / kLegendColumn);
+int PlanPageDesign::LegendRows(const PaperChoice& paper, int paints) {
+    return (paints + paper.ListColumns - 1) / paper.ListColumns;
 }
 
-double PlanPageDesign::LegendHeight(double paperWidth, int paints) {
-    const int columns = LegendColumns(paperWidth);
-    const int rows = (paints + columns - 1) / columns;
-    return rows * kLegendRow;
+double PlanPageDesign::LegendHeight(const PaperChoice& paper, int paints) {
+    return LegendRows(paper, paints) * kLegendRow + (paper.Beside > 0 ? kLegendTitle : 0);
 }
 
 PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
@@ -162,14 +205,14 @@ PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
 }
 
 PlanSheets LayOutSheets(const PlanSketch& sketch, const PlanSettings& settings) {
-    if (settings.CanvasCm > 0) {
-        const PrintScale scale = ScaleOf(sketch, settings.CanvasCm);
-        return {PagesAt(sketch, scale, settings.Sheet), scale};
+    const bool chosen = settings.HasCanvas();
+    const PrintScale scale = chosen ? ScaleOf(sketch, settings) : LegibleScale(sketch);
+    if (settings.Sheet.IsCanvas()) {
+        return OnOneSheet(sketch, chosen ? scale : OfRoundWidth(sketch, scale), settings);
     }
-    const PrintScale scale = LegibleScale(sketch);
     const PagePlan pages = PagesAt(sketch, scale, settings.Sheet);
-    const double growth = Growth(pages);
-    return {Enlarged(pages, growth), scale.Enlarged(growth)};
+    const double growth = chosen ? 1 : Growth(pages);
+    return OnCanvas({Enlarged(pages, growth), scale.Enlarged(growth), {}, {}}, settings);
 }
 
 double WidestCanvasCm(const PlanSketch& sketch) {
@@ -179,9 +222,14 @@ double WidestCanvasCm(const PlanSketch& sketch) {
 PlanFigures FiguresOf(const PlanSketch& sketch, const PlanSettings& settings) {
     const PlanSheets sheets = LayOutSheets(sketch, settings);
     PlanFigures figures;
-    figures.Canvas = sheets.Pages.Canvas;
+    figures.Canvas = sheets.Canvas;
+    figures.Picture = sheets.Pages.Canvas;
+    figures.Inches = settings.InInches();
+    figures.Ml = figures.Picture.Width * figures.Picture.Height / 100 * settings.Use.Coats /
+                 settings.Use.Cm2PerMl;
     figures.Pages = static_cast<int>(sheets.Pages.Tiles.size());
     figures.Symbols = static_cast<int>(sketch.Rooms.size());
+    figures.Hours = PaintingHours(figures.Symbols, figures.Picture.Width * figures.Picture.Height);
     figures.SmallestMm = kLargestSymbolMm;
     for (const SymbolRoom& room : sketch.Rooms) {
         const double height = room.SymbolMm(sheets.Scale);
@@ -191,7 +239,7 @@ PlanFigures FiguresOf(const PlanSketch& sketch, const PlanSettings& settings) {
     if (figures.Small > 0) {
         figures.CanvasThatDoesCm = CanvasThatDoesCm(sketch);
         figures.LevelThatDoes =
-            settings.CanvasCm > 0 ? LevelThatDoes(sketch, sheets.Scale) : std::nullopt;
+            settings.HasCanvas() ? LevelThatDoes(sketch, sheets.Scale) : std::nullopt;
     }
     return figures;
 }
@@ -207,7 +255,10 @@ std::string WarningOf(const PlanFigures& figures) {
     }
     std::string remedy;
     if (figures.CanvasThatDoesCm > 0) {
-        remedy = "a canvas of " + std::to_string(figures.CanvasThatDoesCm) + " cm";
+        const double inches = figures.CanvasThatDoesCm * 10 / kMmPerInch;
+        remedy =
+            "a canvas of " + (figures.Inches ? Decimals(std::ceil(inches * 2) / 2, 1) + " in"
+                                             : std::to_string(figures.CanvasThatDoesCm) + " cm");
     }
     if (figures.LevelThatDoes) {
         remedy += (remedy.empty() ? "" : " or ") +

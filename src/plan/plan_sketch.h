@@ -30,6 +30,9 @@ inline constexpr int kDarkestGray = 100;
 struct PlanSettings {
     Paper Sheet = Paper::A4;
     double CanvasCm = 0;  // width of the finished canvas; 0: chosen by MakePrintPlan
+    SizeMm Canvas = {};   // both its sides: the picture is fitted in, and CanvasCm without meaning
+    double BleedMm = 0;   // around it, for wrapping round a frame; where it is the paper too
+    bool InchCanvas = false;  // the painter named it in inches
     SymbolStyle Symbols = SymbolStyle::Letters;
     LineShape Lines = LineShape::ByKit;
     int Gray = kUsualGray;  // kLightestGray..kDarkestGray
@@ -37,7 +40,14 @@ struct PlanSettings {
     bool GroupBySet = false;          // the chart's paints
     std::string Maker = {};           // whose kit it is: a name or a line of address; may be empty
     std::filesystem::path Logo = {};  // a picture file; empty: none
+
+    bool operator==(const PlanSettings&) const = default;
+    [[nodiscard]] bool InInches() const { return InchCanvas || Sheet.Inches; }
+    [[nodiscard]] bool HasCanvas() const { return CanvasCm > 0 || Canvas.Width > 0; }
 };
+
+/// The widest bleed, in millimetres.
+inline constexpr double kWidestBleedMm = 100;
 
 /// Whether a plan of such a grid has curves.
 [[nodiscard]] bool HasSmoothLines(const PlanSettings& settings, const StippleGrid& grid);
@@ -49,12 +59,19 @@ struct PlanPageDesign {
     static constexpr double kMarks = 5;  // crop marks around the picture
     // The picture, the heading and the list begin where the left margin is cut off.
     static constexpr double kLeft = kMargin + kMarks;
+    static constexpr double kPictureTop = kMargin + kHeading + kMarks;
     static constexpr double kLegendColumn = 46;
+    static constexpr double kNarrowColumn = 33;  // where two of them stand beside the picture
     static constexpr double kLegendRow = 4.3;
 
-    [[nodiscard]] static double ListWidth(double paperWidth);
-    [[nodiscard]] static int LegendColumns(double paperWidth);
-    [[nodiscard]] static double LegendHeight(double paperWidth, int paints);
+    static constexpr double kLegendTitle = 5;       // above a list beside the picture
+    static constexpr double kWholeCanvasEdge = 12;  // for marks and ruler, beyond the bleed
+
+    /// What the list has, below the picture or beside it.
+    [[nodiscard]] static double ListWidth(const PaperChoice& paper);
+    /// Rows of a list of so many paints.
+    [[nodiscard]] static int LegendRows(const PaperChoice& paper, int paints);
+    [[nodiscard]] static double LegendHeight(const PaperChoice& paper, int paints);
 };
 
 /// A part of the canvas in millimeters as one of the painted picture in pixels.
@@ -81,6 +98,8 @@ struct PlanSketch {
 struct PlanSheets {
     PagePlan Pages;
     PrintScale Scale;
+    SizeMm Canvas;        // the picture and its margins
+    PlanPoint PictureAt;  // on it, in millimetres
 };
 
 /// Without a canvas asked for the fewest pages on which symbols can be read, and then the largest
@@ -94,6 +113,10 @@ struct PlanSheets {
 /// What a painter should know of a plan before printing it.
 struct PlanFigures {
     SizeMm Canvas;
+    SizeMm Picture;                           // smaller where the canvas is of another shape
+    bool Inches = false;                      // what the painter reads
+    double Ml = 0;                            // of all paints
+    double Hours = 0;                         // of painting
     int Pages = 0;                            // without those in front of the plan
     int Symbols = 0;                          // one an area
     int Small = 0;                            // of the areas without room for kLegibleSymbolMm

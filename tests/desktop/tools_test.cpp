@@ -1,6 +1,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QInputDialog>
 #include <QLabel>
@@ -190,6 +191,23 @@ void ToolsTest::ThePdfWindowTellsWhatACanvasDoesToTheSymbols() {
     QVERIFY(text("PlanPages") != pages);
     QVERIFY2(text("PlanWarning").contains("no room for a symbol"), qPrintable(text("PlanWarning")));
     QCOMPARE(Spoken(Find<QLabel>(window, "PlanWarning")), text("PlanWarning"));
+    Find<QRadioButton>(window, "SizedCanvas").click();
+    auto& across = Find<QDoubleSpinBox>(window, "CanvasAcross");
+    across.setFocus();
+    across.selectAll();
+    QTest::keyClicks(&across, "20");
+    QTest::keyClick(&across, Qt::Key_Tab);
+    QVERIFY2(text("PlanCanvas").startsWith("20.0 \u00d7 40.0 cm, the picture 20.0"),
+             qPrintable(text("PlanCanvas")));
+    auto& paper = Find<QComboBox>(window, "Paper");
+    QVERIFY(!Find<QDoubleSpinBox>(window, "PlanBleed").isEnabled());
+    QTest::keyClick(&paper, Qt::Key_T);
+    QVERIFY(!Find<QDoubleSpinBox>(window, "PaperWidth").isEnabled());
+    QTRY_VERIFY(!Find<QLabel>(window, "PlanPage").pixmap().isNull());
+    const QImage letters = Find<QLabel>(window, "PlanPage").pixmap().toImage();
+    QTest::keyClick(&Find<QComboBox>(window, "PlanSymbols"), Qt::Key_End);
+    QTRY_VERIFY(Find<QLabel>(window, "PlanPage").pixmap().toImage() != letters);
+    QCOMPARE(desktop_->Form().Everything().Plan().Settings().Symbols, SymbolStyle::Signs);
     Press(window, "CancelPdf");
 }
 
@@ -204,13 +222,13 @@ void ToolsTest::SaveEverythingShowsThePlanItPrints() {
     for (const char* wanted : {"SaveGrid", "SavePdfToo"}) {
         QTest::keyClick(&Find<QCheckBox>(window, wanted), Qt::Key_Space);
     }
-    QVERIFY(warning.isEnabled() && !warning.text().contains("smaller"));
+    QVERIFY(warning.isEnabled() && !warning.text().contains("no room"));
     QTest::mouseClick(&Find<QRadioButton>(window, "ChosenCanvas"), Qt::LeftButton);
     auto& width = Find<QDoubleSpinBox>(window, "CanvasWidth");
     width.selectAll();
     QTest::keyClicks(&width, "12");
     QTest::keyClick(&width, Qt::Key_Tab);
-    QVERIFY2(warning.text().contains("smaller than 2 mm"), qPrintable(warning.text()));
+    QVERIFY2(warning.text().contains("no room for a symbol"), qPrintable(warning.text()));
     {
         NextMessage saved;
         QTest::keyClick(&window, Qt::Key_Return);

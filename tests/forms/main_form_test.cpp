@@ -136,6 +136,10 @@ class Printer : public Exporter {
         aspects.fill(0.7);
         return aspects;
     }
+    Surface Preview(const Workplace& /*place*/, const PlanSettings& /*settings*/,
+                    int longest) const override {
+        return Surface(longest, longest);
+    }
     void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
                const Target& target) const override {
         place.Screen.SetCaption("Printing");
@@ -171,7 +175,7 @@ TEST(SaveEverything, SavesWhatIsChosenWithOneProgressAndRemembersIt) {
     form.Pdf_Click(true);
     form.Svg_Click(true);
     form.Page_Click(true);
-    form.Plan().Paper_Click(Paper::A3);
+    form.Plan().Choose({.Sheet = Paper::A3});
     EXPECT_THROW(form.SaveButton_Click(), Error);
     EXPECT_THAT(studio.Screen.OpenForms, ElementsAre(FormId::SaveEverything));
     EXPECT_EQ(studio.Screen.Captions.back(), "Vendrel -four");

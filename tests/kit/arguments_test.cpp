@@ -105,6 +105,30 @@ TEST(Arguments, OtherCommandsAreTold) {
     EXPECT_EQ(Parse({"symbols", "--folder", "x"}).Folder, "x");
 }
 
+TEST(Arguments, CanvasAndPaperAreMeasuredInAnyUnit) {
+    struct Case {
+        const char* Canvas;
+        double WidthCm;
+        SizeMm Size;
+        bool Inches;
+    };
+    for (const Case& c :
+         {Case{"400mm", 40, {}, false}, Case{"16in", 40.64, {}, true},
+          Case{"40x50cm", 0, {400, 500}, false}, Case{"40X50", 0, {400, 500}, false},
+          Case{"16x20in", 0, {406.4, 508}, true}, Case{"auto", 0, {}, false}}) {
+        const KitOptions kit = Parse({"kit", "a.bmp", "--canvas", c.Canvas}).Kit;
+        EXPECT_DOUBLE_EQ(kit.Chosen.CanvasCm, c.WidthCm) << c.Canvas;
+        EXPECT_EQ(kit.Plan.Canvas, c.Size) << c.Canvas;
+        EXPECT_EQ(kit.Plan.InInches(), c.Inches) << c.Canvas;
+    }
+    const auto paper = [](const char* word) {
+        return Parse({"kit", "a.bmp", "--paper", word}).Kit.Plan.Sheet;
+    };
+    EXPECT_EQ(paper("400x250mm"), (Paper{{250, 400}}));
+    EXPECT_TRUE(paper("13x19in").Inches && paper("legal").Inches);
+    EXPECT_TRUE(paper("canvas").IsCanvas());
+}
+
 TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
     struct Case {
         std::initializer_list<std::string_view> Words;
@@ -133,7 +157,13 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--outputs", "sheet,poster"}, "\"poster\""},
         {{"kit", "a.bmp", "--crop=left"}, "center or top"},
         {{"kit", "a.bmp", "--fit", "squash"}, "keep, crop, top or stretch"},
-        {{"kit", "a.bmp", "--paper", "A5"}, "A4, Letter or A3"},
+        {{"kit", "a.bmp", "--paper", "A6"}, "A4, Letter, A3, A5, A2, A1, Legal, Tabloid, canvas"},
+        {{"kit", "a.bmp", "--paper", "250mm"}, "140x140mm to 2000x2000mm"},
+        {{"kit", "a.bmp", "--paper", "100x400"}, "140x140mm to 2000x2000mm"},
+        {{"kit", "a.bmp", "--bleed", "20mm"}, "Add --paper canvas"},
+        {{"kit", "a.bmp", "--paper=canvas", "--bleed", "101mm"}, "up to 100mm"},
+        {{"kit", "a.bmp", "--canvas", "40x9cm"}, "40x50cm"},
+        {{"kit", "a.bmp", "--canvas", "40x50x60"}, "40x50cm"},
         {{"kit", "a.bmp", "--canvas", "9cm"}, "10cm to 300cm"},
         {{"kit", "a.bmp", "--canvas", "nan"}, "10cm to 300cm"},
         {{"kit", "a.bmp", "--canvas", "60mm"}, "10cm to 300cm"},

@@ -94,6 +94,17 @@ TEST(PageTiling, GivesEveryPageTheRoomItsOwnListNeeds) {
     EXPECT_EQ(pages(0, 87.1), 3U);
 }
 
+TEST(PageTiling, PlacesListsBesideThePictureForFewerPages) {
+    const PageFrame frame{12, 26, 12};
+    const auto plan = [&frame](double list) {
+        return PlanPages({{400, 300}, {}, [list](const auto&, const auto&) { return list; }},
+                         {{{297, 210}, frame}, {{297, 210}, frame, 2, 66}});
+    };
+    EXPECT_EQ(plan(60).Paper.Beside, 66);
+    EXPECT_EQ(plan(60).Tiles.size(), 4U);
+    EXPECT_THROW((void)plan(173), Error) << "it is longer than the page";
+}
+
 TEST(PageTiling, TurnsThePaperForFewerPages) {
     EXPECT_EQ(PlanPages(CanvasOf({180, 217}), kA4).Paper.Sheet, (SizeMm{210, 297}));
     const PagePlan wide = PlanPages(CanvasOf({267, 130}), kA4);
@@ -138,7 +149,8 @@ TEST(PaintNeeds, AreOfTheCanvasWithPotsToSpare) {
     EXPECT_EQ(needs[2].Pots, 1);
     EXPECT_DOUBLE_EQ(SumOf(needs).Cm2, 2);
     EXPECT_EQ(SumOf(needs).Pots, 4);
-    EXPECT_EQ(UseText(use), "3 coats at 1 ml for 0.5 cm\u00b2, pots of 4 ml with 15 % to spare");
+    EXPECT_EQ(UseText(use, false),
+              "3 coats at 1 ml for 0.5 cm\u00b2, pots of 4 ml with 15 % to spare");
 }
 
 TEST(PageTiling, ListsThePaintsOfAPage) {

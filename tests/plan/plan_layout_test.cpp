@@ -7,6 +7,7 @@
 
 #include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
+#include "plan/bleed.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -108,6 +109,34 @@ TEST_F(PlannedPicture, TellsWhichCanvasOrDifficultyMakesSymbolsLegible) {
               "1 of 1,001 areas has no room for a symbol of 2 mm, the smallest for one of 0.0 mm.");
     sketch.Rooms = Rooms({0.6});
     EXPECT_EQ(FiguresOf(sketch, {.Sheet = Paper::A4, .CanvasCm = 15}).Small, 0);
+}
+
+// The picture is 36 by 30 pixels.
+TEST_F(PlannedPicture, StandsInTheMiddleOfACanvasOfBothSides) {
+    const PrintPlan high = Plan({.Canvas = {180, 250}});
+    EXPECT_DOUBLE_EQ(high.Scale.MmPerPixel(), 5);
+    EXPECT_EQ(high.PictureAt, (PlanPoint{0, 50}));
+    EXPECT_EQ(high.Pages.Canvas, (SizeMm{180, 150}));
+    const PrintPlan whole = Plan({.Sheet = Paper::Canvas, .Canvas = {460, 300}, .BleedMm = 20});
+    EXPECT_EQ(whole.PictureAt, (PlanPoint{50, 0}));
+    EXPECT_EQ(whole.Pages.Tiles.size(), 1U);
+    EXPECT_EQ(whole.Pages.Paper.Sheet, (SizeMm{460 + 64, 300 + 64}));
+    EXPECT_THROW((void)Plan({.Canvas = {99, 250}}), Error);
+    EXPECT_THROW((void)Plan({.Canvas = {250, 3001}}), Error);
+}
+
+TEST_F(PlannedPicture, CarriesItsBordersOnIntoTheBleedSquareToTheEdge) {
+    const PrintPlan plan = Plan({.CanvasCm = 36, .Lines = LineShape::Smooth});
+    const auto all = CarryOn(plan.Lines, {36, 30}, {3, 2});
+    EXPECT_GE(all.size(), 4U);
+    for (const BleedLine& line : all) {
+        const double across = line.To.X - line.From.X;
+        const double down = line.To.Y - line.From.Y;
+        EXPECT_TRUE(across == 0 || down == 0);
+        EXPECT_DOUBLE_EQ(std::abs(across) + std::abs(down), across == 0 ? 2 : 3);
+        EXPECT_TRUE(line.To.X <= 0 || line.To.Y <= 0 || line.To.X >= 36 || line.To.Y >= 30);
+    }
+    EXPECT_LT(CarryOn(plan.Lines, {36, 30}, {0, 2}).size(), all.size());
 }
 
 TEST_F(PlannedPicture, RefusesWhatCannotBePrinted) {

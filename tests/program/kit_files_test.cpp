@@ -154,6 +154,10 @@ class NamingExporter final : public Exporter {
         aspects.fill(0.7);
         return aspects;
     }
+    Surface Preview(const Workplace& /*place*/, const PlanSettings& /*settings*/,
+                    int longest) const override {
+        return Surface(longest, longest);
+    }
     void Write(OutputId output, const Workplace& /*place*/, const PlanSettings& settings,
                const Target& target) const override {
         WriteWholeFile(target.File, "drawn");

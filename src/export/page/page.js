@@ -291,7 +291,10 @@ function choose(paint, area) {
   picked = area;
   plan.classList.toggle('choosing', chosen >= 0);
   byId('picked').setAttribute('d', picked < 0 ? '' : byId('a' + picked).getAttribute('d'));
-  if (other) listAreas();
+  if (other) {
+    listAreas();
+    if (chosen >= 0) byId('paint-' + chosen).scrollIntoView({ block: 'nearest', inline: 'nearest' });
+  }
   showState();
 }
 
@@ -340,6 +343,7 @@ function showPaint(i, paint) {
   const count = doneOf(paint);
   const all = count === paint.areas.length;
   row.setAttribute('aria-pressed', i === chosen);
+  row.setAttribute('aria-label', `${paint.symbol} ${paint.name}, ${count} of ${paint.areas.length} areas painted`);
   row.classList.toggle('done', all);
   row.querySelector('.left').textContent = all ? 'done' : `${counted(count)} / ${counted(paint.areas.length)}`;
   row.querySelector('i').style.width = 100 * count / paint.areas.length + '%';
@@ -387,7 +391,6 @@ function listPaints() {
     row.className = 'paint';
     row.innerHTML = chip(paint) + '<span class="name"></span><span class="left"></span><span class="bar"><i></i></span>';
     row.querySelector('.name').textContent = paint.name;
-    row.setAttribute('aria-label', `${paint.symbol} ${paint.name}, ${paint.areas.length} areas`);
     row.title = [paint.name, paint.set, paint.code].filter(Boolean).join(', ');
     row.addEventListener('click', () => choose(i === chosen ? -1 : i, -1));
     const item = document.createElement('li');

@@ -1,0 +1,83 @@
+#include "export/drawn_kit.h"
+
+#include <QtGui/QImageReader>
+#include <algorithm>
+
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+// Pages in front of the plan are laid out at least that wide, and printed smaller where the paper
+// is narrower.
+constexpr double kFrontMm = 200;
+
+SizeMm FrontOf(const PlanSettings& settings) {
+    return FrontPaperFor(settings.Sheet, settings.InInches()).Size;
+}
+
+double FrontScaleOf(const PlanSettings& settings) {
+    return std::min(1.0, FrontOf(settings).Width / kFrontMm);
+}
+
+SizeMm LaidOutFront(const PlanSettings& settings) {
+    const SizeMm front = FrontOf(settings);
+    const double scale = FrontScaleOf(settings);
+    return {front.Width / scale, front.Height / scale};
+}
+
+std::vector<PlanRect> BoxesOf(const PrintPlan& plan) {
+    std::vector<PlanRect> boxes;
+    for (const PlanLabel& label : plan.Labels) {
+        const PrintScale scale = plan.Scale;
+        const PlanRect box = BoxOf(label, plan.Aspects[plan.Regions[label.Region].Value]);
+        boxes.push_back(
+            {scale.Mm(box.Left), scale.Mm(box.Top), scale.Mm(box.Right), scale.Mm(box.Bottom)});
+    }
+    return boxes;
+}
+
+Surface PaintingOf(const PaintedRegions& regions, const WorkState& state) {
+    Surface painting(regions.Ids.Across() + 1, regions.Ids.Down() + 1);
+    for (int y = 0; y < painting.Height(); ++y) {
+        for (int x = 0; x < painting.Width(); ++x) {
+            const Region& region = regions[regions.Ids(x, y)];
+            painting.Set(x, y, ColorOf(state.PaintColors[region.Value]));
+        }
+    }
+    return painting;
+}
+
+QImage LogoOf(const PlanSettings& settings) {
+    if (settings.Logo.empty()) {
+        return {};
+    }
+    QImageReader reader(QString::fromStdString(settings.Logo.string()));
+    reader.setAutoTransform(true);
+    QImage logo = reader.read();
+    if (logo.isNull()) {
+        throw FileError(settings.Logo,
+                        "cannot be read as a logo. Choose a PNG or JPEG picture for it.");
+    }
+    return logo;
+}
+
+}  // namespace
+
+DrawnKit::DrawnKit(const Workplace& place, const PlanSettings& settings)
+    : symbols_(settings.Symbols, place.State->PaintCount),
+      plan_(MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings,
+                          symbols_.Aspects())),
+      pages_{place,
+             plan_,
+             symbols_,
+             LaidOutFront(settings),
+             FrontScaleOf(settings),
+             BoxesOf(plan_),
+             PaintingOf(plan_.Regions, place.State),
+             settings,
+             PaintNeeds(plan_.Regions, plan_.Pages, plan_.Scale, place.State->PaintCount,
+                        settings.Use),
+             LogoOf(settings)} {}
+
+}  // namespace vendrel

@@ -1,0 +1,36 @@
+#include "plan/bleed.h"
+
+namespace vendrel {
+namespace {
+
+// -1 at the near edge, 1 at the far one.
+int SideOf(double at, double length) {
+    constexpr double kHair = 1e-6;
+    return at < kHair ? -1 : at > length - kHair ? 1 : 0;
+}
+
+void CarryOnFrom(const PlanPoint& end, const PlanPoint& size, const Bleed& bleed,
+                 std::vector<BleedLine>& lines) {
+    const double across = SideOf(end.X, size.X) * bleed.Across;
+    const double down = SideOf(end.Y, size.Y) * bleed.Down;
+    if (across != 0) {
+        lines.push_back({end, {end.X + across, end.Y}});
+    } else if (down != 0) {
+        lines.push_back({end, {end.X, end.Y + down}});
+    }
+}
+
+}  // namespace
+
+std::vector<BleedLine> CarryOn(const PlanLines& lines, const PlanPoint& size, const Bleed& bleed) {
+    std::vector<BleedLine> carried;
+    for (const PlanChain& chain : lines.Chains) {
+        if (!chain.IsEdge() && !chain.IsLoop) {
+            CarryOnFrom(chain.Points.front(), size, bleed, carried);
+            CarryOnFrom(chain.Points.back(), size, bleed, carried);
+        }
+    }
+    return carried;
+}
+
+}  // namespace vendrel
