@@ -15,9 +15,10 @@ namespace vendrel {
 namespace {
 
 constexpr double kMargin = 15;
-constexpr double kTop = 44;     // of the first row
+constexpr double kTop = 38;     // of the first row
 constexpr double kRow = 8.6;    // holds a swatch of 8 mm
-constexpr double kFooter = 14;  // the sums
+constexpr double kFooter = 12;  // the sums
+constexpr double kBottom = 12;
 const QColor kFaint(90, 90, 90);
 const QColor kRule(200, 200, 200);
 
@@ -209,7 +210,7 @@ std::vector<Row> RowsOf(const KitPages& kit) {
 }
 
 std::size_t RowsOnPage(const SizeMm& paper) {
-    return static_cast<std::size_t>((paper.Height - kMargin - kFooter - kTop) / kRow);
+    return static_cast<std::size_t>((paper.Height - kBottom - kFooter - kTop) / kRow);
 }
 
 }  // namespace

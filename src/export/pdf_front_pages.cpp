@@ -35,15 +35,13 @@ double SmallestLabelMm(const PrintPlan& plan) {
 
 QString KitSummary(const KitPages& kit) {
     const WorkState& state = kit.Place.State;
-    const QString note = kit.StyleNote();
     return QString(
                "%1 paints  \u2022  canvas %2  \u2022  plan on %3 %4  \u2022  symbols from %5 mm")
-               .arg(state.PaintCount)
-               .arg(ToQt(SizeText(kit.Plan.Canvas, kit.Settings.InInches())))
-               .arg(kit.Plan.Pages.Tiles.size())
-               .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
-               .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1) +
-           (note.isEmpty() ? note : "  \u2022  " + note);
+        .arg(state.PaintCount)
+        .arg(ToQt(SizeText(kit.Plan.Canvas, kit.Settings.InInches())))
+        .arg(kit.Plan.Pages.Tiles.size())
+        .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
+        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1);
 }
 
 struct CoverPlaces {
@@ -108,9 +106,12 @@ void DrawMaker(QPainter& painter, const KitPages& kit, const QRectF& box) {
 
 const char* const kFirstStep =
     "Print all pages at their actual size (100 %), never fitted to the paper.";
-const char* const kPaintStep =
-    "Small letters are underlined. A symbol with a line belongs to the area in which the line "
-    "ends.";
+QString PaintStep(const KitPages& kit) {
+    const bool letters =
+        kit.Settings.Symbols == SymbolStyle::Letters || kit.Settings.Symbols == SymbolStyle::Clear;
+    return QString(letters ? "Small letters are underlined. " : "") +
+           "A symbol with a line belongs to the area in which the line ends.";
+}
 
 QString RulerStep(const KitPages& kit) {
     return kit.Settings.InInches()
@@ -141,7 +142,7 @@ QStringList StepsToGlue(const KitPages& kit) {
         "marks meet, and glue page to page, row by row, as the map shows.",
         QString("Cut off the outer margins, glue the plan onto the canvas or board, or trace it, "
                 "and fill every outline with the paint of its symbol. ") +
-            kPaintStep,
+            PaintStep(kit),
         "Keep the color chart at hand: it has the paints' codes, and the lists on the pages vanish "
         "under their neighbors."};
     if (kit.Plan.Canvas != kit.Plan.Pages.Canvas) {
@@ -156,7 +157,7 @@ QStringList StepsToStretch(const KitPages& kit) {
                 QString(kit.Settings.InInches() ? "2 inches and 5 cm long." : "5 cm long."),
             "The thin line is the edge of the canvas. What lies beyond is the bleed: it is wrapped "
             "round the frame, and the outlines run on there.",
-            QString("Fill every outline with the paint of its symbol. ") + kPaintStep};
+            QString("Fill every outline with the paint of its symbol. ") + PaintStep(kit)};
 }
 
 // Answers where the text ends.
@@ -214,7 +215,7 @@ std::string KitPages::Title() const {
 }
 
 QString KitPages::StyleNote() const {
-    return Settings.Symbols == SymbolStyle::Letters ? QString() : "symbols differ from the sheet";
+    return Settings.Symbols == SymbolStyle::Letters ? QString() : "Symbols differ from the sheet";
 }
 
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {
@@ -233,6 +234,9 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
         Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place.State, kit.Place.State, kit.Place.State)));
     DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
                    KitSummary(kit));
+    painter.setFont(TextFont(FontMm(3.5)));
+    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 22.5), width, Mm(5)}, Qt::AlignLeft,
+                   kit.StyleNote());
     DrawMaker(painter, kit,
               MmRect(kMargin, kit.FrontPaper.Height - kMargin - kMakerMm,
                      kit.FrontPaper.Width - 2 * kMargin, kMakerMm));

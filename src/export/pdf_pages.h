@@ -26,7 +26,7 @@ struct KitPages {
     QImage Logo;                   // null: none
 
     [[nodiscard]] std::string Title() const;  // photo and difficulty
-    /// What a painter must know who has the sheet too; empty for letters.
+    /// What a painter must know who has the sheet too: a line of its own; empty for letters.
     [[nodiscard]] QString StyleNote() const;
 };
 
