@@ -139,7 +139,7 @@ void PlanPanel::Name() {
     pot_->setDecimals(0);
     pot_->setSuffix(tr(" ml"));
     pot_->setSpecialValueText(tr("not counted"));
-    bySet_->setText(tr("by &set"));
+    bySet_->setText(tr("by set"));
     maker_->setPlaceholderText(tr("Your name or address"));
     noLogo_->setText(tr("&No logo"));
 }

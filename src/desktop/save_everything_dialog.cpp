@@ -26,8 +26,9 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
       pdf_(Named<QCheckBox>("SavePdfToo", tr("Kit as PDF, to print"))),
       svg_(Named<QCheckBox>("SaveSvgToo", tr("Plan as SVG, for drawing programs and cutters"))),
       page_(Named<QCheckBox>("SavePageToo", tr("Page to paint along with"))),
+      list_(Named<QCheckBox>("SaveListToo", tr("List of the paints to buy"))),
       plan_(new PlanPanel),
-      pages_(new QGroupBox(tr("The PDF"))),
+      pages_(new QGroupBox(tr("The plan"))),
       folders_(new ValueLabel("SaveFolders", tr("Folders"))) {
     setWindowTitle(tr("Save Everything"));
     Arrange();
@@ -44,6 +45,7 @@ void SaveEverythingDialog::Arrange() {
     choices->addWidget(pdf_);
     choices->addWidget(page_);
     choices->addWidget(svg_);
+    choices->addWidget(list_);
     (new QVBoxLayout(pages_))->addWidget(plan_);
     QPushButton* save =
         MakeButton("SaveEverything", tr("&Save"), [this] { form_.SaveButton_Click(); });
@@ -66,7 +68,7 @@ void SaveEverythingDialog::Arrange() {
         tr("Names the files in place of the photo's name: two kits of one photo do "
            "not overwrite each other."));
     auto* name = new QHBoxLayout;
-    name->addWidget(LabelFor(*name_, tr("Kit's &name")));
+    name->addWidget(LabelFor(*name_, tr("Kit's n&ame")));
     name->addWidget(name_, 1);
     auto* all = new QVBoxLayout(this);
     all->addLayout(name);
@@ -75,7 +77,7 @@ void SaveEverythingDialog::Arrange() {
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
     std::vector<QWidget*> order = plan_->Controls();
-    order.insert(order.begin(), {name_, grid_, pdf_, page_, svg_});
+    order.insert(order.begin(), {name_, grid_, pdf_, page_, svg_, list_});
     order.insert(order.end(), {save, cancel});
     SetTabOrder(order);
 }
@@ -92,11 +94,15 @@ void SaveEverythingDialog::Connect() {
             [this](bool on) { Run([this, on] { form_.Svg_Click(on); }); });
     connect(page_, &QCheckBox::clicked, this,
             [this](bool on) { Run([this, on] { form_.Page_Click(on); }); });
-    connect(pdf_, &QCheckBox::clicked, plan_, &PlanPanel::AskForPage);
+    connect(list_, &QCheckBox::clicked, this,
+            [this](bool on) { Run([this, on] { form_.List_Click(on); }); });
+    for (const QCheckBox* output : {pdf_, page_, svg_, list_}) {
+        connect(output, &QCheckBox::clicked, plan_, &PlanPanel::AskForPage);
+    }
     connect(plan_, &PlanPanel::Chosen, this,
             [this](const PlanSettings& wanted) { Run([&] { form_.Plan().Choose(wanted); }); });
     connect(plan_, &PlanPanel::PageWanted, this, [this](int longest) {
-        if (form_.Pdf()) {
+        if (form_.HasPlan()) {
             Run([&] { plan_->ShowPage(ToImage(form_.Plan().Preview(longest))); });
         }
     });
@@ -120,15 +126,18 @@ void SaveEverythingDialog::Mirror() {
         tr("S&tipples, to touch them up another day: %1").arg(InCaption(shown.GridFile)));
     pdf_->setText(tr("&Kit as PDF, to print: %1").arg(InCaption(shown.PdfFile)));
     page_->setText(
-        tr("Page to pa&int along with, on a phone or tablet: %1").arg(InCaption(shown.PageFile)));
+        tr("Page to paint along wit&h, on a phone or tablet: %1").arg(InCaption(shown.PageFile)));
     svg_->setText(
         tr("Plan as S&VG, for drawing programs and cutters: %1").arg(InCaption(shown.SvgFile)));
     folders_->Show(tr("In %1").arg(Text(shown.Folders)));
     grid_->setChecked(form_.Grid());
     pdf_->setChecked(form_.Pdf());
     svg_->setChecked(form_.Svg());
+    list_->setText(
+        tr("List of the paints to b&uy, for spreadsheets: %1").arg(InCaption(shown.ListFile)));
+    list_->setChecked(form_.List());
     page_->setChecked(form_.Page());
-    pages_->setEnabled(form_.Pdf());
+    pages_->setEnabled(form_.HasPlan());
     plan_->Mirror(form_.Plan());
 }
 

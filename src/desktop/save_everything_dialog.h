@@ -34,6 +34,7 @@ class SaveEverythingDialog : public FormDialog {
     QCheckBox* pdf_;
     QCheckBox* svg_;
     QCheckBox* page_;
+    QCheckBox* list_;
     PlanPanel* plan_;
     QGroupBox* pages_;
     ValueLabel* folders_;

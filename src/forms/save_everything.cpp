@@ -45,7 +45,14 @@ class Renaming {
 void SaveEverythingForm::Form_Load() {
     name_ = place_.State->PictureName;
     ListFiles();
-    Pdf_Click(std::exchange(pdf_, false));
+    std::vector<std::pair<bool*, bool>> kept;
+    // Chosen for another painting; this one may not be one that can be printed.
+    for (bool* const output : {&pdf_, &svg_, &page_, &list_}) {
+        kept.emplace_back(output, std::exchange(*output, false));
+    }
+    for (const auto& [output, wanted] : kept) {
+        Want(*output, wanted);
+    }
 }
 
 void SaveEverythingForm::Name_Change(const std::string& name) {
@@ -67,15 +74,16 @@ void SaveEverythingForm::ListFiles() {
     controls_.PdfFile = fileOf(OutputId::Pdf).filename().string();
     controls_.SvgFile = fileOf(OutputId::Svg).filename().string();
     controls_.PageFile = fileOf(OutputId::Page).filename().string();
+    controls_.ListFile = fileOf(OutputId::List).filename().string();
     controls_.Folders = FolderText(fileOf(OutputId::Sheet)) + "; the stipples in " +
                         FolderText(fileOf(OutputId::Grid));
 }
 
-void SaveEverythingForm::Pdf_Click(bool wanted) {
-    if (wanted && exporter_ != nullptr) {
+void SaveEverythingForm::Want(bool& output, bool wanted) {
+    if (wanted && !HasPlan() && exporter_ != nullptr) {
         plan_.Measure(place_, *exporter_);
     }
-    pdf_ = wanted;
+    output = wanted;
 }
 
 OutputChoice SaveEverythingForm::Chosen() const {
@@ -83,7 +91,8 @@ OutputChoice SaveEverythingForm::Chosen() const {
     const std::pair<OutputId, bool> wanted[] = {{OutputId::Grid, grid_},
                                                 {OutputId::Pdf, pdf_},
                                                 {OutputId::Svg, svg_},
-                                                {OutputId::Page, page_}};
+                                                {OutputId::Page, page_},
+                                                {OutputId::List, list_}};
     for (const auto& [output, chosen] : wanted) {
         if (chosen) {
             outputs.Add(output);

@@ -15,6 +15,7 @@ struct SaveEverythingControls {
     std::string PdfFile;
     std::string SvgFile;
     std::string PageFile;
+    std::string ListFile;
     std::string Folders;    // where they come to stand
     std::string PhotoName;  // names the files unless the kit has a name of its own
 };
@@ -33,11 +34,13 @@ class SaveEverythingForm {
     /// Whether the stipples are saved too, to be touched up another day.
     void Grid_Click(bool wanted) { grid_ = wanted; }
     /// Whether the printed kit is saved too. Throws Error when the painting cannot be printed.
-    void Pdf_Click(bool wanted);
+    void Pdf_Click(bool wanted) { Want(pdf_, wanted); }
     /// Whether the plan is saved as a drawing too.
-    void Svg_Click(bool wanted) { svg_ = wanted; }
+    void Svg_Click(bool wanted) { Want(svg_, wanted); }
     /// Whether the page to paint along with is saved too.
-    void Page_Click(bool wanted) { page_ = wanted; }
+    void Page_Click(bool wanted) { Want(page_, wanted); }
+    /// Whether the list of paints to buy is saved too.
+    void List_Click(bool wanted) { Want(list_, wanted); }
     /// Saves all that is chosen as one set, closes, lists the files and offers to open their
     /// folder. The painted picture on screen is the same before and after. Throws Error, also for a
     /// name that files cannot have, and FileError; then the files and the kit's name stay as they
@@ -51,12 +54,16 @@ class SaveEverythingForm {
     [[nodiscard]] bool Pdf() const { return pdf_; }
     [[nodiscard]] bool Svg() const { return svg_; }
     [[nodiscard]] bool Page() const { return page_; }
-    /// Measured while the printed kit is chosen.
+    [[nodiscard]] bool List() const { return list_; }
+    /// Whether anything is chosen that the plan's settings hold for.
+    [[nodiscard]] bool HasPlan() const { return pdf_ || svg_ || page_ || list_; }
+    /// Measured while something of it is chosen.
     [[nodiscard]] PlanChoice& Plan() { return plan_; }
 
   private:
     [[nodiscard]] OutputChoice Chosen() const;
     void ListFiles();
+    void Want(bool& output, bool wanted);
 
     Workplace& place_;
     const Exporter* exporter_;
@@ -66,6 +73,7 @@ class SaveEverythingForm {
     bool pdf_ = false;
     bool svg_ = false;
     bool page_ = false;
+    bool list_ = false;
     PlanChoice plan_;
 };
 

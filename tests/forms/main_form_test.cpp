@@ -175,6 +175,7 @@ TEST(SaveEverything, SavesWhatIsChosenWithOneProgressAndRemembersIt) {
     form.Pdf_Click(true);
     form.Svg_Click(true);
     form.Page_Click(true);
+    form.List_Click(true);
     form.Plan().Choose({.Sheet = Paper::A3});
     EXPECT_THROW(form.SaveButton_Click(), Error);
     EXPECT_THAT(studio.Screen.OpenForms, ElementsAre(FormId::SaveEverything));
@@ -193,7 +194,7 @@ TEST(SaveEverything, SavesWhatIsChosenWithOneProgressAndRemembersIt) {
     EXPECT_EQ(studio.Screen.Progress.back(), std::pair(0, 0));
     studio.Screen.Progress.pop_back();
     EXPECT_TRUE(std::ranges::is_sorted(studio.Screen.Progress)) << "it never falls back";
-    EXPECT_EQ(studio.Screen.Progress.back(), std::pair(8000, 8000));
+    EXPECT_EQ(studio.Screen.Progress.back(), std::pair(9000, 9000));
     main.Click(SaveItAll);
     EXPECT_TRUE(main.Everything().Grid() && main.Everything().Pdf());
 }
