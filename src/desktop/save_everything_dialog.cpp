@@ -123,18 +123,17 @@ void SaveEverythingDialog::Mirror() {
     }
     always_->Show(always.join(QLatin1Char('\n')));
     grid_->setText(
-        tr("S&tipples, to touch them up another day: %1").arg(InCaption(shown.GridFile)));
-    pdf_->setText(tr("&Kit as PDF, to print: %1").arg(InCaption(shown.PdfFile)));
-    page_->setText(
-        tr("Page to paint along wit&h, on a phone or tablet: %1").arg(InCaption(shown.PageFile)));
+        tr("S&tipples, to touch them up another day:\n%1").arg(InCaption(shown.GridFile)));
+    pdf_->setText(tr("&Kit as PDF, to print:\n%1").arg(InCaption(shown.PdfFile)));
+    page_->setText(tr("Page to paint along wit&h:\n%1").arg(InCaption(shown.PageFile)));
     svg_->setText(
-        tr("Plan as S&VG, for drawing programs and cutters: %1").arg(InCaption(shown.SvgFile)));
+        tr("Plan as S&VG, for drawing programs and cutters:\n%1").arg(InCaption(shown.SvgFile)));
     folders_->Show(tr("In %1").arg(Text(shown.Folders)));
     grid_->setChecked(form_.Grid());
     pdf_->setChecked(form_.Pdf());
     svg_->setChecked(form_.Svg());
     list_->setText(
-        tr("List of the paints to b&uy, for spreadsheets: %1").arg(InCaption(shown.ListFile)));
+        tr("List of the paints to b&uy, for spreadsheets:\n%1").arg(InCaption(shown.ListFile)));
     list_->setChecked(form_.List());
     page_->setChecked(form_.Page());
     pages_->setEnabled(form_.HasPlan());
