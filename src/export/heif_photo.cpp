@@ -111,7 +111,7 @@ class HeifPhoto final : public PhotoSource {
         if (IsDeep()) {
             return pixels * 9 + pixels * 3 / static_cast<std::size_t>(divisor * divisor);
         }
-        return pixels * (HasAlpha() ? 8 : 6);
+        return pixels * (HasAlpha() ? 8 : 6) * (BitsPerChannel() > 8 ? 2 : 1);
     }
 
     [[nodiscard]] QImage Read(int divisor, const ReadProgress& progress) override {
@@ -138,8 +138,9 @@ class HeifPhoto final : public PhotoSource {
     }
 
     // With transparency it takes the other way: that of a telephone has none.
-    [[nodiscard]] bool IsDeep() const {
-        return heif_image_handle_get_luma_bits_per_pixel(photo_.get()) > 8 && !HasAlpha();
+    [[nodiscard]] bool IsDeep() const { return BitsPerChannel() > 8 && !HasAlpha(); }
+    [[nodiscard]] int BitsPerChannel() const {
+        return heif_image_handle_get_luma_bits_per_pixel(photo_.get());
     }
 
     // Brought to eight bits by the decoder, a photo of ten would be held in three depths at once.
