@@ -88,9 +88,9 @@ void Numbering::SizeGrids() {
         throw Error("The picture is not painted yet. Paint it before its areas are numbered.");
     }
     // Filling fresh memory takes its time, so the large grid is filled beside the others.
-    auto pixels = std::async(std::launch::async, [this] {
-        return PixelsOf(painted_.PixelMap, numbers_.NumberWidth, numbers_.NumberHeight,
-                        place_.Screen.Screen().Twips);
+    const TwipsPerPixel twips = place_.Screen.Screen().Twips;
+    auto pixels = std::async(std::launch::async, [this, twips] {
+        return PixelsOf(painted_.PixelMap, numbers_.NumberWidth, numbers_.NumberHeight, twips);
     });
     numbers_.NumberMarks = Grid<NumberMark>(numbers_.NumberWidth, numbers_.NumberHeight);
     record_ = SheetRecord(numbers_.NumberWidth, numbers_.NumberHeight);
