@@ -11,7 +11,7 @@ namespace vendrel {
 namespace {
 
 // The sheet's letters, those that are told apart best in print first (bench/symbol_order.cpp).
-constexpr std::string_view kClearestFirst = "M1LA52dFzWX7JYCsUkmcT9tRx43rgKaEZuyfBwNnGeHDPI0S68";
+constexpr std::string_view kClearestFirst = "L7A51dFUzXJmYWCksTfN9c4RZx3ag2EtrnweyKBHuDGIPMS068";
 static_assert(kClearestFirst.size() == kSymbolCharacters.size());
 
 }  // namespace
