@@ -9,18 +9,12 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
-#include <sstream>
 #include <string>
 #include <string_view>
 
-#include "cleanup/paint_pass.h"
 #include "convert/bitmap_writer.h"
-#include "convert/photo_import.h"
-#include "convert/stipple_conversion.h"
-#include "kit/kit_settings.h"
-#include "kit/terminal_ui.h"
 #include "output/kit_figures.h"
-#include "startup/start_up.h"
+#include "trial_place.h"
 
 namespace vendrel::bench {
 namespace {
@@ -46,33 +40,20 @@ struct Made {
 
 // Makes a kit of one photo, processor time: the machine may have other work.
 Made MakeOne(const Wish& wish, const std::string& photo, bool paintable) {
-    std::ostringstream nowhere;
-    TerminalUi ui(nowhere, Chatter::None, ScreenSize::FromPixels(1920, 1080));
-    WorkState state;
-    Surfaces frames;
-    Menu menu;
-    const ProgramFolder folder(wish.Folder, VENDREL_SOURCE_DIR);
-    Workplace place{state, frames, menu, ui, folder};
-    PrepareSettings(place);
-    (void)PrepareFolders(folder);
-    PreparePaints(place);
     KitOptions options;
     options.Chosen.Level = wish.Level;
     options.Chosen.FinalPaints = wish.Paints;
     options.Chosen.Detail = wish.Detail;
     options.Chosen.Paintable = paintable;
     options.Chosen.Match = paintable ? Matching::ByEye : Matching::Plain;
-    ApplySettings(place, options);
-
+    TrialPlace trial(wish.Folder, options);
     const std::clock_t start = std::clock();
-    (void)ChoosePhoto(state, folder, photo);
-    (void)LoadNewPicture(place);
-    (void)ChangeToStipples_Click(place);
-    PaintItNow_Click(place);
+    trial.Paint(photo);
     const std::clock_t end = std::clock();
-    return {MeasureKit(place),        CompareWithPhoto(place),
-            frames.WorkFrame.Picture, frames.CaptureFrame.Picture,
-            state.PaintCount,         1000.0 * static_cast<double>(end - start) / CLOCKS_PER_SEC};
+    return {
+        MeasureKit(trial.Place),        CompareWithPhoto(trial.Place),
+        trial.Frames.WorkFrame.Picture, trial.Frames.CaptureFrame.Picture,
+        trial.State.PaintCount,         1000.0 * static_cast<double>(end - start) / CLOCKS_PER_SEC};
 }
 
 void Row(const std::string& name, const Made& made) {

@@ -11,18 +11,12 @@
 #include <ctime>
 #include <filesystem>
 #include <limits>
-#include <sstream>
 #include <string>
 
-#include "cleanup/paint_pass.h"
-#include "convert/photo_import.h"
-#include "convert/stipple_conversion.h"
 #include "export/gui_application.h"
-#include "export/print_fonts.h"
-#include "kit/kit_settings.h"
-#include "kit/terminal_ui.h"
+#include "export/print_symbols.h"
 #include "plan/plan_layout.h"
-#include "startup/start_up.h"
+#include "trial_place.h"
 
 namespace vendrel::bench {
 namespace {
@@ -43,27 +37,14 @@ struct Made {
 };
 
 Made MakeOne(const Wish& wish, const SymbolAspects& aspects) {
-    std::ostringstream nowhere;
-    TerminalUi ui(nowhere, Chatter::None, ScreenSize::FromPixels(1920, 1080));
-    WorkState state;
-    Surfaces frames;
-    Menu menu;
-    const ProgramFolder folder(wish.Folder, VENDREL_SOURCE_DIR);
-    Workplace place{state, frames, menu, ui, folder};
-    PrepareSettings(place);
-    (void)PrepareFolders(folder);
-    PreparePaints(place);
     KitOptions options;
     options.Chosen.Level = wish.Level;
     options.Chosen.Paintable = wish.Paintable;
     options.Chosen.Match = wish.Paintable ? Matching::ByEye : Matching::Plain;
-    ApplySettings(place, options);
-    (void)ChoosePhoto(state, folder, wish.Photo);
-    (void)LoadNewPicture(place);
-    (void)ChangeToStipples_Click(place);
-    PaintItNow_Click(place);
+    TrialPlace trial(wish.Folder, options);
+    trial.Paint(wish.Photo);
     const std::clock_t start = std::clock();
-    PrintPlan plan = MakePrintPlan(state, frames.WorkFrame.Picture,
+    PrintPlan plan = MakePrintPlan(trial.State, trial.Frames.WorkFrame.Picture,
                                    {.Sheet = Paper::A4, .CanvasCm = wish.CanvasCm}, aspects);
     return {std::move(plan), 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC};
 }
@@ -141,7 +122,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const GuiApplication fonts;
-    const SymbolAspects aspects = PrintSymbols().Aspects();
+    const SymbolAspects aspects = PrintSymbols(SymbolStyle::Letters, kSymbolCount).Aspects();
     for (int i = 2; i < argc; ++i) {
         bench::RunAll(argv[1], argv[i], aspects);
     }
