@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "forms/studio.h"
+#include "plan/blank_exporter.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
 #include "support/whole_file.h"
@@ -129,17 +130,8 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
 }
 
 // Draws nothing, but tells of its progress; fails when told to.
-class Printer : public Exporter {
+class Printer : public BlankExporter {
   public:
-    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
-        SymbolAspects aspects;
-        aspects.fill(0.7);
-        return aspects;
-    }
-    Surface Preview(const Workplace& /*place*/, const PlanSettings& /*settings*/,
-                    int longest) const override {
-        return Surface(longest, longest);
-    }
     void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
                const Target& target) const override {
         place.Screen.SetCaption("Printing");

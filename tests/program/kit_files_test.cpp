@@ -6,6 +6,7 @@
 #include <set>
 
 #include "convert/bitmap_reader.h"
+#include "plan/blank_exporter.h"
 #include "program/studio.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
@@ -146,18 +147,9 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
 }
 
 // Draws nothing, but says what it was asked for.
-class NamingExporter final : public Exporter {
+class NamingExporter final : public test::BlankExporter {
   public:
     explicit NamingExporter(std::vector<std::string>& asked) : asked_(asked) {}
-    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
-        SymbolAspects aspects;
-        aspects.fill(0.7);
-        return aspects;
-    }
-    Surface Preview(const Workplace& /*place*/, const PlanSettings& /*settings*/,
-                    int longest) const override {
-        return Surface(longest, longest);
-    }
     void Write(OutputId output, const Workplace& /*place*/, const PlanSettings& settings,
                const Target& target) const override {
         WriteWholeFile(target.File, "drawn");

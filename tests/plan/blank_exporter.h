@@ -1,0 +1,21 @@
+#pragma once
+
+#include "plan/exporter.h"
+
+namespace vendrel::test {
+
+/// An exporter without fonts or drawing; what it writes is left to the test.
+class BlankExporter : public Exporter {
+  public:
+    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
+        SymbolAspects aspects;
+        aspects.fill(0.7);
+        return aspects;
+    }
+    Surface Preview(const Workplace& /*place*/, const PlanSettings& /*settings*/,
+                    int longest) const override {
+        return Surface(longest, longest);
+    }
+};
+
+}  // namespace vendrel::test
