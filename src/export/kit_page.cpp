@@ -4,10 +4,10 @@
 
 #include "export/page_data.h"
 #include "export/plain_text.h"
-#include "export/print_symbols.h"
+#include "export/save_drawn.h"
+#include "export/uncut_kit.h"
 #include "output/chart_contents.h"
 #include "support/error.h"
-#include "support/whole_file.h"
 
 // A macro that has to stand outside of every namespace.
 static void TakeUpPageParts() {
@@ -43,18 +43,15 @@ QByteArray FilledPage(const QByteArray& frame, Fill fill) {
 
 void WriteKitPage(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
-    const PrintSymbols symbols(settings.Symbols, place.State->PaintCount);
-    const PrintPlan plan =
-        MakeUncutPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
+    const UncutKit kit(place, settings);
     TakeUpPageParts();
     const QByteArray page = FilledPage(PagePart("page.html"), [&](const QByteArray& gap) {
         return gap == "title"
                    ? PlainText(KitTitle(place.State, place.State)).toHtmlEscaped().toUtf8()
-               : gap == "data" ? PageData(place.State, plan, symbols)
+               : gap == "data" ? PageData(place.State, kit.Plan, kit.Symbols)
                                : PagePart(QString::fromLatin1(gap));
     });
-    place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteWholeFile(target, {page.constData(), static_cast<std::size_t>(page.size())});
+    SaveDrawn(place.Screen, page, target);
 }
 
 }  // namespace vendrel

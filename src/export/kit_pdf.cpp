@@ -10,8 +10,8 @@
 
 #include "export/drawn_kit.h"
 #include "export/pdf_units.h"
+#include "export/save_drawn.h"
 #include "support/error.h"
-#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -126,8 +126,7 @@ void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Tar
     }
     FixDates(pdf);
     FixId(pdf);
-    place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteWholeFile(target, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
+    SaveDrawn(place.Screen, pdf, target);
 }
 
 }  // namespace vendrel

@@ -7,12 +7,12 @@
 #include "export/outline_path.h"
 #include "export/plain_text.h"
 #include "export/print_fonts.h"
-#include "export/print_symbols.h"
+#include "export/save_drawn.h"
+#include "export/uncut_kit.h"
 #include "kitset/kit_mark.h"
 #include "output/chart_contents.h"
 #include "plan/plan_pen.h"
 #include "shell/symbol_of.h"
-#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -188,13 +188,10 @@ void SvgPlan::DrawLeader(const PlanLabel& label, double aspect, const QString& i
 
 void WriteKitSvg(const Workplace& place, const PlanSettings& settings, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
-    const PrintSymbols symbols(settings.Symbols, place.State->PaintCount);
-    const PrintPlan plan =
-        MakeUncutPlan(place.State, place.Frames->WorkFrame.Picture, settings, symbols.Aspects());
+    const UncutKit kit(place, settings);
     QByteArray svg;
-    SvgPlan(place.State, plan, symbols, svg).Draw(settings.Gray);
-    place.Screen.SetCaption("Saving File, Please Wait....");
-    WriteWholeFile(target, {svg.constData(), static_cast<std::size_t>(svg.size())});
+    SvgPlan(place.State, kit.Plan, kit.Symbols, svg).Draw(settings.Gray);
+    SaveDrawn(place.Screen, svg, target);
 }
 
 }  // namespace vendrel
