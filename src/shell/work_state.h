@@ -4,6 +4,7 @@
 #include "shell/edited_grid.h"
 #include "shell/found_palette.h"
 #include "shell/given_warnings.h"
+#include "shell/kit_edits.h"
 #include "shell/loaded_photo.h"
 #include "shell/paint_choice.h"
 #include "shell/paint_pass.h"
@@ -27,6 +28,7 @@ struct WorkState : Catalogue,
                    LoadedPhoto,
                    StippleGrid,
                    EditedGrid,
+                   KitEdits,
                    UnsavedWork,
                    PaintedPixels,
                    PaintPass,

@@ -8,11 +8,20 @@
 
 namespace vendrel {
 
+/// What a step asks for, beyond the paints that its stipples have now.
+enum class EditIntent {
+    Paint,      // these paints in these places
+    Neighbors,  // what lies around these places
+    Exchange,   // another paint wherever there is the one
+    Erase,      // what the conversion gave these places
+};
+
 /// One step that can be taken back: the stipples it repainted, or, for a load, the copies as they
 /// were on the step's other side.
 struct EditStep {
     std::string Name;
     std::variant<std::vector<CellChange>, SheetContents> What;
+    EditIntent Intent = EditIntent::Paint;
     int Id = 0;  // given by the history; no two steps of a session share one
 };
 

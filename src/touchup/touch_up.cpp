@@ -84,9 +84,9 @@ void TouchUp::EndStroke() {
     PushStroke(kBrushName);
 }
 
-void TouchUp::PushStroke(std::string name) {
+void TouchUp::PushStroke(std::string name, EditIntent intent) {
     if (pen_.Drew()) {
-        history_.Push({std::move(name), pen_.TakeChanges()});
+        history_.Push({std::move(name), pen_.TakeChanges(), intent});
         timer_.NoteChange();
     }
 }
@@ -101,7 +101,7 @@ CellRect TouchUp::Fill(CellPos at, int paint) {
 CellRect TouchUp::Replace(int from, int to) {
     EndStroke();
     ReplacePaint(pen_, from, to);
-    PushStroke("Replace Paint");
+    PushStroke("Replace Paint", EditIntent::Exchange);
     return pen_.TakeDirty();
 }
 
@@ -125,7 +125,7 @@ CellRect TouchUp::CleanUp() {
     for (const CellChange& change : PlanCleanUp(sheet_, place_.State->CleanLevel)) {
         pen_.Paint({change.X, change.Y}, change.To);
     }
-    PushStroke("Clean Up");
+    PushStroke("Clean Up", EditIntent::Neighbors);
     return pen_.TakeDirty();
 }
 

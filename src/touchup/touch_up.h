@@ -102,7 +102,7 @@ class TouchUp {
   private:
     static constexpr const char* kBrushName = "Brush";
 
-    void PushStroke(std::string name);
+    void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
     void PushReplacement(std::string name);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
