@@ -227,6 +227,10 @@ void MainWindow::TakeIn(const QMimeData& arriving) {
         Qt::QueuedConnection);
 }
 
+void MainWindow::Open(const std::filesystem::path& file) {
+    edge_.Run([&] { form_.TakePhoto(file); });
+}
+
 bool MainWindow::MayEnd() {
     bool may = false;
     edge_.Run([&] { may = form_.MayEnd(); }, Edge::Entry::Always);

@@ -11,6 +11,8 @@
 #include "convert/stipple_conversion.h"
 #include "convert/working_size.h"
 #include "intake/photo_intake.h"
+#include "kit/kit_keeping.h"
+#include "kitfile/take_kit.h"
 #include "kitset/save_kit.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
@@ -184,6 +186,29 @@ void FitIntoCanvas(Workplace& place, const PlanSettings& plan, KitReport& report
     }
 }
 
+// The title and the canvas are chosen before anything depends on them.
+void NameKit(Workplace& place, const KitOptions& options, KitReport& report) {
+    if (!options.Title.empty()) {
+        place.State->PictureName = options.Title;
+    }
+    if (options.Plan.Canvas.Width > 0) {
+        FitIntoCanvas(place, options.Plan, report);
+    }
+}
+
+// What is made of a grid, whatever it came from.
+void PaintAndWrite(Workplace& place, const KitOptions& options, const TakenPhoto& taken,
+                   const Exporter* exporter, KitReport& report) {
+    Timed(report, "paint", [&] { PaintItNow_Click(place); });
+    FillFigures(place, report);
+    report.Fit = FitUsed(place, taken);
+    Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
+    if (KeepsKit(options)) {
+        Timed(report, "kit file", [&] { KeepKit(place, options, report); });
+    }
+    WriteOutputs(place, options, exporter, report);
+}
+
 }  // namespace
 
 void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
@@ -203,23 +228,28 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     TakenPhoto taken;
     Timed(report, "photo", [&] { taken = photos.TakeIn(place, options, photo); });
     Timed(report, "import", [&] { ImportPhoto(place, photo, taken.File); });
-    if (!options.Title.empty()) {
-        place.State->PictureName = options.Title;
-    }
-    if (options.Plan.Canvas.Width > 0) {
-        FitIntoCanvas(place, options.Plan, report);
-    }
+    NameKit(place, options, report);
     if (options.FromGrid) {
         Timed(report, "load", [&] { TakeSavedGrid(place); });
         place.State->PaintableKit = options.Chosen.Paintable;
     } else {
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
     }
-    Timed(report, "paint", [&] { PaintItNow_Click(place); });
-    FillFigures(place, report);
-    report.Fit = FitUsed(place, taken);
-    Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
-    WriteOutputs(place, options, exporter, report);
+    if (options.From) {
+        LayEditsOn(place, options.From->Layer.Edits);
+    }
+    PaintAndWrite(place, options, taken, exporter, report);
+    return report;
+}
+
+KitReport MakeKitAgain(Workplace& place, const KitOptions& options, const fs::path& photo,
+                       const Exporter* exporter) {
+    KitReport report;
+    report.Photo = Shown(photo);
+    report.FromGrid = true;
+    Timed(report, "load", [&] { TakeKit(place, *options.From, photo); });
+    NameKit(place, options, report);
+    PaintAndWrite(place, options, {}, exporter, report);
     return report;
 }
 
