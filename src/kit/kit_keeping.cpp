@@ -39,21 +39,6 @@ void RequireFreeResults(const Workplace& place, const KitOptions& options) {
     }
 }
 
-KitFile NewKitFile(const Workplace& place, const KitOptions& options) {
-    KitFile kit = KitOf(place, KitPhotoOf(place.State->PicturePath), options.Plan);
-    if (options.From) {
-        const KitFile& from = *options.From;
-        kit.Unknown = from.Unknown;
-        if (kit.Photo.Sum == from.Photo.Sum) {
-            kit.Crop = from.Crop;
-        }
-        if (kit.Source == from.Source) {
-            kit.Choice = from.Choice;
-        }
-    }
-    return kit;
-}
-
 }  // namespace
 
 fs::path FindKit(const ProgramFolder& folder, const std::string& word) {
@@ -90,7 +75,8 @@ bool KeepsKit(const KitOptions& options) {
 
 void KeepKit(const Workplace& place, const KitOptions& options, KitReport& report) {
     RequireFreeResults(place, options);
-    const KitFile kit = NewKitFile(place, options);
+    const KitFile kit =
+        KitOf(place, KitPhotoOf(place.State->PicturePath), options.Plan, options.From.get());
     const fs::path file = KitPath(place.Folder, kit.Title);
     if (!Stands(file)) {
         WriteKitFile(file, kit);

@@ -118,7 +118,8 @@ void TakeSource(Catalogue& catalogue, PaintChoice& choice, const PaintSource& so
     FillSelectedPaintsList(choice, catalogue);
 }
 
-KitFile KitOf(const Workplace& place, const KitPhoto& photo, const PlanSettings& print) {
+KitFile KitOf(const Workplace& place, const KitPhoto& photo, const PlanSettings& print,
+              const KitFile* before) {
     const WorkState& state = place.State;
     KitFile kit;
     kit.Program = "Vendrel " VENDREL_VERSION;
@@ -132,11 +133,18 @@ KitFile KitOf(const Workplace& place, const KitPhoto& photo, const PlanSettings&
     kit.SeenPerStipple = state.PaintableKit ? state.SeenPerStipple : 0;
     kit.Print = print;
     kit.Source = SourceOf(state, state);
-    kit.Choice = WithoutCounts(ChoiceOf(place, kit.Source));
+    const bool sameSource = before != nullptr && before->Source == kit.Source;
+    kit.Choice = sameSource ? before->Choice : WithoutCounts(ChoiceOf(place, kit.Source));
     kit.Paints = WithoutCounts(state.PaintColors);
     kit.Stipples = WithoutAreas(state.Stipples);
     kit.Layer = state;
     kit.Layer.BasePaints = WithoutCounts(kit.Layer.BasePaints);
+    if (before != nullptr) {
+        kit.Unknown = before->Unknown;
+        if (before->Photo.Sum == photo.Sum) {
+            kit.Crop = before->Crop;
+        }
+    }
     return kit;
 }
 

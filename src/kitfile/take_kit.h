@@ -7,10 +7,12 @@
 
 namespace vendrel {
 
-/// The kit in hand as its file will have it. Throws FileError, FormatError when its template cannot
-/// be read.
+/// The kit in hand as its file will have it. What it took from the file that it was opened from or
+/// saved to `before`, which may be null, stays: what other versions know, and while photo and
+/// source are the same, the crop and the paints it was chosen from. Throws FileError, FormatError
+/// when its template cannot be read.
 [[nodiscard]] KitFile KitOf(const Workplace& place, const KitPhoto& photo,
-                            const PlanSettings& print);
+                            const PlanSettings& print, const KitFile* before);
 
 /// The paints in force come from there.
 [[nodiscard]] PaintSource SourceOf(const Catalogue& catalogue, const PaintChoice& choice);
