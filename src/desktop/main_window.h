@@ -44,6 +44,8 @@ class MainWindow : public QMainWindow {
 
   private:
     [[nodiscard]] ZoomControls* MakeZoom();
+    void MakeRecentKits();
+    void ListRecentKits(QMenu& menu);
     void Arrange();
     [[nodiscard]] QWidget* MakeMiddle();
     void Choose(MenuId entry);

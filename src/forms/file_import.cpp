@@ -10,6 +10,7 @@
 #include "intake/keep_picture.h"
 #include "intake/photo_intake.h"
 #include "intake/photo_names.h"
+#include "kitfile/kit_places.h"
 #include "paints/restore.h"
 #include "shell/menu.h"
 #include "storage/load_stipples.h"
@@ -74,7 +75,7 @@ void FileImport::Form_Load() {
 void FileImport::ShowFolder(const fs::path& folder) {
     controls_.Folder = FullPath(folder);
     controls_.ImportDir = ListFolders(controls_.Folder);
-    controls_.ImportFile = ListPhotos(controls_.Folder, decoder_.Endings());
+    controls_.ImportFile = ListPhotos(controls_.Folder, Endings());
     const auto chosen = std::find(controls_.ImportFile.begin(), controls_.ImportFile.end(),
                                   ChosenPhoto().filename().string());
     const bool listed = chosen != controls_.ImportFile.end() &&
@@ -83,6 +84,18 @@ void FileImport::ShowFolder(const fs::path& folder) {
     if (fit_.Controls().Description.empty()) {
         ShowPreview();
     }
+}
+
+std::vector<std::string> FileImport::Endings() const {
+    std::vector<std::string> endings = decoder_.Endings();
+    if (kits_ != nullptr) {
+        endings.emplace_back("kit");
+    }
+    return endings;
+}
+
+bool FileImport::IsKit(const fs::path& file) const {
+    return kits_ != nullptr && IsKitName(file);
 }
 
 void FileImport::ImportDrive_Change(int drive) {
@@ -132,6 +145,11 @@ void FileImport::ShowPreview() {
 }
 
 void FileImport::Describe(const fs::path& photo) {
+    if (IsKit(photo)) {
+        KitLook look = LookAtKit(photo);
+        fit_.Clear(look.Description, std::move(look.Picture));
+        return;
+    }
     const std::string name = photo.filename().string();
     fit_.Clear(name + "\nReading ...");
     IncomingPhoto incoming(photo, decoder_);
@@ -189,6 +207,10 @@ bool FileImport::MustAsk(BitmapSize photo) const {
 }
 
 void FileImport::TakePhoto(const fs::path& photo) {
+    if (IsKit(photo)) {
+        kits_->Open(photo);
+        return;
+    }
     IncomingPhoto incoming(photo, decoder_);
     if (!MustAsk(incoming.Size())) {
         TakeAndLoad([&] { return TakeIn(photo, PhotoFit::Keep); }, PhotoFit::Keep);
@@ -235,7 +257,7 @@ void FileImport::LoadCrop(const std::string& pictureFile) {
 }
 
 void FileImport::TakeAndLoad(const Take& take, PhotoFit way) {
-    GridReplacement replacement(place_);
+    GridReplacement replacement(place_, kits_);
     if (replacement.Allowed()) {
         const std::string file = take();
         Remember();
@@ -252,8 +274,14 @@ void FileImport::OKButton_Click() {
         place_.Screen.ShowMessage("No File Selected", "Select A File!");
         return;
     }
+    if (IsKit(clicked_)) {
+        const fs::path kit = clicked_;
+        CancelButton_Click();
+        kits_->Open(kit);
+        return;
+    }
     // Before the photo's name changes: what is unsaved goes by it.
-    GridReplacement replacement(place_);
+    GridReplacement replacement(place_, kits_);
     if (!replacement.Allowed()) {
         return;
     }
@@ -282,6 +310,9 @@ void FileImport::Load(PhotoFit way) {
     } catch (...) {
         PutBack();
         throw;
+    }
+    if (kits_ != nullptr) {
+        kits_->Close();
     }
     CheckSavedStipples(place_);
     SetupMenuItems(place_.MainMenu, 2);

@@ -10,6 +10,7 @@
 #include "forms/fit_choice.h"
 #include "forms/fit_photo.h"
 #include "forms/folder_lists.h"
+#include "forms/kit_desk.h"
 #include "shell/workplace.h"
 #include "support/surface.h"
 
@@ -32,6 +33,9 @@ class FileImport {
     /// `decoder` reads the photos that are no bitmaps; without one only bitmaps are listed.
     explicit FileImport(Workplace& place, const PhotoDecoder* decoder = nullptr);
 
+    /// Kits are listed too from now on, and opened there.
+    void Attach(KitDesk& kits) { kits_ = &kits; }
+
     /// Notes how things stand, for Cancel.
     void Remember();
     void Form_Load();
@@ -47,8 +51,8 @@ class FileImport {
     /// Opens the crop window over the chosen photo. Throws Error.
     void CropButton_Click();
 
-    /// Takes a photo without the chooser, as OK does; asks first how it is to come onto the sheet
-    /// when it does not fit. Throws Error; nothing has changed then.
+    /// Opens a kit, or takes a photo without the chooser, as OK does; asks first how it is to come
+    /// onto the sheet when it does not fit. Throws Error; nothing has changed then.
     void TakePhoto(const std::filesystem::path& photo);
     /// The same for a picture that is no file yet; it has pixels.
     void TakePicture(const Surface& picture);
@@ -92,8 +96,12 @@ class FileImport {
     void LoadCrop(const std::string& pictureFile);
     void PutBack();
 
+    [[nodiscard]] std::vector<std::string> Endings() const;
+    [[nodiscard]] bool IsKit(const std::filesystem::path& file) const;
+
     Workplace& place_;
     const PhotoDecoder& decoder_;
+    KitDesk* kits_ = nullptr;
     CropPhoto crop_;
     FitPhoto asking_;
     FitChoice fit_;

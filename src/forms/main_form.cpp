@@ -31,6 +31,9 @@ struct ClickHandler {
 
 constexpr ClickHandler kHandlers[] = {
     {LoadBMP, &MainForm::LoadBMP_Click},
+    {OpenKit, &MainForm::OpenKit_Click},
+    {SaveKit, &MainForm::SaveKit_Click},
+    {SaveKitAs, &MainForm::SaveKitAs_Click},
     {CropOrTurn, &MainForm::CropOrTurn_Click},
     {LoadStipples, &MainForm::LoadStipples_Click},
     {SaveStipples, &MainForm::SaveStipples_Click},
@@ -144,12 +147,31 @@ std::string MainForm::StatusHint() const {
 }
 
 void MainForm::LoadBMP_Click() {
+    OpenChooser(place_.Folder.Path("Pictures"));
+}
+
+void MainForm::OpenKit_Click() {
+    const std::vector<fs::path> kits = kits_.Recent();
+    OpenChooser(kits.empty() ? place_.Folder.Path("Pictures") : kits.front().parent_path());
+}
+
+void MainForm::SaveKit_Click() {
+    if (kits_.Save()) {
+        Saved(kits_.File());
+    }
+}
+
+void MainForm::SaveKitAs_Click() {
+    place_.Screen.OpenForm(FormId::SaveKit);
+}
+
+void MainForm::OpenChooser(const fs::path& folder) {
     chooser_.Remember();
     place_.State->PictureLoaded = false;
     place_.Frames->CaptureFrame.Visible = false;
     place_.Frames->WorkFrame.Visible = false;
     chooser_.Form_Load();
-    chooser_.ShowFolder(place_.Folder.Path("Pictures"));
+    chooser_.ShowFolder(folder);
     place_.MainMenu[PrintMenu].Enabled = false;
     place_.Screen.OpenForm(FormId::FileImport);
 }
@@ -376,7 +398,7 @@ void MainForm::ShowAbout_Click() {
 }
 
 bool MainForm::MayEnd() {
-    return MayReplaceGrid(place_);
+    return MayReplaceGrid(place_, &kits_);
 }
 
 void MainForm::EndItAll_Click() {
