@@ -95,6 +95,11 @@ void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* e
     }
 }
 
+// Whether anybody reads the figures.
+bool IsRead(const KitOptions& options) {
+    return !options.Quiet || options.Json;
+}
+
 int CountLoners(const Grid<StippleCell>& stipples) {
     int loners = 0;
     for (int y = 1; y <= stipples.Down(); ++y) {
@@ -109,8 +114,8 @@ int CountLoners(const Grid<StippleCell>& stipples) {
 void FillBrushFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
     report.Matched = place.State->Chosen.Match == Matching::ByEye ? "eye" : "plain";
     report.Paintable = place.State->PaintableKit;
-    if (options.Quiet && !options.Json) {
-        return;  // nobody reads them
+    if (!IsRead(options)) {
+        return;
     }
     report.Figures = MeasureKit(place);
     if (report.Paintable) {
@@ -134,7 +139,7 @@ void FillBrushFigures(const Workplace& place, const KitOptions& options, KitRepo
     }
 }
 
-void FillFigures(const Workplace& place, KitReport& report) {
+void FillFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
     const WorkState& state = place.State;
     const TwipsPerPixel twips = place.Screen.Screen().Twips;
     report.Name = state.PictureName;
@@ -146,7 +151,7 @@ void FillFigures(const Workplace& place, KitReport& report) {
     report.CellsDown = state.CellsDown;
     report.PaintsKept = state.PaintCount;
     report.Areas = state.AreaCount - 1;
-    report.Loners = CountLoners(state.Stipples);
+    report.Loners = IsRead(options) ? CountLoners(state.Stipples) : 0;
     if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
             "The photo's shape does not fit the sheet, so it is stretched; --fit keep keeps its "
@@ -216,7 +221,7 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
     }
     Timed(report, "paint", [&] { PaintItNow_Click(place); });
-    FillFigures(place, report);
+    FillFigures(place, options, report);
     report.Fit = FitUsed(place, taken);
     Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
     WriteOutputs(place, options, exporter, report);
