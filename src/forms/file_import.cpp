@@ -72,6 +72,12 @@ void FileImport::Form_Load() {
     controls_.DriveIndex = DriveOf(controls_.ImportDrive, FullPath(place_.Folder.Root()));
 }
 
+void FileImport::ShowKits() {
+    controls_.Caption = "Open Kit or Photo";
+    const std::vector<fs::path> kits = kits_->Recent();
+    ShowFolder(kits.empty() ? place_.Folder.Path("Pictures") : kits.front().parent_path());
+}
+
 void FileImport::ShowFolder(const fs::path& folder) {
     controls_.Folder = FullPath(folder);
     controls_.ImportDir = ListFolders(controls_.Folder);

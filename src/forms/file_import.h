@@ -18,6 +18,7 @@ namespace vendrel {
 
 /// What the photo chooser shows. Indexes count from 0; -1 is nothing.
 struct FileImportControls {
+    std::string Caption = "Load Photo";
     std::vector<Drive> ImportDrive;
     int DriveIndex = -1;
     std::filesystem::path Folder;
@@ -39,6 +40,8 @@ class FileImport {
     /// Notes how things stand, for Cancel.
     void Remember();
     void Form_Load();
+    /// For kits as well as photos, where the newest kits are.
+    void ShowKits();
     void ShowFolder(const std::filesystem::path& folder);
 
     void ImportDrive_Change(int drive);

@@ -39,6 +39,11 @@ bool SamePicture(const Grid<StippleCell>& a, const Grid<StippleCell>& b) {
                               &StippleCell::ColorIndex);
 }
 
+// A layer without edits may know of a grid.
+bool SameEdits(const EditLayer& a, const EditLayer& b) {
+    return a == b || (a.Empty() && b.Empty());
+}
+
 // Whether it is watched is no part of a kit.
 bool SameSettings(Settings a, const Settings& b) {
     a.WatchItPaint = b.WatchItPaint;
@@ -97,7 +102,7 @@ bool KitDesk::IsAsSaved() const {
     const KitFile& kit = *saved_;
     return state.PictureName == kit.Title && SameSettings(state.Chosen, kit.Chosen) &&
            state.FinalColors == kit.FinalColors && print_.Settings() == kit.Print &&
-           state.Protected == kit.Protected && state.Edits == kit.Layer.Edits &&
+           state.Protected == kit.Protected && SameEdits(state.Edits, kit.Layer.Edits) &&
            SamePaintsInOrder(state.PaintColors, kit.Paints) &&
            SamePicture(state.Stipples, kit.Stipples);
 }

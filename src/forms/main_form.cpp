@@ -147,12 +147,24 @@ std::string MainForm::StatusHint() const {
 }
 
 void MainForm::LoadBMP_Click() {
-    OpenChooser(place_.Folder.Path("Pictures"));
+    PrepareChooser();
+    chooser_.ShowFolder(place_.Folder.Path("Pictures"));
+    place_.Screen.OpenForm(FormId::FileImport);
 }
 
 void MainForm::OpenKit_Click() {
-    const std::vector<fs::path> kits = kits_.Recent();
-    OpenChooser(kits.empty() ? place_.Folder.Path("Pictures") : kits.front().parent_path());
+    PrepareChooser();
+    chooser_.ShowKits();
+    place_.Screen.OpenForm(FormId::FileImport);
+}
+
+void MainForm::PrepareChooser() {
+    chooser_.Remember();
+    place_.State->PictureLoaded = false;
+    place_.Frames->CaptureFrame.Visible = false;
+    place_.Frames->WorkFrame.Visible = false;
+    chooser_.Form_Load();
+    place_.MainMenu[PrintMenu].Enabled = false;
 }
 
 void MainForm::SaveKit_Click() {
@@ -163,17 +175,6 @@ void MainForm::SaveKit_Click() {
 
 void MainForm::SaveKitAs_Click() {
     place_.Screen.OpenForm(FormId::SaveKit);
-}
-
-void MainForm::OpenChooser(const fs::path& folder) {
-    chooser_.Remember();
-    place_.State->PictureLoaded = false;
-    place_.Frames->CaptureFrame.Visible = false;
-    place_.Frames->WorkFrame.Visible = false;
-    chooser_.Form_Load();
-    chooser_.ShowFolder(folder);
-    place_.MainMenu[PrintMenu].Enabled = false;
-    place_.Screen.OpenForm(FormId::FileImport);
 }
 
 void MainForm::CropOrTurn_Click() {

@@ -94,7 +94,7 @@ class MainForm {
 
   private:
     void ShowSample();
-    void OpenChooser(const std::filesystem::path& folder);
+    void PrepareChooser();
     /// A step that costs the grid: asks first, and gives unsaved work up once it succeeded.
     void Replace(const std::function<void()>& step);
     void SetDifficulty(Difficulty level);

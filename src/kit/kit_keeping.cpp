@@ -86,11 +86,11 @@ void KeepKit(const Workplace& place, const KitOptions& options, KitReport& repor
     report.Files.emplace_back("kit", file.lexically_normal().string());
 }
 
-void LayEditsOn(Workplace& /*place*/, const EditLayer& edits) {
-    if (!edits.Empty()) {
+void RequireEditsLaidOn(const KitEdits& edits) {
+    if (!edits.Edits.Empty() && edits.BasePaints.Empty()) {
         throw Error(
-            "The kit was edited by hand, and its edits cannot be laid on other settings by the "
-            "command yet. Open it in the window and change them there.");
+            "The kit was edited by hand, and its edits cannot be laid on other settings here. Open "
+            "it in the window and change them there.");
     }
 }
 

@@ -28,7 +28,7 @@ void RequireOwnTitle(const KitOptions& options);
 /// another kit, its file or its pictures.
 void KeepKit(const Workplace& place, const KitOptions& options, KitReport& report);
 
-/// Lays a painter's edits on the stipples that were converted anew.
-void LayEditsOn(Workplace& place, const EditLayer& edits);
+/// Throws Error when a conversion left the painter's edits out.
+void RequireEditsLaidOn(const KitEdits& edits);
 
 }  // namespace vendrel

@@ -97,6 +97,11 @@ void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* e
     }
 }
 
+// Whether anybody reads the figures.
+bool IsRead(const KitOptions& options) {
+    return !options.Quiet || options.Json;
+}
+
 int CountLoners(const Grid<StippleCell>& stipples) {
     int loners = 0;
     for (int y = 1; y <= stipples.Down(); ++y) {
@@ -111,8 +116,8 @@ int CountLoners(const Grid<StippleCell>& stipples) {
 void FillBrushFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
     report.Matched = place.State->Chosen.Match == Matching::ByEye ? "eye" : "plain";
     report.Paintable = place.State->PaintableKit;
-    if (options.Quiet && !options.Json) {
-        return;  // nobody reads them
+    if (!IsRead(options)) {
+        return;
     }
     report.Figures = MeasureKit(place);
     if (report.Paintable) {
@@ -136,7 +141,7 @@ void FillBrushFigures(const Workplace& place, const KitOptions& options, KitRepo
     }
 }
 
-void FillFigures(const Workplace& place, KitReport& report) {
+void FillFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
     const WorkState& state = place.State;
     const TwipsPerPixel twips = place.Screen.Screen().Twips;
     report.Name = state.PictureName;
@@ -148,7 +153,7 @@ void FillFigures(const Workplace& place, KitReport& report) {
     report.CellsDown = state.CellsDown;
     report.PaintsKept = state.PaintCount;
     report.Areas = state.AreaCount - 1;
-    report.Loners = CountLoners(state.Stipples);
+    report.Loners = IsRead(options) ? CountLoners(state.Stipples) : 0;
     if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
             "The photo's shape does not fit the sheet, so it is stretched; --fit keep keeps its "
@@ -200,7 +205,7 @@ void NameKit(Workplace& place, const KitOptions& options, KitReport& report) {
 void PaintAndWrite(Workplace& place, const KitOptions& options, const TakenPhoto& taken,
                    const Exporter* exporter, KitReport& report) {
     Timed(report, "paint", [&] { PaintItNow_Click(place); });
-    FillFigures(place, report);
+    FillFigures(place, options, report);
     report.Fit = FitUsed(place, taken);
     Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
     if (KeepsKit(options)) {
@@ -233,11 +238,12 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
         Timed(report, "load", [&] { TakeSavedGrid(place); });
         place.State->PaintableKit = options.Chosen.Paintable;
     } else {
+        if (options.From) {
+            place.State->Edits = options.From->Layer.Edits;
+        }
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
     }
-    if (options.From) {
-        LayEditsOn(place, options.From->Layer.Edits);
-    }
+    RequireEditsLaidOn(place.State);
     PaintAndWrite(place, options, taken, exporter, report);
     return report;
 }

@@ -86,6 +86,7 @@ void TakeGrid(WorkState& state, const KitFile& kit) {
 void DrawGrid(Workplace& place) {
     EraseToColor(EaselOf(place), kBlack);
     DrawStipplePicture(place);
+    SetupMenuItems(place.MainMenu, 2);  // as with the photo, and then with its stipples
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;
 }
