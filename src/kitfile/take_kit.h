@@ -20,8 +20,8 @@ namespace vendrel {
 void TakeSource(Catalogue& catalogue, PaintChoice& choice, const PaintSource& source);
 
 /// Takes up a kit as it was finished, with its settings and the photo in that file, and draws its
-/// stipples: as if it had just been converted. Throws FileError, FormatError when the photo cannot
-/// be read; nothing has changed then.
+/// stipples, to be painted as if it had just been converted. Throws FileError, FormatError when the
+/// photo cannot be read; nothing has changed then.
 void TakeKit(Workplace& place, const KitFile& kit, const std::filesystem::path& photo);
 
 }  // namespace vendrel
