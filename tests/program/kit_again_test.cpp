@@ -23,6 +23,7 @@ TEST(KitAgain, IsTheSameToTheByteWhateverTheSettingsWere) {
         all.insert(all.end(), words.begin(), words.end());
         ASSERT_EQ(studio.Kit(all), 0) << studio.Err;
         const std::string kit = studio.Files.Read("Kits/beach.kit");
+        EXPECT_EQ(kit.find("\"of\": \"ball.bmp\"") != kit.npos, words.back() == "Craft Acrylics");
         fs::rename(studio.Files / "Results", studio.Files / "First");
         fs::rename(studio.Files / "Saved Stipples", studio.Files / "FirstGrid");
         // Neither the painter's paints nor the board of this run count.
