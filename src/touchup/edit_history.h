@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -14,6 +15,7 @@ enum class EditIntent {
     Neighbors,  // what lies around these places
     Exchange,   // another paint wherever there is the one
     Erase,      // what the conversion gave these places
+    NewBase,    // a grid to go on from as if converted so
 };
 
 /// One step that can be taken back: the stipples it repainted, or, for a load, the copies as they
@@ -39,6 +41,9 @@ class EditHistory {
     /// Both do nothing when there is no such step; they answer what changed on the sheet.
     CellRect Undo(EditSheet& sheet);
     CellRect Redo(EditSheet& sheet);
+
+    /// The steps done, the first one first.
+    [[nodiscard]] std::span<const EditStep> Done() const { return {steps_.data(), done_}; }
 
     /// Whether the step of that Id is done and not undone or forgotten since.
     [[nodiscard]] bool IsDone(int id) const;

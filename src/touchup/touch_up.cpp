@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "edits/kit_base.h"
 #include "shell/found_palette.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
@@ -28,6 +29,11 @@ class RecountAtEnd {
     EditSheet& sheet_;
 };
 
+CellChange ChangeOf(CellPos at, int from, int to) {
+    return {static_cast<std::int16_t>(at.X), static_cast<std::int16_t>(at.Y),
+            static_cast<std::int16_t>(from), static_cast<std::int16_t>(to)};
+}
+
 void RefuseFlaw(const EditSheet& sheet, const char* refusal) {
     const std::string flaw = sheet.Flaw();
     if (!flaw.empty()) {
@@ -51,6 +57,8 @@ TouchUp::TouchUp(Workplace& place)
     if (!state.HasUnsavedWork) {
         state.Recovery.reset();  // of another photo, perhaps
     }
+    RequireBase(state, state, state, state);
+    atOpening_ = state;
     sheet_.Open(state, state);
 }
 
@@ -103,6 +111,33 @@ CellRect TouchUp::Replace(int from, int to) {
     ReplacePaint(pen_, from, to);
     PushStroke("Replace Paint", EditIntent::Exchange);
     return pen_.TakeDirty();
+}
+
+const BaseView& TouchUp::Base() {
+    if (std::exchange(baseId_, history_.StateId()) != history_.StateId()) {
+        base_ = BaseView(atOpening_, history_.Done(), sheet_);
+    }
+    return base_;
+}
+
+CellRect TouchUp::Erase(std::span<const CellPos> cells) {
+    EndStroke();
+    std::vector<CellChange> changes;
+    CellRect dirty;
+    for (const CellPos at : cells) {
+        // One that was painted as its base is, is as free afterwards.
+        if (sheet_.Holds(at) && sheet_.HoldsPaint(BasePaintAt(at)) &&
+            (IsEdited(at) || BasePaintAt(at) != sheet_.PaintAt(at))) {
+            changes.push_back(ChangeOf(at, sheet_.PaintAt(at), BasePaintAt(at)));
+            dirty.Include(at);
+        }
+    }
+    if (!changes.empty()) {
+        DoChanges(sheet_, changes);
+        history_.Push({"Erase", std::move(changes), EditIntent::Erase});
+        timer_.NoteChange();
+    }
+    return dirty;
 }
 
 void TouchUp::RaiseCleanLevel() {
@@ -209,7 +244,7 @@ void TouchUp::PushReplacement(std::string name) {
         WriteRecovery();
     }
     const bool buries = !IsSaved();
-    history_.Push({std::move(name), sheet_.Copy()});
+    history_.Push({std::move(name), sheet_.Copy(), EditIntent::NewBase});
     replacements_.push_back({history_.StateId(), buries, nullptr});
     timer_.NoteChange();
 }

@@ -2,11 +2,13 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "shell/workplace.h"
 #include "touchup/edit_history.h"
+#include "touchup/recording.h"
 #include "touchup/recovery.h"
 #include "touchup/tidying.h"
 #include "touchup/tools.h"
@@ -40,6 +42,13 @@ class TouchUp {
 
     CellRect Fill(CellPos at, int paint);
     CellRect Replace(int from, int to);
+
+    /// The paint that a stipple has without the edits of its own; 0 outside the base.
+    [[nodiscard]] int BasePaintAt(CellPos at) { return Base().PaintAt(at); }
+    /// Whether an edit of its own lies over a stipple; a stroke counts when it has ended.
+    [[nodiscard]] bool IsEdited(CellPos at) { return Base().IsEdited(at); }
+    /// Takes the edits of these stipples away, as one step.
+    CellRect Erase(std::span<const CellPos> cells);
 
     void RaiseCleanLevel();
     void LowerCleanLevel();
@@ -103,6 +112,7 @@ class TouchUp {
     static constexpr const char* kBrushName = "Brush";
 
     void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
+    const BaseView& Base();
     void PushReplacement(std::string name);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
@@ -121,6 +131,9 @@ class TouchUp {
     [[nodiscard]] std::filesystem::path GridFile() const;
 
     Workplace& place_;
+    KitEdits atOpening_;
+    BaseView base_;
+    int baseId_ = -1;  // state of the history that base_ was looked at
     EditSheet sheet_;
     EditPen pen_{sheet_};
     EditHistory history_;
