@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "edits/lay_edits.h"
 #include "shell/work_state.h"
 
@@ -16,6 +18,13 @@ void RequireBase(KitEdits& edits, EditPast& past, const Palette& palette, const 
 
 /// Forgets base and edits: they are of another photo.
 void ForgetEdits(KitEdits& edits, EditPast& past);
+
+/// The base alone, to come back to.
+[[nodiscard]] std::shared_ptr<const KitEdits> BaseOf(const KitEdits& edits);
+
+/// Adds a step that is done; what was undone until now is gone. Of an evening's steps over many
+/// stipples the oldest are forgotten when they fill much memory.
+void AddMoment(EditPast& past, EditMoment moment);
 
 /// Makes the grid and palette what the base gives with the edits over it.
 [[nodiscard]] LayReport LayOnBase(const KitEdits& edits, Palette& palette, StippleGrid& grid,

@@ -16,7 +16,7 @@ namespace {
 // which of them stipples need.
 class EditLaying {
   public:
-    EditLaying(const BaseGrid& base, const EditLayer& layer, const LayTerms& terms)
+    EditLaying(const ConvertedGrid& base, const EditLayer& layer, const LayTerms& terms)
         : base_(base), layer_(layer), terms_(terms), all_(base.Paints), index_(base.Paints) {}
 
     LaidEdits Lay() {
@@ -109,7 +109,7 @@ class EditLaying {
         }
         for (int paint = 1; paint <= all_.Count(); ++paint) {
             if (NeedsPlace(paint)) {
-                place_[paint] = NearestByEye(laid_.Paints, all_[paint]);
+                place_[paint] = StandInByEye(laid_.Paints, all_[paint]);
             }
         }
     }
@@ -179,7 +179,7 @@ class EditLaying {
         }
     }
 
-    BaseGrid base_;
+    ConvertedGrid base_;
     const EditLayer& layer_;
     LayTerms terms_;
     PaintList all_;
@@ -193,7 +193,7 @@ class EditLaying {
 
 }  // namespace
 
-int NearestByEye(const PaintList& paints, const PaintColor& wanted) {
+int StandInByEye(const PaintList& paints, const PaintColor& wanted) {
     const Lab lab = LabOf(ColorOf(wanted));
     const auto nearest = std::ranges::min_element(paints, {}, [&lab](const PaintColor& paint) {
         return Ciede2000(lab, LabOf(ColorOf(paint)));
@@ -217,7 +217,7 @@ std::string Sentence(const LayReport& report) {
     return text;
 }
 
-LaidEdits LayEdits(const BaseGrid& base, const EditLayer& layer, const LayTerms& terms) {
+LaidEdits LayEdits(const ConvertedGrid& base, const EditLayer& layer, const LayTerms& terms) {
     if (layer.Across == base.Cells.Across() && layer.Down == base.Cells.Down()) {
         return EditLaying(base, layer, terms).Lay();
     }

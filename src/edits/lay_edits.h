@@ -27,10 +27,10 @@ struct LayReport {
 [[nodiscard]] std::string Sentence(const LayReport& report);
 
 /// The paint that looks most like `wanted`, from 1; of those alike the first.
-[[nodiscard]] int NearestByEye(const PaintList& paints, const PaintColor& wanted);
+[[nodiscard]] int StandInByEye(const PaintList& paints, const PaintColor& wanted);
 
 /// A grid as converted.
-struct BaseGrid {
+struct ConvertedGrid {
     const PaintList& Paints;
     const Grid<StippleCell>& Cells;
 };
@@ -55,7 +55,7 @@ struct LaidEdits {
 /// first; one that an exchange brings takes the place of the one it replaces wholly. Without room
 /// it takes the place of a paint without stipples, and without such a place the nearest by eye
 /// stands in. What no stipple uses does not join.
-[[nodiscard]] LaidEdits LayEdits(const BaseGrid& base, const EditLayer& layer,
+[[nodiscard]] LaidEdits LayEdits(const ConvertedGrid& base, const EditLayer& layer,
                                  const LayTerms& terms = {});
 
 }  // namespace vendrel

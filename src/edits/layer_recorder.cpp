@@ -14,7 +14,7 @@ constexpr int kMostLooks = 4;
 
 }  // namespace
 
-LayerRecorder::LayerRecorder(const BaseGrid& base, const EditLayer& layer)
+LayerRecorder::LayerRecorder(const ConvertedGrid& base, const EditLayer& layer)
     : base_(base), wanted_(base.Cells.Across(), base.Cells.Down()) {
     for (const PaintColor& paint : base.Paints) {
         basePaints_.Add(NumberOf(paint));

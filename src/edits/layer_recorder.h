@@ -13,7 +13,7 @@ namespace vendrel {
 class LayerRecorder {
   public:
     /// Goes on with `layer`; one of another grid is placed by share. The base must outlive this.
-    LayerRecorder(const BaseGrid& base, const EditLayer& layer);
+    LayerRecorder(const ConvertedGrid& base, const EditLayer& layer);
 
     /// The number by which the edits name a paint.
     [[nodiscard]] int NumberOf(const PaintColor& paint);
@@ -39,7 +39,7 @@ class LayerRecorder {
     void ExchangeBase(int from, int to);
     bool PinDifferences(const PaintList& paints, const Grid<StippleCell>& cells);
 
-    BaseGrid base_;
+    ConvertedGrid base_;
     PaintList paints_;
     PaintIndex index_;
     OneBased<int> basePaints_;  // by their numbers here

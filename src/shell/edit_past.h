@@ -10,11 +10,14 @@
 namespace vendrel {
 
 /// The edit layer before and after one step of touching up. Whole layers, so that a step can be
-/// taken back whatever palette and grid it lies over by then.
+/// taken back whatever palette and grid it lies over by then. A step that converted anew has the
+/// bases too, for as long as there is no newer one.
 struct EditMoment {
     std::string Name;
     std::shared_ptr<const EditLayer> Before;
     std::shared_ptr<const EditLayer> After;
+    std::shared_ptr<const KitEdits> BaseBefore;  // without edits; or none
+    std::shared_ptr<const KitEdits> BaseAfter;
 };
 
 /// The accepted steps over the base, of which the first DoneMoments are in the kit's layer.

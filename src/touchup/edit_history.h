@@ -43,7 +43,7 @@ class EditHistory {
     CellRect Redo(EditSheet& sheet);
 
     /// The steps done, the first one first.
-    [[nodiscard]] std::span<const EditStep> Done() const { return {steps_.data(), done_}; }
+    [[nodiscard]] std::span<const EditStep> DoneSteps() const { return {steps_.data(), done_}; }
 
     /// Whether the step of that Id is done and not undone or forgotten since.
     [[nodiscard]] bool IsDone(int id) const;

@@ -84,6 +84,9 @@ class Recording {
     }
 
     RecordedEdits Record() {
+        if (done_.empty()) {
+            return std::move(recorded_);  // edits of another grid stay as they were made
+        }
         for (std::size_t i = 0; i < done_.size(); ++i) {
             const PaintList before = steps_.Palette();
             if (const SheetContents* after = steps_.Next(i)) {
@@ -111,7 +114,7 @@ class Recording {
   private:
     void Begin() {
         const KitEdits& edits = recorded_.Edits;
-        recorder_.emplace(BaseGrid{edits.BasePaints, edits.Base}, edits.Edits);
+        recorder_.emplace(ConvertedGrid{edits.BasePaints, edits.Base}, edits.Edits);
         last_ = std::make_shared<EditLayer>(edits.Edits);
         recorded_.Moments.clear();
     }
@@ -162,7 +165,7 @@ class Recording {
             }
         }
         auto after = std::make_shared<EditLayer>(recorder_->Layer());
-        recorded_.Moments.push_back({step.Name, last_, after});
+        recorded_.Moments.push_back({step.Name, last_, after, {}, {}});
         last_ = std::move(after);
     }
 
@@ -234,7 +237,7 @@ BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
     const PaintIndex index(sheet.Paints());
     for (const PaintColor& paint : shown) {
         const int known = index.Find(paint);
-        shownAs_.Add(known > 0 ? known : NearestByEye(sheet.Paints(), paint));
+        shownAs_.Add(known > 0 ? known : StandInByEye(sheet.Paints(), paint));
     }
 }
 

@@ -115,7 +115,7 @@ CellRect TouchUp::Replace(int from, int to) {
 
 const BaseView& TouchUp::Base() {
     if (std::exchange(baseId_, history_.StateId()) != history_.StateId()) {
-        base_ = BaseView(atOpening_, history_.Done(), sheet_);
+        base_ = BaseView(atOpening_, history_.DoneSteps(), sheet_);
     }
     return base_;
 }
@@ -208,7 +208,7 @@ void TouchUp::SaveIt_Click() {
     RefuseFlaw(sheet_, "The stipples cannot be saved");
     WriteSheet(GridFile(), sheet_, place_.State->FinalColors);
     savedId_ = history_.StateId();
-    saved_ = {sheet_.Copy(), savedId_};
+    saved_ = {sheet_.Copy(), savedId_, Recorded()};
     for (Replacement& replacement : replacements_) {
         replacement.Buries = false;  // this is what the painter wants
     }
@@ -228,7 +228,7 @@ CellRect TouchUp::LoadIt_Click() {
     RequireFit(text, path, sheet_);
     StippleFileReader reader(text, path);
     const CellRect before = sheet_.Bounds();
-    PushReplacement("Load");
+    PushReplacement("Load", EditIntent::NewBase);
     {
         const RecountAtEnd recount(sheet_);
         ReadIntoSheet(reader, sheet_);
@@ -238,13 +238,13 @@ CellRect TouchUp::LoadIt_Click() {
     return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
 }
 
-void TouchUp::PushReplacement(std::string name) {
+void TouchUp::PushReplacement(std::string name, EditIntent intent) {
     // What a broken file leaves cannot be kept, so the work until here is kept first.
     if (timer_.Pending()) {
         WriteRecovery();
     }
     const bool buries = !IsSaved();
-    history_.Push({std::move(name), sheet_.Copy(), EditIntent::NewBase});
+    history_.Push({std::move(name), sheet_.Copy(), intent});
     replacements_.push_back({history_.StateId(), buries, nullptr});
     timer_.NoteChange();
 }
@@ -276,7 +276,24 @@ void TouchUp::Accept() {
     ShapePhotoBy(place_, {sheet_.Across(), sheet_.Down()});
     state.HasUnsavedWork = !InSavedGrid() && (unsavedAtOpening_ || history_.StateId() != 0);
     accepted_ = true;
+    PutDown(Recorded());
     TakeOverCopies(state, state, state, state);
+}
+
+RecordedEdits TouchUp::Recorded() const {
+    return RecordEdits(atOpening_, history_.DoneSteps(), sheet_);
+}
+
+void TouchUp::PutDown(RecordedEdits recorded) {
+    WorkState& state = place_.State;
+    static_cast<KitEdits&>(state) = std::move(recorded.Edits);
+    if (recorded.NewBase) {
+        static_cast<EditPast&>(state) = {};
+    }
+    for (EditMoment& moment : recorded.Moments) {
+        AddMoment(state, std::move(moment));
+    }
+    state.LaidOn.clear();
 }
 
 bool TouchUp::Cancel() {
@@ -299,6 +316,7 @@ bool TouchUp::GiveSavedToKit() {
     const SheetSizes& size = saved_->Contents.Announced;
     ShapePhotoBy(place_, {size.Across, size.Down});
     sheet_.Exchange(saved_->Contents);
+    PutDown(std::move(saved_->Edits));
     WorkState& state = place_.State;
     TakeOverCopies(state, state, state, state);
     return true;
@@ -316,7 +334,9 @@ CellRect TouchUp::Restore(const KeptWork& work) {
                         {header.PaintCount, header.Across, header.Down},
                         header.FinalColors};
     const CellRect before = sheet_.Bounds();
-    PushReplacement("Restore");
+    // What differs from the conversion was painted, and lasts as such.
+    const bool fits = header.Across == sheet_.Across() && header.Down == sheet_.Down();
+    PushReplacement("Restore", fits ? EditIntent::Paint : EditIntent::NewBase);
     replacements_.back().Restored = held;
     sheet_.Exchange(found);
     sheet_.Recount();

@@ -113,11 +113,13 @@ class TouchUp {
 
     void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
     const BaseView& Base();
-    void PushReplacement(std::string name);
+    void PushReplacement(std::string name, EditIntent intent);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
     void WriteRecovery();
     void RemoveRestored();
+    [[nodiscard]] RecordedEdits Recorded() const;
+    void PutDown(RecordedEdits recorded);
     [[nodiscard]] bool GiveSavedToKit();
     [[nodiscard]] bool InSavedGrid() const { return history_.StateId() == savedId_; }
 
@@ -147,6 +149,7 @@ class TouchUp {
     struct Saved {
         SheetContents Contents;
         int Step = 0;  // state of the history
+        RecordedEdits Edits;
     };
     std::optional<Saved> saved_;
     std::vector<Replacement> replacements_;

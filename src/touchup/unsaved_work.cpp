@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "convert/stipple_conversion.h"
+#include "shell/menu.h"
 #include "shell/paint_id.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
@@ -65,6 +67,11 @@ void KitIsSaved(Workplace& place) {
     place.State->Recovery.reset();
 }
 
+bool IsSavedGrid(const Workplace& place) {
+    return StippleFileExists(place.Folder, place.State, place.State) &&
+           HoldsTheKit(StippleFilePath(place.Folder, place.State, place.State), place.State);
+}
+
 bool MayReplaceSaved(Workplace& place) {
     const std::filesystem::path path = StippleFilePath(place.Folder, place.State, place.State);
     return place.State->HasUnsavedWork ||
@@ -85,6 +92,9 @@ GridReplacement::GridReplacement(Workplace& place) : place_(place) {
                                 " are not saved. Save them before going on?");
     allowed_ = answer != SaveAnswer::Cancel;
     if (answer == SaveAnswer::Save) {
+        if (!place_.MainMenu[MenuId::ColorPickerSelect].Enabled) {
+            AutoChangeToStipples(place_);
+        }
         SaveStipples(place_);
     } else if (allowed_) {
         unsaved_ = {state.Recovery, state.PictureName, state.StippleSize, state.Stipples,
