@@ -2,7 +2,7 @@
 
 # What the program is built from and runs with.
 build_packages=(
-    g++ cmake ninja-build libcli11-dev nlohmann-json3-dev nettle-dev
+    g++ cmake ninja-build libcli11-dev nlohmann-json3-dev nettle-dev zlib1g-dev
     qt6-base-dev qt6-image-formats-plugins libheif-dev fonts-liberation
 )
 

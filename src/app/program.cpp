@@ -73,8 +73,8 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
         .StopAsked = &stopAsked,
     };
     if (parts.OpenWindow) {
-        around.OpenWindow = [&](const fs::path& folder) {
-            return parts.OpenWindow(folder, shipped);
+        around.OpenWindow = [&](const fs::path& folder, const fs::path& file) {
+            return parts.OpenWindow(ProgramFolder(folder, shipped), file);
         };
     }
     return RunCommandLine(words, around);

@@ -20,8 +20,9 @@ struct QtParts {
     std::function<MadeSymbols(const ProgramFolder&)> MakeSymbols = {};
     std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
     std::function<std::filesystem::path()> Documents = {};
-    std::function<int(const std::filesystem::path& folder, const std::filesystem::path& shipped)>
-        OpenWindow = {};
+    /// With the kit or photo to open, whose path may be empty.
+    std::function<int(const ProgramFolder& folder, const std::filesystem::path& file)> OpenWindow =
+        {};
 };
 
 /// The folder that holds the running program's file.

@@ -15,9 +15,9 @@ int main(int argc, char** argv) {
     }
     // Not by its path, where another version may lie by now.
     const vendrel::ChildDecoder decoder("/proc/self/exe");
-    const auto openWindow = [&](const std::filesystem::path& folder,
-                                const std::filesystem::path& shipped) {
-        return vendrel::RunDesktop(argc, argv, vendrel::ProgramFolder(folder, shipped), decoder);
+    const auto openWindow = [&](const vendrel::ProgramFolder& folder,
+                                const std::filesystem::path& file) {
+        return vendrel::RunDesktop({argc, argv}, folder, decoder, file);
     };
     return vendrel::RunProgram(
         words, {.Decoder = &decoder,

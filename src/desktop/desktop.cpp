@@ -40,8 +40,9 @@ std::filesystem::path DocumentsFolder() {
     return std::filesystem::path(QFile::encodeName(documents).toStdString()) / "Vendrel";
 }
 
-int RunDesktop(int& argc, char** argv, const ProgramFolder& folder, const PhotoDecoder& decoder) {
-    QApplication application(argc, argv);
+int RunDesktop(MainWords words, const ProgramFolder& folder, const PhotoDecoder& decoder,
+               const std::filesystem::path& file) {
+    QApplication application(words.Count, words.Words);
     QApplication::setApplicationName(QStringLiteral("Vendrel"));
     QApplication::setDesktopFileName(QStringLiteral("vendrel"));
     QApplication::setWindowIcon(ProgramIcon());
@@ -52,6 +53,10 @@ int RunDesktop(int& argc, char** argv, const ProgramFolder& folder, const PhotoD
         return *status;
     }
     QApplication::setQuitOnLastWindowClosed(true);
+    if (!file.empty()) {
+        QMetaObject::invokeMethod(
+            &desktop.Window(), [&] { desktop.Window().Open(file); }, Qt::QueuedConnection);
+    }
     const EndSignals wishes;
     QObject::connect(&wishes, &EndSignals::Asked, &desktop.Window(), &MainWindow::EndAtOnce);
     return QApplication::exec();

@@ -41,8 +41,15 @@ class Desktop {
 /// The folder Vendrel among the user's documents, there or not.
 [[nodiscard]] std::filesystem::path DocumentsFolder();
 
-/// Runs the window until it is closed; gives the exit status. argc and argv as main has them.
-[[nodiscard]] int RunDesktop(int& argc, char** argv, const ProgramFolder& folder,
-                             const PhotoDecoder& decoder);
+/// What main has.
+struct MainWords {
+    int& Count;
+    char** Words;
+};
+
+/// Runs the window until it is closed, with a kit or photo opened unless its path is empty; gives
+/// the exit status.
+[[nodiscard]] int RunDesktop(MainWords words, const ProgramFolder& folder,
+                             const PhotoDecoder& decoder, const std::filesystem::path& file);
 
 }  // namespace vendrel

@@ -7,9 +7,11 @@
 #include "desktop/file_import_dialog.h"
 #include "desktop/fit_photo_dialog.h"
 #include "desktop/kit_pdf_dialog.h"
+#include "desktop/kit_photo_dialog.h"
 #include "desktop/make_paintable_dialog.h"
 #include "desktop/paint_shop_dialog.h"
 #include "desktop/save_everything_dialog.h"
+#include "desktop/save_kit_dialog.h"
 #include "desktop/template_shop_dialog.h"
 #include "desktop/touch_up_dialog.h"
 
@@ -19,6 +21,10 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
     switch (form) {
         case FormId::FileImport:
             return std::make_unique<FileImportDialog>(context, parent);
+        case FormId::KitPhoto:
+            return std::make_unique<KitPhotoDialog>(context, parent);
+        case FormId::SaveKit:
+            return std::make_unique<SaveKitDialog>(context, parent);
         case FormId::CropPhoto:
             return std::make_unique<CropPhotoDialog>(context, parent);
         case FormId::FitPhoto:

@@ -35,7 +35,6 @@ FileImportDialog::FileImportDialog(const ViewContext& context, QWidget* parent)
       panel_(new FitPanel(FitPanel::Shows::ChosenWay)),
       okButton_(Named<QPushButton>("OKButton", tr("OK"))),
       cancelButton_(Named<QPushButton>("CancelButton", tr("Cancel"))) {
-    setWindowTitle(tr("Load Photo"));
     Arrange();
     Connect();
     const auto ways = panel_->Controls();
@@ -102,6 +101,7 @@ void FileImportDialog::OpenFolder() {
 
 void FileImportDialog::Mirror() {
     const FileImportControls& shown = form_.Controls();
+    setWindowTitle(Text(shown.Caption));
     const QSignalBlocker quiet(importDrive_);
     importDrive_->clear();
     for (const Drive& drive : shown.ImportDrive) {

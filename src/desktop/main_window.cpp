@@ -44,6 +44,7 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
     setObjectName(QStringLiteral("Main"));
     setAcceptDrops(true);
     Arrange();
+    MakeRecentKits();
     ui_.Attach({[this] { Mirror(); }, [this](FormId id) { OpenForm(id); },
                 [this](FormId id) { CloseForm(id); }, this});
     connect(new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, this,
@@ -67,6 +68,30 @@ ZoomControls* MainWindow::MakeZoom() {
     auto* menu = new QMenu(tr("&View"), this);
     menuBar()->insertMenu(actions_->ActionOf(MenuId::ShowAbout), menu);
     return new ZoomControls(*menu);
+}
+
+// Files come and go, so they are listed when the painter looks.
+void MainWindow::MakeRecentKits() {
+    auto* recent = new QMenu(tr("&Recent Kits"), this);
+    recent->setObjectName(QStringLiteral("RecentKits"));
+    QAction* const open = actions_->ActionOf(MenuId::OpenKit);
+    auto* const menu = qobject_cast<QMenu*>(open->parent());
+    menu->insertMenu(actions_->ActionOf(MenuId::SaveKit), recent);
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { ListRecentKits(*recent); });
+}
+
+void MainWindow::ListRecentKits(QMenu& menu) {
+    menu.clear();
+    int number = 0;
+    for (const std::filesystem::path& kit : form_.Kits().Recent()) {
+        QString title = Text(kit.stem().string());
+        title.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        menu.addAction(QStringLiteral("&%1  %2").arg(++number).arg(title), this,
+                       [this, kit] { Open(kit); });
+    }
+    if (number == 0) {
+        menu.addAction(tr("No kit was saved yet"))->setEnabled(false);
+    }
 }
 
 void MainWindow::Arrange() {
@@ -156,9 +181,9 @@ void MainWindow::Mirror() {
     }
 }
 
-// A star marks stipples that are in no file yet.
+// A star marks a kit that is not saved.
 void MainWindow::MirrorTitle() {
-    const bool unsaved = place_.State->HasUnsavedWork;
+    const bool unsaved = form_.Kits().Unsaved();
     QString title = ui_.Display().Caption;
     title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));  // a photo's name may hold it
     setWindowTitle(unsaved ? title + QStringLiteral("[*]") : title);
@@ -226,6 +251,10 @@ void MainWindow::TakeIn(const QMimeData& arriving) {
             });
         },
         Qt::QueuedConnection);
+}
+
+void MainWindow::Open(const std::filesystem::path& file) {
+    edge_.Run([&] { form_.TakePhoto(file); });
 }
 
 bool MainWindow::MayEnd() {

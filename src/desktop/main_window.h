@@ -31,6 +31,8 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] bool MayEndSession(Questions questions);
     /// Ends the program without a question, with what an open editor holds kept.
     void EndAtOnce();
+    /// Opens a kit or a photo.
+    void Open(const std::filesystem::path& file);
     /// Takes over the state of menu, pictures, captions and open dialogs.
     void Mirror();
 
@@ -42,6 +44,8 @@ class MainWindow : public QMainWindow {
 
   private:
     [[nodiscard]] ZoomControls* MakeZoom();
+    void MakeRecentKits();
+    void ListRecentKits(QMenu& menu);
     void Arrange();
     [[nodiscard]] QWidget* MakeMiddle();
     void Choose(MenuId entry);

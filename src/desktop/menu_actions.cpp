@@ -22,7 +22,10 @@ struct Keys {
 
 constexpr Keys kKeys[] = {
     {FileHeader, 'P'},
-    {LoadBMP, 'L', "Ctrl+O"},
+    {LoadBMP, 'L', "Ctrl+N"},
+    {OpenKit, 'O', "Ctrl+O"},
+    {SaveKit, 'K', "Ctrl+S"},
+    {SaveKitAs, 'A'},
     {CropOrTurn, 'r'},
     {LoadStipples, 'S'},
     {SaveStipples, 'e', "Ctrl+Shift+S"},
@@ -38,7 +41,7 @@ constexpr Keys kKeys[] = {
     {SaveReference, 'R'},
     {PrintAll, 'S'},
     {PrintColorChart, 'C'},
-    {SaveItAll, 'E', "Ctrl+S"},
+    {SaveItAll, 'E', "Ctrl+E"},
     {SaveKitPdf, 'K'},
     {Difficulty, 'D'},
     {EasySet, 'E'},

@@ -11,6 +11,7 @@
 #include "intake/keep_picture.h"
 #include "intake/photo_intake.h"
 #include "intake/photo_names.h"
+#include "kitfile/kit_places.h"
 #include "paints/restore.h"
 #include "shell/menu.h"
 #include "storage/load_stipples.h"
@@ -72,10 +73,16 @@ void FileImport::Form_Load() {
     controls_.DriveIndex = DriveOf(controls_.ImportDrive, FullPath(place_.Folder.Root()));
 }
 
+void FileImport::ShowKits() {
+    controls_.Caption = "Open Kit or Photo";
+    const std::vector<fs::path> kits = kits_->Recent();
+    ShowFolder(kits.empty() ? place_.Folder.Path("Pictures") : kits.front().parent_path());
+}
+
 void FileImport::ShowFolder(const fs::path& folder) {
     controls_.Folder = FullPath(folder);
     controls_.ImportDir = ListFolders(controls_.Folder);
-    controls_.ImportFile = ListPhotos(controls_.Folder, decoder_.Endings());
+    controls_.ImportFile = ListPhotos(controls_.Folder, Endings());
     const auto chosen = std::find(controls_.ImportFile.begin(), controls_.ImportFile.end(),
                                   ChosenPhoto().filename().string());
     const bool listed = chosen != controls_.ImportFile.end() &&
@@ -84,6 +91,18 @@ void FileImport::ShowFolder(const fs::path& folder) {
     if (fit_.Controls().Description.empty()) {
         ShowPreview();
     }
+}
+
+std::vector<std::string> FileImport::Endings() const {
+    std::vector<std::string> endings = decoder_.Endings();
+    if (kits_ != nullptr) {
+        endings.emplace_back("kit");
+    }
+    return endings;
+}
+
+bool FileImport::IsKit(const fs::path& file) const {
+    return kits_ != nullptr && IsKitName(file);
 }
 
 void FileImport::ImportDrive_Change(int drive) {
@@ -133,6 +152,11 @@ void FileImport::ShowPreview() {
 }
 
 void FileImport::Describe(const fs::path& photo) {
+    if (IsKit(photo)) {
+        KitLook look = LookAtKit(photo);
+        fit_.Clear(look.Description, std::move(look.Picture));
+        return;
+    }
     const std::string name = photo.filename().string();
     fit_.Clear(name + "\nReading ...");
     IncomingPhoto incoming(photo, decoder_);
@@ -190,6 +214,10 @@ bool FileImport::MustAsk(BitmapSize photo) const {
 }
 
 void FileImport::TakePhoto(const fs::path& photo) {
+    if (IsKit(photo)) {
+        kits_->Open(photo);
+        return;
+    }
     IncomingPhoto incoming(photo, decoder_);
     if (!MustAsk(incoming.Size())) {
         TakeAndLoad([&] { return TakeIn(photo, PhotoFit::Keep); }, PhotoFit::Keep);
@@ -238,7 +266,7 @@ void FileImport::LoadCrop(const std::string& pictureFile) {
 }
 
 void FileImport::TakeAndLoad(const Take& take, PhotoFit way, const PicturePart* part) {
-    GridReplacement replacement(place_);
+    GridReplacement replacement(place_, kits_);
     if (replacement.Allowed()) {
         const std::string file = take();
         Remember();
@@ -255,8 +283,14 @@ void FileImport::OKButton_Click() {
         place_.Screen.ShowMessage("No File Selected", "Select A File!");
         return;
     }
+    if (IsKit(clicked_)) {
+        const fs::path kit = clicked_;
+        CancelButton_Click();
+        kits_->Open(kit);
+        return;
+    }
     // Before the photo's name changes: what is unsaved goes by it.
-    GridReplacement replacement(place_);
+    GridReplacement replacement(place_, kits_);
     if (!replacement.Allowed()) {
         return;
     }
@@ -285,6 +319,9 @@ void FileImport::Load(PhotoFit way, const PicturePart* part) {
     } catch (...) {
         PutBack();
         throw;
+    }
+    if (kits_ != nullptr) {
+        kits_->Close();
     }
     KeepEditsOf(part);
     CheckSavedStipples(place_);

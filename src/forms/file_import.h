@@ -10,6 +10,7 @@
 #include "forms/fit_choice.h"
 #include "forms/fit_photo.h"
 #include "forms/folder_lists.h"
+#include "forms/kit_desk.h"
 #include "shell/workplace.h"
 #include "support/surface.h"
 
@@ -17,6 +18,7 @@ namespace vendrel {
 
 /// What the photo chooser shows. Indexes count from 0; -1 is nothing.
 struct FileImportControls {
+    std::string Caption = "Load Photo";
     std::vector<Drive> ImportDrive;
     int DriveIndex = -1;
     std::filesystem::path Folder;
@@ -32,9 +34,14 @@ class FileImport {
     /// `decoder` reads the photos that are no bitmaps; without one only bitmaps are listed.
     explicit FileImport(Workplace& place, const PhotoDecoder* decoder = nullptr);
 
+    /// Kits are listed too from now on, and opened there.
+    void Attach(KitDesk& kits) { kits_ = &kits; }
+
     /// Notes how things stand, for Cancel.
     void Remember();
     void Form_Load();
+    /// For kits as well as photos, where the newest kits are.
+    void ShowKits();
     void ShowFolder(const std::filesystem::path& folder);
 
     void ImportDrive_Change(int drive);
@@ -47,8 +54,8 @@ class FileImport {
     /// Opens the crop window over the chosen photo. Throws Error.
     void CropButton_Click();
 
-    /// Takes a photo without the chooser, as OK does; asks first how it is to come onto the sheet
-    /// when it does not fit. Throws Error; nothing has changed then.
+    /// Opens a kit, or takes a photo without the chooser, as OK does; asks first how it is to come
+    /// onto the sheet when it does not fit. Throws Error; nothing has changed then.
     void TakePhoto(const std::filesystem::path& photo);
     /// The same for a picture that is no file yet; it has pixels.
     void TakePicture(const Surface& picture);
@@ -94,8 +101,12 @@ class FileImport {
     void LoadCrop(const std::string& pictureFile);
     void PutBack();
 
+    [[nodiscard]] std::vector<std::string> Endings() const;
+    [[nodiscard]] bool IsKit(const std::filesystem::path& file) const;
+
     Workplace& place_;
     const PhotoDecoder& decoder_;
+    KitDesk* kits_ = nullptr;
     CropPhoto crop_;
     FitPhoto asking_;
     FitChoice fit_;

@@ -34,8 +34,9 @@ void FitChoice::Show(const FitLook& look) {
     controls_.Description = controls_.Title + "\n" + look.Sentence;
 }
 
-void FitChoice::Clear(const std::string& why) {
+void FitChoice::Clear(const std::string& why, Surface picture) {
     controls_ = {};
+    controls_.Preview = std::move(picture);
     controls_.Description = why;
 }
 

@@ -27,7 +27,7 @@ class FitChoice {
     /// Looks at a photo. `before` is the way that is chosen at first, where it is open.
     void Show(const std::string& name, const Surface& photo, BitmapSize size, PhotoFit before);
     /// There is nothing to look at; `why` may say so.
-    void Clear(const std::string& why = {});
+    void Clear(const std::string& why = {}, Surface picture = {});
     void Way_Click(PhotoFit way);
 
     /// Whether the photo does not fit by itself.

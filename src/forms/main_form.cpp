@@ -32,6 +32,9 @@ struct ClickHandler {
 
 constexpr ClickHandler kHandlers[] = {
     {LoadBMP, &MainForm::LoadBMP_Click},
+    {OpenKit, &MainForm::OpenKit_Click},
+    {SaveKit, &MainForm::SaveKit_Click},
+    {SaveKitAs, &MainForm::SaveKitAs_Click},
     {CropOrTurn, &MainForm::CropOrTurn_Click},
     {LoadStipples, &MainForm::LoadStipples_Click},
     {SaveStipples, &MainForm::SaveStipples_Click},
@@ -151,14 +154,34 @@ std::string MainForm::StatusHint() const {
 }
 
 void MainForm::LoadBMP_Click() {
+    PrepareChooser();
+    chooser_.ShowFolder(place_.Folder.Path("Pictures"));
+    place_.Screen.OpenForm(FormId::FileImport);
+}
+
+void MainForm::OpenKit_Click() {
+    PrepareChooser();
+    chooser_.ShowKits();
+    place_.Screen.OpenForm(FormId::FileImport);
+}
+
+void MainForm::PrepareChooser() {
     chooser_.Remember();
     place_.State->PictureLoaded = false;
     place_.Frames->CaptureFrame.Visible = false;
     place_.Frames->WorkFrame.Visible = false;
     chooser_.Form_Load();
-    chooser_.ShowFolder(place_.Folder.Path("Pictures"));
     place_.MainMenu[PrintMenu].Enabled = false;
-    place_.Screen.OpenForm(FormId::FileImport);
+}
+
+void MainForm::SaveKit_Click() {
+    if (kits_.Save()) {
+        Saved(kits_.File());
+    }
+}
+
+void MainForm::SaveKitAs_Click() {
+    place_.Screen.OpenForm(FormId::SaveKit);
 }
 
 void MainForm::CropOrTurn_Click() {
@@ -184,7 +207,7 @@ void MainForm::PastePicture(const Surface& picture) {
 }
 
 void MainForm::LoadStipples_Click() {
-    GridReplacement replacement(place_);
+    GridReplacement replacement(place_, &kits_);
     if (replacement.Allowed()) {
         vendrel::LoadStipples_Click(place_);
         replacement.Done();
@@ -385,7 +408,7 @@ void MainForm::ShowAbout_Click() {
 }
 
 bool MainForm::MayEnd() {
-    return MayReplaceGrid(place_);
+    return MayReplaceGrid(place_, &kits_);
 }
 
 void MainForm::EndItAll_Click() {

@@ -20,7 +20,12 @@ class MainForm {
     /// always has both.
     explicit MainForm(Workplace& place, const Exporter* exporter = nullptr,
                       const PhotoDecoder* decoder = nullptr)
-        : place_(place), exporter_(exporter), chooser_(place, decoder) {}
+        : place_(place),
+          exporter_(exporter),
+          chooser_(place, decoder),
+          kits_(place, decoder, everything_.Plan()) {
+        chooser_.Attach(kits_);
+    }
 
     /// Starts the program. Throws Stop when it ran here for the first time and has said so.
     void Form_Load();
@@ -31,6 +36,9 @@ class MainForm {
     [[nodiscard]] std::string StatusHint() const;
 
     void LoadBMP_Click();
+    void OpenKit_Click();
+    void SaveKit_Click();
+    void SaveKitAs_Click();
     void CropOrTurn_Click();
     void LoadStipples_Click();
     void SaveStipples_Click();
@@ -64,12 +72,12 @@ class MainForm {
     void ShowAbout_Click();
     void EndItAll_Click();
 
-    /// A photo was dropped on the window, or its file pasted.
+    /// A photo or a kit was dropped on the window, or its file pasted.
     void TakePhoto(const std::filesystem::path& photo);
     /// A picture was pasted; empty when there was none.
     void PastePicture(const Surface& picture);
 
-    /// Whether the program may end now: asks when touched-up stipples would be lost.
+    /// Whether the program may end now: asks when the kit is not saved.
     [[nodiscard]] bool MayEnd();
 
     /// Says in the menu which step of touching up can be taken back or brought again.
@@ -82,11 +90,14 @@ class MainForm {
     [[nodiscard]] const Exporter& Exports() const { return *exporter_; }
     /// The photo chooser, which lives as long as the main window.
     [[nodiscard]] FileImport& Chooser() { return chooser_; }
+    /// The kit in hand as a file.
+    [[nodiscard]] KitDesk& Kits() { return kits_; }
     /// What Save Everything saves, kept as long.
     [[nodiscard]] SaveEverythingForm& Everything() { return everything_; }
 
   private:
     void ShowSample();
+    void PrepareChooser();
     void SetDifficulty(Difficulty level);
     void TakeDifficulty(Difficulty level);
     void SetFinalPaints(int finalColors);
@@ -98,6 +109,7 @@ class MainForm {
     const Exporter* exporter_;
     FileImport chooser_;
     SaveEverythingForm everything_{place_, exporter_};
+    KitDesk kits_;
     bool isHardToPaint_ = false;  // the picture painted last
     std::string lastSaved_;       // for the hint, until the next step of the work
 };

@@ -14,6 +14,12 @@ void PlanChoice::Measure(const Workplace& place, const Exporter& exporter) {
     figures_ = FiguresOf(*sketch_, settings_);
 }
 
+void PlanChoice::Restore(const PlanSettings& settings) {
+    sketch_.reset();
+    figures_.reset();
+    settings_ = settings;
+}
+
 void PlanChoice::Choose(const PlanSettings& wanted) {
     if (!sketch_) {
         settings_ = wanted;

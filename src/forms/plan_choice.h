@@ -14,6 +14,8 @@ class PlanChoice {
   public:
     /// Measures the painting. Throws Error when it cannot be printed.
     void Measure(const Workplace& place, const Exporter& exporter);
+    /// Of a kit that was not painted yet: whether it can be printed is seen when it is measured.
+    void Restore(const PlanSettings& settings);
     /// Throws Error for what cannot be printed, and keeps what was chosen before.
     void Choose(const PlanSettings& wanted);
 

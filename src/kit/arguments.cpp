@@ -8,6 +8,7 @@
 #include "convert/picture_name.h"
 #include "kit/option_kinds.h"
 #include "kit/print_options.h"
+#include "kitfile/kit_places.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 
@@ -19,6 +20,7 @@ constexpr std::string_view kHelp =
 
   vendrel [--folder DIR] opens the window
   vendrel --documents    opens it in the folder Vendrel of your documents
+  vendrel FILE           opens a kit or a photo in it
   vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
   vendrel symbols [--folder DIR]
                          draws the symbols anew into Data/Symbols.txt
@@ -33,6 +35,8 @@ constexpr const char* kKitHead =
 
 PHOTO is a path to a photo or the name of one in Pictures. JPEG, PNG, WebP, TIFF
 and GIF photos are kept in Pictures as .bmp (not in builds without windows).
+A kit file, as in beach.kit, is made again byte for byte; with other settings it
+becomes another kit, which needs a --title.
 )";
 
 constexpr const char* kKitFoot =
@@ -178,6 +182,11 @@ void AddPaintableOptions(CLI::App& app, KitOptions& kit) {
 }
 
 void AddRunOptions(CLI::App& app, KitOptions& kit) {
+    AddSwitch(app,
+              {"--save-kit", "", "keeps the kit as a file in Kits, to be opened or made again"},
+              kit.SaveKit);
+    AddText(app, {"--photo", "FILE", "is the photo of a kit file, where it is not in Pictures"},
+            kit.KitPhoto);
     AddSwitch(app, {"--from-grid", "", "takes the saved grid instead of converting the photo"},
               kit.FromGrid);
     AddSwitch(app, {"--replace-grid", "", "writes over a saved grid that differs"},
@@ -251,8 +260,13 @@ std::vector<std::string> Prepared(const CLI::App& app, std::span<const std::stri
                      "\" lists what it does.");
 }
 
-// Answers whether the words ask for help instead.
-bool AsksForHelp(CLI::App& app, std::span<const std::string_view> words, const std::string& help) {
+bool MayBeFile(const std::string& word) {
+    return !word.starts_with('-') && word.find_first_of("./") != word.npos;
+}
+
+// Answers whether the words ask for help instead; the one file they may name goes to `file`.
+bool AsksForHelp(CLI::App& app, std::span<const std::string_view> words, const std::string& help,
+                 std::filesystem::path* file = nullptr) {
     AddHelp(app);
     app.allow_extras();
     try {
@@ -265,7 +279,9 @@ bool AsksForHelp(CLI::App& app, std::span<const std::string_view> words, const s
         throw UsageError(error.what());
     }
     for (const std::string& word : app.remaining()) {
-        if (word != "--") {
+        if (file != nullptr && file->empty() && MayBeFile(word)) {
+            *file = word;
+        } else if (word != "--") {
             RefuseWord(word, help);
         }
     }
@@ -274,9 +290,11 @@ bool AsksForHelp(CLI::App& app, std::span<const std::string_view> words, const s
 
 // What holds whatever the order of the options.
 void SettleKit(KitOptions& kit) {
-    kit.Chosen.Match = kit.Match.value_or(kit.MatchByEye ? Matching::ByEye : Matching::Plain);
+    kit.Chosen.Match = kit.Match.value_or(kit.MatchByEye ? Matching::ByEye : kit.Chosen.Match);
     const bool plain = kit.Chosen.Match == Matching::Plain && !kit.Chosen.Paintable;
-    kit.Plan.CanvasCm = plain || kit.Chosen.CanvasCm > 0 ? kit.Chosen.CanvasCm : kUsualCanvasCm;
+    if (!kit.From || kit.CanvasNamed) {
+        kit.Plan.CanvasCm = plain || kit.Chosen.CanvasCm > 0 ? kit.Chosen.CanvasCm : kUsualCanvasCm;
+    }
     if (kit.Plan.BleedMm > 0 && !kit.Plan.Sheet.IsCanvas()) {
         throw UsageError("--bleed goes around a canvas printed in one piece. Add --paper canvas.");
     }
@@ -289,18 +307,31 @@ void SettleKit(KitOptions& kit) {
     }
 }
 
-Arguments ParseKit(std::span<const std::string_view> words) {
-    Arguments arguments{Command::Kit, {}, {}};
+// What holds for kit files and photos.
+void SettleKitFiles(const KitOptions& kit) {
+    const auto isKit = [](const std::string& word) { return IsKitName(word); };
+    if (!kit.KitPhoto.empty() && (kit.Photos.size() > 1 || !isKit(kit.Photos.front()))) {
+        throw UsageError("--photo names the photo of one kit file. Name one with it.");
+    }
+    if (kit.FromGrid && std::ranges::any_of(kit.Photos, isKit)) {
+        throw UsageError("--from-grid is for photos; a kit file has its own grid.");
+    }
+}
+
+Arguments ParseKit(std::span<const std::string_view> words, KitOptions base = {}) {
+    Arguments arguments{Command::Kit, std::move(base), {}, false, {}};
     KitOptions& kit = arguments.Kit;
+    kit.Words.assign(words.begin(), words.end());
     CLI::App app;
     AddKit(app, kit);
     if (AsksForHelp(app, words, "vendrel kit --help")) {
-        return {Command::KitHelp, {}, {}};
+        return {Command::KitHelp, {}, {}, false, {}};
     }
     if (kit.Photos.empty()) {
         throw UsageError("Name at least one photo, as in \"vendrel kit PBNLady.bmp\".");
     }
     SettleKit(kit);
+    SettleKitFiles(kit);
     if (kit.Template && !kit.Sets.empty()) {
         throw UsageError("Choose paints by --sets or by --template, not by both.");
     }
@@ -309,7 +340,7 @@ Arguments ParseKit(std::span<const std::string_view> words) {
 
 // The commands whose one option is the folder.
 Arguments ParseFolder(Command command, std::span<const std::string_view> words) {
-    Arguments arguments{command, {}, "."};
+    Arguments arguments{command, {}, ".", false, {}};
     bool version = false;
     CLI::App app;
     AddText(app, {"--folder", "DIR", ""}, arguments.Folder);
@@ -317,13 +348,14 @@ Arguments ParseFolder(Command command, std::span<const std::string_view> words) 
         AddSwitch(app, {"--version", "", ""}, version);
         AddSwitch(app, {"--documents", "", ""}, arguments.InDocuments);
     }
-    if (AsksForHelp(app, words, "vendrel --help")) {
-        return {Command::Help, {}, {}};
+    std::filesystem::path* const file = command == Command::Window ? &arguments.File : nullptr;
+    if (AsksForHelp(app, words, "vendrel --help", file)) {
+        return {Command::Help, {}, {}, false, {}};
     }
     if (arguments.InDocuments && arguments.Folder != ".") {
         throw UsageError("Choose the folder by --folder or by --documents, not by both.");
     }
-    return version ? Arguments{Command::Version, {}, {}} : arguments;
+    return version ? Arguments{Command::Version, {}, {}, false, {}} : arguments;
 }
 
 }  // namespace
@@ -337,9 +369,19 @@ Arguments ParseArguments(std::span<const std::string_view> words) {
         return ParseFolder(Command::Symbols, words.subspan(1));
     }
     if (command == "help") {
-        return {Command::Help, {}, {}};
+        return {Command::Help, {}, {}, false, {}};
     }
     return ParseFolder(Command::Window, words);
+}
+
+KitOptions OptionsOver(const KitOptions& given, std::shared_ptr<const KitFile> kit) {
+    KitOptions base;
+    base.From = std::move(kit);
+    base.Chosen = base.From->Chosen;
+    base.Plan = base.From->Print;
+    base.Screen = base.From->Board;
+    const std::vector<std::string_view> words(given.Words.begin(), given.Words.end());
+    return ParseKit(words, std::move(base)).Kit;
 }
 
 std::string_view HelpText() {

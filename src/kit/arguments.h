@@ -1,12 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "kitfile/kit_file.h"
 #include "kitset/outputs.h"
 #include "plan/plan_layout.h"
 #include "shell/settings.h"
@@ -20,9 +22,12 @@ struct KitOutputs {
     bool ByName = false;  // asked for by name, so that each is missed when it cannot be made
 };
 
-/// `vendrel kit`: photos and the settings that hold for all of them.
+/// `vendrel kit`: photos or kits, and the settings that hold for all of them.
 struct KitOptions {
-    std::vector<std::string> Photos;
+    std::vector<std::string> Words;       // behind "kit", as they were given
+    std::vector<std::string> Photos;      // and kit files
+    std::shared_ptr<const KitFile> From;  // the kit that is made again or changed
+    std::filesystem::path KitPhoto;       // of a kit, in place of the one in Pictures
     std::filesystem::path Folder = ".";
     Settings Chosen;
     std::optional<Matching> Match;  // asked for by name
@@ -33,6 +38,8 @@ struct KitOptions {
     ScreenSize Screen = kDrawingBoard;
     KitOutputs Outputs;
     PlanSettings Plan;  // of the PDF; its canvas is that of the settings where they need one
+    bool CanvasNamed = false;
+    bool SaveKit = false;  // as a file to be opened or made again
     bool ReplaceGrid = false;
     bool FromGrid = false;
     bool Figures = false;  // compared with the photo, which takes a while
@@ -47,10 +54,14 @@ struct Arguments {
     KitOptions Kit;                      // for Command::Kit
     std::filesystem::path Folder = ".";  // for Command::Window and Command::Symbols
     bool InDocuments = false;            // for Command::Window: among the painter's documents
+    std::filesystem::path File;          // for Command::Window: a kit or photo to open; or empty
 };
 
 /// Reads the words behind the program's name. Throws UsageError with a sentence.
 [[nodiscard]] Arguments ParseArguments(std::span<const std::string_view> words);
+
+/// The same options over the settings of a kit file, which hold where the words say nothing else.
+[[nodiscard]] KitOptions OptionsOver(const KitOptions& given, std::shared_ptr<const KitFile> kit);
 
 [[nodiscard]] std::string_view HelpText();
 [[nodiscard]] std::string KitHelpText();

@@ -5,6 +5,7 @@
 #include "kit/arguments.h"
 #include "kit/kit_command.h"
 #include "kit/printable.h"
+#include "kitfile/kit_places.h"
 #include "shell/ui.h"
 #include "support/error.h"
 
@@ -29,9 +30,20 @@ int DrawSymbols(const std::filesystem::path& root, const Surroundings& around) {
     return kDone;
 }
 
+// A kit is opened where it belongs, from wherever a file manager starts the program.
+std::filesystem::path WindowFolder(const Arguments& arguments, const Surroundings& around) {
+    const bool named = arguments.Folder != ".";
+    if (!named && IsKitName(arguments.File)) {
+        if (auto own = FolderOfKit(arguments.File); !own.empty()) {
+            return own;
+        }
+    }
+    return arguments.InDocuments ? around.Documents() : arguments.Folder;
+}
+
 int OpenWindow(const Arguments& arguments, const Surroundings& around) {
     if (around.OpenWindow) {
-        return around.OpenWindow(arguments.InDocuments ? around.Documents() : arguments.Folder);
+        return around.OpenWindow(WindowFolder(arguments, around), arguments.File);
     }
     around.Out << HelpText();
     return kDone;

@@ -30,8 +30,10 @@ struct Surroundings {
     std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
     /// The program's folder among the painter's documents, there or not; empty where the window is.
     std::function<std::filesystem::path()> Documents = {};
-    /// Opens the main window in a folder and gives the exit status; empty where there is none.
-    std::function<int(const std::filesystem::path&)> OpenWindow = {};
+    /// Opens the main window in a folder, with a kit or photo unless its path is empty, and gives
+    /// the exit status; empty where there is none.
+    std::function<int(const std::filesystem::path& folder, const std::filesystem::path& file)>
+        OpenWindow = {};
     /// Set when the program should end: the work stops at the next stipple.
     const std::atomic<bool>* StopAsked = nullptr;
 };

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "kit/kit_keeping.h"
 #include "kit/kit_photos.h"
 #include "kit/kit_report.h"
 #include "kit/kit_settings.h"
@@ -13,6 +14,8 @@
 #include "kit/photo_lookup.h"
 #include "kit/printable.h"
 #include "kit/terminal_ui.h"
+#include "kitfile/kit_photo.h"
+#include "kitfile/kit_places.h"
 #include "shell/workplace.h"
 #include "startup/start_up.h"
 #include "support/error.h"
@@ -34,7 +37,8 @@ class KitRun {
         : options_(options),
           around_(around),
           folder_(options.Folder, around.Shipped),
-          photos_(around.Decoder != nullptr ? *around.Decoder : noDecoder_),
+          decoder_(around.Decoder != nullptr ? *around.Decoder : noDecoder_),
+          photos_(decoder_),
           ui_(around.Err, ChatterOf(options, around), options.Screen, around.StopAsked) {
         MakeFolder();
         MakeExporter();
@@ -79,17 +83,48 @@ class KitRun {
     }
 
     KitReport Make(const std::string& word) {
-        const std::filesystem::path photo = FindPhoto(folder_, word);
         WorkState state = state_;
         Surfaces frames;
         Menu menu = menu_;
         Workplace place{state, frames, menu, ui_, folder_};
-        KitReport report = MakeKit(place, options_, photos_, photo, exporter_.get());
+        ui_.SetScreen(options_.Screen);
+        KitReport report = IsKitName(word) ? MakeFromKit(place, FindKit(folder_, word))
+                                           : MakeKit(place, options_, photos_,
+                                                     FindPhoto(folder_, word), exporter_.get());
         report.Notes.insert(report.Notes.end(), warnings_.begin(), warnings_.end());
         for (std::string& message : ui_.TakeMessages()) {
             report.Notes.push_back(std::move(message));
         }
         return report;
+    }
+
+    KitReport MakeFromKit(Workplace& place, const std::filesystem::path& file) {
+        const KitOptions options =
+            OptionsOver(options_, std::make_shared<const KitFile>(ReadKitFile(file)));
+        RequireOwnTitle(options);
+        ui_.SetScreen(options.Screen);
+        const std::filesystem::path photo = PhotoOf(options, file);
+        KitReport report;
+        if (ChangesGrid(options)) {
+            ApplySettings(place, options);
+            report = MakeKit(place, options, photos_, photo, exporter_.get());
+        } else {
+            report = MakeKitAgain(place, options, photo, exporter_.get());
+        }
+        report.Photo = Shown(file);
+        return report;
+    }
+
+    std::filesystem::path PhotoOf(const KitOptions& options, const std::filesystem::path& kit) {
+        const KitPhoto& photo = options.From->Photo;
+        if (!options.KitPhoto.empty()) {
+            return TakeKitPhoto(folder_, decoder_, photo, FindPhoto(folder_, options.KitPhoto));
+        }
+        FoundPhoto found = FindKitPhoto(folder_, photo);
+        if (!found.Problem.empty()) {
+            throw FileError(kit, found.Problem + " Name it with --photo FILE.");
+        }
+        return found.File;
     }
 
     void Report(const KitReport& report) {
@@ -114,6 +149,7 @@ class KitRun {
     const Surroundings& around_;
     ProgramFolder folder_;
     NoPhotoDecoder noDecoder_;
+    const PhotoDecoder& decoder_;
     KitPhotos photos_;
     TerminalUi ui_;
     WorkState state_;

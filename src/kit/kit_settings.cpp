@@ -4,8 +4,10 @@
 #include <string>
 
 #include "convert/settings.h"
+#include "kitfile/take_kit.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
+#include "shell/palette.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -49,6 +51,15 @@ void SelectTemplate(Workplace& place, const std::string& name) {
     state.TemplateLoaded = true;
 }
 
+// Those it was chosen from, whatever the catalogue and the template have by now.
+void TakeKitPaints(WorkState& state, const KitFile& kit) {
+    TakeSource(state, state, kit.Source);
+    SetPalette(state, kit.Choice);
+    if (kit.Chosen.FinalPaints == 0) {
+        state.FinalColors = kit.FinalColors;
+    }
+}
+
 }  // namespace
 
 void ApplySettings(Workplace& place, const KitOptions& options) {
@@ -59,6 +70,8 @@ void ApplySettings(Workplace& place, const KitOptions& options) {
         SelectTemplate(place, *options.Template);
     } else if (!options.Sets.empty()) {
         SelectSets(place.State, options.Sets);
+    } else if (options.From) {
+        TakeKitPaints(place.State, *options.From);
     }
 }
 

@@ -11,6 +11,8 @@
 #include "convert/stipple_conversion.h"
 #include "convert/working_size.h"
 #include "intake/photo_intake.h"
+#include "kit/kit_keeping.h"
+#include "kitfile/take_kit.h"
 #include "kitset/save_kit.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
@@ -95,6 +97,11 @@ void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* e
     }
 }
 
+// Whether anybody reads the figures.
+bool IsRead(const KitOptions& options) {
+    return !options.Quiet || options.Json;
+}
+
 int CountLoners(const Grid<StippleCell>& stipples) {
     int loners = 0;
     for (int y = 1; y <= stipples.Down(); ++y) {
@@ -109,8 +116,8 @@ int CountLoners(const Grid<StippleCell>& stipples) {
 void FillBrushFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
     report.Matched = place.State->Chosen.Match == Matching::ByEye ? "eye" : "plain";
     report.Paintable = place.State->PaintableKit;
-    if (options.Quiet && !options.Json) {
-        return;  // nobody reads them
+    if (!IsRead(options)) {
+        return;
     }
     report.Figures = MeasureKit(place);
     if (report.Paintable) {
@@ -134,7 +141,7 @@ void FillBrushFigures(const Workplace& place, const KitOptions& options, KitRepo
     }
 }
 
-void FillFigures(const Workplace& place, KitReport& report) {
+void FillFigures(const Workplace& place, const KitOptions& options, KitReport& report) {
     const WorkState& state = place.State;
     const TwipsPerPixel twips = place.Screen.Screen().Twips;
     report.Name = state.PictureName;
@@ -146,7 +153,7 @@ void FillFigures(const Workplace& place, KitReport& report) {
     report.CellsDown = state.CellsDown;
     report.PaintsKept = state.PaintCount;
     report.Areas = state.AreaCount - 1;
-    report.Loners = CountLoners(state.Stipples);
+    report.Loners = IsRead(options) ? CountLoners(state.Stipples) : 0;
     if (StretchPercent(report.PhotoSize, report.WorkingSize) > kStretchThatShows) {
         report.Notes.emplace_back(
             "The photo's shape does not fit the sheet, so it is stretched; --fit keep keeps its "
@@ -184,6 +191,29 @@ void FitIntoCanvas(Workplace& place, const PlanSettings& plan, KitReport& report
     }
 }
 
+// The title and the canvas are chosen before anything depends on them.
+void NameKit(Workplace& place, const KitOptions& options, KitReport& report) {
+    if (!options.Title.empty()) {
+        place.State->PictureName = options.Title;
+    }
+    if (options.Plan.Canvas.Width > 0) {
+        FitIntoCanvas(place, options.Plan, report);
+    }
+}
+
+// What is made of a grid, whatever it came from.
+void PaintAndWrite(Workplace& place, const KitOptions& options, const TakenPhoto& taken,
+                   const Exporter* exporter, KitReport& report) {
+    Timed(report, "paint", [&] { PaintItNow_Click(place); });
+    FillFigures(place, options, report);
+    report.Fit = FitUsed(place, taken);
+    Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
+    if (KeepsKit(options)) {
+        Timed(report, "kit file", [&] { KeepKit(place, options, report); });
+    }
+    WriteOutputs(place, options, exporter, report);
+}
+
 }  // namespace
 
 void RequireExporter(const KitOutputs& outputs, const Exporter* exporter) {
@@ -203,23 +233,31 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     TakenPhoto taken;
     Timed(report, "photo", [&] { taken = photos.TakeIn(place, options, photo); });
     Timed(report, "import", [&] { ImportPhoto(place, photo, taken.File); });
-    if (!options.Title.empty()) {
-        place.State->PictureName = options.Title;
-    }
-    if (options.Plan.Canvas.Width > 0) {
-        FitIntoCanvas(place, options.Plan, report);
-    }
+    NameKit(place, options, report);
     if (options.FromGrid) {
         Timed(report, "load", [&] { TakeSavedGrid(place); });
         place.State->PaintableKit = options.Chosen.Paintable;
     } else {
+        if (options.From) {
+            place.State->Edits = options.From->Layer.Edits;
+        }
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
+        if (!place.State->LaidOn.empty()) {
+            report.Notes.push_back(place.State->LaidOn + ".");
+        }
     }
-    Timed(report, "paint", [&] { PaintItNow_Click(place); });
-    FillFigures(place, report);
-    report.Fit = FitUsed(place, taken);
-    Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
-    WriteOutputs(place, options, exporter, report);
+    PaintAndWrite(place, options, taken, exporter, report);
+    return report;
+}
+
+KitReport MakeKitAgain(Workplace& place, const KitOptions& options, const fs::path& photo,
+                       const Exporter* exporter) {
+    KitReport report;
+    report.Photo = Shown(photo);
+    report.FromGrid = true;
+    Timed(report, "load", [&] { TakeKit(place, *options.From, photo); });
+    NameKit(place, options, report);
+    PaintAndWrite(place, options, {}, exporter, report);
     return report;
 }
 

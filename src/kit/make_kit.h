@@ -18,4 +18,8 @@ void RequireExporter(const KitOutputs& outputs, const Exporter* exporter);
 [[nodiscard]] KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos,
                                 const std::filesystem::path& photo, const Exporter* exporter);
 
+/// Makes the kit of a file again from its grid, with the photo in `photo`. Throws Error as MakeKit.
+[[nodiscard]] KitReport MakeKitAgain(Workplace& place, const KitOptions& options,
+                                     const std::filesystem::path& photo, const Exporter* exporter);
+
 }  // namespace vendrel

@@ -53,6 +53,7 @@ void AddSizeOptions(CLI::App& app, KitOptions& kit) {
               "plain\nkit fills the pages that legible symbols need"},
              [&kit](const std::string& option, const std::string& value) {
                  const CanvasOption canvas = ToCanvas(option, value);
+                 kit.CanvasNamed = true;
                  kit.Chosen.CanvasCm = canvas.WidthCm;
                  kit.Plan.Canvas = canvas.Size;
                  kit.Plan.InchCanvas = canvas.Inches;

@@ -48,6 +48,8 @@ class TerminalUi : public Ui {
     void ShowFolder(const std::filesystem::path& /*folder*/) override {}
     void OpenForm(FormId /*form*/) override {}
     void CloseForm(FormId /*form*/) override {}
+    /// The next kit is sized for this screen.
+    void SetScreen(ScreenSize screen) { screen_ = screen; }
     [[nodiscard]] ScreenSize Screen() const override { return screen_; }
 
     /// Wipes the progress line, so that something else can be printed.

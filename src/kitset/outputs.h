@@ -47,7 +47,7 @@ struct Output {
     void (*Write)(OutputJob& job, const Target& target);
 };
 
-/// All outputs, in the order in which they are written.
+/// All outputs, in the order in which they are told.
 [[nodiscard]] std::span<const Output> AllOutputs();
 [[nodiscard]] const Output& OutputOf(OutputId output);
 /// Null when no output has that word.

@@ -1,6 +1,8 @@
 #include "kitset/save_kit.h"
 
+#include <algorithm>
 #include <chrono>
+#include <functional>
 
 #include "kitset/kit_mark.h"
 #include "kitset/kit_set.h"
@@ -38,6 +40,12 @@ GridStep StepOf(const Workplace& place, const KitOrder& order) {
                                                         : GridStep::KeepDifferent;
 }
 
+// These wait for nothing: the grid goes to the disk, and the painting is summed up, while the areas
+// are numbered for the others.
+bool IsReady(const Output& output) {
+    return output.Id == OutputId::Grid || output.Id == OutputId::Painting;
+}
+
 class Saving {
   public:
     Saving(Workplace& place, const KitOrder& order)
@@ -49,7 +57,23 @@ class Saving {
 
     SavedKit Run() {
         saved_.Mark = set_.Mark();
+        SaveThose(IsReady);
+        SaveThose(std::not_fn(IsReady));
+        std::ranges::sort(saved_.Files, {}, &SavedKit::File::Output);
+        saved_.Numbering = job_.Counts();
+        if (!saved_.Files.empty()) {
+            Timed(saved_, "set", [&] { Commit(); });
+        }
+        return std::move(saved_);
+    }
+
+  private:
+    template <class Wanted>
+    void SaveThose(Wanted wanted) {
         for (const Output& output : AllOutputs()) {
+            if (!wanted(output)) {
+                continue;
+            }
             if (order_.Outputs.Has(output.Id)) {
                 if (order_.Begins) {
                     order_.Begins(begun_++, order_.Outputs.Count());
@@ -59,14 +83,8 @@ class Saving {
                 set_.Kept(output);
             }
         }
-        saved_.Numbering = job_.Counts();
-        if (!saved_.Files.empty()) {
-            Timed(saved_, "set", [&] { Commit(); });
-        }
-        return std::move(saved_);
     }
 
-  private:
     void Save(const Output& output) {
         const GridStep step =
             output.Id == OutputId::Grid ? StepOf(place_, order_) : GridStep::Write;

@@ -2,7 +2,7 @@
 
 namespace vendrel {
 
-/// What a kit can consist of, in the order in which it is written.
+/// What a kit can consist of, in the order in which it is told.
 enum class OutputId { Sheet, Reference, Painting, Chart, Grid, Pdf, Svg, Page, List };
 
 }  // namespace vendrel

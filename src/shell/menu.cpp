@@ -11,6 +11,9 @@ using enum MenuId;
 constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {FileHeader, "FileHeader", "Picture", kMenuBar},
     {LoadBMP, "LoadBMP", "Load Photo", FileHeader},
+    {OpenKit, "OpenKit", "Open Kit or Photo\u2026", FileHeader},
+    {SaveKit, "SaveKit", "Save Kit", FileHeader, false},
+    {SaveKitAs, "SaveKitAs", "Save Kit As\u2026", FileHeader, false},
     {CropOrTurn, "CropOrTurn", "Crop or Turn Photo", FileHeader, false},
     {LoadStipples, "LoadStipples", "Load Stipple Picture", FileHeader},
     {SaveStipples, "SaveStipples", "Save Stipples", FileHeader},
@@ -84,7 +87,7 @@ void SetupMenuItems(Menu& menu, int stage) {
     }
     menu[ChangeToStipples].Enabled = stage == 2;
     menu[PaintItNow].Enabled = stage == 3;
-    Enable(menu, {ColorPickerSelect, MakeItPaintable, SaveStipples}, stage == 3 || stage == 4);
+    Enable(menu, {ColorPickerSelect, MakeItPaintable, SaveStipples, SaveKit, SaveKitAs}, stage == 3 || stage == 4);
     menu[PrintMenu].Enabled = stage == 4;
 }
 

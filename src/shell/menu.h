@@ -14,6 +14,9 @@ namespace vendrel {
 enum class MenuId {
     FileHeader,
     LoadBMP,
+    OpenKit,
+    SaveKit,
+    SaveKitAs,
     CropOrTurn,
     LoadStipples,
     SaveStipples,

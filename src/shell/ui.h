@@ -17,6 +17,8 @@ enum class SaveAnswer { Save, Discard, Cancel };
 /// The windows beside the main one.
 enum class FormId {
     FileImport,
+    KitPhoto,
+    SaveKit,
     CropPhoto,
     FitPhoto,
     PaintShop,

@@ -82,21 +82,37 @@ bool MayReplaceSaved(Workplace& place) {
                                 " holds other stipples, perhaps touched-up ones. Replace them?");
 }
 
-GridReplacement::GridReplacement(Workplace& place) : place_(place) {
-    const WorkState& state = place_.State;
-    if (!state.HasUnsavedWork) {
-        return;
+GridReplacement::GridReplacement(Workplace& place, KitKeeper* keeper)
+    : place_(place), keeper_(keeper) {
+    if (keeper_ != nullptr ? keeper_->Unsaved() : place_.State->HasUnsavedWork) {
+        Ask();
     }
-    const SaveAnswer answer = place_.Screen.AskToSave(
-        "Unsaved Stipples", "The touched-up stipples of " + state.PictureName +
-                                " are not saved. Save them before going on?");
+}
+
+bool GridReplacement::Save() {
+    if (keeper_ != nullptr) {
+        return keeper_->Save();
+    }
+    if (!place_.MainMenu[MenuId::ColorPickerSelect].Enabled) {
+        AutoChangeToStipples(place_);
+    }
+    SaveStipples(place_);
+    return true;
+}
+
+void GridReplacement::Ask() {
+    const WorkState& state = place_.State;
+    const SaveAnswer answer =
+        keeper_ != nullptr
+            ? place_.Screen.AskToSave("Unsaved Kit", "The kit " + state.PictureName +
+                                                         " is not saved. Save it before going on?")
+            : place_.Screen.AskToSave("Unsaved Stipples",
+                                      "The touched-up stipples of " + state.PictureName +
+                                          " are not saved. Save them before going on?");
     allowed_ = answer != SaveAnswer::Cancel;
     if (answer == SaveAnswer::Save) {
-        if (!place_.MainMenu[MenuId::ColorPickerSelect].Enabled) {
-            AutoChangeToStipples(place_);
-        }
-        SaveStipples(place_);
-    } else if (allowed_) {
+        allowed_ = Save();
+    } else if (allowed_ && state.HasUnsavedWork) {
         unsaved_ = {state.Recovery, state.PictureName, state.StippleSize, state.Stipples,
                     state.PaintColors};
     }
@@ -128,8 +144,8 @@ void GridReplacement::Done() {
     }
 }
 
-bool MayReplaceGrid(Workplace& place) {
-    GridReplacement replacement(place);
+bool MayReplaceGrid(Workplace& place, KitKeeper* keeper) {
+    GridReplacement replacement(place, keeper);
     if (replacement.Allowed()) {
         replacement.Done();
     }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "shell/workplace.h"
+#include "touchup/kit_keeper.h"
 
 namespace vendrel {
 
@@ -27,7 +28,8 @@ class GridReplacement {
     /// Asks when the grid holds accepted but unsaved work, and saves it when told to, changed to
     /// stipples first where a setting waits for that; "discard" does not lose it yet. Throws
     /// FileError when it cannot be saved.
-    explicit GridReplacement(Workplace& place);
+    /// Where there is a keeper, it is the kit that must not be lost, and the kit that is saved.
+    explicit GridReplacement(Workplace& place, KitKeeper* keeper = nullptr);
     /// A step that broke off before Done has lost nothing: work that is no longer in the kit is
     /// offered again from its recovery file.
     ~GridReplacement();
@@ -51,13 +53,17 @@ class GridReplacement {
 
     [[nodiscard]] bool StillInKit() const;
 
+    void Ask();
+    [[nodiscard]] bool Save();
+
     Workplace& place_;
+    KitKeeper* keeper_;
     std::optional<Work> unsaved_;
     bool allowed_ = true;
 };
 
 /// Asks, and saves the unsaved work or gives it up at once: for the end of the program. True when
 /// nothing is left to lose.
-[[nodiscard]] bool MayReplaceGrid(Workplace& place);
+[[nodiscard]] bool MayReplaceGrid(Workplace& place, KitKeeper* keeper = nullptr);
 
 }  // namespace vendrel
