@@ -268,7 +268,7 @@ std::vector<QWidget*> PlanPanel::Controls() const {
             gray_,      pot_,        bySet_,       maker_,   logo_,       noLogo_};
 }
 
-void PlanPanel::Mirror(const PlanChoice& shown) {
+void PlanPanel::Mirror(PlanChoice& shown) {
     if (shown_ != shown.Settings()) {
         shown_ = shown.Settings();
         AskForPage();
@@ -323,13 +323,15 @@ void PlanPanel::MirrorFigures(const PlanFigures& figures) {
             ? QString()
             : tr(", the picture %1").arg(Text(SizeText(figures.Picture, figures.Inches)));
     canvas_->setText(Text(SizeText(figures.Canvas, figures.Inches)) + picture);
-    smallest_->setText(tr("%1 mm").arg(Text(SmallestText(figures))));
+    smallest_->setText(figures.Symbols ? tr("%1 mm").arg(Text(SmallestText(*figures.Symbols)))
+                                       : QStringLiteral("\u2026"));
     effort_->setText(tr("about %1 hours, %2 ml of paint")
                          .arg(figures.Hours, 0, 'f', 0)
                          .arg(figures.Ml, 0, 'f', 0));
     const std::string warning = WarningOf(figures);
-    warning_->setText(warning.empty() ? tr("All symbols can be read.")
-                                      : tr("\u26a0 %1").arg(Text(warning)));
+    warning_->setText(!figures.Symbols  ? QString()
+                      : warning.empty() ? tr("All symbols can be read.")
+                                        : tr("\u26a0 %1").arg(Text(warning)));
 }
 
 void PlanPanel::ShowPage(const QImage& page) {

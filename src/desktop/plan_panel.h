@@ -25,7 +25,7 @@ class PlanPanel : public QWidget {
   public:
     PlanPanel();
 
-    void Mirror(const PlanChoice& shown);
+    void Mirror(PlanChoice& shown);
     void ShowPage(const QImage& page);
     /// Asks for the first page when nothing has been changed for a moment.
     void AskForPage() { soon_.start(); }

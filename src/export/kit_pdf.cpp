@@ -107,9 +107,10 @@ void FixId(QByteArray& pdf) {
 
 }  // namespace
 
-void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
-    place.Screen.SetCaption("Drawing the Plan");
-    const DrawnKit drawn(place, settings);
+void WriteKitPdf(PlannedKit& planned, const Target& target) {
+    Ui& screen = planned.Place().Screen;
+    screen.SetCaption("Drawing the Plan");
+    const DrawnKit drawn(planned);
     const KitPages& kit = drawn.Pages();
     const SteadyHashes steady;
     QByteArray pdf;
@@ -126,7 +127,7 @@ void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Tar
     }
     FixDates(pdf);
     FixId(pdf);
-    SaveDrawn(place.Screen, pdf, target);
+    SaveDrawn(screen, pdf, target);
 }
 
 }  // namespace vendrel
