@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "export/drawn_kit.h"
+#include "export/pdf_boxes.h"
 #include "export/pdf_units.h"
 #include "export/save_drawn.h"
 #include "support/error.h"
@@ -124,6 +125,10 @@ void WriteKitPdf(PlannedKit& planned, const Target& target) {
         writer.setTitle(ToQt(kit.Title()));
         writer.setCreator("Vendrel");
         DrawPages(writer, kit);
+    }
+    if (kit.Settings.Sheet.IsCanvas()) {
+        const double bleed = kit.Settings.BleedMm;
+        AddPageBoxes(pdf, PlanPageDesign::kWholeCanvasEdge + bleed, bleed);
     }
     FixDates(pdf);
     FixId(pdf);
