@@ -92,8 +92,8 @@ void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* e
     }
     report.Notes.insert(report.Notes.end(), saved.Notes.begin(), saved.Notes.end());
     report.Plan = saved.Plan;
-    if (report.Plan && report.Plan->Small > 0) {
-        report.Notes.push_back(WarningOf(*report.Plan));
+    if (const std::string warning = report.Plan ? WarningOf(*report.Plan) : ""; !warning.empty()) {
+        report.Notes.push_back(warning);
     }
 }
 
