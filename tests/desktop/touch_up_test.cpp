@@ -346,11 +346,11 @@ void TouchUpWindowTest::SelectionsAreMovedCopiedMirroredAndPasted() {
     QTest::keyClick(canvas_, Qt::Key_Right);
     QCOMPARE(PaintAt(9, 9), 2);
     QTest::keySequence(canvas_, QKeySequence(QKeySequence::Copy));
-    QTest::mouseMove(picture, At(15, 15));
     QTest::keySequence(canvas_, QKeySequence(QKeySequence::Paste));
     QTest::keyClick(canvas_, Qt::Key_Return);
     QCOMPARE(UndoText(), QStringLiteral("Undo Paste"));
-    QVERIFY(PaintAt(9, 9) == 2 && PaintAt(14, 14) == 2);
+    QCOMPARE(PaintAt(9, 9), 2);
+    QVERIFY2(PaintAt(7, 8) == 2, "round the pointer");
     QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_A));
     QTest::keyClick(canvas_, Qt::Key_Delete);
     QCOMPARE(State().EditStipples, State().Stipples);
