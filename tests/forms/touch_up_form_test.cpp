@@ -106,7 +106,7 @@ TEST_F(TouchUpFormTest, ToolsRepaintWhatTheyAreMeantTo) {
     Press({1, 1});
     EXPECT_FALSE(Shown().UndoEnabled) << "the paint was there already";
     form_->PaintList_Click(2);
-    form_->BrushSize_Click(BrushSize::Three);
+    form_->BrushSize_Click(3);
     for (const auto& [tool, replaced, caption] :
          {std::tuple{TouchUpTool::Brush, 9, "Undo Brush"},
           {TouchUpTool::Fill, quarter, "Undo Fill"},
