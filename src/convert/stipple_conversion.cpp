@@ -10,6 +10,7 @@
 #include "convert/paintable_stipples.h"
 #include "convert/photo_import.h"
 #include "drawing/stipple_brush.h"
+#include "edits/kit_base.h"
 #include "paints/color_match.h"
 #include "paints/nearest_paint.h"
 #include "paints/reduction.h"
@@ -243,6 +244,7 @@ int ChangeToStipples_Click(Workplace& place) {
     place.State->WorkStage = 1;
     place.State->StipplesMade = false;
     const int matched = ApplyStipples(place);
+    LayOverConversion(place.State);
     DrawStipplePicture(place);
     SetupMenuItems(place.MainMenu, 3);
     place.MainMenu[MenuId::NextBestColors].Enabled = true;

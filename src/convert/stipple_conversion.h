@@ -31,7 +31,8 @@ Matched MatchStipples(Workplace& place);
 /// StippleFrame. What lies between the dots stays as it is.
 void DrawStipplePicture(Workplace& place);
 
-/// The whole way from the photo to the stipple picture. Throws and answers as ApplyStipples.
+/// The whole way from the photo to the stipple picture, with the painter's edits laid on. Throws
+/// and answers as ApplyStipples.
 int ChangeToStipples_Click(Workplace& place);
 
 /// The same, asked for by another window, with what is in hand kept: a paintable kit comes out

@@ -12,7 +12,7 @@ namespace vendrel {
 KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       form_(context.Place, context.Form.Exports(), context.Form.Everything().Plan()),
-      plan_(new PlanPanel) {
+      plan_(new PlanPanel(*this)) {
     setWindowTitle(tr("Save Kit as PDF"));
     connect(plan_, &PlanPanel::Chosen, this,
             [this](const PlanSettings& wanted) { Run([&] { form_.Plan().Choose(wanted); }); });

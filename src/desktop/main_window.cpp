@@ -170,6 +170,7 @@ void MainWindow::CloseForm(FormId form) {
 
 void MainWindow::Mirror() {
     MirrorTitle();
+    form_.NameTouchUps();
     actions_->Mirror();
     MirrorPictures();
     MirrorStatus();

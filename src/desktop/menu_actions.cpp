@@ -32,6 +32,8 @@ constexpr Keys kKeys[] = {
     {StartupPaintShop, 'h'},
     {ChangeToStipples, 'C'},
     {ColorPickerSelect, 'T'},
+    {UndoTouchUp, 'U', "Ctrl+Z"},
+    {RedoTouchUp, 'd', "Ctrl+Shift+Z"},
     {MakeItPaintable, 'M'},
     {PaintItNow, 'I'},
     {PrintMenu, 'v'},
@@ -84,9 +86,9 @@ std::size_t At(MenuId entry) {
     return static_cast<std::size_t>(entry);
 }
 
-QString Caption(const MenuEntry& entry) {
-    QString caption = Text(entry.Caption);
-    const qsizetype letter = caption.indexOf(QLatin1Char(KeysOf(entry.Id).Mnemonic));
+QString Caption(const Menu& menu, MenuId entry) {
+    QString caption = Text(menu.CaptionOf(entry));
+    const qsizetype letter = caption.indexOf(QLatin1Char(KeysOf(entry).Mnemonic));
     return letter < 0 ? caption : caption.insert(letter, QLatin1Char('&'));
 }
 
@@ -108,15 +110,14 @@ MenuActions::MenuActions(const Menu& menu, const Settings& settings, QMenuBar& b
 
 QAction* MenuActions::MakeAction(const MenuEntry& entry) {
     QMenu* parent = entry.Parent == kMenuBar ? nullptr : menus_[At(entry.Parent)];
+    const QString caption = Caption(menu_, entry.Id);
     if (IsMenu(menu_, entry.Id)) {
-        QMenu* menu =
-            parent != nullptr ? parent->addMenu(Caption(entry)) : bar_.addMenu(Caption(entry));
+        QMenu* menu = parent != nullptr ? parent->addMenu(caption) : bar_.addMenu(caption);
         menus_[At(entry.Id)] = menu;
         menu->menuAction()->setObjectName(Text(entry.Name));
         return menu->menuAction();
     }
-    QAction* action =
-        parent != nullptr ? parent->addAction(Caption(entry)) : bar_.addAction(Caption(entry));
+    QAction* action = parent != nullptr ? parent->addAction(caption) : bar_.addAction(caption);
     action->setObjectName(Text(entry.Name));
     action->setMenuRole(QAction::NoRole);
     action->setShortcut(QKeySequence(QString::fromLatin1(KeysOf(entry.Id).Shortcut)));
@@ -128,6 +129,7 @@ QAction* MenuActions::MakeAction(const MenuEntry& entry) {
 void MenuActions::Mirror() {
     for (const MenuEntry& entry : menu_.Entries()) {
         QAction* action = actions_[At(entry.Id)];
+        action->setText(Caption(menu_, entry.Id));
         // About starts no work, so none has to wait for it.
         action->setEnabled(entry.Enabled || entry.Id == ShowAbout);
         action->setChecked(action->isCheckable() && IsChecked(settings_, entry.Id));

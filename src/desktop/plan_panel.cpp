@@ -2,8 +2,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGroupBox>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -15,9 +15,11 @@
 namespace vendrel {
 namespace {
 
-constexpr int kPageWidth = 380;  // what the page shown is fitted into
-constexpr int kPageHeight = 470;
-constexpr int kQuietMs = 150;  // before it is drawn again
+constexpr int kHighestPage = 470;  // of the first page as it is shown
+constexpr int kLowestPage = 180;
+constexpr int kAroundPage = 330;    // title bar, figures and buttons
+constexpr double kPageShape = 0.8;  // what it is fitted into, wide for its height
+constexpr int kQuietMs = 150;       // before it is drawn again
 constexpr double kUsualWidthMm = 500;
 constexpr double kUsualHeightMm = 400;
 
@@ -40,6 +42,11 @@ void Show(QDoubleSpinBox& box, double mm, double unit, double most) {
     }
 }
 
+int PageHeightOn(const QWidget& window) {
+    return std::clamp(window.screen()->availableGeometry().height() - kAroundPage, kLowestPage,
+                      kHighestPage);
+}
+
 QHBoxLayout* Row(std::initializer_list<QWidget*> parts) {
     auto* row = new QHBoxLayout;
     for (QWidget* part : parts) {
@@ -56,8 +63,9 @@ int IndexOf(const Paper& paper) {
 
 }  // namespace
 
-PlanPanel::PlanPanel()
-    : paper_(Named<QComboBox>("Paper", tr("Paper"))),
+PlanPanel::PlanPanel(const QWidget& window)
+    : tabs_(Named<QTabWidget>("PlanTabs", tr("What is chosen"))),
+      paper_(Named<QComboBox>("Paper", tr("Paper"))),
       paperWidth_(Length("PaperWidth", tr("Width of the paper in millimeters"))),
       paperHeight_(Length("PaperHeight", tr("Height of the paper in millimeters"))),
       legible_(Named<QRadioButton>("LegibleCanvas", tr("As many pages as legible symbols need"))),
@@ -66,10 +74,13 @@ PlanPanel::PlanPanel()
       width_(Length("CanvasWidth", tr("Width of the canvas"))),
       across_(Length("CanvasAcross", tr("Width of the canvas with its margins"))),
       down_(Length("CanvasDown", tr("Height of the canvas with its margins"))),
+      inches_(Named<QCheckBox>("CanvasInches", tr("Canvas in inches"))),
       bleed_(Length("PlanBleed", tr("Bleed around the canvas in millimeters"))),
       symbols_(Named<QComboBox>("PlanSymbols", tr("Symbols"))),
       lines_(Named<QComboBox>("PlanLines", tr("Shape of the lines"))),
       gray_(Named<QSlider>("PlanGray", tr("Darkness of lines and symbols"))),
+      coats_(Named<QSpinBox>("Coats", tr("Coats of paint"))),
+      coverage_(Length("Coverage", tr("Area that 1 milliliter of paint covers"))),
       pot_(Length("PotSize", tr("Size of a pot of paint in milliliters"))),
       bySet_(Named<QCheckBox>("GroupBySet", tr("Group the chart's paints by their sets"))),
       maker_(Named<QLineEdit>("KitMaker", tr("Your name or address on the pages"))),
@@ -80,28 +91,51 @@ PlanPanel::PlanPanel()
       canvas_(Value("PlanCanvas")),
       smallest_(Value("PlanSmallest")),
       effort_(Value("PlanEffort")),
-      warning_(Value("PlanWarning")) {
+      warning_(Value("PlanWarning")),
+      figures_(MakeFigures()) {
     Name();
-    auto* choices = new QVBoxLayout;
-    auto* rows = new QFormLayout;
-    AddSizes(*rows);
-    AddLooks(*rows);
-    AddMaker(*rows);
-    choices->addLayout(rows);
-    choices->addWidget(MakeFigures());
-    choices->addStretch(1);
-    page_->setFixedSize(kPageWidth, kPageHeight);
+    AddTab(tr("Paper and &canvas"), &PlanPanel::AddSizes);
+    AddTab(tr("Lines and s&ymbols"), &PlanPanel::AddLooks);
+    AddTab(tr("Pai&nt"), &PlanPanel::AddPaint);
+    AddTab(tr("Make&r"), &PlanPanel::AddMaker);
+    const int height = PageHeightOn(window);
+    page_->setFixedSize(static_cast<int>(std::lround(height * kPageShape)), height);
     page_->setAlignment(Qt::AlignCenter);
     page_->setAccessibleName(tr("First page of the plan"));
+    auto* shown = new QVBoxLayout;
+    shown->addWidget(page_, 0, Qt::AlignHCenter);
+    shown->addWidget(figures_);
+    shown->addStretch(1);
     auto* all = new QHBoxLayout(this);
     all->setContentsMargins({});
-    all->addLayout(choices);
-    all->addWidget(page_);
+    all->addWidget(tabs_, 1);
+    all->addLayout(shown);
     soon_.setSingleShot(true);
     soon_.setInterval(kQuietMs);
     ConnectSizes();
     ConnectLooks();
+    ConnectPaint();
     ConnectMaker();
+}
+
+void PlanPanel::AddTab(const QString& title, void (PlanPanel::*fill)(QFormLayout& rows)) {
+    auto* tab = new QWidget;
+    (this->*fill)(*new QFormLayout(tab));
+    tabs_->addTab(tab, title);
+    own_.push_back(tab);
+}
+
+void PlanPanel::PutFirst(QWidget* tab, const QString& title) {
+    tabs_->insertTab(0, tab, title);
+    tabs_->setCurrentIndex(0);
+}
+
+void PlanPanel::SetPlanEnabled(bool on) {
+    for (QWidget* tab : own_) {
+        tab->setEnabled(on);
+    }
+    figures_->setEnabled(on);
+    page_->setEnabled(on);
 }
 
 void PlanPanel::Name() {
@@ -124,7 +158,7 @@ void PlanPanel::Name() {
     paperHeight_->setValue(400);
     legible_->setText(tr("As &legible symbols need (2 mm and more)"));
     chosenSize_->setText(tr("&Width"));
-    bothSides_->setText(tr("&Both sides"));
+    bothSides_->setText(tr("Both si&des"));
     bleed_->setRange(0, kWidestBleedMm);
     bleed_->setSuffix(tr(" mm"));
     bleed_->setToolTip(tr("Outlines run on past the canvas, to wrap it round a frame."));
@@ -135,37 +169,46 @@ void PlanPanel::Name() {
     gray_->setRange(kLightestGray, kDarkestGray);
     gray_->setPageStep(10);
     gray_->setToolTip(tr("Paint covers light lines; dark ones are easier to follow."));
+    inches_->setText(tr("&in inches"));
+    coats_->setRange(1, 10);
     pot_->setRange(0, 10'000);
     pot_->setDecimals(0);
     pot_->setSuffix(tr(" ml"));
     pot_->setSpecialValueText(tr("not counted"));
-    bySet_->setText(tr("by set"));
+    bySet_->setText(tr("Paints &grouped by set"));
     maker_->setPlaceholderText(tr("Your name or address"));
-    noLogo_->setText(tr("&No logo"));
+    noLogo_->setText(tr("N&o logo"));
 }
 
 void PlanPanel::AddSizes(QFormLayout& rows) {
     auto* paper = Row({paper_, paperWidth_, new QLabel(QStringLiteral("\u00d7")), paperHeight_});
     rows.addRow(LabelFor(*paper_, tr("&Paper")), paper);
     rows.addRow(tr("Canvas"), legible_);
-    rows.addRow(QString(), Row({chosenSize_, width_, bothSides_, across_,
-                                new QLabel(QStringLiteral("\u00d7")), down_}));
+    rows.addRow(QString(), Row({chosenSize_, width_}));
+    rows.addRow(QString(), Row({bothSides_, across_, new QLabel(QStringLiteral("\u00d7")), down_}));
+    rows.addRow(QString(), inches_);
     rows.addRow(LabelFor(*bleed_, tr("Bl&eed")), Row({bleed_}));
 }
 
 void PlanPanel::AddLooks(QFormLayout& rows) {
-    rows.addRow(LabelFor(*symbols_, tr("S&ymbols")), symbols_);
+    rows.addRow(LabelFor(*symbols_, tr("Sym&bols")), symbols_);
     rows.addRow(LabelFor(*lines_, tr("L&ines")), lines_);
     rows.addRow(LabelFor(*gray_, tr("&Darkness")), gray_);
 }
 
+void PlanPanel::AddPaint(QFormLayout& rows) {
+    rows.addRow(LabelFor(*coats_, tr("C&oats of paint")), Row({coats_}));
+    rows.addRow(LabelFor(*coverage_, tr("1 ml co&vers")), Row({coverage_}));
+    rows.addRow(LabelFor(*pot_, tr("&Pots of")), Row({pot_}));
+    rows.addRow(tr("Chart"), bySet_);
+}
+
 void PlanPanel::AddMaker(QFormLayout& rows) {
-    rows.addRow(LabelFor(*pot_, tr("P&ots of")), Row({pot_, bySet_}));
     rows.addRow(LabelFor(*maker_, tr("&Maker")), maker_);
     rows.addRow(QString(), Row({logo_, noLogo_}));
 }
 
-QWidget* PlanPanel::MakeFigures() {
+QGroupBox* PlanPanel::MakeFigures() {
     auto* box = new QGroupBox(tr("What is printed"));
     auto* rows = new QFormLayout;
     rows->addRow(tr("Pages"), pages_);
@@ -201,8 +244,10 @@ void PlanPanel::ConnectSizes() {
     }
     connect(bleed_, &QDoubleSpinBox::valueChanged, this,
             [this](double mm) { Change([mm](PlanSettings& plan) { plan.BleedMm = mm; }); });
+    connect(inches_, &QCheckBox::clicked, this,
+            [this](bool on) { Change([on](PlanSettings& plan) { plan.InchCanvas = on; }); });
     connect(&soon_, &QTimer::timeout, this, [this] {
-        emit PageWanted(static_cast<int>(std::lround(kPageHeight * devicePixelRatioF())));
+        emit PageWanted(static_cast<int>(std::lround(page_->height() * devicePixelRatioF())));
     });
 }
 
@@ -217,11 +262,20 @@ void PlanPanel::ConnectLooks() {
             [this](int gray) { Change([gray](PlanSettings& plan) { plan.Gray = gray; }); });
 }
 
-void PlanPanel::ConnectMaker() {
+void PlanPanel::ConnectPaint() {
+    connect(coats_, &QSpinBox::valueChanged, this,
+            [this](int coats) { Change([coats](PlanSettings& plan) { plan.Use.Coats = coats; }); });
+    connect(coverage_, &QDoubleSpinBox::valueChanged, this, [this](double area) {
+        const double cm2 = area * AreaUnit();
+        Change([cm2](PlanSettings& plan) { plan.Use.Cm2PerMl = cm2; });
+    });
     connect(pot_, &QDoubleSpinBox::valueChanged, this,
             [this](double ml) { Change([ml](PlanSettings& plan) { plan.Use.PotMl = ml; }); });
     connect(bySet_, &QCheckBox::clicked, this,
             [this](bool on) { Change([on](PlanSettings& plan) { plan.GroupBySet = on; }); });
+}
+
+void PlanPanel::ConnectMaker() {
     connect(maker_, &QLineEdit::textEdited, this, [this](const QString& text) {
         Change([&text](PlanSettings& plan) { plan.Maker = text.toStdString(); });
     });
@@ -263,12 +317,12 @@ void PlanPanel::showEvent(QShowEvent* event) {
 }
 
 std::vector<QWidget*> PlanPanel::Controls() const {
-    return {paper_,     paperWidth_, paperHeight_, legible_, chosenSize_, width_,
-            bothSides_, across_,     down_,        bleed_,   symbols_,    lines_,
-            gray_,      pot_,        bySet_,       maker_,   logo_,       noLogo_};
+    return {paper_,  paperWidth_, paperHeight_, legible_, chosenSize_, width_, bothSides_,
+            across_, down_,       inches_,      bleed_,   symbols_,    lines_, gray_,
+            coats_,  coverage_,   pot_,         bySet_,   maker_,      logo_,  noLogo_};
 }
 
-void PlanPanel::Mirror(const PlanChoice& shown) {
+void PlanPanel::Mirror(PlanChoice& shown) {
     if (shown_ != shown.Settings()) {
         shown_ = shown.Settings();
         AskForPage();
@@ -276,6 +330,7 @@ void PlanPanel::Mirror(const PlanChoice& shown) {
     widestCm_ = shown.WidestCm();
     MirrorSizes(shown_);
     MirrorLooks(shown_);
+    MirrorPaint(shown_);
     if (shown.Figures()) {
         MirrorFigures(*shown.Figures());
     }
@@ -295,6 +350,10 @@ void PlanPanel::MirrorSizes(const PlanSettings& settings) {
     width_->setEnabled(wide);
     across_->setEnabled(sized);
     down_->setEnabled(sized);
+    inches_->setChecked(settings.InInches());
+    inches_->setEnabled(!settings.Sheet.Inches);
+    const QSignalBlocker quietBleed(bleed_);
+    bleed_->setValue(settings.BleedMm);
     bleed_->setEnabled(settings.Sheet.IsCanvas());
 }
 
@@ -302,18 +361,27 @@ void PlanPanel::MirrorLooks(const PlanSettings& settings) {
     symbols_->setCurrentIndex(static_cast<int>(settings.Symbols));
     lines_->setCurrentIndex(static_cast<int>(settings.Lines));
     const QSignalBlocker quietGray(gray_);
-    const QSignalBlocker quietPot(pot_);
-    const QSignalBlocker quietBleed(bleed_);
     gray_->setValue(settings.Gray);
-    pot_->setValue(settings.Use.PotMl);
-    bleed_->setValue(settings.BleedMm);
-    bySet_->setChecked(settings.GroupBySet);
     if (maker_->text() != Text(settings.Maker)) {
         maker_->setText(Text(settings.Maker));
     }
     const QString logo = QFileInfo(Text(settings.Logo.string())).fileName();
     logo_->setText(logo.isEmpty() ? tr("Lo&go...") : logo);
     noLogo_->setEnabled(!logo.isEmpty());
+}
+
+void PlanPanel::MirrorPaint(const PlanSettings& settings) {
+    const QSignalBlocker quietCoats(coats_);
+    const QSignalBlocker quietCoverage(coverage_);
+    const QSignalBlocker quietPot(pot_);
+    coats_->setValue(settings.Use.Coats);
+    coverage_->setSuffix(settings.InInches() ? tr(" sq in") : tr(" cm\u00b2"));
+    coverage_->setRange(1 / AreaUnit(), 1000 / AreaUnit());
+    if (std::abs(coverage_->value() * AreaUnit() - settings.Use.Cm2PerMl) > AreaUnit() / 20) {
+        coverage_->setValue(settings.Use.Cm2PerMl / AreaUnit());
+    }
+    pot_->setValue(settings.Use.PotMl);
+    bySet_->setChecked(settings.GroupBySet);
 }
 
 void PlanPanel::MirrorFigures(const PlanFigures& figures) {
@@ -323,13 +391,15 @@ void PlanPanel::MirrorFigures(const PlanFigures& figures) {
             ? QString()
             : tr(", the picture %1").arg(Text(SizeText(figures.Picture, figures.Inches)));
     canvas_->setText(Text(SizeText(figures.Canvas, figures.Inches)) + picture);
-    smallest_->setText(tr("%1 mm").arg(Text(SmallestText(figures))));
+    smallest_->setText(figures.Symbols ? tr("%1 mm").arg(Text(SmallestText(*figures.Symbols)))
+                                       : QStringLiteral("\u2026"));
     effort_->setText(tr("about %1 hours, %2 ml of paint")
                          .arg(figures.Hours, 0, 'f', 0)
                          .arg(figures.Ml, 0, 'f', 0));
     const std::string warning = WarningOf(figures);
-    warning_->setText(warning.empty() ? tr("All symbols can be read.")
-                                      : tr("\u26a0 %1").arg(Text(warning)));
+    warning_->setText(!figures.Symbols  ? QString()
+                      : warning.empty() ? tr("All symbols can be read.")
+                                        : tr("\u26a0 %1").arg(Text(warning)));
 }
 
 void PlanPanel::ShowPage(const QImage& page) {

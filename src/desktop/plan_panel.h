@@ -4,12 +4,15 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QSpinBox>
+#include <QTabWidget>
 #include <QTimer>
 #include <functional>
 #include <vector>
@@ -18,14 +21,20 @@
 
 namespace vendrel {
 
-/// Everything that is chosen for a printed plan, what it makes of the painting, and its first page.
+/// Everything that is chosen for a printed plan, on tabs, so that it fits the smallest screens;
+/// what it makes of the painting; and its first page.
 class PlanPanel : public QWidget {
     Q_OBJECT
 
   public:
-    PlanPanel();
+    /// The page shown is as high as the window's screen leaves room for.
+    explicit PlanPanel(const QWidget& window);
 
-    void Mirror(const PlanChoice& shown);
+    /// A tab in front of the others.
+    void PutFirst(QWidget* tab, const QString& title);
+    /// Whether there is a plan at all; the first tab stays.
+    void SetPlanEnabled(bool on);
+    void Mirror(PlanChoice& shown);
     void ShowPage(const QImage& page);
     /// Asks for the first page when nothing has been changed for a moment.
     void AskForPage() { soon_.start(); }
@@ -44,12 +53,15 @@ class PlanPanel : public QWidget {
     using Edit = std::function<void(PlanSettings&)>;
 
     void Name();
+    void AddTab(const QString& title, void (PlanPanel::*fill)(QFormLayout& rows));
     void AddSizes(QFormLayout& rows);
     void AddLooks(QFormLayout& rows);
+    void AddPaint(QFormLayout& rows);
     void AddMaker(QFormLayout& rows);
-    [[nodiscard]] QWidget* MakeFigures();
+    [[nodiscard]] QGroupBox* MakeFigures();
     void ConnectSizes();
     void ConnectLooks();
+    void ConnectPaint();
     void ConnectMaker();
     void Change(const Edit& edit);
     void ChangePaper();
@@ -57,13 +69,17 @@ class PlanPanel : public QWidget {
     void ChooseLogo();
     void MirrorSizes(const PlanSettings& settings);
     void MirrorLooks(const PlanSettings& settings);
+    void MirrorPaint(const PlanSettings& settings);
     void MirrorFigures(const PlanFigures& figures);
     [[nodiscard]] double Unit() const { return shown_.InInches() ? kMmPerInch : 10; }
+    [[nodiscard]] double AreaUnit() const { return shown_.InInches() ? kCm2PerSqIn : 1; }
 
     PlanSettings shown_;
     double widestCm_ = kLargestCanvasCm;
     QTimer soon_;
 
+    QTabWidget* tabs_;
+    std::vector<QWidget*> own_;  // tabs of the plan
     QComboBox* paper_;
     QDoubleSpinBox* paperWidth_;
     QDoubleSpinBox* paperHeight_;
@@ -73,10 +89,13 @@ class PlanPanel : public QWidget {
     QDoubleSpinBox* width_;
     QDoubleSpinBox* across_;
     QDoubleSpinBox* down_;
+    QCheckBox* inches_;
     QDoubleSpinBox* bleed_;
     QComboBox* symbols_;
     QComboBox* lines_;
     QSlider* gray_;
+    QSpinBox* coats_;
+    QDoubleSpinBox* coverage_;
     QDoubleSpinBox* pot_;
     QCheckBox* bySet_;
     QLineEdit* maker_;
@@ -88,6 +107,7 @@ class PlanPanel : public QWidget {
     QLabel* smallest_;
     QLabel* effort_;
     QLabel* warning_;
+    QGroupBox* figures_;
 };
 
 }  // namespace vendrel

@@ -27,8 +27,7 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
       svg_(Named<QCheckBox>("SaveSvgToo", tr("Plan as SVG, for drawing programs and cutters"))),
       page_(Named<QCheckBox>("SavePageToo", tr("Page to paint along with"))),
       list_(Named<QCheckBox>("SaveListToo", tr("List of the paints to buy"))),
-      plan_(new PlanPanel),
-      pages_(new QGroupBox(tr("The plan"))),
+      plan_(new PlanPanel(*this)),
       folders_(new ValueLabel("SaveFolders", tr("Folders"))) {
     setWindowTitle(tr("Save Everything"));
     Arrange();
@@ -46,7 +45,6 @@ void SaveEverythingDialog::Arrange() {
     choices->addWidget(page_);
     choices->addWidget(svg_);
     choices->addWidget(list_);
-    (new QVBoxLayout(pages_))->addWidget(plan_);
     QPushButton* save =
         MakeButton("SaveEverything", tr("&Save"), [this] { form_.SaveButton_Click(); });
     save->setDefault(true);
@@ -56,24 +54,25 @@ void SaveEverythingDialog::Arrange() {
     buttons->addStretch(1);
     buttons->addWidget(save);
     buttons->addWidget(cancel);
-    // Side by side, and always there: under one another they would leave small screens.
-    auto* files = new QVBoxLayout;
-    files->addWidget(always);
-    files->addWidget(chosen);
-    files->addStretch(1);
-    auto* parts = new QHBoxLayout;
-    parts->addLayout(files);
-    parts->addWidget(pages_);
     name_->setToolTip(
         tr("Names the files in place of the photo's name: two kits of one photo do "
            "not overwrite each other."));
     auto* name = new QHBoxLayout;
     name->addWidget(LabelFor(*name_, tr("Kit's n&ame")));
     name->addWidget(name_, 1);
+    // Side by side: under one another they would leave small screens.
+    auto* parts = new QHBoxLayout;
+    parts->addWidget(always);
+    parts->addWidget(chosen);
+    auto* tab = new QWidget;
+    auto* files = new QVBoxLayout(tab);
+    files->addLayout(name);
+    files->addLayout(parts);
+    files->addWidget(folders_);
+    files->addStretch(1);
+    plan_->PutFirst(tab, tr("&Files"));
     auto* all = new QVBoxLayout(this);
-    all->addLayout(name);
-    all->addLayout(parts);
-    all->addWidget(folders_);
+    all->addWidget(plan_);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
     std::vector<QWidget*> order = plan_->Controls();
@@ -136,7 +135,7 @@ void SaveEverythingDialog::Mirror() {
         tr("List of the paints to b&uy, for spreadsheets:\n%1").arg(InCaption(shown.ListFile)));
     list_->setChecked(form_.List());
     page_->setChecked(form_.Page());
-    pages_->setEnabled(form_.HasPlan());
+    plan_->SetPlanEnabled(form_.HasPlan());
     plan_->Mirror(form_.Plan());
 }
 

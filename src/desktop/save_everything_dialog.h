@@ -36,7 +36,6 @@ class SaveEverythingDialog : public FormDialog {
     QCheckBox* page_;
     QCheckBox* list_;
     PlanPanel* plan_;
-    QGroupBox* pages_;
     ValueLabel* folders_;
 };
 

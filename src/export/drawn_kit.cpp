@@ -62,22 +62,25 @@ QImage LogoOf(const PlanSettings& settings) {
     return logo;
 }
 
+std::vector<PaintNeed> NeedsOf(PlannedKit& kit) {
+    const PrintPlan& plan = kit.OnPages();
+    return PaintNeeds({plan.Regions, plan.Paints, plan.Pages, plan.Scale},
+                      kit.Place().State->PaintCount, kit.Settings().Use);
+}
+
 }  // namespace
 
-DrawnKit::DrawnKit(const Workplace& place, const PlanSettings& settings)
-    : symbols_(settings.Symbols, place.State->PaintCount),
-      plan_(MakePrintPlan(place.State, place.Frames->WorkFrame.Picture, settings,
-                          symbols_.Aspects())),
-      pages_{place,
-             plan_,
+DrawnKit::DrawnKit(PlannedKit& kit)
+    : symbols_(kit.Settings().Symbols, kit.Place().State->PaintCount),
+      pages_{kit.Place(),
+             kit.OnPages(),
              symbols_,
-             LaidOutFront(settings),
-             FrontScaleOf(settings),
-             BoxesOf(plan_),
-             PaintingOf(plan_.Regions, place.State),
-             settings,
-             PaintNeeds(plan_.Regions, plan_.Pages, plan_.Scale, place.State->PaintCount,
-                        settings.Use),
-             LogoOf(settings)} {}
+             LaidOutFront(kit.Settings()),
+             FrontScaleOf(kit.Settings()),
+             BoxesOf(kit.OnPages()),
+             PaintingOf(kit.OnPages().Regions, kit.Place().State),
+             kit.Settings(),
+             NeedsOf(kit),
+             LogoOf(kit.Settings())} {}
 
 }  // namespace vendrel

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "export/pdf_pages.h"
+#include "plan/planned_kit.h"
 
 namespace vendrel {
 
 /// A painted kit laid out for its pages.
 class DrawnKit {
   public:
-    /// Throws as MakePrintPlan, Error for a missing font, FileError for a logo that is no picture.
-    DrawnKit(const Workplace& place, const PlanSettings& settings);
+    /// `kit` must outlive it. Throws as PlannedKit does, Error for a missing font, FileError for a
+    /// logo that is no picture.
+    explicit DrawnKit(PlannedKit& kit);
     DrawnKit(const DrawnKit&) = delete;
     DrawnKit& operator=(const DrawnKit&) = delete;
 
@@ -16,7 +18,6 @@ class DrawnKit {
 
   private:
     PrintSymbols symbols_;
-    PrintPlan plan_;
     KitPages pages_;
 };
 

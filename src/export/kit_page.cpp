@@ -5,7 +5,6 @@
 #include "export/page_data.h"
 #include "export/plain_text.h"
 #include "export/save_drawn.h"
-#include "export/uncut_kit.h"
 #include "output/chart_contents.h"
 #include "support/error.h"
 
@@ -41,14 +40,15 @@ QByteArray FilledPage(const QByteArray& frame, Fill fill) {
 
 }  // namespace
 
-void WriteKitPage(const Workplace& place, const PlanSettings& settings, const Target& target) {
+void WriteKitPage(PlannedKit& kit, const Target& target) {
+    const Workplace& place = kit.Place();
     place.Screen.SetCaption("Drawing the Plan");
-    const UncutKit kit(place, settings);
+    const PrintSymbols symbols(kit.Settings().Symbols, place.State->PaintCount);
     TakeUpPageParts();
     const QByteArray page = FilledPage(PagePart("page.html"), [&](const QByteArray& gap) {
         return gap == "title"
                    ? PlainText(KitTitle(place.State, place.State)).toHtmlEscaped().toUtf8()
-               : gap == "data" ? PageData(place.State, kit.Plan, kit.Symbols)
+               : gap == "data" ? PageData(place.State, kit.InOnePiece(), symbols)
                                : PagePart(QString::fromLatin1(gap));
     });
     SaveDrawn(place.Screen, page, target);

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "plan/plan_layout.h"
-#include "shell/workplace.h"
+#include "plan/planned_kit.h"
 #include "support/target.h"
 
 namespace vendrel {
@@ -9,6 +8,6 @@ namespace vendrel {
 /// Writes a page for the tablet beside the easel: one file that shows the plan and its paints and
 /// keeps account of what is painted. Needs a running QGuiApplication. Throws Error for an unpainted
 /// picture, more paints than symbols or a missing font, FileError.
-void WriteKitPage(const Workplace& place, const PlanSettings& settings, const Target& target);
+void WriteKitPage(PlannedKit& kit, const Target& target);
 
 }  // namespace vendrel

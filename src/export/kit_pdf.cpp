@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "export/drawn_kit.h"
+#include "export/pdf_boxes.h"
 #include "export/pdf_units.h"
 #include "export/save_drawn.h"
 #include "support/error.h"
@@ -107,9 +108,10 @@ void FixId(QByteArray& pdf) {
 
 }  // namespace
 
-void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target) {
-    place.Screen.SetCaption("Drawing the Plan");
-    const DrawnKit drawn(place, settings);
+void WriteKitPdf(PlannedKit& planned, const Target& target) {
+    Ui& screen = planned.Place().Screen;
+    screen.SetCaption("Drawing the Plan");
+    const DrawnKit drawn(planned);
     const KitPages& kit = drawn.Pages();
     const SteadyHashes steady;
     QByteArray pdf;
@@ -124,9 +126,13 @@ void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Tar
         writer.setCreator("Vendrel");
         DrawPages(writer, kit);
     }
+    if (kit.Settings.Sheet.IsCanvas()) {
+        const double bleed = kit.Settings.BleedMm;
+        AddPageBoxes(pdf, PlanPageDesign::kWholeCanvasEdge + bleed, bleed);
+    }
     FixDates(pdf);
     FixId(pdf);
-    SaveDrawn(place.Screen, pdf, target);
+    SaveDrawn(screen, pdf, target);
 }
 
 }  // namespace vendrel

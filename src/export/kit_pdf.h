@@ -1,7 +1,6 @@
 #pragma once
 
-#include "plan/plan_layout.h"
-#include "shell/workplace.h"
+#include "plan/planned_kit.h"
 #include "support/target.h"
 
 namespace vendrel {
@@ -9,6 +8,6 @@ namespace vendrel {
 /// Saves the whole kit for a printer: cover, color chart, page map and the plan, drawn in lines at
 /// its real size. The same kit gives the same bytes. Throws Error and FileError. Needs a running
 /// QGuiApplication.
-void WriteKitPdf(const Workplace& place, const PlanSettings& settings, const Target& target);
+void WriteKitPdf(PlannedKit& planned, const Target& target);
 
 }  // namespace vendrel

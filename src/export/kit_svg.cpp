@@ -7,8 +7,8 @@
 #include "export/outline_path.h"
 #include "export/plain_text.h"
 #include "export/print_fonts.h"
+#include "export/print_symbols.h"
 #include "export/save_drawn.h"
-#include "export/uncut_kit.h"
 #include "kitset/kit_mark.h"
 #include "output/chart_contents.h"
 #include "plan/plan_pen.h"
@@ -186,11 +186,12 @@ void SvgPlan::DrawLeader(const PlanLabel& label, double aspect, const QString& i
 
 }  // namespace
 
-void WriteKitSvg(const Workplace& place, const PlanSettings& settings, const Target& target) {
+void WriteKitSvg(PlannedKit& kit, const Target& target) {
+    const Workplace& place = kit.Place();
     place.Screen.SetCaption("Drawing the Plan");
-    const UncutKit kit(place, settings);
+    const PrintSymbols symbols(kit.Settings().Symbols, place.State->PaintCount);
     QByteArray svg;
-    SvgPlan(place.State, kit.Plan, kit.Symbols, svg).Draw(settings.Gray);
+    SvgPlan(place.State, kit.InOnePiece(), symbols, svg).Draw(kit.Settings().Gray);
     SaveDrawn(place.Screen, svg, target);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "plan/plan_layout.h"
-#include "shell/workplace.h"
+#include "plan/planned_kit.h"
 #include "support/target.h"
 
 namespace vendrel {
@@ -10,6 +9,6 @@ namespace vendrel {
 /// symbols as outlines, each in a layer of its own; under them, hidden, a layer for each paint with
 /// its areas as closed, filled paths. Needs a running QGuiApplication. Throws Error for an
 /// unpainted picture, more paints than symbols or a missing font, FileError.
-void WriteKitSvg(const Workplace& place, const PlanSettings& settings, const Target& target);
+void WriteKitSvg(PlannedKit& kit, const Target& target);
 
 }  // namespace vendrel

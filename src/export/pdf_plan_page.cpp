@@ -147,8 +147,7 @@ void PlanPage::DrawCropMarks() {
 }
 
 void PlanPage::DrawLegend() {
-    const std::vector<int> paints =
-        PaintsWithin(kit_.Plan.Regions, InPixels(tile_.Own, kit_.Plan.Scale));
+    const std::vector<int> paints = kit_.Plan.Paints.Within(InPixels(tile_.Own, kit_.Plan.Scale));
     const bool beside = paper_.Beside > 0;
     const int rows = Design::LegendRows(paper_, static_cast<int>(paints.size()));
     const double width = Design::ListWidth(paper_) / paper_.ListColumns;

@@ -9,8 +9,8 @@
 
 namespace vendrel {
 
-Surface PreviewPlan(const Workplace& place, const PlanSettings& settings, int longest) {
-    const DrawnKit drawn(place, settings);
+Surface PreviewPlan(PlannedKit& kit, int longest) {
+    const DrawnKit drawn(kit);
     const PagePlan& pages = drawn.Pages().Plan.Pages;
     const SizeMm& sheet = pages.Paper.Sheet;
     const double perMm = longest / std::max(sheet.Width, sheet.Height);

@@ -15,28 +15,26 @@ SymbolAspects QtExporter::Aspects(SymbolStyle style, int paints) const {
     return PrintSymbols(style, paints).Aspects();
 }
 
-Surface QtExporter::Preview(const Workplace& place, const PlanSettings& settings,
-                            int longest) const {
-    return PreviewPlan(place, settings, longest);
+Surface QtExporter::Preview(PlannedKit& kit, int longest) const {
+    return PreviewPlan(kit, longest);
 }
 
-void QtExporter::Write(OutputId output, const Workplace& place, const PlanSettings& settings,
-                       const Target& target) const {
+void QtExporter::Write(OutputId output, PlannedKit& kit, const Target& target) const {
     switch (output) {
         case OutputId::Chart:
-            WriteColorChart(place.State, target);
+            WriteColorChart(kit.Place().State, target);
             return;
         case OutputId::Pdf:
-            WriteKitPdf(place, settings, target);
+            WriteKitPdf(kit, target);
             return;
         case OutputId::Svg:
-            WriteKitSvg(place, settings, target);
+            WriteKitSvg(kit, target);
             return;
         case OutputId::Page:
-            WriteKitPage(place, settings, target);
+            WriteKitPage(kit, target);
             return;
         case OutputId::List:
-            WriteShoppingList(place, settings, target);
+            WriteShoppingList(kit, target);
             return;
         default:
             throw FileError(target.Place, "is written without fonts.");

@@ -9,10 +9,8 @@ namespace vendrel {
 class QtExporter final : public Exporter {
   public:
     [[nodiscard]] SymbolAspects Aspects(SymbolStyle style, int paints) const override;
-    [[nodiscard]] Surface Preview(const Workplace& place, const PlanSettings& settings,
-                                  int longest) const override;
-    void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
-               const Target& target) const override;
+    [[nodiscard]] Surface Preview(PlannedKit& kit, int longest) const override;
+    void Write(OutputId output, PlannedKit& kit, const Target& target) const override;
 
   private:
     GuiApplication application_;

@@ -54,13 +54,15 @@ std::string Figures(const PaintNeed& need, const PaintUse& use) {
 
 }  // namespace
 
-void WriteShoppingList(const Workplace& place, const PlanSettings& settings, const Target& target) {
-    const WorkState& state = place.State;
+void WriteShoppingList(PlannedKit& kit, const Target& target) {
+    const WorkState& state = kit.Place().State;
+    const PlanSettings& settings = kit.Settings();
     const PrintSymbols symbols(settings.Symbols, state.PaintCount);
-    const PlanSketch sketch = SketchPlan(state, place.Frames->WorkFrame.Picture, symbols.Aspects());
+    const PlanSketch& sketch = kit.Sketch();
     const PlanSheets sheets = LayOutSheets(sketch, settings);
     const std::vector<PaintNeed> needs =
-        PaintNeeds(sketch.Regions, sheets.Pages, sheets.Scale, state.PaintCount, settings.Use);
+        PaintNeeds({sketch.Regions, sketch.Paints, sheets.Pages, sheets.Scale}, state.PaintCount,
+                   settings.Use);
     std::string text = kHead;
     for (const PaintNeed& need : needs) {
         const PaintColor& paint = state.PaintColors[need.Paint];

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "plan/plan_sketch.h"
-#include "shell/workplace.h"
+#include "plan/planned_kit.h"
 #include "support/target.h"
 
 namespace vendrel {
@@ -9,6 +8,6 @@ namespace vendrel {
 /// Writes the paints of the kit as a table for spreadsheets (CSV in UTF-8, numbers with a decimal
 /// point, the sums in the last row), whole or not at all; they are those of the printed pages with
 /// the same settings. Throws Error, FileError.
-void WriteShoppingList(const Workplace& place, const PlanSettings& settings, const Target& target);
+void WriteShoppingList(PlannedKit& kit, const Target& target);
 
 }  // namespace vendrel

@@ -1,9 +1,13 @@
 #include "forms/color_matcher.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "convert/stipple_conversion.h"
+#include "edits/kit_base.h"
+#include "edits/layer_recorder.h"
 #include "forms/require_grid.h"
 #include "output/chart_contents.h"
 #include "paints/paint_sets.h"
@@ -15,7 +19,7 @@
 #include "shell/symbol_of.h"
 #include "support/error.h"
 #include "support/list.h"
-#include "touchup/unsaved_work.h"
+#include "touchup/laid_edits.h"
 
 namespace vendrel {
 namespace {
@@ -28,6 +32,24 @@ Surface DrawSmall(const WorkState& state) {
         }
     }
     return small;
+}
+
+std::vector<CellPos> StipplesOf(const StippleGrid& grid, int paint) {
+    std::vector<CellPos> places;
+    for (int y = 1; y <= grid.CellsDown; ++y) {
+        for (int x = 1; x <= grid.CellsAcross; ++x) {
+            if (grid.Stipples(x, y).ColorIndex == paint) {
+                places.push_back({x, y});
+            }
+        }
+    }
+    return places;
+}
+
+bool IsExchanged(const EditLayer& edits, const PaintColor& paint) {
+    return std::ranges::any_of(edits.Exchanges, [&paint](const PaintExchange& exchange) {
+        return SamePaint(exchange.From, paint);
+    });
 }
 
 }  // namespace
@@ -125,8 +147,7 @@ bool ColorMatcher::AnyExchanged() const {
 
 void ColorMatcher::ShowPreview() {
     ScratchPlace scratch(place_);
-    SetPalette(scratch.State, Palette());
-    AutoChangeToStipples(scratch.Place);
+    Exchange(scratch.Place);
     preview_ = DrawSmall(scratch.State);
     CountRows(scratch.State);
 }
@@ -148,18 +169,48 @@ void ColorMatcher::CountRows(const WorkState& converted) {
     }
 }
 
+// The photo is matched anew to the paints exchanged; what was painted by hand is repainted, and so
+// will be what later palettes bring.
+void ColorMatcher::Exchange(Workplace& place) const {
+    WorkState& state = place.State;
+    RequireBase(state, state, state, state);
+    EditMoment step{.Name = "Color Matcher",
+                    .Before = std::make_shared<EditLayer>(state.Edits),
+                    .After = {},
+                    .BaseBefore = BaseOf(state),
+                    .BaseAfter = {}};
+    LayerRecorder recorder({state.BasePaints, state.Base}, state.Edits);
+    PaintList palette = state.BasePaints;
+    for (int row = 1; row <= rows_.Count(); ++row) {
+        const PaintColor& original = rows_[row].Original;
+        const PaintColor& current = rows_[row].Current;
+        if (!rows_[row].Exchanged()) {
+            continue;
+        }
+        const int from = PaintIndex(palette).Find(original);
+        if (from > 0 && !IsExchanged(state.Edits, original)) {
+            palette[from] = current;
+        }
+        recorder.Exchange(recorder.NumberOf(original), recorder.NumberOf(current),
+                          StipplesOf(state, row));
+    }
+    state.Edits = recorder.Layer();
+    SetPalette(state, std::move(palette));
+    AutoChangeToStipples(place);
+    if (AnyExchanged()) {
+        step.After = std::make_shared<EditLayer>(state.Edits);
+        step.BaseAfter = BaseOf(state);
+        AddMoment(state, std::move(step));
+    }
+}
+
 void ColorMatcher::AcceptButton_Click() {
     if (rows_.Empty()) {
         return;
     }
-    GridReplacement replacement(place_);
-    if (!replacement.Allowed()) {
-        return;
-    }
     place_.Screen.CloseForm(FormId::ColorMatcher);
-    SetPalette(place_.State, Palette());
-    AutoChangeToStipples(place_);
-    replacement.Done();
+    Exchange(place_);
+    EditsWereLaidOn(place_);
 }
 
 void ColorMatcher::CancelButton_Click() {

@@ -61,6 +61,7 @@ class ColorMatcher {
 
   private:
     [[nodiscard]] PaintList Palette() const;
+    void Exchange(Workplace& place) const;
     [[nodiscard]] PaintList Taken() const;
     void FindOffers();
     void ShowPreview();

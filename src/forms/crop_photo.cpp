@@ -53,6 +53,14 @@ std::string Sides(int width, int height) {
     return std::to_string(width) + " x " + std::to_string(height);
 }
 
+PicturePart PartIn(const CropFrame& frame) {
+    const CropRect& rect = frame.Rect();
+    const double width = frame.Photo().Width;
+    const double height = frame.Photo().Height;
+    return {rect.Left / width, rect.Top / height, rect.Width / width, rect.Height / height,
+            frame.QuartersRight()};
+}
+
 }  // namespace
 
 void CropPhoto::Open(Surface photo, std::string name, Kept kept) {
@@ -144,6 +152,7 @@ void CropPhoto::OKButton_Click() {
         file = KeepCrop(place_.Folder, name_, frame_->Apply(photo_));
     }
     const Kept kept = kept_;
+    keptPart_ = PartIn(*frame_);
     Close();
     kept(file);
 }

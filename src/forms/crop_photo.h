@@ -5,6 +5,7 @@
 #include <string>
 
 #include "convert/crop_frame.h"
+#include "edits/place_edits.h"
 #include "shell/workplace.h"
 #include "support/surface.h"
 
@@ -49,6 +50,8 @@ class CropPhoto {
     void CancelButton_Click();
 
     [[nodiscard]] const CropPhotoControls& Controls() const { return controls_; }
+    /// What part of the photo was kept last.
+    [[nodiscard]] const PicturePart& KeptPart() const { return keptPart_; }
 
   private:
     [[nodiscard]] int Step() const;
@@ -63,6 +66,7 @@ class CropPhoto {
     Surface small_;  // not turned
     std::string name_;
     Kept kept_;
+    PicturePart keptPart_;
     std::optional<CropFrame> frame_;
     CropGrip held_ = CropGrip::None;
     int holdX_ = 0;  // from the frame's corner that is held, its top left one for the inside

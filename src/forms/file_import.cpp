@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "convert/photo_import.h"
+#include "edits/kit_base.h"
 #include "forms/list_entries.h"
 #include "forms/photo_look.h"
 #include "forms/reading_shown.h"
@@ -255,21 +256,23 @@ void FileImport::TakePicture(const Surface& picture) {
 }
 
 void FileImport::CropLoaded() {
-    OpenCrop(place_.State->PicturePath, [this](const std::string& file) { LoadCrop(file); });
+    OpenCrop(place_.State->PicturePath, [this](const std::string& file) {
+        TakeAndLoad([&] { return file; }, PhotoFit::Keep, &crop_.KeptPart());
+    });
 }
 
 void FileImport::LoadCrop(const std::string& pictureFile) {
     TakeAndLoad([&] { return pictureFile; }, PhotoFit::Keep);
 }
 
-void FileImport::TakeAndLoad(const Take& take, PhotoFit way) {
+void FileImport::TakeAndLoad(const Take& take, PhotoFit way, const PicturePart* part) {
     GridReplacement replacement(place_, kits_);
     if (replacement.Allowed()) {
         const std::string file = take();
         Remember();
         place_.MainMenu[MenuId::PrintMenu].Enabled = false;
         (void)ChoosePhoto(place_.State, place_.Folder, file);  // of Pictures, so it has a name
-        Load(way);
+        Load(way, part);
         replacement.Done();
     }
 }
@@ -304,7 +307,7 @@ void FileImport::OKButton_Click() {
     }
 }
 
-void FileImport::Load(PhotoFit way) {
+void FileImport::Load(PhotoFit way, const PicturePart* part) {
     WorkState& state = place_.State;
     const std::string path = state.PicturePath;
     const bool hadGrid = state.StipplesMade || state.CellsAcross > 0;
@@ -320,10 +323,22 @@ void FileImport::Load(PhotoFit way) {
     if (kits_ != nullptr) {
         kits_->Close();
     }
+    KeepEditsOf(part);
     CheckSavedStipples(place_);
     SetupMenuItems(place_.MainMenu, 2);
     if (hadGrid) {
         RestorePaintColors(place_);
+    }
+}
+
+void FileImport::KeepEditsOf(const PicturePart* part) {
+    WorkState& state = place_.State;
+    EditLayer edits = std::move(state.Edits);
+    ForgetEdits(state, state);
+    if (part != nullptr && !edits.Empty()) {
+        const TwipsPerPixel twips = place_.Screen.Screen().Twips;
+        state.Edits = EditsOfPart(edits, *part, state.PictureWidth / twips.X / state.StippleSize,
+                                  state.PictureHeight / twips.Y / state.StippleSize);
     }
 }
 

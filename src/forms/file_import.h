@@ -94,8 +94,10 @@ class FileImport {
     void OpenCrop(const std::filesystem::path& photo, CropPhoto::Kept kept);
     [[nodiscard]] std::string TakeIn(const std::filesystem::path& photo, PhotoFit way);
     [[nodiscard]] std::string Cropped(const std::string& pictureFile, PhotoFit way);
-    void TakeAndLoad(const Take& take, PhotoFit way);
-    void Load(PhotoFit way);
+    /// `part`: of the photo at work, whose edits go along; none for another photo.
+    void TakeAndLoad(const Take& take, PhotoFit way, const PicturePart* part = nullptr);
+    void Load(PhotoFit way, const PicturePart* part = nullptr);
+    void KeepEditsOf(const PicturePart* part);
     void LoadCrop(const std::string& pictureFile);
     void PutBack();
 

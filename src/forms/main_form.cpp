@@ -16,6 +16,7 @@
 #include "storage/stipple_file.h"
 #include "support/disk.h"
 #include "support/error.h"
+#include "touchup/laid_edits.h"
 #include "touchup/unsaved_work.h"
 
 namespace vendrel {
@@ -40,6 +41,8 @@ constexpr ClickHandler kHandlers[] = {
     {StartupPaintShop, &MainForm::StartupPaintShop_Click},
     {ChangeToStipples, &MainForm::ChangeToStipples_Click},
     {ColorPickerSelect, &MainForm::ColorPickerSelect_Click},
+    {UndoTouchUp, &MainForm::UndoTouchUp_Click},
+    {RedoTouchUp, &MainForm::RedoTouchUp_Click},
     {MakeItPaintable, &MainForm::MakeItPaintable_Click},
     {PaintItNow, &MainForm::PaintItNow_Click},
     {PrintWorkform, &MainForm::PrintWorkform_Click},
@@ -110,6 +113,7 @@ void MainForm::Click(MenuId entry) {
     for (const ClickHandler& candidate : kHandlers) {
         if (candidate.Entry == entry) {
             lastSaved_.clear();
+            place_.State->LaidOn.clear();
             (this->*candidate.Handler)();
             return;
         }
@@ -120,6 +124,9 @@ std::string MainForm::StatusHint() const {
     const Menu& menu = place_.MainMenu;
     if (!lastSaved_.empty()) {
         return "Saved " + lastSaved_;
+    }
+    if (!place_.State->LaidOn.empty()) {
+        return place_.State->LaidOn + ".";
     }
     if (!place_.State->PictureLoaded) {
         return "Choose a photo: Picture, Load Photo. Or drop one here.";
@@ -199,16 +206,12 @@ void MainForm::PastePicture(const Surface& picture) {
     chooser_.TakePicture(picture);
 }
 
-void MainForm::Replace(const std::function<void()>& step) {
-    GridReplacement replacement(place_);
+void MainForm::LoadStipples_Click() {
+    GridReplacement replacement(place_, &kits_);
     if (replacement.Allowed()) {
-        step();
+        vendrel::LoadStipples_Click(place_);
         replacement.Done();
     }
-}
-
-void MainForm::LoadStipples_Click() {
-    Replace([this] { vendrel::LoadStipples_Click(place_); });
 }
 
 void MainForm::SaveStipples_Click() {
@@ -227,11 +230,25 @@ void MainForm::ChangeToStipples_Click() {
         place_.Screen.ShowMessage("No Photo Loaded", "Choose a photo first: Picture, Load Photo.");
         return;
     }
-    Replace([this] { vendrel::ChangeToStipples_Click(place_); });
+    vendrel::ChangeToStipples_Click(place_);
+    EditsWereLaidOn(place_);
 }
 
 void MainForm::ColorPickerSelect_Click() {
     place_.Screen.OpenForm(FormId::TouchUp);
+}
+
+void MainForm::UndoTouchUp_Click() {
+    UndoLastTouchUp(place_);
+}
+
+void MainForm::RedoTouchUp_Click() {
+    RedoLastTouchUp(place_);
+}
+
+void MainForm::NameTouchUps() {
+    place_.MainMenu->NameTarget(UndoTouchUp, TouchUpToUndo(place_.State));
+    place_.MainMenu->NameTarget(RedoTouchUp, TouchUpToRedo(place_.State));
 }
 
 void MainForm::PaintItNow_Click() {
@@ -282,7 +299,7 @@ void MainForm::HardSet_Click() {
 void MainForm::SetDifficulty(vendrel::Difficulty level) {
     place_.MainMenu[LoadBMP].Enabled = true;
     if (place_.State->Chosen.Level != level) {
-        Replace([&] { TakeDifficulty(level); });
+        TakeDifficulty(level);
     }
 }
 
@@ -318,21 +335,17 @@ void MainForm::Set50Colors_Click() {
 }
 
 void MainForm::SetFinalPaints(int finalColors) {
-    Replace([&] {
-        const BusyPointer busy(place_.Screen);
-        place_.State->FinalColors = finalColors;
-        SetColorChecks(place_.State->Chosen, finalColors);
-        RefreshPhotoImage(place_.Frames, place_.Screen);
-        SetupMenuItems(place_.MainMenu, 2);
-        RestorePaintColors(place_);
-    });
+    const BusyPointer busy(place_.Screen);
+    place_.State->FinalColors = finalColors;
+    SetColorChecks(place_.State->Chosen, finalColors);
+    RefreshPhotoImage(place_.Frames, place_.Screen);
+    SetupMenuItems(place_.MainMenu, 2);
+    RestorePaintColors(place_);
 }
 
 void MainForm::RunTemplateShop_Click() {
-    Replace([this] {
-        SetupMenuItems(place_.MainMenu, 2);
-        place_.Screen.OpenForm(FormId::TemplateShop);
-    });
+    SetupMenuItems(place_.MainMenu, 2);
+    place_.Screen.OpenForm(FormId::TemplateShop);
 }
 
 void MainForm::NextBestColors_Click() {
@@ -348,16 +361,14 @@ void MainForm::NextBestColors_Click() {
 }
 
 void MainForm::AveragePixel_Click() {
-    Replace([this] {
-        Sampling& sample = place_.State->Chosen.Sample;
-        sample = sample == Sampling::Average ? Sampling::Pixel : Sampling::Average;
-        SampleMethodChanged();
-    });
+    Sampling& sample = place_.State->Chosen.Sample;
+    sample = sample == Sampling::Average ? Sampling::Pixel : Sampling::Average;
+    SampleMethodChanged();
 }
 
 // No mirror image of averaging: sampling is switched on by unchecking averaging alone.
 void MainForm::SamplePixel_Click() {
-    Replace([this] { SampleMethodChanged(); });
+    SampleMethodChanged();
 }
 
 void MainForm::SampleMethodChanged() {
@@ -378,11 +389,9 @@ void MainForm::MatchEye_Click() {
 // The palette in hand was reduced for the other way.
 void MainForm::SetMatching(Matching match) {
     if (place_.State->Chosen.Match != match) {
-        Replace([&] {
-            place_.State->Chosen.Match = match;
-            SampleMethodChanged();
-            RestorePaintColors(place_);
-        });
+        place_.State->Chosen.Match = match;
+        SampleMethodChanged();
+        RestorePaintColors(place_);
     }
 }
 

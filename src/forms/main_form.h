@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <string>
 
 #include "convert/photo_decoder.h"
@@ -66,6 +65,8 @@ class MainForm {
     void SamplePixel_Click();
     void MatchPlain_Click();
     void MatchEye_Click();
+    void UndoTouchUp_Click();
+    void RedoTouchUp_Click();
     void MakeItPaintable_Click();
     void WatchItPaint_Click();
     void ShowAbout_Click();
@@ -79,6 +80,8 @@ class MainForm {
     /// Whether the program may end now: asks when the kit is not saved.
     [[nodiscard]] bool MayEnd();
 
+    /// Says in the menu which step of touching up can be taken back or brought again.
+    void NameTouchUps();
     /// Draws the stipples again and paints them.
     void RepaintPicture();
     /// Never acts: the window keeps what is drawn.
@@ -95,8 +98,6 @@ class MainForm {
   private:
     void ShowSample();
     void PrepareChooser();
-    /// A step that costs the grid: asks first, and gives unsaved work up once it succeeded.
-    void Replace(const std::function<void()>& step);
     void SetDifficulty(Difficulty level);
     void TakeDifficulty(Difficulty level);
     void SetFinalPaints(int finalColors);

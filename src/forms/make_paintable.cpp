@@ -12,7 +12,7 @@
 #include "shell/stipple_grid.h"
 #include "support/decimals.h"
 #include "support/error.h"
-#include "touchup/unsaved_work.h"
+#include "touchup/laid_edits.h"
 
 namespace vendrel {
 namespace {
@@ -174,10 +174,6 @@ void MakePaintable::ProtectNothing_Click() {
 }
 
 void MakePaintable::OkButton_Click() {
-    GridReplacement replacement(place_);
-    if (!replacement.Allowed()) {
-        return;
-    }
     WorkState& state = place_.State;
     const bool wasPainted = place_.MainMenu[MenuId::PrintMenu].Enabled;
     place_.Screen.CloseForm(FormId::MakePaintable);
@@ -188,6 +184,8 @@ void MakePaintable::OkButton_Click() {
     state.Protected = protected_;
     SetPalette(state, preview_->State().PaintColors);
     SetGrid(state, preview_->State().Stipples);
+    static_cast<KitEdits&>(state) = preview_->State();
+    state.LaidOn = preview_->State().LaidOn;
     state.PaintableKit = true;
     state.StipplesMade = true;
     DrawStipplePicture(place_);
@@ -196,7 +194,7 @@ void MakePaintable::OkButton_Click() {
     if (wasPainted) {
         PaintItNow_Click(place_);
     }
-    replacement.Done();
+    EditsWereLaidOn(place_);
 }
 
 void MakePaintable::CancelButton_Click() {

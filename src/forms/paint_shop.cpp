@@ -215,20 +215,12 @@ void PaintShop::AllDone_Click() {
             return;
         }
     }
-    std::optional<GridReplacement> replacement;
-    AskBeforeTheKitGoes(replacement);
-    if (replacement && !replacement->Allowed()) {
-        return;
-    }
     state.TemplateLoaded = state.TemplateLoaded || UsesTemplate();
     if (state.PictureLoaded) {
         RefreshPhotoImage(place_.Frames, place_.Screen);
     }
     SetupMenuItems(place_.MainMenu, 2);
     place_.Screen.CloseForm(FormId::PaintShop);
-    if (replacement) {
-        replacement->Done();
-    }
 }
 
 PaintShop::Choice PaintShop::TakeChoice() const {
@@ -245,22 +237,6 @@ void PaintShop::PutChoice(const Choice& choice) {
     state.MfgSelected = !choice.TemplateMode;
     state.TemplateLoaded = choice.TemplateLoaded;
     state.SelectedTemplate = choice.SelectedTemplate;
-}
-
-// Unsaved stipples are saved with their own paints, whatever the shop shows.
-void PaintShop::AskBeforeTheKitGoes(std::optional<GridReplacement>& replacement) {
-    if (!kit_) {
-        return;
-    }
-    const Choice chosen = TakeChoice();
-    PutChoice(*kit_);
-    try {
-        replacement.emplace(place_);
-    } catch (...) {
-        PutChoice(chosen);
-        throw;
-    }
-    PutChoice(chosen);
 }
 
 void PaintShop::QueryUnload() {

@@ -76,7 +76,6 @@ class PaintShop {
     };
     [[nodiscard]] Choice TakeChoice() const;
     void PutChoice(const Choice& choice);
-    void AskBeforeTheKitGoes(std::optional<GridReplacement>& replacement);
 
     Workplace& place_;
     PaintShopControls controls_;

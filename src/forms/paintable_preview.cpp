@@ -6,6 +6,7 @@
 #include "convert/paintable_stipples.h"
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
+#include "edits/kit_base.h"
 #include "paints/restore.h"
 #include "regions/labelling.h"
 #include "shell/palette.h"
@@ -24,6 +25,7 @@ void PaintablePreview::Make(const Settings& wish, const ValueGrid& isProtected) 
     SetGrid(state, converted_->Stipples);
     state.Protected = isProtected;
     MakeStipplesPaintable(scratch_.Place, converted_->Seen);
+    LayOverConversion(state);
     PaintAllCells(scratch_.Place);
     state.PaintingDone = true;
     figures_ = MeasureKit(scratch_.Place);

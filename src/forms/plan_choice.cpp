@@ -5,13 +5,13 @@
 namespace vendrel {
 
 void PlanChoice::Measure(const Workplace& place, const Exporter& exporter) {
-    place_ = &place;
     exporter_ = &exporter;
-    sketch_ = SketchPlan(place.State, place.Frames->WorkFrame.Picture,
-                         exporter.Aspects(settings_.Symbols, place.State->PaintCount));
+    figures_.reset();
+    kit_.emplace(place, exporter, settings_);
     // Chosen for another painting, it may be wider than this one can be.
     settings_.CanvasCm = std::min(settings_.CanvasCm, WidestCm());
-    figures_ = FiguresOf(*sketch_, settings_);
+    kit_->Choose(settings_);
+    figures_ = kit_->FiguresSoFar();
 }
 
 void PlanChoice::Restore(const PlanSettings& settings) {
@@ -21,24 +21,24 @@ void PlanChoice::Restore(const PlanSettings& settings) {
 }
 
 void PlanChoice::Choose(const PlanSettings& wanted) {
-    if (!sketch_) {
-        settings_ = wanted;
-        return;
+    if (kit_) {
+        (void)LayOutSheets(kit_->Sketch(), wanted);  // refuses what cannot be printed
+        kit_->Choose(wanted);
+        figures_ = kit_->FiguresSoFar();
     }
-    const bool remeasures = wanted.Symbols != settings_.Symbols;
-    figures_ = FiguresOf(*sketch_, wanted);
     settings_ = wanted;
-    if (remeasures) {
-        Measure(*place_, *exporter_);
+}
+
+double PlanChoice::WidestCm() {
+    return kit_ ? WidestCanvasCm(kit_->Sketch()) : kLargestCanvasCm;
+}
+
+Surface PlanChoice::Preview(int longest) {
+    if (!kit_) {
+        return {};
     }
-}
-
-double PlanChoice::WidestCm() const {
-    return sketch_ ? WidestCanvasCm(*sketch_) : kLargestCanvasCm;
-}
-
-Surface PlanChoice::Preview(int longest) const {
-    return sketch_ ? exporter_->Preview(*place_, settings_, longest) : Surface();
+    figures_ = kit_->Figures();
+    return exporter_->Preview(*kit_, longest);
 }
 
 }  // namespace vendrel

@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "plan/exporter.h"
-#include "plan/plan_sketch.h"
 #include "shell/workplace.h"
 
 namespace vendrel {
@@ -23,16 +22,16 @@ class PlanChoice {
     /// Of the settings; nothing before the painting is measured.
     [[nodiscard]] const std::optional<PlanFigures>& Figures() const { return figures_; }
     /// The widest canvas that can be chosen, in centimeters.
-    [[nodiscard]] double WidestCm() const;
-    /// The first page of the plan, so many pixels at its longer side; empty before the painting is
-    /// measured. Throws Error, FileError for the logo.
-    [[nodiscard]] Surface Preview(int longest) const;
+    [[nodiscard]] double WidestCm();
+    /// The first page of the plan, so many pixels at its longer side; from then on the figures tell
+    /// of the symbols too. Empty before the painting is measured. Throws Error, FileError for the
+    /// logo.
+    [[nodiscard]] Surface Preview(int longest);
 
   private:
-    const Workplace* place_ = nullptr;
     const Exporter* exporter_ = nullptr;
     PlanSettings settings_;
-    std::optional<PlanSketch> sketch_;
+    std::optional<PlannedKit> kit_;
     std::optional<PlanFigures> figures_;
 };
 

@@ -90,12 +90,4 @@ void KeepKit(const Workplace& place, const KitOptions& options, const TakenPhoto
     report.Files.emplace_back("kit", file.lexically_normal().string());
 }
 
-void RequireEditsLaidOn(const KitEdits& edits) {
-    if (!edits.Edits.Empty() && edits.BasePaints.Empty()) {
-        throw Error(
-            "The kit was edited by hand, and its edits cannot be laid on other settings here. Open "
-            "it in the window and change them there.");
-    }
-}
-
 }  // namespace vendrel

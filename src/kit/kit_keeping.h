@@ -30,7 +30,4 @@ void RequireOwnTitle(const KitOptions& options);
 void KeepKit(const Workplace& place, const KitOptions& options, const TakenPhoto& taken,
              KitReport& report);
 
-/// Throws Error when a conversion left the painter's edits out.
-void RequireEditsLaidOn(const KitEdits& edits);
-
 }  // namespace vendrel

@@ -66,11 +66,15 @@ Json JsonOf(const NumberingCounts& counts) {
 }
 
 Json JsonOf(const PlanFigures& plan) {
-    return {{"pages", plan.Pages},
-            {"canvasCm", {{"width", plan.Canvas.Width / 10}, {"height", plan.Canvas.Height / 10}}},
-            {"symbols", plan.Symbols},
-            {"below2mm", plan.Small},
-            {"smallestMm", plan.SmallestMm}};
+    Json json{
+        {"pages", plan.Pages},
+        {"canvasCm", {{"width", plan.Canvas.Width / 10}, {"height", plan.Canvas.Height / 10}}},
+        {"symbols", plan.Areas}};
+    if (plan.Symbols) {
+        json["below2mm"] = plan.Symbols->Small;
+        json["smallestMm"] = plan.Symbols->SmallestMm;
+    }
+    return json;
 }
 
 Json JsonOf(const KitFigures& figures) {
@@ -213,8 +217,10 @@ std::string SummaryOf(const KitReport& report) {
                 std::to_string(report.Plan->Pages) +
                     (report.Plan->Pages == 1 ? " page, canvas " : " pages, canvas ") +
                     OneDecimal(report.Plan->Canvas.Width / 10) + " x " +
-                    OneDecimal(report.Plan->Canvas.Height / 10) + " cm, symbols from " +
-                    SmallestText(*report.Plan) + " mm");
+                    OneDecimal(report.Plan->Canvas.Height / 10) + " cm" +
+                    (report.Plan->Symbols
+                         ? ", symbols from " + SmallestText(*report.Plan->Symbols) + " mm"
+                         : ""));
     }
     AddLine(text, "mark", report.Mark);
     AddLine(text, "milliseconds", MillisecondsLine(report));

@@ -8,7 +8,7 @@
 #include "convert/bitmap_header.h"
 #include "output/kit_figures.h"
 #include "output/sheet_record.h"
-#include "plan/plan_sketch.h"
+#include "plan/plan_figures.h"
 #include "shell/settings.h"
 
 namespace vendrel {

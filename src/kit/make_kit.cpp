@@ -92,8 +92,8 @@ void WriteOutputs(Workplace& place, const KitOptions& options, const Exporter* e
     }
     report.Notes.insert(report.Notes.end(), saved.Notes.begin(), saved.Notes.end());
     report.Plan = saved.Plan;
-    if (report.Plan && report.Plan->Small > 0) {
-        report.Notes.push_back(WarningOf(*report.Plan));
+    if (const std::string warning = report.Plan ? WarningOf(*report.Plan) : ""; !warning.empty()) {
+        report.Notes.push_back(warning);
     }
 }
 
@@ -242,8 +242,10 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
             place.State->Edits = options.From->Layer.Edits;
         }
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
+        if (!place.State->LaidOn.empty()) {
+            report.Notes.push_back(place.State->LaidOn + ".");
+        }
     }
-    RequireEditsLaidOn(place.State);
     PaintAndWrite(place, options, taken, exporter, report);
     return report;
 }

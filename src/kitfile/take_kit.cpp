@@ -81,6 +81,7 @@ void TakeGrid(WorkState& state, const KitFile& kit) {
     state.SeenPerStipple = kit.SeenPerStipple;
     state.Protected = kit.Protected;
     static_cast<KitEdits&>(state) = kit.Layer;
+    static_cast<EditPast&>(state) = {};
 }
 
 void DrawGrid(Workplace& place) {

@@ -20,7 +20,7 @@ void WriteGrid(OutputJob& job, const Target& target) {
 
 template <OutputId kId>
 void WriteWithFonts(OutputJob& job, const Target& target) {
-    job.Fonts->Write(kId, job.Place, job.Plan, target);
+    job.Fonts->Write(kId, *job.Planned, target);
 }
 
 constexpr bool kFonts = true;

@@ -16,15 +16,20 @@
 
 namespace vendrel {
 
-/// What the writers of one kit share. The painting is numbered once, when the first asks for it.
+/// What the writers of one kit share. The painting is numbered once, when the first asks for it,
+/// and its plan is laid out once.
 class OutputJob {
   public:
     OutputJob(Workplace& place, const Exporter* fonts, const PlanSettings& plan)
-        : Place(place), Fonts(fonts), Plan(plan) {}
+        : Place(place), Fonts(fonts) {
+        if (fonts != nullptr) {
+            Planned.emplace(place, *fonts, plan);
+        }
+    }
 
     Workplace& Place;
-    const Exporter* Fonts;     // for outputs that need them
-    const PlanSettings& Plan;  // of pages and drawings
+    const Exporter* Fonts;  // for outputs that need them
+    std::optional<PlannedKit> Planned;
 
     [[nodiscard]] const NumberedPainting& Numbered();
     /// Of the numbering, when there was one.

@@ -101,10 +101,7 @@ class Saving {
             output.Write(job_, set_.Waiting(output));
             set_.Written(output);
             if (output.Id == OutputId::Pdf) {
-                saved_.Plan = FiguresOf(SketchPlan(place_.State, place_.Frames->WorkFrame.Picture,
-                                                   order_.Fonts->Aspects(order_.Plan.Symbols,
-                                                                         place_.State->PaintCount)),
-                                        order_.Plan);
+                saved_.Plan = job_.Planned->Figures();
             }
         }
         saved_.Files.push_back({output.Id, file});

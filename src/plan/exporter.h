@@ -1,8 +1,7 @@
 #pragma once
 
 #include "output/output_id.h"
-#include "plan/plan_layout.h"
-#include "shell/workplace.h"
+#include "plan/planned_kit.h"
 #include "support/surface.h"
 #include "support/target.h"
 
@@ -22,15 +21,13 @@ class Exporter {
 
     /// The first page of the plan as it would be printed, so many pixels at its longer side. Throws
     /// as Write.
-    [[nodiscard]] virtual Surface Preview(const Workplace& place, const PlanSettings& settings,
-                                          int longest) const = 0;
+    [[nodiscard]] virtual Surface Preview(PlannedKit& kit, int longest) const = 0;
 
     /// Writes the color chart, the kit's pages, its plan as a drawing, the page to paint along with
-    /// or the list of paints to `target`, whole or not at all; the settings are those of the plan.
-    /// The painted picture stays as it is. Throws Error for an unpainted
-    /// picture, more paints than symbols, a missing font or an output that needs none, FileError.
-    virtual void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
-                       const Target& target) const = 0;
+    /// or the list of paints to `target`, whole or not at all. The painted picture stays as it is.
+    /// Throws Error for an unpainted picture, more paints than symbols, a missing font or an output
+    /// that needs none, FileError.
+    virtual void Write(OutputId output, PlannedKit& kit, const Target& target) const = 0;
 };
 
 }  // namespace vendrel

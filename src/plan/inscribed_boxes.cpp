@@ -53,6 +53,9 @@ class BoxSearch {
     // One run of pixels of the same region, from column x on; answers where the next one begins.
     int SearchRun(int x, int y) {
         const int id = ids_(x, y);
+        if (const int end = EndOfRun(x, y); GoesOn(x, end, y)) {
+            return end;
+        }
         const double aspect = aspectOf_(id);
         InscribedBox& best = At(best_, id);
         open_.clear();
@@ -63,6 +66,19 @@ class BoxSearch {
         }
         (void)Close(end, 0, y, aspect, best);
         return end;
+    }
+
+    [[nodiscard]] int EndOfRun(int x, int y) const {
+        const std::span<const int> row = ids_.Row(y);
+        const auto from = row.begin() + x;
+        return static_cast<int>(
+            std::find_if(from, row.end(), [id = *from](int other) { return other != id; }) -
+            row.begin());
+    }
+    // Whether every box that ends in a run ends lower too.
+    [[nodiscard]] bool GoesOn(int x, int end, int y) const {
+        return y < ids_.Down() && std::equal(ids_.Row(y).begin() + x, ids_.Row(y).begin() + end,
+                                             ids_.Row(y + 1).begin() + x);
     }
 
     // Ends every open box taller than `reach` before column `end`; answers where a box of that

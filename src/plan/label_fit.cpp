@@ -1,5 +1,6 @@
 #include "plan/label_fit.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -10,27 +11,34 @@ constexpr double kFarthestStep = 1;  // pixels
 constexpr double kShortestStep = 0.12;
 constexpr int kMostSteps = 12;  // in any direction
 
+// The pieces of lines near a place, by how much of a symbol's height there they ask at most.
+struct NearPieces {
+    PlanPoint Around;
+    std::vector<std::pair<double, const LinePiece*>> Sorted;
+};
+
 // How tall a symbol in a place may be for all lines to stay `air` away from its box. Less than 0
 // where lines come nearer than that to its middle.
 class Height {
   public:
-    Height(std::span<const LinePiece> pieces, double aspect, double air)
-        : pieces_(pieces), aspect_(aspect), air_(air) {}
+    Height(double aspect, double air) : aspect_(aspect), air_(air) {}
 
-    [[nodiscard]] double At(const PlanPoint& centre) const {
+    [[nodiscard]] double At(const PlanPoint& centre, const NearPieces& pieces) const {
+        constexpr double kRounding = 1e-9;
+        // No piece asks more of a place so far from where they were sorted, and less air no less.
+        const double gain = kRounding + 2 * std::max(std::abs(centre.X - pieces.Around.X) / aspect_,
+                                                     std::abs(centre.Y - pieces.Around.Y));
         double least = std::numeric_limits<double>::infinity();
-        for (const LinePiece& piece : pieces_) {
-            const double bound = AskedByBounds(piece, centre);
+        for (const auto& [asked, piece] : pieces.Sorted) {
+            if (asked - gain >= least) {
+                break;
+            }
+            const double bound = AskedByBounds(*piece, centre);
             if (bound < least) {
-                least = IsStraight(piece) ? bound : std::min(least, Beside(piece, centre));
+                least = IsStraight(*piece) ? bound : std::min(least, Beside(*piece, centre));
             }
         }
         return least;
-    }
-
-  private:
-    [[nodiscard]] static bool IsStraight(const LinePiece& piece) {
-        return piece.From.X == piece.To.X || piece.From.Y == piece.To.Y;
     }
     // No more than what the piece asks, and exactly that when it is level or upright.
     [[nodiscard]] double AskedByBounds(const LinePiece& piece, const PlanPoint& centre) const {
@@ -39,6 +47,11 @@ class Height {
         };
         return Asked(off(piece.From.X, piece.To.X, centre.X),
                      off(piece.From.Y, piece.To.Y, centre.Y));
+    }
+
+  private:
+    [[nodiscard]] static bool IsStraight(const LinePiece& piece) {
+        return piece.From.X == piece.To.X || piece.From.Y == piece.To.Y;
     }
     // Of the height by a point so far from the middle.
     [[nodiscard]] double Asked(double x, double y) const {
@@ -69,10 +82,30 @@ class Height {
         return least;
     }
 
-    std::span<const LinePiece> pieces_;
     double aspect_;
     double air_;
 };
+
+// All that may touch a symbol with its middle there, or so far `aside`.
+NearPieces PiecesAround(const LineIndex& index, const SymbolAir& air, const PlanPoint& centre,
+                        double aspect, double aside) {
+    const double down = air.Largest / 2 + air.Wanted + aside;
+    const double across = air.Largest * aspect / 2 + air.Wanted + aside;
+    const Height height(aspect, air.Wanted);
+    NearPieces near{centre, {}};
+    index.Near({centre.X - across, centre.Y - down, centre.X + across, centre.Y + down},
+               [&](const LinePiece& piece) {
+                   near.Sorted.emplace_back(height.AskedByBounds(piece, centre), &piece);
+               });
+    std::ranges::sort(near.Sorted);
+    return near;
+}
+
+double HeightAt(const PlanPoint& centre, const NearPieces& pieces, double aspect,
+                const SymbolAir& air) {
+    const auto height = [&](double by) { return Height(aspect, by).At(centre, pieces); };
+    return air.HeightIn(height(air.Wanted), height(air.Least), height(0));
+}
 
 }  // namespace
 
@@ -80,9 +113,7 @@ FittedSymbol LabelFit::At(const PlanPoint& centre, double aspect, int area) cons
     if (!IsIn(area, centre)) {
         return {centre, 0};
     }
-    const std::vector<LinePiece> pieces = PiecesAround(centre, aspect, 0);
-    const auto height = [&](double air) { return Height(pieces, aspect, air).At(centre); };
-    return {centre, air_.HeightIn(height(air_.Wanted), height(air_.Least), height(0))};
+    return {centre, HeightAt(centre, PiecesAround(index_, air_, centre, aspect, 0), aspect, air_)};
 }
 
 FittedSymbol LabelFit::Near(const PlanPoint& wanted, double aspect, int area) const {
@@ -90,17 +121,18 @@ FittedSymbol LabelFit::Near(const PlanPoint& wanted, double aspect, int area) co
     if (!IsIn(area, centre)) {
         return {centre, 0};
     }
-    const std::vector<LinePiece> pieces = PiecesAround(centre, aspect, kMostSteps * kFarthestStep);
-    const Height height(pieces, aspect, air_.Wanted);
+    const NearPieces pieces =
+        PiecesAround(index_, air_, centre, aspect, kMostSteps * kFarthestStep);
+    const Height height(aspect, air_.Wanted);
     PlanPoint at = centre;
-    double tallest = height.At(at);
+    double tallest = height.At(at, pieces);
     int steps = 0;
     for (double step = kFarthestStep; step > kShortestStep && tallest < air_.Largest;) {
         const PlanPoint from = at;
         for (const PlanPoint& to :
              {PlanPoint{from.X + step, from.Y}, PlanPoint{from.X - step, from.Y},
               PlanPoint{from.X, from.Y + step}, PlanPoint{from.X, from.Y - step}}) {
-            const double taller = height.At(to);
+            const double taller = height.At(to, pieces);
             if (taller > tallest && IsIn(area, to)) {
                 tallest = taller;
                 at = to;
@@ -108,18 +140,7 @@ FittedSymbol LabelFit::Near(const PlanPoint& wanted, double aspect, int area) co
         }
         step = at == from || ++steps >= kMostSteps ? step / 2 : step;
     }
-    return {at, air_.HeightIn(tallest, Height(pieces, aspect, air_.Least).At(at),
-                              Height(pieces, aspect, 0).At(at))};
-}
-
-std::vector<LinePiece> LabelFit::PiecesAround(const PlanPoint& centre, double aspect,
-                                              double aside) const {
-    const double down = air_.Largest / 2 + air_.Wanted + aside;
-    const double across = air_.Largest * aspect / 2 + air_.Wanted + aside;
-    std::vector<LinePiece> pieces;
-    index_.Near({centre.X - across, centre.Y - down, centre.X + across, centre.Y + down},
-                [&](const LinePiece& piece) { pieces.push_back(piece); });
-    return pieces;
+    return {at, HeightAt(at, pieces, aspect, air_)};
 }
 
 // The middle of a box of pixels may have come to lie beyond a smooth line.

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <span>
-#include <vector>
-
 #include "plan/line_index.h"
 #include "plan/symbol_room.h"
 
@@ -29,8 +26,6 @@ class LabelFit {
     [[nodiscard]] const LineIndex& Lines() const { return index_; }
 
   private:
-    [[nodiscard]] std::vector<LinePiece> PiecesAround(const PlanPoint& centre, double aspect,
-                                                      double aside) const;
     [[nodiscard]] PlanPoint PlaceIn(int area, const PlanPoint& wanted) const;
     [[nodiscard]] bool IsIn(int area, const PlanPoint& at) const;
 

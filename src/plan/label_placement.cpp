@@ -3,12 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <functional>
-#include <utility>
 
-#include "plan/inscribed_boxes.h"
 #include "plan/leaders.h"
-#include "plan/region_pieces.h"
 #include "support/list.h"
 
 namespace vendrel {
@@ -18,13 +14,16 @@ namespace {
 constexpr double kAsGood = 0.7;
 // Symbols that repeat on a page stand this many of their heights apart at least.
 constexpr double kApart = 2;
-// Where a piece's best place is taken others are looked for this often, in legible symbols.
-constexpr double kStepElsewhere = 4;
 
 class Placement {
   public:
-    Placement(const PaintedRegions& regions, const LabelFit& fit, const LabelRules& rules)
-        : regions_(regions), fit_(fit), rules_(rules), placed_(regions.List.size()) {}
+    Placement(const PaintedRegions& regions, const LabelPlaces& places, const LabelFit& fit,
+              const LabelRules& rules)
+        : regions_(regions),
+          places_(places),
+          fit_(fit),
+          rules_(rules),
+          placed_(regions.List.size()) {}
 
     std::vector<PlanLabel> Run() {
         PlaceFirst();
@@ -39,9 +38,8 @@ class Placement {
 
   private:
     void PlaceFirst() {
-        const auto aspectOf = [this](int region) { return AspectOf(region); };
-        for (const InscribedBox& box : FindRoomiestBoxes(regions_, aspectOf)) {
-            At(placed_, box.Region).push_back(Fitted(LabelIn(box, box.Region)));
+        for (const PlanLabel& place : places_.OfRegions) {
+            OthersOf(place).push_back(Fitted(place));
         }
     }
 
@@ -49,29 +47,25 @@ class Placement {
     // a page is traced or painted before its neighbor with the symbol across the cut lies beside
     // it. So has what hangs together by necks alone that look closed in print.
     void PlaceOnPages() {
-        const RegionPieces cut =
-            ParedAtNecks(CutIntoPieces(regions_.Ids, {rules_.Cuts.Columns, rules_.Cuts.Rows}));
-        const std::vector<PlanLabel> labels = LabelsOf(cut);
-        KeepOffTheCuts(labels);
-        std::vector<bool> has(labels.size());
+        KeepOffTheCuts();
+        std::vector<bool> has(places_.Cut.Pieces.List.size());
         for (const std::vector<PlanLabel>& ofRegion : placed_) {
-            has[PieceUnder(cut, ofRegion.front())] = true;
+            has[PieceUnder(ofRegion.front())] = true;
         }
-        OfferToPieces(cut, labels, has);
-        OfferToPieces(cut, LabelsOf(CutWithLattice(kStepElsewhere * rules_.LegibleHeight)), has);
+        OfferToPieces(places_.OfPieces, has);
+        OfferToPieces(places_.Elsewhere, has);
     }
 
-    void OfferToPieces(const RegionPieces& cut, const std::vector<PlanLabel>& offers,
-                       std::vector<bool>& has) {
+    void OfferToPieces(const std::vector<PlanLabel>& offers, std::vector<bool>& has) {
         for (const PlanLabel& offer : offers) {
             std::vector<PlanLabel>& others = OthersOf(offer);
             const double smallest = std::min(others.front().Height * kAsGood, rules_.LegibleHeight);
-            const std::size_t piece = PieceUnder(cut, offer);
+            const std::size_t piece = PieceUnder(offer);
             if (has[piece] || offer.Height < smallest) {
                 continue;
             }
             const PlanLabel label = Fitted(offer);
-            if (label.Height >= smallest && PieceUnder(cut, label) == piece &&
+            if (label.Height >= smallest && PieceUnder(label) == piece &&
                 std::ranges::none_of(
                     others, [&](const PlanLabel& other) { return Overlap(label, other); })) {
                 others.push_back(label);
@@ -80,21 +74,9 @@ class Placement {
         }
     }
 
-    // What pages and a lattice leave of the regions.
-    [[nodiscard]] RegionPieces CutWithLattice(double step) const {
-        const auto both = [step](std::vector<int> cuts, int last) {
-            const std::vector<int> lattice = Lattice(std::max(1.0, step), last);
-            cuts.insert(cuts.end(), lattice.begin(), lattice.end());
-            std::ranges::sort(cuts);
-            return cuts;
-        };
-        return CutIntoPieces(regions_.Ids, {both(rules_.Cuts.Columns, regions_.Ids.Across()),
-                                            both(rules_.Cuts.Rows, regions_.Ids.Down())});
-    }
-
     // A symbol on a cut would be trimmed in half; one a little smaller beside it is better.
-    void KeepOffTheCuts(const std::vector<PlanLabel>& pieces) {
-        for (const PlanLabel& label : pieces) {
+    void KeepOffTheCuts() {
+        for (const PlanLabel& label : places_.OfPieces) {
             PlanLabel& first = OthersOf(label).front();
             if (IsOnCut(first) && label.Height >= first.Height * kAsGood) {
                 const PlanLabel beside = Fitted(label);
@@ -104,10 +86,7 @@ class Placement {
     }
 
     void PlaceOnLattice() {
-        if (rules_.LatticeStep < 1) {
-            return;
-        }
-        for (const PlanLabel& offer : LabelsOf(CutWithLattice(rules_.LatticeStep))) {
+        for (const PlanLabel& offer : places_.OnLattice) {
             std::vector<PlanLabel>& others = OthersOf(offer);
             const double smallest = others.front().Height * kAsGood;
             if (offer.Height < smallest || IsTooClose(offer, others)) {
@@ -126,31 +105,9 @@ class Placement {
                                                                        : Overlap(label, other);
         });
     }
-    static std::vector<int> Lattice(double step, int last) {
-        std::vector<int> cuts;
-        for (int i = 1; i * step <= last; ++i) {
-            cuts.push_back(static_cast<int>(std::lround(i * step)));
-        }
-        return cuts;
-    }
-
-    // The roomiest place of every piece, the roomiest of all first.
-    [[nodiscard]] std::vector<PlanLabel> LabelsOf(const RegionPieces& cut) const {
-        const auto regionOf = [&cut](int piece) { return At(cut.RegionOf, piece); };
-        const auto aspectOf = [&](int piece) { return AspectOf(regionOf(piece)); };
-        std::vector<InscribedBox> boxes = FindRoomiestBoxes(cut.Pieces, aspectOf);
-        std::ranges::stable_sort(boxes, std::greater<>(), &InscribedBox::Height);
-        std::vector<PlanLabel> labels;
-        labels.reserve(boxes.size());
-        for (const InscribedBox& box : boxes) {
-            labels.push_back(LabelIn(box, regionOf(box.Region)));
-        }
-        return labels;
-    }
-
-    static std::size_t PieceUnder(const RegionPieces& cut, const PlanLabel& label) {
-        return static_cast<std::size_t>(
-            cut.Pieces.Ids(static_cast<int>(label.Centre.X), static_cast<int>(label.Centre.Y)));
+    [[nodiscard]] std::size_t PieceUnder(const PlanLabel& label) const {
+        return static_cast<std::size_t>(places_.Cut.Pieces.Ids(static_cast<int>(label.Centre.X),
+                                                               static_cast<int>(label.Centre.Y)));
     }
     [[nodiscard]] bool IsClose(const PlanLabel& one, const PlanLabel& other) const {
         const double apart =
@@ -173,12 +130,6 @@ class Placement {
     [[nodiscard]] double AspectOf(int region) const {
         return rules_.Aspects[regions_[region].Value];
     }
-    // As tall as could be, lines or not.
-    [[nodiscard]] PlanLabel LabelIn(const InscribedBox& box, int region) const {
-        return {region,
-                {(box.Left + box.Right) / 2.0, (box.Top + box.Bottom) / 2.0},
-                std::min(box.Height, rules_.Air.Largest)};
-    }
     // As tall as the lines around it allow, and a little aside where that makes it taller; onto a
     // cut only where there is little room beside it.
     [[nodiscard]] PlanLabel Fitted(const PlanLabel& label) const {
@@ -196,6 +147,7 @@ class Placement {
     }
 
     const PaintedRegions& regions_;
+    const LabelPlaces& places_;
     const LabelFit& fit_;
     const LabelRules& rules_;
     std::vector<std::vector<PlanLabel>> placed_;  // per region, the roomiest place first
@@ -203,11 +155,11 @@ class Placement {
 
 }  // namespace
 
-std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const PlanLines& lines,
-                                   const LabelRules& rules) {
+std::vector<PlanLabel> PlaceLabels(const PaintedRegions& regions, const LabelPlaces& places,
+                                   const PlanLines& lines, const LabelRules& rules) {
     const LineIndex index(lines);
     const LabelFit fit(index, regions.Ids, rules.Air);
-    std::vector<PlanLabel> labels = Placement(regions, fit, rules).Run();
+    std::vector<PlanLabel> labels = Placement(regions, places, fit, rules).Run();
     MoveOutside(labels, regions, fit, rules);
     return labels;
 }

@@ -1,12 +1,10 @@
 #include "plan/page_tiling.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
 
-#include "output/symbol_set.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -192,32 +190,6 @@ PagePlan Enlarged(const PagePlan& plan, double times) {
         tile.Shown = {tile.Own.Left, tile.Own.Top, tile.Own.Right + right, tile.Own.Bottom + below};
     }
     return larger;
-}
-
-std::vector<int> PaintsWithin(const PaintedRegions& regions, const PlanRect& part) {
-    constexpr double kHair = 1e-6;  // what a part reckoned in millimetres may be off
-    const auto first = [](double at) { return std::max(0, int(std::floor(at + kHair))); };
-    const auto end = [](double at, int last) {
-        return std::min(last + 1, int(std::ceil(at - kHair)));
-    };
-    const int left = first(part.Left);
-    const int top = first(part.Top);
-    const int right = end(part.Right, regions.Ids.Across());
-    const int bottom = end(part.Bottom, regions.Ids.Down());
-    std::array<bool, kSymbolCount + 1> found{};
-    for (int y = top; y < bottom; ++y) {
-        for (int x = left; x < right; ++x) {
-            const int region = regions.Ids(x, y);
-            found.at(static_cast<std::size_t>(regions[region].Value)) = true;
-        }
-    }
-    std::vector<int> paints;
-    for (std::size_t paint = 0; paint < found.size(); ++paint) {
-        if (found[paint]) {
-            paints.push_back(static_cast<int>(paint));
-        }
-    }
-    return paints;
 }
 
 }  // namespace vendrel

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "plan/outlines.h"
-#include "plan/painted_regions.h"
 #include "plan/paper.h"
 
 namespace vendrel {
@@ -76,8 +75,5 @@ struct CanvasToCut {
 [[nodiscard]] double RoomToGrow(const PagePlan& plan);
 /// The same pages for a canvas so many times larger.
 [[nodiscard]] PagePlan Enlarged(const PagePlan& plan, double times);
-
-/// The paints that occur on a part of the picture (in pixels), ascending.
-[[nodiscard]] std::vector<int> PaintsWithin(const PaintedRegions& regions, const PlanRect& part);
 
 }  // namespace vendrel

@@ -20,20 +20,20 @@ std::string Short(double number) {
 
 }  // namespace
 
-std::vector<PaintNeed> PaintNeeds(const PaintedRegions& regions, const PagePlan& pages,
-                                  PrintScale scale, int paints, const PaintUse& use) {
+std::vector<PaintNeed> PaintNeeds(const PaintedPages& painted, int paints, const PaintUse& use) {
     constexpr double kMm2PerCm2 = 100;
+    const PrintScale scale = painted.Scale;
     std::vector<PaintNeed> needs(static_cast<std::size_t>(paints));
     const auto of = [&needs](int paint) -> PaintNeed& {
         return needs[static_cast<std::size_t>(paint - 1)];
     };
-    for (const Region& region : regions.List) {
+    for (const Region& region : painted.Regions.List) {
         of(region.Value).Cm2 += scale.Mm2(region.Size) / kMm2PerCm2;
     }
-    for (const PageTile& tile : pages.Tiles) {
+    for (const PageTile& tile : painted.Pages.Tiles) {
         const PlanRect own{scale.Pixels(tile.Own.Left), scale.Pixels(tile.Own.Top),
                            scale.Pixels(tile.Own.Right), scale.Pixels(tile.Own.Bottom)};
-        for (const int paint : PaintsWithin(regions, own)) {
+        for (const int paint : painted.Paints.Within(own)) {
             of(paint).Pages.push_back(tile.Name());
         }
     }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "plan/page_tiling.h"
+#include "plan/paint_finder.h"
 #include "plan/painted_regions.h"
 #include "support/print_scale.h"
 
@@ -31,9 +32,16 @@ struct PaintNeed {
     std::vector<std::string> Pages;  // of the plan where it occurs
 };
 
+/// What is to be painted.
+struct PaintedPages {
+    const PaintedRegions& Regions;
+    const PaintFinder& Paints;  // in them
+    const PagePlan& Pages;
+    PrintScale Scale;
+};
+
 /// Of every paint of a palette of so many, in its order.
-[[nodiscard]] std::vector<PaintNeed> PaintNeeds(const PaintedRegions& regions,
-                                                const PagePlan& pages, PrintScale scale, int paints,
+[[nodiscard]] std::vector<PaintNeed> PaintNeeds(const PaintedPages& painted, int paints,
                                                 const PaintUse& use);
 
 /// All of them together; no paint and no pages.

@@ -1,6 +1,7 @@
 #include "plan/plan_layout.h"
 
 #include <cmath>
+#include <future>
 #include <utility>
 
 #include "plan/smooth_lines.h"
@@ -41,43 +42,47 @@ PlanLines LinesOf(const PrintPlan& plan, const WorkState& state, const PlanSetti
     return SmoothLines(plan.Regions, std::move(stairs), rules);
 }
 
-void AddLabels(PrintPlan& plan, const PageCuts& cuts) {
+LabelRules RulesFor(const PrintPlan& plan, PlanCut cut) {
     LabelRules rules;
     rules.Aspects = plan.Aspects;
     rules.LegibleHeight = plan.Scale.Pixels(kRepeated * kLegibleSymbolMm);
     rules.Air = InPixels(AirInPrint(), plan.Scale);
     rules.LatticeStep = plan.Scale.Pixels(kLatticeMm);
-    rules.Cuts = cuts;
-    plan.Labels = PlaceLabels(plan.Regions, plan.Lines, rules);
+    rules.Cuts = cut == PlanCut::AtPages ? CutsInPixels(plan) : PageCuts{};
+    return rules;
 }
 
-PrintPlan WithoutLabels(const WorkState& state, PlanSketch sketch, const PlanSettings& settings) {
-    PlanSheets sheets = LayOutSheets(sketch, settings);
+PrintPlan Bare(const PlanSketch& sketch, PlanSheets sheets) {
     PrintPlan plan;
-    plan.Aspects = std::move(sketch.Aspects);
-    plan.Regions = std::move(sketch.Regions);
+    plan.Regions = sketch.Regions;
+    plan.Paints = sketch.Paints;
+    plan.Aspects = sketch.Aspects;
     plan.Pages = std::move(sheets.Pages);
     plan.Scale = sheets.Scale;
     plan.Canvas = sheets.Canvas;
     plan.PictureAt = sheets.PictureAt;
-    plan.Lines = LinesOf(plan, state, settings);
     return plan;
 }
 
 }  // namespace
 
-PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
-                        const PlanSettings& settings, const SymbolAspects& aspects) {
-    PrintPlan plan = WithoutLabels(state, SketchPlan(state, picture, aspects), settings);
-    AddLabels(plan, CutsInPixels(plan));
+PrintPlan MakePrintPlan(const WorkState& state, const PlanSketch& sketch,
+                        const PlanSettings& settings, PlanCut cut) {
+    PrintPlan plan = Bare(sketch, LayOutSheets(sketch, settings));
+    const LabelRules rules = RulesFor(plan, cut);
+    auto places = std::async(std::launch::async,
+                             [&] { return FindPlaces(sketch.Regions, sketch.Boxes, rules); });
+    plan.Lines = LinesOf(plan, state, settings);
+    plan.Labels = PlaceLabels(plan.Regions, places.get(), plan.Lines, rules);
     return plan;
 }
 
-PrintPlan MakeUncutPlan(const WorkState& state, const Surface& picture,
-                        const PlanSettings& settings, const SymbolAspects& aspects) {
-    PrintPlan plan = WithoutLabels(state, SketchPlan(state, picture, aspects), settings);
-    AddLabels(plan, {});
-    return plan;
+PrintPlan WithOtherLabels(const PrintPlan& plan, const PlanSketch& sketch, PlanCut cut) {
+    PrintPlan other = plan;
+    const LabelRules rules = RulesFor(plan, cut);
+    const LabelPlaces places = FindPlaces(sketch.Regions, sketch.Boxes, rules);
+    other.Labels = PlaceLabels(plan.Regions, places, plan.Lines, rules);
+    return other;
 }
 
 }  // namespace vendrel

@@ -9,13 +9,13 @@
 #include "plan/plan_sketch.h"
 #include "shell/work_state.h"
 #include "support/print_scale.h"
-#include "support/surface.h"
 
 namespace vendrel {
 
 /// A whole plan, ready to be drawn.
 struct PrintPlan {
     PaintedRegions Regions;
+    PaintFinder Paints;
     PlanLines Lines;
     PaintAspects Aspects;
     std::vector<PlanLabel> Labels;
@@ -25,14 +25,16 @@ struct PrintPlan {
     PlanPoint PictureAt;  // on it, in millimetres
 };
 
-/// Lays out the painted picture for printing; `aspects` are those of the symbols as they will be
-/// drawn. Without a canvas asked for it takes the fewest pages on which symbols can be read, and
-/// then the largest canvas that those pages hold. Throws Error for an unpainted picture, more
-/// paints than symbols or a canvas outside kSmallestCanvasCm..kLargestCanvasCm.
-[[nodiscard]] PrintPlan MakePrintPlan(const WorkState& state, const Surface& picture,
-                                      const PlanSettings& settings, const SymbolAspects& aspects);
-/// The same for a canvas in one piece: no symbol gives way to a cut or comes back beyond it.
-[[nodiscard]] PrintPlan MakeUncutPlan(const WorkState& state, const Surface& picture,
-                                      const PlanSettings& settings, const SymbolAspects& aspects);
+/// Where symbols give way to the pages' cuts and come back beyond them.
+enum class PlanCut { AtPages, Nowhere };
+
+/// Lays out the sketched picture for printing. Without a canvas asked for it takes the fewest pages
+/// on which symbols can be read, and then the largest canvas that those pages hold. Throws as
+/// LayOutSheets.
+[[nodiscard]] PrintPlan MakePrintPlan(const WorkState& state, const PlanSketch& sketch,
+                                      const PlanSettings& settings, PlanCut cut);
+/// The same plan cut otherwise; `sketch` is the one that it was made of.
+[[nodiscard]] PrintPlan WithOtherLabels(const PrintPlan& plan, const PlanSketch& sketch,
+                                        PlanCut cut);
 
 }  // namespace vendrel

@@ -6,9 +6,7 @@
 #include <utility>
 
 #include "output/cell_numbering.h"
-#include "output/kit_figures.h"
 #include "regions/crumbs.h"
-#include "support/decimals.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -18,8 +16,6 @@ namespace {
 constexpr double kRoundMm = 5;
 // The share of a stipple's symbol that is left where its neighbours nibbled at it.
 constexpr double kNibbled = 0.75;
-// What a height reckoned in millimeters may be off.
-constexpr double kHairMm = 1e-6;
 
 void RequireCanvas(const SizeMm& canvas, double shortest) {
     if (shortest / 10 < kSmallestCanvasCm ||
@@ -29,21 +25,6 @@ void RequireCanvas(const SizeMm& canvas, double shortest) {
                     " cm cannot be printed. Choose a width of 10 cm or more, and no side longer "
                     "than 300 cm.");
     }
-}
-
-SymbolRoom LeastRoomInStipple(int stippleSize, const PaintAspects& aspects) {
-    SymbolRoom least{static_cast<double>(stippleSize), static_cast<double>(stippleSize), 0};
-    for (const double aspect : aspects) {
-        const SymbolRoom room = RoomInStipple(stippleSize, aspect);
-        least = room.LegiblePixelMm() > least.LegiblePixelMm() ? room : least;
-    }
-    return least;
-}
-
-// How wide a pixel makes every symbol legible, in millimeters.
-double LegiblePixelMm(const PlanSketch& sketch) {
-    return std::ranges::max_element(sketch.Rooms, {}, &SymbolRoom::LegiblePixelMm)
-        ->LegiblePixelMm();
 }
 
 // So large that every symbol can be read. A stipple that its neighbours nibbled at may take a
@@ -94,7 +75,7 @@ double Growth(const PagePlan& pages) {
 
 PagePlan PagesAt(const PlanSketch& sketch, PrintScale scale, const Paper& sheet) {
     const auto listHeight = [&sketch, scale](const PaperChoice& paper, const PlanRect& own) {
-        const auto paints = PaintsWithin(sketch.Regions, InPixels(own, scale));
+        const auto paints = sketch.Paints.Within(InPixels(own, scale));
         return PlanPageDesign::LegendHeight(paper, static_cast<int>(paints.size()));
     };
     return PlanPages({PictureAt(sketch, scale),
@@ -129,45 +110,25 @@ PlanSheets OnOneSheet(const PlanSketch& sketch, PrintScale scale, const PlanSett
     return sheets;
 }
 
-int CanvasThatDoesCm(const PlanSketch& sketch) {
-    const double width = LegiblePixelMm(sketch) * sketch.Width / 10;
-    const double whole = std::max(std::ceil(width - kHairMm), kSmallestCanvasCm);
-    return whole <= WidestCanvasCm(sketch) ? static_cast<int>(whole) : 0;
-}
-
-// What the brush leaves of a stipple's symbol where the neighbours nibble most: it stamps a stipple
-// again before less is left. Of photos of all kinds.
-double KeptShare(Difficulty level) {
-    return level == Difficulty::Easy ? 0.83 : level == Difficulty::Medium ? 0.71 : 1;
-}
-
-std::optional<Difficulty> LevelThatDoes(const PlanSketch& sketch, PrintScale scale) {
-    for (auto level = kDifficulties.rbegin(); level != kDifficulties.rend(); ++level) {
-        if (level->StippleSize > sketch.StippleSize &&
-            LeastRoomInStipple(level->StippleSize, sketch.Aspects)
-                    .Times(KeptShare(level->Level))
-                    .SymbolMm(scale) >= kLegibleSymbolMm - kHairMm) {
-            return level->Level;
-        }
-    }
-    return std::nullopt;
-}
-
-// "3,120"
-std::string Grouped(int number) {
-    std::string text = std::to_string(number);
-    for (std::size_t at = text.size(); at > 3;) {
-        at -= 3;
-        text.insert(at, 1, ',');
-    }
-    return text;
-}
-
 }  // namespace
 
 bool HasSmoothLines(const PlanSettings& settings, const StippleGrid& grid) {
     return settings.Lines == LineShape::Smooth ||
            (settings.Lines == LineShape::ByKit && grid.PaintableKit);
+}
+
+SymbolRoom LeastRoomInStipple(int stippleSize, const PaintAspects& aspects) {
+    SymbolRoom least{static_cast<double>(stippleSize), static_cast<double>(stippleSize), 0};
+    for (const double aspect : aspects) {
+        const SymbolRoom room = RoomInStipple(stippleSize, aspect);
+        least = room.LegiblePixelMm() > least.LegiblePixelMm() ? room : least;
+    }
+    return least;
+}
+
+double LegiblePixelMm(const PlanSketch& sketch) {
+    return std::ranges::max_element(sketch.Rooms, {}, &SymbolRoom::LegiblePixelMm)
+        ->LegiblePixelMm();
 }
 
 PlanRect InPixels(const PlanRect& part, PrintScale scale) {
@@ -199,7 +160,12 @@ PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
     sketch.Regions = FindRegionsWithoutCrumbs(
         PaintPerPixel(state, state, sketch.StippleSize, sketch.Width, sketch.Height),
         state.PaintableKit ? 0 : TraitsOf(state.Chosen.Level).FewestOwnPixels);
-    sketch.Rooms = FindSymbolRooms(sketch.Regions, sketch.Aspects);
+    sketch.Paints = PaintFinder(sketch.Regions);
+    const auto aspectOf = [&](int region) { return sketch.Aspects[sketch.Regions[region].Value]; };
+    sketch.Boxes = FindRoomiestBoxes(sketch.Regions, aspectOf);
+    for (const InscribedBox& box : sketch.Boxes) {
+        sketch.Rooms.push_back(RoomIn(box, aspectOf(box.Region)));
+    }
     sketch.InStipple = LeastRoomInStipple(sketch.StippleSize, sketch.Aspects);
     return sketch;
 }
@@ -217,57 +183,6 @@ PlanSheets LayOutSheets(const PlanSketch& sketch, const PlanSettings& settings) 
 
 double WidestCanvasCm(const PlanSketch& sketch) {
     return std::floor(kLargestCanvasCm * std::min(1.0, double(sketch.Width) / sketch.Height));
-}
-
-PlanFigures FiguresOf(const PlanSketch& sketch, const PlanSettings& settings) {
-    const PlanSheets sheets = LayOutSheets(sketch, settings);
-    PlanFigures figures;
-    figures.Canvas = sheets.Canvas;
-    figures.Picture = sheets.Pages.Canvas;
-    figures.Inches = settings.InInches();
-    figures.Ml = figures.Picture.Width * figures.Picture.Height / 100 * settings.Use.Coats /
-                 settings.Use.Cm2PerMl;
-    figures.Pages = static_cast<int>(sheets.Pages.Tiles.size());
-    figures.Symbols = static_cast<int>(sketch.Rooms.size());
-    figures.Hours = PaintingHours(figures.Symbols, figures.Picture.Width * figures.Picture.Height);
-    figures.SmallestMm = kLargestSymbolMm;
-    for (const SymbolRoom& room : sketch.Rooms) {
-        const double height = room.SymbolMm(sheets.Scale);
-        figures.Small += height < kLegibleSymbolMm - kHairMm ? 1 : 0;
-        figures.SmallestMm = std::min(figures.SmallestMm, height);
-    }
-    if (figures.Small > 0) {
-        figures.CanvasThatDoesCm = CanvasThatDoesCm(sketch);
-        figures.LevelThatDoes =
-            settings.HasCanvas() ? LevelThatDoes(sketch, sheets.Scale) : std::nullopt;
-    }
-    return figures;
-}
-
-std::string SmallestText(const PlanFigures& figures) {
-    const int tenths = static_cast<int>(std::floor((figures.SmallestMm + kHairMm) * 10));
-    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
-}
-
-std::string WarningOf(const PlanFigures& figures) {
-    if (figures.Small == 0) {
-        return {};
-    }
-    std::string remedy;
-    if (figures.CanvasThatDoesCm > 0) {
-        const double inches = figures.CanvasThatDoesCm * 10 / kMmPerInch;
-        remedy =
-            "a canvas of " + (figures.Inches ? Decimals(std::ceil(inches * 2) / 2, 1) + " in"
-                                             : std::to_string(figures.CanvasThatDoesCm) + " cm");
-    }
-    if (figures.LevelThatDoes) {
-        remedy += (remedy.empty() ? "" : " or ") +
-                  std::string(TraitsOf(*figures.LevelThatDoes).Option) + " difficulty";
-    }
-    return Grouped(figures.Small) + " of " + Grouped(figures.Symbols) + " areas " +
-           (figures.Small == 1 ? "has" : "have") +
-           " no room for a symbol of 2 mm, the smallest for one of " + SmallestText(figures) +
-           " mm" + (remedy.empty() ? "." : "; " + remedy + " gives them 2 mm or more.");
 }
 
 }  // namespace vendrel

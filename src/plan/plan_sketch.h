@@ -1,11 +1,12 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "plan/inscribed_boxes.h"
 #include "plan/page_tiling.h"
+#include "plan/paint_finder.h"
 #include "plan/paint_needs.h"
 #include "plan/painted_regions.h"
 #include "plan/symbol_room.h"
@@ -81,10 +82,12 @@ struct PlanPageDesign {
 /// one canvas after the other.
 struct PlanSketch {
     PaintedRegions Regions;
+    PaintFinder Paints;
     PaintAspects Aspects;
-    std::vector<SymbolRoom> Rooms;  // each region's for its symbol
-    SymbolRoom InStipple;           // the least that a lone stipple has for one
-    int Width = 0;                  // of the picture, in pixels
+    std::vector<InscribedBox> Boxes;  // the roomiest of each region
+    std::vector<SymbolRoom> Rooms;    // what its symbol has there
+    SymbolRoom InStipple;             // the least that a lone stipple has for one
+    int Width = 0;                    // of the picture, in pixels
     int Height = 0;
     int StippleSize = 0;
 };
@@ -93,6 +96,11 @@ struct PlanSketch {
 /// or more paints than symbols.
 [[nodiscard]] PlanSketch SketchPlan(const WorkState& state, const Surface& picture,
                                     const SymbolAspects& aspects);
+
+/// The least that a lone stipple has for the symbols of some paints.
+[[nodiscard]] SymbolRoom LeastRoomInStipple(int stippleSize, const PaintAspects& aspects);
+/// How wide a pixel makes every symbol legible in its area's roomiest box, in millimeters.
+[[nodiscard]] double LegiblePixelMm(const PlanSketch& sketch);
 
 /// The pages of a plan and how large the picture is on them.
 struct PlanSheets {
@@ -109,29 +117,5 @@ struct PlanSheets {
 
 /// The widest canvas of the picture's shape, in whole centimeters.
 [[nodiscard]] double WidestCanvasCm(const PlanSketch& sketch);
-
-/// What a painter should know of a plan before printing it.
-struct PlanFigures {
-    SizeMm Canvas;
-    SizeMm Picture;                           // smaller where the canvas is of another shape
-    bool Inches = false;                      // what the painter reads
-    double Ml = 0;                            // of all paints
-    double Hours = 0;                         // of painting
-    int Pages = 0;                            // without those in front of the plan
-    int Symbols = 0;                          // one an area
-    int Small = 0;                            // of the areas without room for kLegibleSymbolMm
-    double SmallestMm = 0;                    // that the least of them has room for
-    int CanvasThatDoesCm = 0;                 // whole centimeters of width; 0 where none can be
-    std::optional<Difficulty> LevelThatDoes;  // on the same canvas, as far as can be told
-};
-
-/// Throws as LayOutSheets.
-[[nodiscard]] PlanFigures FiguresOf(const PlanSketch& sketch, const PlanSettings& settings);
-
-/// "0.8", rounded down: no symbol is smaller.
-[[nodiscard]] std::string SmallestText(const PlanFigures& figures);
-
-/// A sentence on the symbols that cannot be read well and on what would help; empty when all can.
-[[nodiscard]] std::string WarningOf(const PlanFigures& figures);
 
 }  // namespace vendrel

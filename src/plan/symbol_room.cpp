@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "drawing/brush.h"
-#include "plan/inscribed_boxes.h"
 
 namespace vendrel {
 namespace {
@@ -17,11 +16,6 @@ constexpr double kTight = 0.6;
 
 double HeightWithin(double width, double height, double aspect, double air) {
     return std::min(height - 2 * air, (width - 2 * air) / aspect);
-}
-
-SymbolRoom RoomIn(const InscribedBox& box, double aspect) {
-    return {static_cast<double>(box.Right - box.Left), static_cast<double>(box.Bottom - box.Top),
-            aspect};
 }
 
 }  // namespace
@@ -57,14 +51,15 @@ double SymbolRoom::LegiblePixelMm() const {
                     (air.Legible * Aspect + 2 * air.Least) / Width);
 }
 
-std::vector<SymbolRoom> FindSymbolRooms(const PaintedRegions& regions,
-                                        const PaintAspects& aspects) {
-    const auto aspectOf = [&](int region) { return aspects[regions[region].Value]; };
-    std::vector<SymbolRoom> rooms;
-    for (const InscribedBox& box : FindRoomiestBoxes(regions, aspectOf)) {
-        rooms.push_back(RoomIn(box, aspectOf(box.Region)));
-    }
-    return rooms;
+double GrowthToLegible(double heightMm) {
+    const double around = 2 * AirInPrint().Least;
+    const double room = std::min(heightMm + around, heightMm / kTight);
+    return (kLegibleSymbolMm + around) / room;
+}
+
+SymbolRoom RoomIn(const InscribedBox& box, double aspect) {
+    return {static_cast<double>(box.Right - box.Left), static_cast<double>(box.Bottom - box.Top),
+            aspect};
 }
 
 SymbolRoom RoomInStipple(int stippleSize, double aspect) {

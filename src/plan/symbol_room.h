@@ -1,9 +1,6 @@
 #pragma once
 
-#include <vector>
-
-#include "plan/outlines.h"
-#include "plan/painted_regions.h"
+#include "plan/inscribed_boxes.h"
 #include "plan/symbol_aspects.h"
 #include "support/print_scale.h"
 
@@ -48,9 +45,12 @@ struct SymbolRoom {
     [[nodiscard]] double LegiblePixelMm() const;
 };
 
-/// The roomiest box of every region, by region.
-[[nodiscard]] std::vector<SymbolRoom> FindSymbolRooms(const PaintedRegions& regions,
-                                                      const PaintAspects& aspects);
+/// How many times larger a symbol has to be printed that is so tall in its room, in millimeters,
+/// until it is legible.
+[[nodiscard]] double GrowthToLegible(double heightMm);
+
+/// What a region's box leaves to a symbol of such an aspect.
+[[nodiscard]] SymbolRoom RoomIn(const InscribedBox& box, double aspect);
 
 /// What a lone stipple of that size has for a symbol of such an aspect.
 [[nodiscard]] SymbolRoom RoomInStipple(int stippleSize, double aspect);

@@ -1,6 +1,7 @@
 #include "shell/menu.h"
 
 #include <initializer_list>
+#include <utility>
 
 namespace vendrel {
 namespace {
@@ -19,6 +20,8 @@ constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {StartupPaintShop, "StartupPaintShop", "Paint Shop", FileHeader},
     {ChangeToStipples, "ChangeToStipples", "Change To Stipples", FileHeader},
     {ColorPickerSelect, "ColorPickerSelect", "Touch Up", FileHeader},
+    {UndoTouchUp, "UndoTouchUp", "Undo Touch-Up", FileHeader, false},
+    {RedoTouchUp, "RedoTouchUp", "Redo Touch-Up", FileHeader, false},
     {MakeItPaintable, "MakeItPaintable", "Make It Paintable\u2026", FileHeader},
     {PaintItNow, "PaintItNow", "Paint It", FileHeader},
     {PrintMenu, "PrintMenu", "Save", FileHeader},
@@ -60,6 +63,18 @@ void Enable(Menu& menu, std::initializer_list<MenuId> ids, bool on) {
 }  // namespace
 
 Menu::Menu() : entries_(kEntries) {}
+
+void Menu::NameTarget(MenuId id, std::string target) {
+    (*this)[id].Enabled = !target.empty();
+    targets_[id] = std::move(target);
+}
+
+std::string Menu::CaptionOf(MenuId id) const {
+    const std::string caption((*this)[id].Caption);
+    const auto target = targets_.find(id);
+    return target == targets_.end() || target->second.empty() ? caption
+                                                              : caption + ": " + target->second;
+}
 
 void SetupMenuItems(Menu& menu, int stage) {
     menu[LoadBMP].Enabled = true;

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstddef>
+#include <map>
+#include <string>
 #include <string_view>
 
 #include "shell/settings.h"
@@ -21,6 +23,8 @@ enum class MenuId {
     StartupPaintShop,
     ChangeToStipples,
     ColorPickerSelect,
+    UndoTouchUp,
+    RedoTouchUp,
     MakeItPaintable,
     PaintItNow,
     PrintMenu,
@@ -78,7 +82,13 @@ class Menu {
     }
     [[nodiscard]] const std::array<MenuEntry, kMenuEntryCount>& Entries() const { return entries_; }
 
+    /// Says on the entry what it would act on: "Undo Touch-Up: Fill". Without it the entry is off.
+    void NameTarget(MenuId id, std::string target);
+    /// The caption with that.
+    [[nodiscard]] std::string CaptionOf(MenuId id) const;
+
   private:
+    std::map<MenuId, std::string> targets_;
     std::array<MenuEntry, kMenuEntryCount> entries_;
 };
 

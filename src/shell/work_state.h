@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/catalogue.h"
+#include "shell/edit_past.h"
 #include "shell/edited_grid.h"
 #include "shell/found_palette.h"
 #include "shell/given_warnings.h"
@@ -29,6 +30,7 @@ struct WorkState : Catalogue,
                    StippleGrid,
                    EditedGrid,
                    KitEdits,
+                   EditPast,
                    UnsavedWork,
                    PaintedPixels,
                    PaintPass,

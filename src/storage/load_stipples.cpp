@@ -8,6 +8,7 @@
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
+#include "edits/kit_base.h"
 #include "shell/found_palette.h"
 #include "shell/palette.h"
 #include "shell/stipple_grid.h"
@@ -42,6 +43,7 @@ void Commit(WorkState& state, LoadedGrid loaded) {
     SetPalette(state, std::move(loaded.Palette));
     SetGrid(state, std::move(loaded.Cells));
     state.PaintableKit = false;  // a file does not know
+    StartBase(state, state, state, state);
 }
 
 void TellOtherShape(Ui& screen, const StippleGrid& grid, const std::filesystem::path& path,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -14,6 +15,7 @@ enum class EditIntent {
     Neighbors,  // what lies around these places
     Exchange,   // another paint wherever there is the one
     Erase,      // what the conversion gave these places
+    NewBase,    // a grid to go on from as if converted so
 };
 
 /// One step that can be taken back: the stipples it repainted, or, for a load, the copies as they
@@ -36,9 +38,15 @@ class EditHistory {
     /// Names of the steps that Undo and Redo would take; empty when there is none.
     [[nodiscard]] std::string UndoName() const;
     [[nodiscard]] std::string RedoName() const;
+    /// Of all steps, the first one first; those from Done() on are undone.
+    [[nodiscard]] std::vector<std::string> Names() const;
+    [[nodiscard]] int Done() const { return static_cast<int>(done_); }
     /// Both do nothing when there is no such step; they answer what changed on the sheet.
     CellRect Undo(EditSheet& sheet);
     CellRect Redo(EditSheet& sheet);
+
+    /// The steps done, the first one first.
+    [[nodiscard]] std::span<const EditStep> DoneSteps() const { return {steps_.data(), done_}; }
 
     /// Whether the step of that Id is done and not undone or forgotten since.
     [[nodiscard]] bool IsDone(int id) const;

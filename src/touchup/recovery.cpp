@@ -58,6 +58,11 @@ fs::path HoldRecovery(UnsavedWork& unsaved, const fs::path& grid) {
     return held->Path();
 }
 
+bool IsRecoveryOf(const fs::path& recovery, const fs::path& grid) {
+    const std::optional<KeptWork> work = KeptIn(recovery);
+    return work && work->Photo + "-" + work->Difficulty == grid.stem().string();
+}
+
 void WriteRecoveryOfGrid(Workplace& place) {
     WorkState& state = place.State;
     const fs::path file = HoldRecovery(state, StippleFilePath(place.Folder, state, state));

@@ -23,6 +23,9 @@ using EditTime = std::chrono::steady_clock::time_point;
 /// was kept before is ever written over.
 [[nodiscard]] std::filesystem::path HoldRecovery(UnsavedWork& unsaved,
                                                  const std::filesystem::path& grid);
+/// Whether a recovery file is of the photo and difficulty whose saved grid is `grid`.
+[[nodiscard]] bool IsRecoveryOf(const std::filesystem::path& recovery,
+                                const std::filesystem::path& grid);
 /// Keeps the kit's own accepted grid there, whole or not at all. Throws FileError.
 void WriteRecoveryOfGrid(Workplace& place);
 /// Removes the one held, if any. Throws FileError when it cannot be removed.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "edits/kit_base.h"
 #include "shell/found_palette.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
@@ -28,6 +29,11 @@ class RecountAtEnd {
     EditSheet& sheet_;
 };
 
+CellChange ChangeOf(CellPos at, int from, int to) {
+    return {static_cast<std::int16_t>(at.X), static_cast<std::int16_t>(at.Y),
+            static_cast<std::int16_t>(from), static_cast<std::int16_t>(to)};
+}
+
 void RefuseFlaw(const EditSheet& sheet, const char* refusal) {
     const std::string flaw = sheet.Flaw();
     if (!flaw.empty()) {
@@ -51,6 +57,8 @@ TouchUp::TouchUp(Workplace& place)
     if (!state.HasUnsavedWork) {
         state.Recovery.reset();  // of another photo, perhaps
     }
+    RequireBase(state, state, state, state);
+    atOpening_ = state;
     sheet_.Open(state, state);
 }
 
@@ -66,11 +74,51 @@ CellRect TouchUp::BeginStroke(CellPos at, EditBrush brush) {
     return StrokeTo(at);
 }
 
+CellRect TouchUp::BeginErasing(CellPos at, EditBrush brush) {
+    EndStroke();
+    brush_ = brush;
+    erasing_ = PaintsOfBase();
+    strokeAt_ = at;
+    drawing_ = true;
+    return StrokeTo(at);
+}
+
+AreaMerge TouchUp::PreviewAreaMerge(int smallest) const {
+    AreaMerge plan = PlanAreaMerge(sheet_, smallest);
+    std::erase_if(plan.Changes, [this](const CellChange& change) {
+        return !pen_.MayPaint({change.X, change.Y});
+    });
+    return plan;
+}
+
+CellRect TouchUp::MergeAreas(int smallest) {
+    return Edit("Merge Areas", EditIntent::Neighbors, [&](EditPen& pen) {
+        for (const CellChange& change : PlanAreaMerge(sheet_, smallest).Changes) {
+            pen.Paint({change.X, change.Y}, change.To);
+        }
+    });
+}
+
+Grid<int> TouchUp::PaintsOfBase() {
+    const BaseView& base = Base();
+    Grid<int> paints(sheet_.Across(), sheet_.Down());
+    for (int y = 1; y <= sheet_.Down(); ++y) {
+        for (int x = 1; x <= sheet_.Across(); ++x) {
+            paints(x, y) = base.PaintAt({x, y});
+        }
+    }
+    return paints;
+}
+
 CellRect TouchUp::StrokeTo(CellPos at) {
     if (!drawing_) {
         return {};
     }
-    DrawStroke(pen_, strokeAt_, at, brush_);
+    if (erasing_) {
+        EraseStroke(pen_, strokeAt_, at, brush_, *erasing_);
+    } else {
+        DrawStroke(pen_, strokeAt_, at, brush_);
+    }
     strokeAt_ = at;
     const CellRect dirty = pen_.TakeDirty();
     if (!dirty.Empty()) {
@@ -81,7 +129,30 @@ CellRect TouchUp::StrokeTo(CellPos at) {
 
 void TouchUp::EndStroke() {
     drawing_ = false;
-    PushStroke(kBrushName);
+    PushStroke(StrokeName(), erasing_ ? EditIntent::Erase : EditIntent::Paint);
+    erasing_.reset();
+}
+
+CellRect TouchUp::Edit(const std::string& name, EditIntent intent,
+                       const std::function<void(EditPen&)>& work) {
+    EndStroke();
+    work(pen_);
+    PushStroke(name, intent);
+    return pen_.TakeDirty();
+}
+
+void TouchUp::ChangePalette(const std::string& name, EditIntent intent, SheetContents sheet) {
+    EndStroke();
+    RefuseFlaw(sheet_, "The paints cannot be changed");
+    history_.Push({name, sheet_.Copy(), intent});
+    sheet_.Exchange(sheet);
+    sheet_.Recount();
+    timer_.NoteChange();
+}
+
+void TouchUp::KeepWithin(std::shared_ptr<const CellSet> cells) {
+    EndStroke();
+    pen_.KeepWithin(std::move(cells));
 }
 
 void TouchUp::PushStroke(std::string name, EditIntent intent) {
@@ -92,17 +163,40 @@ void TouchUp::PushStroke(std::string name, EditIntent intent) {
 }
 
 CellRect TouchUp::Fill(CellPos at, int paint) {
-    EndStroke();
-    FillArea(pen_, at, paint);
-    PushStroke("Fill");
-    return pen_.TakeDirty();
+    return Edit("Fill", EditIntent::Paint, [&](EditPen& pen) { FillArea(pen, at, paint); });
 }
 
 CellRect TouchUp::Replace(int from, int to) {
+    // Within a selection the paint stays wanted elsewhere.
+    return Edit("Replace Paint", pen_.IsKeptWithin() ? EditIntent::Paint : EditIntent::Exchange,
+                [&](EditPen& pen) { ReplacePaint(pen, from, to); });
+}
+
+const BaseView& TouchUp::Base() {
+    if (std::exchange(baseId_, history_.StateId()) != history_.StateId()) {
+        base_ = BaseView(atOpening_, history_.DoneSteps(), sheet_);
+    }
+    return base_;
+}
+
+CellRect TouchUp::Erase(std::span<const CellPos> cells) {
     EndStroke();
-    ReplacePaint(pen_, from, to);
-    PushStroke("Replace Paint", EditIntent::Exchange);
-    return pen_.TakeDirty();
+    std::vector<CellChange> changes;
+    CellRect dirty;
+    for (const CellPos at : cells) {
+        // One that was painted as its base is, is as free afterwards.
+        if (sheet_.Holds(at) && sheet_.HoldsPaint(BasePaintAt(at)) &&
+            (IsEdited(at) || BasePaintAt(at) != sheet_.PaintAt(at))) {
+            changes.push_back(ChangeOf(at, sheet_.PaintAt(at), BasePaintAt(at)));
+            dirty.Include(at);
+        }
+    }
+    if (!changes.empty()) {
+        DoChanges(sheet_, changes);
+        history_.Push({"Erase", std::move(changes), EditIntent::Erase});
+        timer_.NoteChange();
+    }
+    return dirty;
 }
 
 void TouchUp::RaiseCleanLevel() {
@@ -116,17 +210,19 @@ void TouchUp::LowerCleanLevel() {
 }
 
 CleanUpPreview TouchUp::PreviewCleanUp() const {
-    const std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
+    std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
+    std::erase_if(changes, [this](const CellChange& change) {
+        return !pen_.MayPaint({change.X, change.Y});
+    });
     return {static_cast<int>(changes.size()), CountAreasAfter(sheet_, changes)};
 }
 
 CellRect TouchUp::CleanUp() {
-    EndStroke();
-    for (const CellChange& change : PlanCleanUp(sheet_, place_.State->CleanLevel)) {
-        pen_.Paint({change.X, change.Y}, change.To);
-    }
-    PushStroke("Clean Up", EditIntent::Neighbors);
-    return pen_.TakeDirty();
+    return Edit("Clean Up", EditIntent::Neighbors, [this](EditPen& pen) {
+        for (const CellChange& change : PlanCleanUp(sheet_, place_.State->CleanLevel)) {
+            pen.Paint({change.X, change.Y}, change.To);
+        }
+    });
 }
 
 CellRect TouchUp::Undo() {
@@ -137,6 +233,24 @@ CellRect TouchUp::Undo() {
 CellRect TouchUp::Redo() {
     EndStroke();
     return AfterStep(history_.Redo(sheet_));
+}
+
+CellRect TouchUp::GoToStep(int done) {
+    EndStroke();
+    CellRect dirty;
+    const auto include = [&dirty](const CellRect& more) {
+        if (!more.Empty()) {
+            dirty.Include({more.Left, more.Top});
+            dirty.Include({more.Right, more.Bottom});
+        }
+    };
+    while (history_.Done() > done && history_.CanUndo()) {
+        include(history_.Undo(sheet_));
+    }
+    while (history_.Done() < done && history_.CanRedo()) {
+        include(history_.Redo(sheet_));
+    }
+    return AfterStep(dirty);
 }
 
 CellRect TouchUp::AfterStep(CellRect dirty) {
@@ -173,7 +287,7 @@ void TouchUp::SaveIt_Click() {
     RefuseFlaw(sheet_, "The stipples cannot be saved");
     WriteSheet(GridFile(), sheet_, place_.State->FinalColors);
     savedId_ = history_.StateId();
-    saved_ = {sheet_.Copy(), savedId_};
+    saved_ = {sheet_.Copy(), savedId_, Recorded()};
     for (Replacement& replacement : replacements_) {
         replacement.Buries = false;  // this is what the painter wants
     }
@@ -193,7 +307,7 @@ CellRect TouchUp::LoadIt_Click() {
     RequireFit(text, path, sheet_);
     StippleFileReader reader(text, path);
     const CellRect before = sheet_.Bounds();
-    PushReplacement("Load");
+    PushReplacement("Load", EditIntent::NewBase);
     {
         const RecountAtEnd recount(sheet_);
         ReadIntoSheet(reader, sheet_);
@@ -203,13 +317,13 @@ CellRect TouchUp::LoadIt_Click() {
     return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
 }
 
-void TouchUp::PushReplacement(std::string name) {
+void TouchUp::PushReplacement(std::string name, EditIntent intent) {
     // What a broken file leaves cannot be kept, so the work until here is kept first.
     if (timer_.Pending()) {
         WriteRecovery();
     }
     const bool buries = !IsSaved();
-    history_.Push({std::move(name), sheet_.Copy()});
+    history_.Push({std::move(name), sheet_.Copy(), intent});
     replacements_.push_back({history_.StateId(), buries, nullptr});
     timer_.NoteChange();
 }
@@ -241,7 +355,24 @@ void TouchUp::Accept() {
     ShapePhotoBy(place_, {sheet_.Across(), sheet_.Down()});
     state.HasUnsavedWork = !InSavedGrid() && (unsavedAtOpening_ || history_.StateId() != 0);
     accepted_ = true;
+    PutDown(Recorded());
     TakeOverCopies(state, state, state, state);
+}
+
+RecordedEdits TouchUp::Recorded() const {
+    return RecordEdits(atOpening_, history_.DoneSteps(), sheet_);
+}
+
+void TouchUp::PutDown(RecordedEdits recorded) {
+    WorkState& state = place_.State;
+    static_cast<KitEdits&>(state) = std::move(recorded.Edits);
+    if (recorded.NewBase) {
+        static_cast<EditPast&>(state) = {};
+    }
+    for (EditMoment& moment : recorded.Moments) {
+        AddMoment(state, std::move(moment));
+    }
+    state.LaidOn.clear();
 }
 
 bool TouchUp::Cancel() {
@@ -264,6 +395,7 @@ bool TouchUp::GiveSavedToKit() {
     const SheetSizes& size = saved_->Contents.Announced;
     ShapePhotoBy(place_, {size.Across, size.Down});
     sheet_.Exchange(saved_->Contents);
+    PutDown(std::move(saved_->Edits));
     WorkState& state = place_.State;
     TakeOverCopies(state, state, state, state);
     return true;
@@ -281,7 +413,9 @@ CellRect TouchUp::Restore(const KeptWork& work) {
                         {header.PaintCount, header.Across, header.Down},
                         header.FinalColors};
     const CellRect before = sheet_.Bounds();
-    PushReplacement("Restore");
+    // What differs from the conversion was painted, and lasts as such.
+    const bool fits = header.Across == sheet_.Across() && header.Down == sheet_.Down();
+    PushReplacement("Restore", fits ? EditIntent::Paint : EditIntent::NewBase);
     replacements_.back().Restored = held;
     sheet_.Exchange(found);
     sheet_.Recount();

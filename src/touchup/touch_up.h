@@ -1,13 +1,18 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "shell/workplace.h"
 #include "touchup/edit_history.h"
+#include "touchup/palette_steps.h"
+#include "touchup/recording.h"
 #include "touchup/recovery.h"
+#include "touchup/small_areas.h"
 #include "touchup/tidying.h"
 #include "touchup/tools.h"
 
@@ -35,25 +40,52 @@ class TouchUp {
 
     // A stroke runs from press to release and is one step.
     CellRect BeginStroke(CellPos at, EditBrush brush);
+    /// The brush gives stipples back what the conversion gave them.
+    CellRect BeginErasing(CellPos at, EditBrush brush);
     CellRect StrokeTo(CellPos at);
     void EndStroke();
+    [[nodiscard]] bool Drawing() const { return drawing_; }
+
+    /// A step of any kind: what `work` paints. Nothing where that changes nothing.
+    CellRect Edit(const std::string& name, EditIntent intent,
+                  const std::function<void(EditPen&)>& work);
+    /// A step to another palette, its stipples following.
+    void ChangePalette(const std::string& name, EditIntent intent, SheetContents sheet);
+    /// From here on all tools leave the stipples outside alone; no set lifts that.
+    void KeepWithin(std::shared_ptr<const CellSet> cells);
 
     CellRect Fill(CellPos at, int paint);
     CellRect Replace(int from, int to);
+
+    /// The paint that a stipple has without the edits of its own; 0 outside the base.
+    [[nodiscard]] int BasePaintAt(CellPos at) { return Base().PaintAt(at); }
+    /// Whether an edit of its own lies over a stipple; a stroke counts when it has ended.
+    [[nodiscard]] bool IsEdited(CellPos at) { return Base().IsEdited(at); }
+    /// Takes the edits of these stipples away, as one step.
+    CellRect Erase(std::span<const CellPos> cells);
 
     void RaiseCleanLevel();
     void LowerCleanLevel();
     [[nodiscard]] CleanUpPreview PreviewCleanUp() const;
     CellRect CleanUp();
 
+    /// Areas of fewer than `smallest` stipples take the paint beside them.
+    [[nodiscard]] AreaMerge PreviewAreaMerge(int smallest) const;
+    CellRect MergeAreas(int smallest);
+
     [[nodiscard]] bool CanUndo() const { return history_.CanUndo() || pen_.Drew(); }
     [[nodiscard]] bool CanRedo() const { return history_.CanRedo() && !pen_.Drew(); }
     [[nodiscard]] std::string UndoName() const {
-        return pen_.Drew() ? kBrushName : history_.UndoName();
+        return pen_.Drew() ? StrokeName() : history_.UndoName();
     }
     [[nodiscard]] std::string RedoName() const { return CanRedo() ? history_.RedoName() : ""; }
     CellRect Undo();
     CellRect Redo();
+    /// Names of all steps, the undone ones too, and how many are done.
+    [[nodiscard]] std::vector<std::string> StepNames() const { return history_.Names(); }
+    [[nodiscard]] int StepsDone() const { return history_.Done(); }
+    /// Undoes or redoes until that many are done.
+    CellRect GoToStep(int done);
 
     /// Drops the paints that no stipple uses, as one step; nothing where there is none. Throws
     /// Error while a broken load stands.
@@ -101,13 +133,19 @@ class TouchUp {
 
   private:
     static constexpr const char* kBrushName = "Brush";
+    static constexpr const char* kEraseName = "Erase";
+    [[nodiscard]] std::string StrokeName() const { return erasing_ ? kEraseName : kBrushName; }
 
     void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
-    void PushReplacement(std::string name);
+    const BaseView& Base();
+    [[nodiscard]] Grid<int> PaintsOfBase();
+    void PushReplacement(std::string name, EditIntent intent);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
     void WriteRecovery();
     void RemoveRestored();
+    [[nodiscard]] RecordedEdits Recorded() const;
+    void PutDown(RecordedEdits recorded);
     [[nodiscard]] bool GiveSavedToKit();
     [[nodiscard]] bool InSavedGrid() const { return history_.StateId() == savedId_; }
 
@@ -121,11 +159,15 @@ class TouchUp {
     [[nodiscard]] std::filesystem::path GridFile() const;
 
     Workplace& place_;
+    KitEdits atOpening_;
+    BaseView base_;
+    int baseId_ = -1;  // state of the history that base_ was looked at
     EditSheet sheet_;
     EditPen pen_{sheet_};
     EditHistory history_;
     RecoveryTimer timer_;
     EditBrush brush_;
+    std::optional<Grid<int>> erasing_;  // to these paints
     CellPos strokeAt_;
     bool drawing_ = false;
     int savedId_ = -1;  // state of the history that the saved grid holds, also after a load
@@ -134,6 +176,7 @@ class TouchUp {
     struct Saved {
         SheetContents Contents;
         int Step = 0;  // state of the history
+        RecordedEdits Edits;
     };
     std::optional<Saved> saved_;
     std::vector<Replacement> replacements_;

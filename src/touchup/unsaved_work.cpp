@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "convert/stipple_conversion.h"
+#include "shell/menu.h"
 #include "shell/paint_id.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
@@ -65,6 +67,11 @@ void KitIsSaved(Workplace& place) {
     place.State->Recovery.reset();
 }
 
+bool IsSavedGrid(const Workplace& place) {
+    return StippleFileExists(place.Folder, place.State, place.State) &&
+           HoldsTheKit(StippleFilePath(place.Folder, place.State, place.State), place.State);
+}
+
 bool MayReplaceSaved(Workplace& place) {
     const std::filesystem::path path = StippleFilePath(place.Folder, place.State, place.State);
     return place.State->HasUnsavedWork ||
@@ -85,6 +92,9 @@ GridReplacement::GridReplacement(Workplace& place, KitKeeper* keeper)
 bool GridReplacement::Save() {
     if (keeper_ != nullptr) {
         return keeper_->Save();
+    }
+    if (!place_.MainMenu[MenuId::ColorPickerSelect].Enabled) {
+        AutoChangeToStipples(place_);
     }
     SaveStipples(place_);
     return true;

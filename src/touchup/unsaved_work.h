@@ -12,6 +12,8 @@ namespace vendrel {
 /// Writes the kit's own grid as the saved grid of this photo and difficulty, whole or not at all;
 /// it is unsaved work no longer. Throws FileError, with everything as it was.
 void SaveStipples(Workplace& place);
+/// Whether the saved grid is the kit's own.
+[[nodiscard]] bool IsSavedGrid(const Workplace& place);
 /// What follows from that, however the grid was written. Throws FileError when the recovery file
 /// cannot be removed.
 void KitIsSaved(Workplace& place);
@@ -23,8 +25,9 @@ void KitIsSaved(Workplace& place);
 /// photo, the difficulty or the grid changes: what is unsaved goes by the old ones.
 class GridReplacement {
   public:
-    /// Asks when the grid holds accepted but unsaved work, and saves it when told to; "discard"
-    /// does not lose it yet. Throws FileError when it cannot be saved.
+    /// Asks when the grid holds accepted but unsaved work, and saves it when told to, changed to
+    /// stipples first where a setting waits for that; "discard" does not lose it yet. Throws
+    /// FileError when it cannot be saved.
     /// Where there is a keeper, it is the kit that must not be lost, and the kit that is saved.
     explicit GridReplacement(Workplace& place, KitKeeper* keeper = nullptr);
     /// A step that broke off before Done has lost nothing: work that is no longer in the kit is

@@ -36,7 +36,8 @@ class Drawings : public testing::Test {
     }
     std::string Written(OutputId output, const PlanSettings& settings) const {
         QHashSeed::resetRandomGlobalSeed();  // as every start of the program does
-        exporter_.Write(output, easel_.Place, settings, easel_.Files / "Results/drawing");
+        PlannedKit kit(easel_.Place, exporter_, settings);
+        exporter_.Write(output, kit, easel_.Files / "Results/drawing");
         return easel_.Files.Read("Results/drawing");
     }
 

@@ -36,11 +36,13 @@ class Printing : public testing::Test {
     }
 
     Surface Chart() const {
-        exporter_.Write(OutputId::Chart, easel_.Place, {}, easel_.Files / "Results/chart.BMP");
+        PlannedKit kit(easel_.Place, exporter_, {});
+        exporter_.Write(OutputId::Chart, kit, easel_.Files / "Results/chart.BMP");
         return ReadBitmap(easel_.Files / "Results/chart.BMP");
     }
     std::string Write(OutputId output, const PlanSettings& settings) const {
-        exporter_.Write(output, easel_.Place, settings, easel_.Files / "Results/made");
+        PlannedKit kit(easel_.Place, exporter_, settings);
+        exporter_.Write(output, kit, easel_.Files / "Results/made");
         return easel_.Files.Read("Results/made");
     }
     std::string Pdf(const PlanSettings& settings) const { return Write(OutputId::Pdf, settings); }

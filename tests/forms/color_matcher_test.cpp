@@ -2,9 +2,13 @@
 
 #include <gmock/gmock.h>
 
+#include "convert/stipple_conversion.h"
 #include "forms/small_photo.h"
 #include "paints/template_file.h"
+#include "shell/palette.h"
 #include "support/error.h"
+#include "touchup/laid_edits.h"
+#include "touchup/touch_up.h"
 
 namespace vendrel {
 namespace {
@@ -99,13 +103,36 @@ TEST(ColorMatcher, NeverHoldsAPaintTwiceAndTakesALoadedGrid) {
     EXPECT_THAT(matcher.Offered(), ElementsAre("Night"));  // Red may be put back
 }
 
-TEST(ColorMatcher, AsksBeforeTouchUpsAreWipedAndSavesNumberedTemplates) {
+TEST(ColorMatcher, ExchangesWhatWasPaintedByHandTooUntilTakenBack) {
+    Matcher matcher;
+    const auto corners = [&matcher] {
+        const WorkState& state = matcher.State;
+        return state.PaintColors[state.Stipples(1, 1).ColorIndex].PaintName + " " +
+               state.PaintColors[state.Stipples(4, 1).ColorIndex].PaintName;
+    };
+    ASSERT_EQ(corners(), "Red Green");
+    {
+        TouchUp editor(matcher.Place);
+        editor.BeginStroke({4, 1}, {BrushSize::One, 1});
+        editor.Accept();
+    }
+    matcher.Form.Form_Load();
+    matcher.Form.Exchange_Click(0);
+    matcher.Form.AcceptButton_Click();
+    EXPECT_EQ(corners(), "Ochre, dark Ochre, dark");
+    SetPalette(matcher.State, {});  // as when the paint sets are chosen again
+    AutoChangeToStipples(matcher.Place);
+    EXPECT_EQ(corners(), "Ochre, dark Ochre, dark");
+    AutoChangeToStipples(matcher.Place);
+    UndoLastTouchUp(matcher.Place);
+    EXPECT_EQ(corners(), "Red Red");
+    UndoLastTouchUp(matcher.Place);
+    EXPECT_EQ(corners(), "Red Green");
+}
+
+TEST(ColorMatcher, SavesNumberedTemplates) {
     Matcher matcher;
     matcher.Form.Exchange_Click(0);
-    matcher.State.HasUnsavedWork = true;
-    matcher.Screen.SaveAnswers = {SaveAnswer::Cancel};
-    matcher.Form.AcceptButton_Click();
-    EXPECT_EQ(matcher.State.PaintColors[1].PaintName, "Red");
     EXPECT_EQ(matcher.Form.SaveTemplate_Click(), "small Easy 2 Paints");
     EXPECT_EQ(matcher.Form.SaveTemplate_Click(), "small Easy 2 Paints 2");
     EXPECT_EQ(ReadTemplate(matcher.Files / "templates/small Easy 2 Paints.csv")[1].PaintName,

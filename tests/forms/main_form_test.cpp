@@ -132,16 +132,17 @@ TEST_F(MainFormTest, ClicksWalkThroughTheStages) {
 // Draws nothing, but tells of its progress; fails when told to.
 class Printer : public BlankExporter {
   public:
-    void Write(OutputId output, const Workplace& place, const PlanSettings& settings,
-               const Target& target) const override {
+    void Write(OutputId output, PlannedKit& kit, const Target& target) const override {
+        const Workplace& place = kit.Place();
         place.Screen.SetCaption("Printing");
         place.Screen.ReportProgress(1, 2);
         place.Screen.ReportProgress(0, 0);
         if (Fails) {
             throw Error("no font");
         }
-        WriteWholeFile(target.File,
-                       output == OutputId::Pdf && settings.Sheet == Paper::A3 ? "A3" : "chart");
+        WriteWholeFile(target.File, output == OutputId::Pdf && kit.Settings().Sheet == Paper::A3
+                                        ? "A3"
+                                        : "chart");
     }
     bool Fails = false;
 };

@@ -106,7 +106,7 @@ TEST_F(TouchUpFormTest, ToolsRepaintWhatTheyAreMeantTo) {
     Press({1, 1});
     EXPECT_FALSE(Shown().UndoEnabled) << "the paint was there already";
     form_->PaintList_Click(2);
-    form_->BrushSize_Click(BrushSize::Three);
+    form_->BrushSize_Click(3);
     for (const auto& [tool, replaced, caption] :
          {std::tuple{TouchUpTool::Brush, 9, "Undo Brush"},
           {TouchUpTool::Fill, quarter, "Undo Fill"},
@@ -341,15 +341,10 @@ TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {
     AcceptSpot();
     const Grid<StippleCell> accepted = State().Stipples;
     ASSERT_TRUE(State().HasUnsavedWork);
-    for (const MenuId entry : {LoadStipples, ChangeToStipples, MediumSet, HardSet, Set16Colors,
-                               Set50Colors, RunTemplateShop, AveragePixel, SamplePixel, EndItAll}) {
-        const auto name = studio_.MainMenu[entry].Name;
-        const bool checked = IsChecked(studio_.State.Chosen, entry);
+    for (const MenuId entry : {LoadStipples, EndItAll}) {
         studio_.Screen.SaveAnswers = {SaveAnswer::Cancel};
         main_.Click(entry);
-        EXPECT_THAT(studio_.Screen.SaveAnswers, IsEmpty()) << name;
-        EXPECT_EQ(IsChecked(studio_.State.Chosen, entry), checked) << name;
-        EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty()) << name;
+        EXPECT_THAT(studio_.Screen.SaveAnswers, IsEmpty()) << studio_.MainMenu[entry].Name;
     }
     main_.Click(LoadBMP);
     ClickPhoto(main_.Chooser(), "four.bmp");
@@ -363,11 +358,35 @@ TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {
     EXPECT_TRUE(Exists(kRecovery));
 
     studio_.Screen.Questions.clear();
-    main_.Click(MediumSet);
-    EXPECT_THAT(studio_.Screen.Questions, SizeIs(1));
+    EXPECT_TRUE(main_.MayEnd());
     EXPECT_FALSE(Exists(kRecovery)) << "given up on purpose";
     EXPECT_TRUE(main_.MayEnd());
     EXPECT_THAT(studio_.Screen.Questions, SizeIs(1)) << "there is nothing left to lose";
+}
+
+TEST_F(TouchUpFormTest, SettingsAskNothingSinceTouchUpsAreLaidOnAgain) {
+    AcceptSpot();
+    const std::string spot = State().PaintColors[State().Stipples(3, 3).ColorIndex].PaintName;
+    for (const MenuId entry :
+         {ChangeToStipples, Set16Colors, AveragePixel, SamplePixel, MatchEye, HardSet, MediumSet}) {
+        main_.Click(entry);
+    }
+    EXPECT_TRUE(Exists(kRecovery)) << "the edits wait for the next conversion";
+    main_.Click(ChangeToStipples);
+    EXPECT_EQ(main_.StatusHint(), "1 edit kept.");
+    EXPECT_THAT(studio_.Screen.Questions, IsEmpty());
+    const StippleCell& now = State().Stipples(4, 4);  // in the middle of where the spot was
+    EXPECT_EQ(State().PaintColors[now.ColorIndex].PaintName, spot);
+    EXPECT_FALSE(Exists(kRecovery));
+    EXPECT_TRUE(Exists("Saved Stipples/four-Medium.recovery.stp"));
+    main_.Click(UndoTouchUp);
+    EXPECT_TRUE(State().Edits.Empty());
+    EXPECT_EQ(State().Stipples, State().Base);
+    main_.Click(EasySet);
+    main_.Click(RedoTouchUp);
+    studio_.Screen.SaveAnswers = {SaveAnswer::Save};
+    EXPECT_TRUE(main_.MayEnd()) << "changed to stipples and saved";
+    EXPECT_TRUE(Exists("Saved Stipples/four-Easy.stp"));
 }
 
 TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothingNorDoesPainting) {
@@ -381,12 +400,12 @@ TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothingNorDoesPainting) {
     main_.Click(LoadBMP);
     ClickPhoto(main_.Chooser(), "broken.bmp");
     EXPECT_THROW(main_.Chooser().OKButton_Click(), Error);
-    EXPECT_THAT(studio_.Screen.Questions, SizeIs(3));
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(2));
     EXPECT_EQ(State().Stipples, accepted);
     main_.Chooser().CancelButton_Click();
     main_.Click(PaintItNow);
     main_.Click(PrintAll);
-    EXPECT_THAT(studio_.Screen.Questions, SizeIs(3)) << "painting loses nothing";
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(2)) << "painting loses nothing";
     EXPECT_TRUE(State().HasUnsavedWork);
     EXPECT_TRUE(Exists(kRecovery));
 }

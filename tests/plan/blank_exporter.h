@@ -12,8 +12,7 @@ class BlankExporter : public Exporter {
         aspects.fill(0.7);
         return aspects;
     }
-    Surface Preview(const Workplace& /*place*/, const PlanSettings& /*settings*/,
-                    int longest) const override {
+    Surface Preview(PlannedKit& /*kit*/, int longest) const override {
         return Surface(longest, longest);
     }
 };

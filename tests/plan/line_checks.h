@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "plan/label_placement.h"
 #include "plan/plan_lines.h"
 
 namespace vendrel::test {
@@ -71,6 +72,13 @@ inline void ExpectPartition(const PlanLines& lines, const PaintedRegions& areas)
     }
     const double canvas = (areas.Ids.Across() + 1.0) * (areas.Ids.Down() + 1.0);
     EXPECT_NEAR(all, canvas, 1e-4 * canvas);
+}
+
+inline std::vector<PlanLabel> LabelsFor(const PaintedRegions& regions, const PlanLines& lines,
+                                        const LabelRules& rules) {
+    const auto boxes = FindRoomiestBoxes(
+        regions, [&](int region) { return rules.Aspects[regions[region].Value]; });
+    return PlaceLabels(regions, FindPlaces(regions, boxes, rules), lines, rules);
 }
 
 }  // namespace vendrel::test

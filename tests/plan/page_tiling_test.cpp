@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plan/paint_finder.h"
 #include "plan/paint_needs.h"
 #include "support/error.h"
 
@@ -138,7 +139,9 @@ TEST(PaintNeeds, AreOfTheCanvasWithPotsToSpare) {
     pages.Tiles = {{.Column = 0, .Row = 0, .Own = {0, 0, 10, 10}, .Shown = {}},
                    {.Column = 1, .Row = 0, .Own = {10, 0, 20, 10}, .Shown = {}}};
     const PaintUse use{.Coats = 3, .Cm2PerMl = 0.5, .PotMl = 4};
-    const auto needs = PaintNeeds(FindRegions(paints), pages, PrintScale::OfCanvas(2, 20), 3, use);
+    const PaintedRegions regions = FindRegions(paints);
+    const PaintFinder finder(regions);
+    const auto needs = PaintNeeds({regions, finder, pages, PrintScale::OfCanvas(2, 20)}, 3, use);
     ASSERT_EQ(needs.size(), 3U);
     EXPECT_DOUBLE_EQ(needs[0].Cm2, 1.5);
     EXPECT_DOUBLE_EQ(needs[0].Ml, 9);
@@ -154,12 +157,18 @@ TEST(PaintNeeds, AreOfTheCanvasWithPotsToSpare) {
 }
 
 TEST(PageTiling, ListsThePaintsOfAPage) {
-    PixelGrid paints(3, 0);
-    std::ranges::copy(std::vector{7, 7, 2, 5}, paints.All().begin());
-    const PaintedRegions regions = FindRegions(paints);
-    EXPECT_THAT(PaintsWithin(regions, {0, 0, 2, 1}), ElementsAre(7));
-    EXPECT_THAT(PaintsWithin(regions, {0, 0, 2.1, 1}), ElementsAre(2, 7));
-    EXPECT_THAT(PaintsWithin(regions, {-3, -3, 99, 99}), ElementsAre(2, 5, 7));
+    PixelGrid paints(40, 37);
+    std::ranges::fill(paints.All(), 7);
+    paints(2, 0) = 2;
+    paints(19, 20) = 5;
+    paints(40, 37) = 50;
+    const PaintFinder finder(FindRegions(paints));
+    EXPECT_THAT(finder.Within({0, 0, 2, 1}), ElementsAre(7));
+    EXPECT_THAT(finder.Within({0, 0, 2.1, 1}), ElementsAre(2, 7));
+    EXPECT_THAT(finder.Within({3, 0, 40, 37}), ElementsAre(5, 7));
+    EXPECT_THAT(finder.Within({3, 1, 19, 38}), ElementsAre(7));
+    EXPECT_THAT(finder.Within({19, 20, 20, 21}), ElementsAre(5));
+    EXPECT_THAT(finder.Within({-3, -3, 99, 99}), ElementsAre(2, 5, 7, 50));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "cleanup/paint_bench.h"
 #include "plan/inscribed_boxes.h"
 #include "plan/label_placement.h"
+#include "plan/line_checks.h"
 #include "plan/mark_places.h"
 #include "plan/painted_regions.h"
 #include "plan/plan_lines.h"
@@ -188,7 +189,7 @@ TEST(Labels, EveryRegionHasOneAndEveryOneLiesInsideItsRegion) {
         rules.Cuts.Columns = {13, 27};
         rules.Cuts.Rows = {16};
         std::set<int> labelled;
-        for (const PlanLabel& label : PlaceLabels(regions, TraceLines(regions.Ids), rules)) {
+        for (const PlanLabel& label : test::LabelsFor(regions, TraceLines(regions.Ids), rules)) {
             labelled.insert(label.Region);
             EXPECT_GT(label.Height, 0);
             EXPECT_LE(label.Height, 6);
@@ -202,11 +203,11 @@ TEST(Labels, LargeRegionsRepeatTheirsAndEveryPageShowsOne) {
     PixelGrid plain(99, 59);
     std::ranges::fill(plain.All(), 1);
     const PaintedRegions regions = FindRegions(plain);
-    EXPECT_EQ(PlaceLabels(regions, TraceLines(regions.Ids), Rules(5, 0)).size(), 1U);
-    EXPECT_GE(PlaceLabels(regions, TraceLines(regions.Ids), Rules(5, 20)).size(), 12U);
+    EXPECT_EQ(test::LabelsFor(regions, TraceLines(regions.Ids), Rules(5, 0)).size(), 1U);
+    EXPECT_GE(test::LabelsFor(regions, TraceLines(regions.Ids), Rules(5, 20)).size(), 12U);
     LabelRules pages = Rules(5, 0);
     pages.Cuts.Columns = {45};
-    const auto labels = PlaceLabels(regions, TraceLines(regions.Ids), pages);
+    const auto labels = test::LabelsFor(regions, TraceLines(regions.Ids), pages);
     ASSERT_EQ(labels.size(), 2U);
     EXPECT_EQ(labels[0].Centre, (PlanPoint{50, 30}));
     EXPECT_LT(labels[1].Centre.X, 45);
@@ -225,7 +226,7 @@ TEST(Labels, StandInEveryPieceOfAPageAndBesideItsCuts) {
     LabelRules rules = Rules(6, 0);
     rules.Cuts.Rows = {20};
     std::vector<std::pair<bool, bool>> legs;  // of the horseshoe's symbols: below the cut, left
-    for (const PlanLabel& label : PlaceLabels(regions, TraceLines(regions.Ids), rules)) {
+    for (const PlanLabel& label : test::LabelsFor(regions, TraceLines(regions.Ids), rules)) {
         EXPECT_GE(std::abs(label.Centre.Y - 20), label.Height / 2);
         if (regions[label.Region].Value == 2) {
             legs.emplace_back(label.Centre.Y > 20, label.Centre.X < 30);
@@ -246,7 +247,7 @@ TEST(Labels, StandOnBothSidesOfANarrowNeckAndOfACutHoweverNear) {
     rules.LegibleHeight = 2;
     const auto halvesOfPaint1 = [&] {
         std::set<bool> halves;
-        for (const PlanLabel& label : PlaceLabels(regions, TraceLines(regions.Ids), rules)) {
+        for (const PlanLabel& label : test::LabelsFor(regions, TraceLines(regions.Ids), rules)) {
             if (regions[label.Region].Value == 1) {
                 halves.insert(label.Centre.X > 5.5);
             }

@@ -8,24 +8,11 @@
 #include "cleanup/paint_bench.h"
 #include "cleanup/paint_pass.h"
 #include "plan/bleed.h"
+#include "plan/plan_figures.h"
 #include "support/error.h"
 
 namespace vendrel {
 namespace {
-
-// With all the width that there can be.
-std::vector<SymbolRoom> Rooms(const std::vector<double>& heights) {
-    std::vector<SymbolRoom> rooms;
-    for (const double height : heights) {
-        rooms.push_back({100, height, 0.7});
-    }
-    return rooms;
-}
-std::vector<SymbolRoom> OneThousandAnd(double smallest) {
-    std::vector<SymbolRoom> rooms(1000, {100, 5, 0.7});
-    rooms.push_back({100, smallest, 0.7});
-    return rooms;
-}
 
 // Six by five stipples of three paints, painted as the program paints.
 class PlannedPicture : public testing::Test {
@@ -34,8 +21,11 @@ class PlannedPicture : public testing::Test {
         PaintAllCells(easel_.Place);
         aspects_.fill(0.7);
     }
+    [[nodiscard]] PlanSketch Sketch() const {
+        return SketchPlan(easel_.State, easel_.Frames.WorkFrame.Picture, aspects_);
+    }
     [[nodiscard]] PrintPlan Plan(const PlanSettings& settings) const {
-        return MakePrintPlan(easel_.State, easel_.Frames.WorkFrame.Picture, settings, aspects_);
+        return MakePrintPlan(easel_.State, Sketch(), settings, PlanCut::AtPages);
     }
 
     test::PaintBench easel_;
@@ -93,22 +83,31 @@ TEST_F(PlannedPicture, DrawsEveryLabelOnSomePageAndEveryPageHasOne) {
 }
 
 TEST_F(PlannedPicture, TellsWhichCanvasOrDifficultyMakesSymbolsLegible) {
-    PlanSketch sketch = SketchPlan(easel_.State, easel_.Frames.WorkFrame.Picture, aspects_);
-    EXPECT_EQ(WarningOf(FiguresOf(sketch, {})), "");
-    EXPECT_EQ(FiguresOf(sketch, {}).Symbols, 5);
+    PlanSketch sketch = Sketch();
+    EXPECT_FALSE(FiguresOf(sketch, {}).Symbols);
+    EXPECT_EQ(WarningOf(FiguresOf(sketch, {}, Plan({}))), "");
+    EXPECT_EQ(FiguresOf(sketch, {}).Areas, 5);
     EXPECT_EQ(FiguresOf(sketch, {}).Pages, 1);
-    sketch.Rooms = Rooms({0.7, 0.6, 1, 3, 5});
     const PlanSettings small{.Sheet = Paper::A4, .CanvasCm = 10};
+    PrintPlan plan = Plan(small);
+    EXPECT_EQ(WarningOf(FiguresOf(sketch, small, plan)), "");
+    // An area's tallest symbol counts, wherever it stands.
+    const double mm = plan.Scale.Pixels(1);
+    plan.Labels = {{0, {}, 1.5 * mm}, {1, {}, 2 * mm}, {1, {}, 1.2 * mm},
+                   {2, {}, 1.3 * mm}, {3, {}, 2 * mm}, {4, {}, 2 * mm, PlanPoint{}}};
     EXPECT_EQ(
-        WarningOf(FiguresOf(sketch, small)),
+        WarningOf(FiguresOf(sketch, small, plan)),
         "2 of 5 areas have no room for a symbol of 2 mm, the smallest for one of 1.3 mm; a canvas "
-        "of 14 cm or easy difficulty gives them 2 mm or more.");
+        "of 15 cm or easy difficulty gives them 2 mm or more.");
     sketch.StippleSize = 8;
-    sketch.Rooms = OneThousandAnd(0.01);
-    EXPECT_EQ(WarningOf(FiguresOf(sketch, small)),
+    plan.Regions.List.resize(1001);
+    sketch.Regions = plan.Regions;
+    plan.Labels.clear();
+    for (int i = 0; i < 1001; ++i) {
+        plan.Labels.push_back({i, {}, i < 1000 ? 2 * mm : 0.005 * mm});
+    }
+    EXPECT_EQ(WarningOf(FiguresOf(sketch, small, plan)),
               "1 of 1,001 areas has no room for a symbol of 2 mm, the smallest for one of 0.0 mm.");
-    sketch.Rooms = Rooms({0.6});
-    EXPECT_EQ(FiguresOf(sketch, {.Sheet = Paper::A4, .CanvasCm = 15}).Small, 0);
 }
 
 // The picture is 36 by 30 pixels.

@@ -134,7 +134,7 @@ TEST(Labels, StandInsideTheirCurvesWithTheAirThatThereIs) {
         const PaintedRegions areas = Painted(stipples);
         const PlanLines lines = Smooth(areas);
         const LabelRules rules = RulesOf(areas);
-        for (const PlanLabel& label : PlaceLabels(areas, lines, rules)) {
+        for (const PlanLabel& label : test::LabelsFor(areas, lines, rules)) {
             ASSERT_FALSE(label.PointsAt);
             const PlanRect box = BoxOf(label, 0.6);
             EXPECT_TRUE(test::IsInside(lines, label.Region, label.Centre));
@@ -158,7 +158,7 @@ TEST(Labels, TooSmallToReadStandOutsideAndPointAtTheirArea) {
     const PlanLines lines = TraceLines(areas.Ids);
     LabelRules rules = RulesOf(areas);
     rules.Cuts.Rows = {20};
-    const std::vector<PlanLabel> labels = PlaceLabels(areas, lines, rules);
+    const std::vector<PlanLabel> labels = test::LabelsFor(areas, lines, rules);
     std::vector<PlanRect> boxes;
     int outside = 0;
     for (const PlanLabel& label : labels) {

@@ -150,12 +150,11 @@ TEST(KitFiles, ASavedGridIsKeptTakenUpAndReplacedOnDemand) {
 class NamingExporter final : public test::BlankExporter {
   public:
     explicit NamingExporter(std::vector<std::string>& asked) : asked_(asked) {}
-    void Write(OutputId output, const Workplace& /*place*/, const PlanSettings& settings,
-               const Target& target) const override {
+    void Write(OutputId output, PlannedKit& kit, const Target& target) const override {
         WriteWholeFile(target.File, "drawn");
         asked_.push_back(output == OutputId::Chart
                              ? "chart"
-                             : "pdf " + std::to_string(std::lround(settings.CanvasCm)));
+                             : "pdf " + std::to_string(std::lround(kit.Settings().CanvasCm)));
     }
 
   private:

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSlider>
+
+#include "desktop/beside_view.h"
+#include "desktop/navigator_view.h"
+#include "desktop/sheet_painter.h"
+
+namespace vendrel {
+
+/// How the editor's stipples are looked at.
+class TouchUpViewPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit TouchUpViewPanel(TouchUpCanvas& canvas, QWidget* parent = nullptr);
+
+    void Follow() { navigator_->Follow(); }
+    [[nodiscard]] Beside WhatBeside() const;
+
+  signals:
+    void BesideChosen();
+
+  private:
+    void ChooseLook();
+
+    TouchUpCanvas& canvas_;
+    NavigatorView* navigator_;
+    QCheckBox* gridLines_;
+    QCheckBox* symbols_;
+    QSlider* photo_;
+    QComboBox* beside_;
+};
+
+}  // namespace vendrel

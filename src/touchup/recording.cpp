@@ -1,0 +1,256 @@
+#include "touchup/recording.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "edits/layer_recorder.h"
+#include "edits/paint_index.h"
+#include "edits/place_edits.h"
+
+namespace vendrel {
+namespace {
+
+using Changes = std::vector<CellChange>;
+
+// A load that broke off leaves paints of no palette until they are painted over.
+int Entry(const OneBased<int>& numbers, int paint) {
+    return numbers.Holds(paint) ? numbers[paint] : 0;
+}
+
+// Steps name paints by their places in the palette of their time, which replacements change.
+class PlayedSteps {
+  public:
+    PlayedSteps(std::span<const EditStep> done, const EditSheet& sheet) : done_(done) {
+        if (std::ranges::all_of(done, IsStroke)) {
+            palette_ = &sheet.Paints();
+            return;
+        }
+        SheetContents contents = sheet.Copy();
+        for (std::size_t i = done.size(); i-- > 0;) {
+            GoBack(contents, i);
+        }
+        const auto first = std::ranges::find_if_not(done, IsStroke);
+        palette_ = &std::get<SheetContents>(first->What).FoundColors;
+    }
+
+    /// Answers what a replacement left; to be asked for each step once, from the first one on.
+    const SheetContents* Next(std::size_t step) {
+        const auto after = after_.find(step);
+        if (after == after_.end()) {
+            return nullptr;
+        }
+        palette_ = &after->second.FoundColors;
+        return &after->second;
+    }
+    [[nodiscard]] const PaintList& Palette() const { return *palette_; }
+
+  private:
+    static bool IsStroke(const EditStep& step) {
+        return std::holds_alternative<Changes>(step.What);
+    }
+
+    void GoBack(SheetContents& contents, std::size_t i) {
+        if (const auto* before = std::get_if<SheetContents>(&done_[i].What)) {
+            after_.emplace(i, std::exchange(contents, *before));
+            return;
+        }
+        const auto& changes = std::get<Changes>(done_[i].What);
+        for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
+            contents.EditStipples(change->X, change->Y).ColorIndex = change->From;
+        }
+    }
+
+    std::span<const EditStep> done_;
+    std::map<std::size_t, SheetContents> after_;
+    const PaintList* palette_ = nullptr;
+};
+
+// One stipple that a step repainted, its paints by their numbers in the layer.
+struct Repainted {
+    CellPos At;
+    int From = 0;
+    int To = 0;
+};
+
+class Recording {
+  public:
+    Recording(const KitEdits& atOpening, std::span<const EditStep> done, const EditSheet& sheet)
+        : done_(done), sheet_(sheet), steps_(done, sheet) {
+        recorded_.Edits = atOpening;
+        Begin();
+    }
+
+    RecordedEdits Record() {
+        if (done_.empty()) {
+            return std::move(recorded_);  // edits of another grid stay as they were made
+        }
+        for (std::size_t i = 0; i < done_.size(); ++i) {
+            const PaintList before = steps_.Palette();
+            if (const SheetContents* after = steps_.Next(i)) {
+                Replace(done_[i], before, *after);
+            } else {
+                const OneBased<int> numbers = NumbersOf(before);
+                std::vector<Repainted> cells;
+                for (const CellChange& change : std::get<Changes>(done_[i].What)) {
+                    cells.push_back({{change.X, change.Y},
+                                     Entry(numbers, change.From),
+                                     Entry(numbers, change.To)});
+                }
+                Put(done_[i], cells);
+            }
+        }
+        recorder_->Settle(sheet_.Paints(), sheet_.Cells());
+        KitEdits& edits = recorded_.Edits;
+        edits.Edits = recorder_->Layer();
+        if (!recorded_.Moments.empty()) {
+            recorded_.Moments.back().After = std::make_shared<EditLayer>(edits.Edits);
+        }
+        return std::move(recorded_);
+    }
+
+  private:
+    void Begin() {
+        const KitEdits& edits = recorded_.Edits;
+        recorder_.emplace(ConvertedGrid{edits.BasePaints, edits.Base}, edits.Edits);
+        last_ = std::make_shared<EditLayer>(edits.Edits);
+        recorded_.Moments.clear();
+    }
+
+    OneBased<int> NumbersOf(const PaintList& paints) {
+        OneBased<int> numbers;
+        for (const PaintColor& paint : paints) {
+            numbers.Add(recorder_->NumberOf(paint));
+        }
+        return numbers;
+    }
+
+    void Replace(const EditStep& step, const PaintList& before, const SheetContents& after) {
+        if (step.Intent == EditIntent::NewBase) {
+            recorded_.Edits = {after.FoundColors, after.EditStipples, {}};
+            recorded_.NewBase = true;
+            Begin();
+            return;
+        }
+        const OneBased<int> old = NumbersOf(before);
+        const OneBased<int> now = NumbersOf(after.FoundColors);
+        const Grid<StippleCell>& was = std::get<SheetContents>(step.What).EditStipples;
+        std::vector<Repainted> cells;
+        for (int y = 1; y <= was.Down(); ++y) {
+            for (int x = 1; x <= was.Across(); ++x) {
+                const Repainted cell{{x, y},
+                                     Entry(old, was(x, y).ColorIndex),
+                                     Entry(now, after.EditStipples(x, y).ColorIndex)};
+                if (cell.From != cell.To) {
+                    cells.push_back(cell);
+                }
+            }
+        }
+        Put(step, cells);
+    }
+
+    void Put(const EditStep& step, const std::vector<Repainted>& cells) {
+        if (step.Intent == EditIntent::Exchange) {
+            Exchange(cells);
+        }
+        for (const Repainted& cell : cells) {
+            if (step.Intent == EditIntent::Erase) {
+                recorder_->Erase(cell.At);
+            } else if (step.Intent != EditIntent::Exchange) {
+                recorder_->Paint(cell.At, cell.To,
+                                 step.Intent == EditIntent::Neighbors ? StippleWish::Neighbors
+                                                                      : StippleWish::Paint);
+            }
+        }
+        auto after = std::make_shared<EditLayer>(recorder_->Layer());
+        recorded_.Moments.push_back({step.Name, last_, after, {}, {}});
+        last_ = std::move(after);
+    }
+
+    void Exchange(const std::vector<Repainted>& cells) {
+        std::map<std::pair<int, int>, std::vector<CellPos>> places;
+        for (const Repainted& cell : cells) {
+            places[{cell.From, cell.To}].push_back(cell.At);
+        }
+        for (const auto& [paints, at] : places) {
+            recorder_->Exchange(paints.first, paints.second, at);
+        }
+    }
+
+    std::span<const EditStep> done_;
+    const EditSheet& sheet_;
+    PlayedSteps steps_;
+    RecordedEdits recorded_;
+    std::optional<LayerRecorder> recorder_;
+    std::shared_ptr<const EditLayer> last_;
+};
+
+void FollowExchange(PaintList& shown, const PaintColor& from, const PaintColor& to) {
+    for (PaintColor& paint : shown) {
+        if (PaintIndex({from}).Find(paint) > 0) {
+            paint = to;
+        }
+    }
+}
+
+}  // namespace
+
+RecordedEdits RecordEdits(const KitEdits& atOpening, std::span<const EditStep> done,
+                          const EditSheet& sheet) {
+    return Recording(atOpening, done, sheet).Record();
+}
+
+BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
+                   const EditSheet& sheet)
+    : edited_(atOpening.Base.Across(), atOpening.Base.Down()), cells_(atOpening.Base) {
+    const EditLayer layer =
+        EditsByShare(atOpening.Edits, atOpening.Base.Across(), atOpening.Base.Down());
+    for (const StippleEdit& edit : layer.Cells) {
+        edited_(edit.At.X, edit.At.Y) = 1;
+    }
+    PlayedSteps steps(done, sheet);
+    PaintList shown = atOpening.BasePaints;
+    for (PaintColor& paint : shown) {
+        for (const PaintExchange& exchange : atOpening.Edits.Exchanges) {
+            if (PaintIndex({exchange.From}).Find(paint) > 0) {
+                paint = exchange.To;
+                break;
+            }
+        }
+    }
+    for (std::size_t i = 0; i < done.size(); ++i) {
+        const PaintList before = steps.Palette();
+        const SheetContents* after = steps.Next(i);
+        if (after != nullptr && done[i].Intent == EditIntent::NewBase) {
+            cells_ = after->EditStipples;
+            edited_ = ValueGrid(cells_.Across(), cells_.Down());
+            shown = after->FoundColors;
+        } else if (after == nullptr && done[i].Intent == EditIntent::Exchange) {
+            const CellChange& change = std::get<Changes>(done[i].What).front();
+            FollowExchange(shown, before[change.From], before[change.To]);
+        } else if (after == nullptr) {
+            Follow(done[i]);
+        }
+    }
+    const PaintIndex index(sheet.Paints());
+    for (const PaintColor& paint : shown) {
+        const int known = index.Find(paint);
+        shownAs_.Add(known > 0 ? known : StandInByEye(sheet.Paints(), paint));
+    }
+}
+
+void BaseView::Follow(const EditStep& step) {
+    for (const CellChange& change : std::get<Changes>(step.What)) {
+        edited_(change.X, change.Y) = step.Intent == EditIntent::Erase ? 0 : 1;
+    }
+}
+
+int BaseView::PaintAt(CellPos at) const {
+    return at.X >= 1 && at.Y >= 1 && cells_.Holds(at.X, at.Y)
+               ? Entry(shownAs_, cells_(at.X, at.Y).ColorIndex)
+               : 0;
+}
+
+}  // namespace vendrel
