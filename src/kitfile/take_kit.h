@@ -14,6 +14,15 @@ namespace vendrel {
 [[nodiscard]] KitFile KitOf(const Workplace& place, const KitPhoto& photo,
                             const PlanSettings& print, const KitFile* before);
 
+/// Stipples that are no kit's own yet, as the editor has them.
+struct KitStipples {
+    const PaintList& Paints;
+    const Grid<StippleCell>& Cells;
+    const KitEdits& Layer;
+};
+/// Makes them those of the file to be.
+void TakeStipples(KitFile& kit, const KitStipples& stipples);
+
 /// The paints in force come from there.
 [[nodiscard]] PaintSource SourceOf(const Catalogue& catalogue, const PaintChoice& choice);
 /// The paints of new conversions come from there; sets that the catalogue lacks are left out.

@@ -4,6 +4,7 @@
 
 #include "forms/main_form.h"
 #include "forms/studio.h"
+#include "forms/touch_up_form.h"
 #include "kitset/kit_mark.h"
 #include "support/error.h"
 
@@ -148,6 +149,29 @@ TEST_F(KitDeskTest, AsksForAPhotoThatMovedOrChanged) {
     EXPECT_EQ(studio_.State.PictureFile, "moved.bmp");
     form_.Click(SaveKit);
     EXPECT_EQ(ReadKitFile(Kit("four")).Photo.File, "moved.bmp");
+}
+
+TEST_F(KitDeskTest, IsSavedFromTheEditorWithTheEditsOfTheSession) {
+    MakeKit();
+    form_.Click(SaveKit);
+    TouchUpForm editor(studio_.Place, &desk_);
+    editor.Form_Load();
+    const int other = 3 - studio_.State.Stipples(2, 2).ColorIndex;
+    editor.PaintList_Click(other);
+    editor.PointerDown({2, 2});
+    editor.PointerUp();
+    editor.SaveKit_Click();
+    EXPECT_EQ(editor.Controls().Status, "Saved four.kit");
+    EXPECT_FALSE(editor.Controls().Unsaved);
+    EXPECT_FALSE(fs::exists(studio_.Files / "Saved Stipples"));
+    editor.Cancel_Click();  // asks nothing: what was saved goes into the kit
+    EXPECT_THAT(studio_.Screen.Questions, IsEmpty());
+    EXPECT_FALSE(desk_.Unsaved());
+    const KitFile kit = ReadKitFile(Kit("four"));
+    EXPECT_EQ(kit.Stipples(2, 2).ColorIndex, other);
+    EXPECT_NE(kit.Layer.Base(2, 2).ColorIndex, other);
+    ASSERT_THAT(kit.Layer.Edits.Cells, SizeIs(1));
+    EXPECT_EQ(kit.Layer.Edits.Cells[0].At, (CellPos{2, 2}));
 }
 
 TEST_F(KitDeskTest, IsListedAndOpenedInTheChooser) {

@@ -101,6 +101,8 @@ TEST(KitAgain, OpensTheFirstKitForEver) {
     const std::string copy = studio.Files.Read("Kits/Copy.kit");
     const std::size_t photo = first.find("\"photo\"");
     EXPECT_THAT(copy, HasSubstr(first.substr(photo, first.find("\"base\"") - photo)));
+    ASSERT_EQ(studio.Kit({"first.kit", "--difficulty", "medium", "--title", "Fine"}), 0);
+    EXPECT_THAT(studio.Out, HasSubstr("All 6 edits kept"));
     EXPECT_THAT(copy, HasSubstr("\"shelf\": {\"of\": \"a later version\"}"));
 }
 
