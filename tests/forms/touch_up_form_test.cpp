@@ -386,7 +386,7 @@ TEST_F(TouchUpFormTest, SettingsAskNothingSinceTouchUpsAreLaidOnAgain) {
     main_.Click(RedoTouchUp);
     studio_.Screen.SaveAnswers = {SaveAnswer::Save};
     EXPECT_TRUE(main_.MayEnd()) << "changed to stipples and saved";
-    EXPECT_TRUE(Exists("Saved Stipples/four-Easy.stp"));
+    EXPECT_TRUE(Exists("Kits/four.kit"));
 }
 
 TEST_F(TouchUpFormTest, AStepThatFailsAfterTheYesLosesNothingNorDoesPainting) {

@@ -102,7 +102,7 @@ TEST(KitAgain, OpensTheFirstKitForEver) {
     const std::size_t photo = first.find("\"photo\"");
     EXPECT_THAT(copy, HasSubstr(first.substr(photo, first.find("\"base\"") - photo)));
     ASSERT_EQ(studio.Kit({"first.kit", "--difficulty", "medium", "--title", "Fine"}), 0);
-    EXPECT_THAT(studio.Out, HasSubstr("All 6 edits kept"));
+    EXPECT_THAT(studio.Out, HasSubstr("All 7 edits kept"));
     EXPECT_THAT(copy, HasSubstr("\"shelf\": {\"of\": \"a later version\"}"));
 }
 
