@@ -13,8 +13,8 @@ KitPhotoDialog::KitPhotoDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
       problem_(new ValueLabel("PhotoProblem", tr("What became of the photo"))) {
     setWindowTitle(tr("Where Is the Photo?"));
-    problem_->setWordWrap(true);
-    problem_->setMinimumWidth(420);
+    problem_->WrapWhole();
+    problem_->setMinimumSize(460, 4 * problem_->fontMetrics().height());
     QPushButton* choose = MakeButton("ChooseKitPhoto", tr("Choose &Photo…"), [] {});
     connect(choose, &QPushButton::clicked, this, &KitPhotoDialog::Choose);
     choose->setDefault(true);

@@ -12,6 +12,7 @@ class KitPhotoDialog : public FormDialog {
   public:
     KitPhotoDialog(const ViewContext& context, QWidget* parent);
 
+    void Prepare() override { Mirror(); }
     void Mirror() override;
 
   protected:
