@@ -15,7 +15,7 @@ void PlanChoice::Measure(const Workplace& place, const Exporter& exporter) {
 }
 
 void PlanChoice::Restore(const PlanSettings& settings) {
-    sketch_.reset();
+    kit_.reset();
     figures_.reset();
     settings_ = settings;
 }
