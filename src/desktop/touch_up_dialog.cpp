@@ -27,7 +27,7 @@ constexpr Qt::Key kPhotoKey = Qt::Key_P;
 
 TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
     : FormDialog(context, parent),
-      form_(context.Place),
+      form_(context.Place, &context.Form.Kits()),
       canvas_(new TouchUpCanvas(form_)),
       tools_(new TouchUpToolBar(Work())),
       paints_(new TouchUpPaints(Work())),
@@ -43,11 +43,12 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
           &TouchUpForm::KeptWork_Click)),
       load_(EditorButton<QPushButton>("LoadIt", tr("Loa&d"), tr("Load the saved stipples"), Work(),
                                       &TouchUpForm::LoadIt_Click)),
-      save_(EditorButton<QPushButton>("SaveIt", tr("&Save"), tr("Save the stipples (Ctrl+S)"),
+      save_(EditorButton<QPushButton>("SaveIt", tr("&Save"),
+                                      tr("Save the stipples (Ctrl+Shift+S); Ctrl+S saves the kit"),
                                       Work(), &TouchUpForm::SaveIt_Click)),
-      accept_(EditorButton<QPushButton>(
-          "Accept", tr("&Accept"), tr("Take the touched-up stipples into the kit and close"),
-          Work(), &TouchUpForm::Accept_Click)),
+      accept_(EditorButton<QPushButton>("Accept", tr("&Accept"),
+                                        tr("Take the touched-up stipples into the kit and close"),
+                                        Work(), &TouchUpForm::Accept_Click)),
       cancel_(EditorButton<QPushButton>("Cancel", tr("Cancel"), tr("Cancel"))),
       pointed_(new ValueLabel("Pointed", tr("The stipple pointed at"))),
       status_(new ValueLabel("Status", tr("Status"))),
@@ -192,9 +193,8 @@ void TouchUpDialog::ConnectCanvas() {
             [this](CellPos at) { RunOpen([this, at] { form_.PickPaint(at); }); });
     connect(canvas_, &TouchUpCanvas::PutDown, this,
             [this] { RunOpen([this] { form_.PutDown_Click(); }); });
-    connect(canvas_, &TouchUpCanvas::Nudged, this, [this](CellPos by) {
-        RunOpen([this, by] { form_.NudgeSelection_Click(by); });
-    });
+    connect(canvas_, &TouchUpCanvas::Nudged, this,
+            [this](CellPos by) { RunOpen([this, by] { form_.NudgeSelection_Click(by); }); });
     connect(canvas_, &TouchUpCanvas::Pointed, this, &TouchUpDialog::PointedAt);
     connect(canvas_, &TouchUpCanvas::Zoomed, this, [this] { tools_->ShowZoom(canvas_->Edge()); });
 }
@@ -308,10 +308,9 @@ void TouchUpDialog::CopySelection() {
 void TouchUpDialog::PasteSelection() {
     RunOpen([this] {
         const CellRect shown = canvas_->Shown();
-        const CellPos middle = pointedAt_ != CellPos{}
-                                   ? pointedAt_
-                                   : CellPos{(shown.Left + shown.Right) / 2,
-                                             (shown.Top + shown.Bottom) / 2};
+        const CellPos middle = pointedAt_ != CellPos{} ? pointedAt_
+                                                       : CellPos{(shown.Left + shown.Right) / 2,
+                                                                 (shown.Top + shown.Bottom) / 2};
         form_.Paste_Click(QGuiApplication::clipboard()->text().toStdString(), middle);
     });
 }

@@ -15,7 +15,6 @@
 #include "support/disk.h"
 #include "support/error.h"
 #include "support/size_text.h"
-#include "touchup/recovery.h"
 #include "touchup/unsaved_work.h"
 
 namespace vendrel {
@@ -119,13 +118,27 @@ bool KitDesk::MayWriteTo(const fs::path& file) const {
                              file.filename().string() + " is another kit already. Replace it?");
 }
 
+fs::path KitDesk::OwnFile() const {
+    return saved_ && Title() == saved_->Title ? file_ : KitPath(place_.Folder, Title());
+}
+
 bool KitDesk::Save() {
-    const bool named = saved_ && Title() == saved_->Title;
-    const fs::path file = named ? file_ : KitPath(place_.Folder, Title());
+    const fs::path file = OwnFile();
     if (!MayWriteTo(file)) {
         return false;
     }
     WriteTo(file);
+    return true;
+}
+
+bool KitDesk::Save(const EditSheet& sheet, const KitEdits& edits) {
+    const fs::path file = OwnFile();
+    if (!MayWriteTo(file)) {
+        return false;
+    }
+    KitFile kit = KitInHand();
+    TakeStipples(kit, {sheet.Paints(), sheet.Cells(), edits});
+    Keep(file, std::move(kit));
     return true;
 }
 
@@ -155,16 +168,20 @@ void KitDesk::TitleCancel_Click() {
 
 void KitDesk::WriteTo(const fs::path& file) {
     const BusyPointer busy(place_.Screen);
-    WorkState& state = place_.State;
     if (!place_.MainMenu[MenuId::ColorPickerSelect].Enabled) {
         AutoChangeToStipples(place_);  // a setting waits for it
     }
-    KitFile kit = KitOf(place_, saved_ ? saved_->Photo : KitPhotoOf(state.PicturePath),
-                        print_.Settings(), saved_ ? &*saved_ : nullptr);
+    Keep(file, KitInHand());
+    WorkIsSaved(place_.State);
+}
+
+KitFile KitDesk::KitInHand() const {
+    return KitOf(place_, saved_ ? saved_->Photo : KitPhotoOf(place_.State->PicturePath),
+                 print_.Settings(), saved_ ? &*saved_ : nullptr);
+}
+
+void KitDesk::Keep(const fs::path& file, KitFile kit) {
     WriteKitFile(file, kit);
-    state.HasUnsavedWork = false;
-    RemoveRecovery(state);
-    state.Recovery.reset();
     file_ = file;
     saved_ = std::move(kit);
 }

@@ -9,6 +9,7 @@
 #include "forms/plan_choice.h"
 #include "kitfile/kit_file.h"
 #include "shell/workplace.h"
+#include "touchup/edit_sheet.h"
 #include "touchup/kit_keeper.h"
 
 namespace vendrel {
@@ -37,6 +38,8 @@ class KitDesk : public KitKeeper {
     /// False when it was told not to. Throws Error, FileError.
     [[nodiscard]] bool Save() override;
     void Close() override { saved_.reset(); }
+    /// The same with what the editor shows in place of the kit's own stipples.
+    [[nodiscard]] bool Save(const EditSheet& sheet, const KitEdits& edits);
 
     // The window that asks for the title.
     [[nodiscard]] const std::string& Title() const { return place_.State->PictureName; }
@@ -55,7 +58,10 @@ class KitDesk : public KitKeeper {
   private:
     void TakeUp(KitFile kit, const std::filesystem::path& photo);
     [[nodiscard]] bool MayWriteTo(const std::filesystem::path& file) const;
+    [[nodiscard]] std::filesystem::path OwnFile() const;
+    [[nodiscard]] KitFile KitInHand() const;
     void WriteTo(const std::filesystem::path& file);
+    void Keep(const std::filesystem::path& file, KitFile kit);
     [[nodiscard]] bool IsAsSaved() const;
 
     Workplace& place_;

@@ -246,6 +246,16 @@ void TouchUpForm::SaveIt_Click() {
     Follow();
 }
 
+void TouchUpForm::SaveKit_Click() {
+    controls_.Status.clear();
+    if (editor_->SaveBy([this](const EditSheet& sheet, const KitEdits& edits) {
+            return kits_ != nullptr && kits_->Save(sheet, edits);
+        })) {
+        controls_.Status = "Saved " + kits_->File().filename().string();
+    }
+    Follow();
+}
+
 void TouchUpForm::Accept_Click() {
     editor_->Accept();
     Close(true);

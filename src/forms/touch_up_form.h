@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/kit_desk.h"
 #include "forms/paint_order.h"
 #include "forms/touch_up_areas.h"
 #include "forms/touch_up_selection.h"
@@ -62,7 +63,7 @@ struct TouchUpControls {
     EditBrush Brush;  // size and shape, and the paint of all tools
     OneBased<TouchUpPaint> Palette;
     PaintOrder Order = PaintOrder::Symbol;
-    std::vector<int> Rows;   // the paints, from 1, in that order
+    std::vector<int> Rows;    // the paints, from 1, in that order
     std::string ChosenPaint;  // how much of it there is
     bool Alone = false;       // all other paints are paled
     bool AddEnabled = false;  // a paint of the catalogue
@@ -94,7 +95,8 @@ struct TouchUpControls {
 /// picture. Handlers throw Error; the edit stays open then.
 class TouchUpForm {
   public:
-    explicit TouchUpForm(Workplace& place) : place_(place) {}
+    /// `kits` keeps the kit as a file; null where there are none.
+    explicit TouchUpForm(Workplace& place, KitDesk* kits = nullptr) : place_(place), kits_(kits) {}
 
     /// Opens the editor on the kit's grid. Throws Error when there is none.
     void Form_Load();
@@ -194,6 +196,8 @@ class TouchUpForm {
 
     void LoadIt_Click();
     void SaveIt_Click();
+    /// Saves the kit with what is shown, its edits too. Throws Error, FileError.
+    void SaveKit_Click();
     void Accept_Click();
     /// Closes; what was saved goes into the kit. Asks when there are changes, and stays open when
     /// they cannot be saved.
@@ -232,6 +236,7 @@ class TouchUpForm {
     void KeepPaintInHand(const std::function<void()>& step);
 
     Workplace& place_;
+    KitDesk* kits_;
     std::unique_ptr<TouchUp> editor_;
     TouchUpControls controls_;
     CellRect dirty_;
@@ -241,7 +246,7 @@ class TouchUpForm {
     CellPos lonerAt_;  // {0, 0} until one was stepped to
     std::optional<TouchUpAreas> areas_;
     std::optional<TouchUpSelection> selection_;
-    int paintBefore_ = 1;           // in hand before the one that is
+    int paintBefore_ = 1;              // in hand before the one that is
     std::optional<CellPos> lineFrom_;  // where the brush was last
 };
 

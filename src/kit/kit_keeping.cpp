@@ -73,10 +73,14 @@ bool KeepsKit(const KitOptions& options) {
     return options.SaveKit || (options.From && !options.Title.empty());
 }
 
-void KeepKit(const Workplace& place, const KitOptions& options, KitReport& report) {
+void KeepKit(const Workplace& place, const KitOptions& options, const TakenPhoto& taken,
+             KitReport& report) {
     RequireFreeResults(place, options);
-    const KitFile kit =
+    KitFile kit =
         KitOf(place, KitPhotoOf(place.State->PicturePath), options.Plan, options.From.get());
+    if (taken.Crop) {
+        kit.Crop = taken.Crop;
+    }
     const fs::path file = KitPath(place.Folder, kit.Title);
     if (!Stands(file)) {
         WriteKitFile(file, kit);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "kit/arguments.h"
+#include "kit/kit_photos.h"
 #include "kit/kit_report.h"
 #include "shell/kit_edits.h"
 #include "shell/workplace.h"
@@ -26,6 +27,7 @@ void RequireOwnTitle(const KitOptions& options);
 
 /// Writes the kit's file, unless it is there with the same kit. Throws Error rather than write over
 /// another kit, its file or its pictures.
-void KeepKit(const Workplace& place, const KitOptions& options, KitReport& report);
+void KeepKit(const Workplace& place, const KitOptions& options, const TakenPhoto& taken,
+             KitReport& report);
 
 }  // namespace vendrel

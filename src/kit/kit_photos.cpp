@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "convert/bitmap_reader.h"
 #include "convert/photo_import.h"
 #include "convert/picture_name.h"
 #include "intake/photo_intake.h"
@@ -28,6 +29,12 @@ std::string LongestEnding(const ProgramFolder& folder, std::string_view difficul
     return longest;
 }
 
+KitCrop CropOf(const ProgramFolder& folder, const std::string& picture, const CropTarget& target,
+               CropPart part) {
+    const BitmapSize size = ReadBitmapSize(folder.Path("Pictures/" + picture));
+    return {picture, 0, part == CropPart::Top ? CropTop(size, target) : CropCentre(size, target)};
+}
+
 }  // namespace
 
 TakenPhoto KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
@@ -51,8 +58,10 @@ TakenPhoto KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
     if (!plain || picture != taken) {
         Claim(file, PictureNameOf(picture));
     }
-    const bool cropped = picture != taken;
-    return {std::move(picture), cropped};
+    if (picture == taken) {
+        return {std::move(picture), {}};
+    }
+    return {std::move(picture), CropOf(place.Folder, taken, target, part)};
 }
 
 std::string KitPhotos::Decode(Ui& screen, const ProgramFolder& folder, IncomingPhoto& photo) {

@@ -1,19 +1,21 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "intake/incoming_photo.h"
 #include "kit/arguments.h"
+#include "kitfile/kit_file.h"
 #include "shell/workplace.h"
 
 namespace vendrel {
 
 struct TakenPhoto {
-    std::string File;  // in Pictures
-    bool Cropped = false;
+    std::string File;             // in Pictures
+    std::optional<KitCrop> Crop;  // when it was cut from another one there
 };
 
 /// Brings the photos of one run into Pictures, and knows which names the run has used.

@@ -165,7 +165,7 @@ void FillFigures(const Workplace& place, const KitOptions& options, KitReport& r
 std::optional<PhotoFit> FitUsed(const Workplace& place, const TakenPhoto& taken) {
     const WorkState& state = place.State;
     const PhotoFit fit = state.Chosen.Fit;
-    if (taken.Cropped) {
+    if (taken.Crop) {
         return fit;
     }
     if (SheetStretch({state.BmpWidth, state.BmpHeight}, TargetOf(place.Screen, place.State)) <=
@@ -209,7 +209,7 @@ void PaintAndWrite(Workplace& place, const KitOptions& options, const TakenPhoto
     report.Fit = FitUsed(place, taken);
     Timed(report, "figures", [&] { FillBrushFigures(place, options, report); });
     if (KeepsKit(options)) {
-        Timed(report, "kit file", [&] { KeepKit(place, options, report); });
+        Timed(report, "kit file", [&] { KeepKit(place, options, taken, report); });
     }
     WriteOutputs(place, options, exporter, report);
 }

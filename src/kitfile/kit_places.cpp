@@ -42,7 +42,9 @@ std::vector<fs::path> RecentKits(const ProgramFolder& folder, std::size_t most) 
 
 fs::path FolderOfKit(const fs::path& kit) {
     const fs::path kits = FullPath(kit).parent_path();
-    return SameIgnoringCase(kits.filename().string(), "Kits") ? kits.parent_path() : fs::path();
+    const bool belongs = SameIgnoringCase(kits.filename().string(), "Kits") &&
+                         ProgramFolder(kits.parent_path()).Exists("Pictures");
+    return belongs ? kits.parent_path() : fs::path();
 }
 
 }  // namespace vendrel

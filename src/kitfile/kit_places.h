@@ -19,7 +19,8 @@ namespace vendrel {
 [[nodiscard]] std::vector<std::filesystem::path> RecentKits(const ProgramFolder& folder,
                                                             std::size_t most);
 
-/// The program's folder that a kit belongs to: the one whose Kits it lies in, or nothing.
+/// The program's folder that a kit belongs to: the one whose Kits it lies in, with Pictures beside
+/// it, or nothing.
 [[nodiscard]] std::filesystem::path FolderOfKit(const std::filesystem::path& kit);
 
 }  // namespace vendrel

@@ -80,6 +80,7 @@ void TakeGrid(WorkState& state, const KitFile& kit) {
     state.PaintableKit = kit.PaintableKit;
     state.SeenPerStipple = kit.SeenPerStipple;
     state.Protected = kit.Protected;
+    static_cast<EditPast&>(state) = {};  // its steps are of another kit
     static_cast<KitEdits&>(state) = kit.Layer;
     static_cast<EditPast&>(state) = {};
 }
@@ -120,6 +121,13 @@ void TakeSource(Catalogue& catalogue, PaintChoice& choice, const PaintSource& so
     FillSelectedPaintsList(choice, catalogue);
 }
 
+void TakeStipples(KitFile& kit, const KitStipples& stipples) {
+    kit.Paints = WithoutCounts(stipples.Paints);
+    kit.Stipples = WithoutAreas(stipples.Cells);
+    kit.Layer = stipples.Layer;
+    kit.Layer.BasePaints = WithoutCounts(std::move(kit.Layer.BasePaints));
+}
+
 KitFile KitOf(const Workplace& place, const KitPhoto& photo, const PlanSettings& print,
               const KitFile* before) {
     const WorkState& state = place.State;
@@ -137,10 +145,7 @@ KitFile KitOf(const Workplace& place, const KitPhoto& photo, const PlanSettings&
     kit.Source = SourceOf(state, state);
     const bool sameSource = before != nullptr && before->Source == kit.Source;
     kit.Choice = sameSource ? before->Choice : WithoutCounts(ChoiceOf(place, kit.Source));
-    kit.Paints = WithoutCounts(state.PaintColors);
-    kit.Stipples = WithoutAreas(state.Stipples);
-    kit.Layer = state;
-    kit.Layer.BasePaints = WithoutCounts(kit.Layer.BasePaints);
+    TakeStipples(kit, {state.PaintColors, state.Stipples, state});
     if (before != nullptr) {
         kit.Unknown = before->Unknown;
         if (before->Photo.Sum == photo.Sum) {

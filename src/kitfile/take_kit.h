@@ -14,14 +14,23 @@ namespace vendrel {
 [[nodiscard]] KitFile KitOf(const Workplace& place, const KitPhoto& photo,
                             const PlanSettings& print, const KitFile* before);
 
+/// Stipples that are no kit's own yet, as the editor has them.
+struct KitStipples {
+    const PaintList& Paints;
+    const Grid<StippleCell>& Cells;
+    const KitEdits& Layer;
+};
+/// Makes them those of the file to be.
+void TakeStipples(KitFile& kit, const KitStipples& stipples);
+
 /// The paints in force come from there.
 [[nodiscard]] PaintSource SourceOf(const Catalogue& catalogue, const PaintChoice& choice);
 /// The paints of new conversions come from there; sets that the catalogue lacks are left out.
 void TakeSource(Catalogue& catalogue, PaintChoice& choice, const PaintSource& source);
 
 /// Takes up a kit as it was finished, with its settings and the photo in that file, and draws its
-/// stipples: as if it had just been converted. Throws FileError, FormatError when the photo cannot
-/// be read; nothing has changed then.
+/// stipples, to be painted as if it had just been converted. Throws FileError, FormatError when the
+/// photo cannot be read; nothing has changed then.
 void TakeKit(Workplace& place, const KitFile& kit, const std::filesystem::path& photo);
 
 }  // namespace vendrel

@@ -60,11 +60,15 @@ void SaveStipples(Workplace& place) {
     KitIsSaved(place);
 }
 
+void WorkIsSaved(UnsavedWork& work) {
+    work.HasUnsavedWork = false;
+    RemoveRecovery(work);
+    work.Recovery.reset();
+}
+
 void KitIsSaved(Workplace& place) {
     place.MainMenu[MenuId::LoadStipples].Enabled = true;
-    place.State->HasUnsavedWork = false;
-    RemoveRecovery(place.State);
-    place.State->Recovery.reset();
+    WorkIsSaved(place.State);
 }
 
 bool IsSavedGrid(const Workplace& place) {

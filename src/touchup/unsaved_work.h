@@ -14,6 +14,8 @@ namespace vendrel {
 void SaveStipples(Workplace& place);
 /// Whether the saved grid is the kit's own.
 [[nodiscard]] bool IsSavedGrid(const Workplace& place);
+/// The kit's work is in some file: it is unsaved no longer. Throws as KitIsSaved.
+void WorkIsSaved(UnsavedWork& work);
 /// What follows from that, however the grid was written. Throws FileError when the recovery file
 /// cannot be removed.
 void KitIsSaved(Workplace& place);

@@ -98,6 +98,8 @@ TEST(Arguments, OtherCommandsAreTold) {
     EXPECT_EQ(Parse({"--folder", "x"}).Folder, "x");
     EXPECT_FALSE(Parse({"--folder", "x"}).InDocuments);
     EXPECT_TRUE(Parse({"--documents"}).InDocuments);
+    EXPECT_EQ(Parse({"--documents", "Kits/a b.kit"}).File, "Kits/a b.kit");
+    EXPECT_THROW((void)Parse({"a.kit", "b.kit"}), UsageError);
     EXPECT_EQ(Parse({"--help"}).What, Command::Help);
     EXPECT_EQ(Parse({"--version"}).What, Command::Version);
     EXPECT_EQ(Parse({"kit", "a.bmp", "--help"}).What, Command::KitHelp);

@@ -332,6 +332,8 @@ TEST(KitPlaces, ListTheNewestKitsAndKnowTheirFolder) {
     }
     files.Write("Kits/notes.txt", "");
     EXPECT_EQ(RecentKits(folder, 2), (std::vector{files / "Kits/new.KIT", files / "Kits/mid.kit"}));
+    EXPECT_EQ(FolderOfKit(files / "Kits/old.kit"), "");
+    files.Write("Pictures/ball.bmp", "");
     EXPECT_EQ(FolderOfKit(files / "Kits/old.kit"), files.Path());
     EXPECT_EQ(FolderOfKit(files / "old.kit"), "");
     EXPECT_EQ(KitPath(folder, "beach"), files / "Kits/beach.kit");

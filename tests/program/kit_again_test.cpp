@@ -23,6 +23,7 @@ TEST(KitAgain, IsTheSameToTheByteWhateverTheSettingsWere) {
         all.insert(all.end(), words.begin(), words.end());
         ASSERT_EQ(studio.Kit(all), 0) << studio.Err;
         const std::string kit = studio.Files.Read("Kits/beach.kit");
+        EXPECT_EQ(kit.find("\"of\": \"ball.bmp\"") != kit.npos, words.back() == "Craft Acrylics");
         fs::rename(studio.Files / "Results", studio.Files / "First");
         fs::rename(studio.Files / "Saved Stipples", studio.Files / "FirstGrid");
         // Neither the painter's paints nor the board of this run count.
@@ -100,6 +101,8 @@ TEST(KitAgain, OpensTheFirstKitForEver) {
     const std::string copy = studio.Files.Read("Kits/Copy.kit");
     const std::size_t photo = first.find("\"photo\"");
     EXPECT_THAT(copy, HasSubstr(first.substr(photo, first.find("\"base\"") - photo)));
+    ASSERT_EQ(studio.Kit({"first.kit", "--difficulty", "medium", "--title", "Fine"}), 0);
+    EXPECT_THAT(studio.Out, HasSubstr("All 6 edits kept"));
     EXPECT_THAT(copy, HasSubstr("\"shelf\": {\"of\": \"a later version\"}"));
 }
 

@@ -69,7 +69,7 @@ void EditSomehow(TouchUp& editor, WorkState& state, std::mt19937& random) {
             editor.Erase(std::vector<CellPos>{from, {from.X + 1, from.Y}, {99, 1}});
         },
         [&] {
-            editor.BeginStroke(from, {static_cast<BrushSize>(1 + upTo(3)), paint});
+            editor.BeginStroke(from, {1 + upTo(3), paint});
             editor.StrokeTo({upTo(10), upTo(8)});
         },
     };
