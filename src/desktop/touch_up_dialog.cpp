@@ -19,6 +19,7 @@ namespace vendrel {
 namespace {
 
 constexpr int kBlinkPause = 400;      // milliseconds
+constexpr int kFiguresPause = 200;    // milliseconds
 constexpr int kRecoveryPause = 1000;  // milliseconds
 constexpr int kSideWidth = 330;
 constexpr Qt::Key kPhotoKey = Qt::Key_P;
@@ -30,6 +31,7 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       form_(context.Place),
       canvas_(new TouchUpCanvas(form_)),
       tools_(new TouchUpToolBar(Work())),
+      navigator_(new NavigatorView(*canvas_)),
       paints_(new TouchUpPaints(Work())),
       view_(new TouchUpViewPanel(*canvas_)),
       areas_(new TouchUpAreasPanel(Work())),
@@ -45,9 +47,9 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
                                       &TouchUpForm::LoadIt_Click)),
       save_(EditorButton<QPushButton>("SaveIt", tr("&Save"), tr("Save the stipples (Ctrl+S)"),
                                       Work(), &TouchUpForm::SaveIt_Click)),
-      accept_(EditorButton<QPushButton>(
-          "Accept", tr("&Accept"), tr("Take the touched-up stipples into the kit and close"),
-          Work(), &TouchUpForm::Accept_Click)),
+      accept_(EditorButton<QPushButton>("Accept", tr("&Accept"),
+                                        tr("Take the touched-up stipples into the kit and close"),
+                                        Work(), &TouchUpForm::Accept_Click)),
       cancel_(EditorButton<QPushButton>("Cancel", tr("Cancel"), tr("Cancel"))),
       pointed_(new ValueLabel("Pointed", tr("The stipple pointed at"))),
       status_(new ValueLabel("Status", tr("Status"))),
@@ -98,6 +100,7 @@ QWidget* TouchUpDialog::MakeSide() {
     tabs->setObjectName(QStringLiteral("Panels"));
     tabs->setAccessibleName(tr("Panels"));
     tabs->setDocumentMode(true);
+    tabs->addTab(paints_, tr("Paints"));
     tabs->addTab(view_, tr("View"));
     tabs->addTab(areas_, tr("Areas"));
     tabs->addTab(selection_, tr("Selection"));
@@ -105,9 +108,9 @@ QWidget* TouchUpDialog::MakeSide() {
     auto* side = new QSplitter(Qt::Vertical);
     side->setFixedWidth(kSideWidth);
     side->setChildrenCollapsible(false);
-    side->addWidget(paints_);
+    side->addWidget(navigator_);
     side->addWidget(tabs);
-    side->setStretchFactor(0, 1);
+    side->setStretchFactor(1, 1);
     return side;
 }
 
@@ -192,9 +195,8 @@ void TouchUpDialog::ConnectCanvas() {
             [this](CellPos at) { RunOpen([this, at] { form_.PickPaint(at); }); });
     connect(canvas_, &TouchUpCanvas::PutDown, this,
             [this] { RunOpen([this] { form_.PutDown_Click(); }); });
-    connect(canvas_, &TouchUpCanvas::Nudged, this, [this](CellPos by) {
-        RunOpen([this, by] { form_.NudgeSelection_Click(by); });
-    });
+    connect(canvas_, &TouchUpCanvas::Nudged, this,
+            [this](CellPos by) { RunOpen([this, by] { form_.NudgeSelection_Click(by); }); });
     connect(canvas_, &TouchUpCanvas::Pointed, this, &TouchUpDialog::PointedAt);
     connect(canvas_, &TouchUpCanvas::Zoomed, this, [this] { tools_->ShowZoom(canvas_->Edge()); });
 }
@@ -204,6 +206,16 @@ void TouchUpDialog::ConnectTimers() {
     connect(&blink_, &QTimer::timeout, this, [this] {
         blinkOn_ = !blinkOn_;
         canvas_->Blink(blinkOn_);
+    });
+    figures_.setInterval(kFiguresPause);
+    figures_.setSingleShot(true);
+    connect(&figures_, &QTimer::timeout, this, [this] {
+        if (Ready()) {
+            form_.FollowFigures();
+            canvas_->Follow();
+            navigator_->Follow();
+            areas_->Mirror(form_.Controls(), form_.Areas().Controls());
+        }
     });
     recovery_.setInterval(kRecoveryPause);
     connect(&recovery_, &QTimer::timeout, this, [this] {
@@ -244,14 +256,15 @@ void TouchUpDialog::KeepWork() {
 void TouchUpDialog::Mirror() {
     if (!form_.Open()) {
         recovery_.stop();
+        figures_.stop();
         blink_.stop();
         painting_->Stop();
         return;
     }
     if (canvas_->Follow()) {
         painting_->NoteChange();
-        view_->Follow();
     }
+    figures_.start();
     const TouchUpControls& shown = form_.Controls();
     paints_->Mirror(shown);
     tools_->Mirror(shown);
@@ -308,10 +321,9 @@ void TouchUpDialog::CopySelection() {
 void TouchUpDialog::PasteSelection() {
     RunOpen([this] {
         const CellRect shown = canvas_->Shown();
-        const CellPos middle = pointedAt_ != CellPos{}
-                                   ? pointedAt_
-                                   : CellPos{(shown.Left + shown.Right) / 2,
-                                             (shown.Top + shown.Bottom) / 2};
+        const CellPos middle = pointedAt_ != CellPos{} ? pointedAt_
+                                                       : CellPos{(shown.Left + shown.Right) / 2,
+                                                                 (shown.Top + shown.Bottom) / 2};
         form_.Paste_Click(QGuiApplication::clipboard()->text().toStdString(), middle);
     });
 }

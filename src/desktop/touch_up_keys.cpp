@@ -25,15 +25,9 @@ void MoveChosenPaint(TouchUpForm& form, int by) {
 
 void AddTouchUpKeys(QWidget& window, TouchUpToolBar& tools, const EditorWork& work) {
     const std::pair<QKeySequence, const char*> takes[] = {
-        {Qt::Key_1, "Brush1"},
-        {Qt::Key_2, "Brush2"},
-        {Qt::Key_3, "Brush3"},
-        {Qt::Key_F, "Fill"},
-        {Qt::Key_R, "Replace"},
-        {Qt::Key_V, "Select"},
-        {Qt::Key_L, "Lasso"},
-        {Qt::Key_W, "SamePaint"},
-        {Qt::SHIFT | Qt::Key_W, "SameArea"},
+        {Qt::Key_1, "Brush1"}, {Qt::Key_2, "Brush2"},    {Qt::Key_3, "Brush3"},
+        {Qt::Key_F, "Fill"},   {Qt::Key_R, "Replace"},   {Qt::Key_V, "Select"},
+        {Qt::Key_L, "Lasso"},  {Qt::Key_W, "SamePaint"}, {Qt::SHIFT | Qt::Key_W, "SameArea"},
         {Qt::Key_M, "Move"},
     };
     for (const auto& [keys, tool] : takes) {
@@ -67,9 +61,8 @@ void AddTouchUpKeys(QWidget& window, TouchUpToolBar& tools, const EditorWork& wo
         AddKey(window, keys, [work, handler = handler] { work(handler); });
     }
     const std::pair<QKeySequence, QAbstractButton*> clicks[] = {
-        {Qt::Key_Plus, tools.ZoomIn}, {Qt::Key_Equal, tools.ZoomIn},
-        {Qt::Key_Minus, tools.ZoomOut}, {Qt::Key_0, tools.Fit},
-        {Qt::Key_9, tools.ActualSize},
+        {Qt::Key_Plus, tools.ZoomIn}, {Qt::Key_Equal, tools.ZoomIn}, {Qt::Key_Minus, tools.ZoomOut},
+        {Qt::Key_0, tools.Fit},       {Qt::Key_9, tools.ActualSize},
     };
     for (const auto& [keys, button] : clicks) {
         AddKey(window, keys, [button = button] { button->click(); });

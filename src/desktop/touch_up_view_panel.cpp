@@ -11,7 +11,6 @@ namespace vendrel {
 TouchUpViewPanel::TouchUpViewPanel(TouchUpCanvas& canvas, QWidget* parent)
     : QWidget(parent),
       canvas_(canvas),
-      navigator_(new NavigatorView(canvas)),
       gridLines_(Named<QCheckBox>("GridLines", tr("Grid lines"))),
       symbols_(Named<QCheckBox>("Symbols", tr("Symbols"))),
       photo_(Named<QSlider>("PhotoStrength", tr("Strength of the photo"))),
@@ -34,9 +33,9 @@ TouchUpViewPanel::TouchUpViewPanel(TouchUpCanvas& canvas, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 4, 4);
     column->setSpacing(4);
-    column->addWidget(navigator_, 1);
     column->addLayout(checks);
     column->addLayout(rows);
+    column->addStretch(1);
     connect(gridLines_, &QCheckBox::toggled, this, &TouchUpViewPanel::ChooseLook);
     connect(symbols_, &QCheckBox::toggled, this, &TouchUpViewPanel::ChooseLook);
     connect(photo_, &QSlider::valueChanged, this, &TouchUpViewPanel::ChooseLook);

@@ -5,8 +5,6 @@
 #include <QSlider>
 
 #include "desktop/beside_view.h"
-#include "desktop/navigator_view.h"
-#include "desktop/sheet_painter.h"
 
 namespace vendrel {
 
@@ -17,7 +15,6 @@ class TouchUpViewPanel : public QWidget {
   public:
     explicit TouchUpViewPanel(TouchUpCanvas& canvas, QWidget* parent = nullptr);
 
-    void Follow() { navigator_->Follow(); }
     [[nodiscard]] Beside WhatBeside() const;
 
   signals:
@@ -27,7 +24,6 @@ class TouchUpViewPanel : public QWidget {
     void ChooseLook();
 
     TouchUpCanvas& canvas_;
-    NavigatorView* navigator_;
     QCheckBox* gridLines_;
     QCheckBox* symbols_;
     QSlider* photo_;

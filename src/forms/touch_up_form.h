@@ -62,7 +62,7 @@ struct TouchUpControls {
     EditBrush Brush;  // size and shape, and the paint of all tools
     OneBased<TouchUpPaint> Palette;
     PaintOrder Order = PaintOrder::Symbol;
-    std::vector<int> Rows;   // the paints, from 1, in that order
+    std::vector<int> Rows;    // the paints, from 1, in that order
     std::string ChosenPaint;  // how much of it there is
     bool Alone = false;       // all other paints are paled
     bool AddEnabled = false;  // a paint of the catalogue
@@ -115,13 +115,15 @@ class TouchUpForm {
     void SwapPaints_Click();
 
     /// The tool is put down; a stroke goes on with PointerTo. Of what is shown, all but the counts
-    /// of the palette waits for PointerUp.
+    /// of the palette waits for PointerUp, and the figures of areas and loners for FollowFigures.
     /// With Ctrl, or the right button, it takes up the paint there instead; with the right button
     /// and Shift the brush erases; with Shift it draws a line from where it was last. Tools that
     /// select add with Shift and take away with Alt.
     void PointerDown(CellPos at, PressKeys keys = {});
     void PointerTo(CellPos at);
     void PointerUp();
+    /// To be called when the hand rests: what takes longer than a stroke may.
+    void FollowFigures();
     /// Takes up the paint of the stipple there.
     void PickPaint(CellPos at);
     /// "Column 3, row 5: paint"; empty outside the picture.
@@ -216,6 +218,7 @@ class TouchUpForm {
     void Reselect(const std::function<void()>& step);
     void ChangePalette(const char* name, EditIntent intent, SheetContents sheet);
     void Follow();
+    void FollowSteps();
     void FollowChosenPaint();
     void TouchedAlone();
     void FollowPalette();
@@ -237,11 +240,12 @@ class TouchUpForm {
     CellRect dirty_;
     std::vector<CellPos> marked_;
     bool markedStale_ = true;
+    bool figuresStale_ = false;
     std::vector<KeptWork> kept_;
     CellPos lonerAt_;  // {0, 0} until one was stepped to
     std::optional<TouchUpAreas> areas_;
     std::optional<TouchUpSelection> selection_;
-    int paintBefore_ = 1;           // in hand before the one that is
+    int paintBefore_ = 1;              // in hand before the one that is
     std::optional<CellPos> lineFrom_;  // where the brush was last
 };
 

@@ -176,8 +176,7 @@ CellRect TouchUpSelection::PutDown() {
     }
     CellRect dirty;
     if (!fresh.Empty()) {
-        editor_.ChangePalette("Add Paints", EditIntent::Paint,
-                              WithPaints(editor_.Sheet(), fresh));
+        editor_.ChangePalette("Add Paints", EditIntent::Paint, WithPaints(editor_.Sheet(), fresh));
         dirty = editor_.Sheet().Bounds();
     }
     const CellRect painted = EditFreely(name, [&](EditPen& pen) {
