@@ -1,10 +1,12 @@
 #include "desktop/paint_rows.h"
 
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QSignalBlocker>
 
 #include "desktop/paint_items.h"
 #include "desktop/text.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -27,29 +29,57 @@ PaintRows::PaintRows(QWidget* parent) : QTreeWidget(parent) {
     headerItem()->setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
         if (row != nullptr) {
-            emit Chosen(indexOfTopLevelItem(row) + 1);
+            emit Chosen(PaintOf(row));
         }
     });
 }
 
-void PaintRows::Follow(const OneBased<TouchUpPaint>& palette, int chosen) {
+int PaintRows::PaintOf(QTreeWidgetItem* row) const {
+    const int at = indexOfTopLevelItem(row);
+    return Holds(rows_, at) ? At(rows_, at) : 0;
+}
+
+void PaintRows::Follow(const TouchUpControls& shown) {
     const QSignalBlocker quiet(this);
-    if (palette.Count() != shown_.Count()) {
+    const int count = shown.Palette.Count();
+    if (count != shown_.Count()) {
         clear();
-        shown_ = OneBased<TouchUpPaint>(palette.Count());
-        for (int i = 1; i <= palette.Count(); ++i) {
+        shown_ = OneBased<TouchUpPaint>(count);
+        for (int i = 1; i <= count; ++i) {
             shown_[i].Count = -1;
-            addTopLevelItem(new QTreeWidgetItem);
+            auto* row = new QTreeWidgetItem;
+            row->setFlags(row->flags() & ~Qt::ItemIsDropEnabled);
+            addTopLevelItem(row);
         }
     }
-    for (int i = 1; i <= palette.Count(); ++i) {
-        if (palette[i] != shown_[i]) {
-            shown_[i] = palette[i];
-            ShowRow(*topLevelItem(i - 1), palette[i]);
+    rows_ = shown.Rows;
+    setDragDropMode(shown.Order == PaintOrder::Symbol ? InternalMove : NoDragDrop);
+    for (int i = 1; i <= count; ++i) {
+        const int paint = At(rows_, i - 1);
+        if (shown.Palette[paint] != shown_[i]) {
+            shown_[i] = shown.Palette[paint];
+            ShowRow(*topLevelItem(i - 1), shown_[i]);
+        }
+        if (paint == shown.Brush.Paint && topLevelItem(i - 1) != currentItem()) {
+            setCurrentItem(topLevelItem(i - 1));
         }
     }
-    if (QTreeWidgetItem* row = topLevelItem(chosen - 1); row != currentItem()) {
-        setCurrentItem(row);
+}
+
+// The rows follow the palette, which follows the step.
+void PaintRows::dropEvent(QDropEvent* event) {
+    const int from = indexOfTopLevelItem(currentItem());
+    const QModelIndex under = indexAt(event->position().toPoint());
+    int to = under.isValid() ? under.row() : topLevelItemCount() - 1;
+    if (under.isValid() && dropIndicatorPosition() == BelowItem && to < from) {
+        ++to;
+    } else if (under.isValid() && dropIndicatorPosition() == AboveItem && to > from) {
+        --to;
+    }
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
+    if (Holds(rows_, from) && Holds(rows_, to)) {
+        emit Dragged(At(rows_, from), At(rows_, to));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeWidget>
+#include <vector>
 
 #include "forms/touch_up_form.h"
 
@@ -13,16 +14,23 @@ class PaintRows : public QTreeWidget {
   public:
     explicit PaintRows(QWidget* parent = nullptr);
 
-    /// Shows the palette with one paint chosen. Cheap when little changed.
-    void Follow(const OneBased<TouchUpPaint>& palette, int chosen);
+    /// Shows the palette in the order of its rows, with one paint chosen. Cheap when little
+    /// changed. Rows can be dragged while they stand in the order of symbols.
+    void Follow(const TouchUpControls& shown);
 
   signals:
     void Chosen(int paint);
+    void Dragged(int paint, int to);
+
+  protected:
+    void dropEvent(QDropEvent* event) override;
 
   private:
+    [[nodiscard]] int PaintOf(QTreeWidgetItem* row) const;
     void ShowRow(QTreeWidgetItem& row, const TouchUpPaint& paint);
 
-    OneBased<TouchUpPaint> shown_;
+    OneBased<TouchUpPaint> shown_;  // by row
+    std::vector<int> rows_;
 };
 
 }  // namespace vendrel

@@ -16,6 +16,12 @@ QColor ToQColor(Color color) {
     return {RedOf(color), GreenOf(color), BlueOf(color)};
 }
 
+// Close to white, but with enough left to find one's way.
+Color Paled(Color color) {
+    const auto pale = [](int level) { return 255 - (255 - level) / 7; };
+    return Rgb(pale(RedOf(color)), pale(GreenOf(color)), pale(BlueOf(color)));
+}
+
 }  // namespace
 
 void SheetPainter::SetPhoto(const Surface& photo, int stippleSize) {
@@ -31,19 +37,27 @@ void SheetPainter::Follow(const TouchUpForm& form, const CellRect& dirty) {
         paints_.assign(static_cast<std::size_t>(sheet.Across() * sheet.Down()), 0);
         cells = sheet.Bounds();
     }
-    const OneBased<TouchUpPaint>& palette = form.Controls().Palette;
     if (cells.Left <= 1 && cells.Top <= 1 && cells.Right >= sheet.Across() &&
         cells.Bottom >= sheet.Down()) {
         // Only what touches everything can have changed the paints' colours.
-        palette_ = palette;
-        glyphs_.Clear();
+        TakePalette(form.Controls());
     }
     for (int y = cells.Top; y <= std::min(cells.Bottom, sheet.Down()); ++y) {
         auto* line = reinterpret_cast<QRgb*>(cells_.scanLine(y - 1));
         for (int x = cells.Left; x <= std::min(cells.Right, sheet.Across()); ++x) {
             const int paint = sheet.HoldsPaint(sheet.PaintAt({x, y})) ? sheet.PaintAt({x, y}) : 0;
             At(paints_, (y - 1) * sheet.Across() + x - 1) = paint;
-            line[x - 1] = ToQColor(palette[paint].Swatch).rgb();
+            line[x - 1] = ToQColor(palette_[paint].Swatch).rgb();
+        }
+    }
+}
+
+void SheetPainter::TakePalette(const TouchUpControls& shown) {
+    palette_ = shown.Palette;
+    glyphs_.Clear();
+    for (int i = 1; i <= palette_.Count() && shown.Alone; ++i) {
+        if (i != shown.Brush.Paint) {
+            palette_[i].Swatch = Paled(palette_[i].Swatch);
         }
     }
 }
@@ -64,7 +78,7 @@ void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPla
     }
     if (look.PhotoOnly || look.PhotoPercent > 0) {
         painter.setOpacity(look.PhotoOnly ? 1 : look.PhotoPercent / 100.0);
-        PaintPhoto(painter, place);
+        PaintPicture(painter, photo_, place);
         painter.setOpacity(1);
     }
     if (look.Symbols && !look.PhotoOnly && place.Edge >= kSmallestForSymbols) {
@@ -77,7 +91,8 @@ void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPla
 }
 
 // The stipples begin one pixel inside the photo, which a sheet of another shape stretches.
-void SheetPainter::PaintPhoto(QPainter& painter, const SheetPlace& place) {
+void SheetPainter::PaintPicture(QPainter& painter, const QImage& picture,
+                                const SheetPlace& place) const {
     const double scale = place.Edge / stippleSize_;
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, scale < 1);
@@ -87,7 +102,7 @@ void SheetPainter::PaintPhoto(QPainter& painter, const SheetPlace& place) {
                         std::max(photo_.height() / stippleSize_, 1));
     const QSizeF shown(photo_.width() * cells_.width() / across.width(),
                        photo_.height() * cells_.height() / across.height());
-    painter.drawImage(QRectF(QPointF(-1, -1), shown), photo_);
+    painter.drawImage(QRectF(QPointF(-1, -1), shown), picture);
     painter.restore();
 }
 

@@ -32,6 +32,12 @@ class SheetPainter {
     void Paint(QPainter& painter, const QRect& exposed, const SheetPlace& place,
                const EditorLook& look);
 
+    /// The photo, or another picture of its size, where the stipples lie that were cut from it.
+    void PaintPicture(QPainter& painter, const QImage& picture, const SheetPlace& place) const;
+    [[nodiscard]] const QImage& Photo() const { return photo_; }
+    /// One pixel a stipple.
+    [[nodiscard]] const QImage& Cells() const { return cells_; }
+
     [[nodiscard]] int Across() const { return cells_.width(); }
     [[nodiscard]] int Down() const { return cells_.height(); }
     [[nodiscard]] CellRect Bounds() const { return {1, 1, Across(), Down()}; }
@@ -41,7 +47,7 @@ class SheetPainter {
     static constexpr double kSmallestForGrid = 4;
 
   private:
-    void PaintPhoto(QPainter& painter, const SheetPlace& place);
+    void TakePalette(const TouchUpControls& shown);
     void PaintGrid(QPainter& painter, const CellRect& cells, const SheetPlace& place) const;
     void PaintSymbols(QPainter& painter, const CellRect& cells, const SheetPlace& place);
     [[nodiscard]] const QPixmap& Glyph(int paint, int edge, qreal ratio);

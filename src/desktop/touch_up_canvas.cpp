@@ -11,11 +11,10 @@
 namespace vendrel {
 namespace {
 
-constexpr std::array kEdges = {1.0,  2.0,  3.0,  4.0,  5.0,  6.0, 8.0,
-                               10.0, 12.0, 14.0, 16.0, 20.0, 24.0};
+constexpr std::array kEdges = {1.0,  2.0,  3.0,  4.0,  5.0,  6.0,  8.0,  10.0, 12.0,
+                               14.0, 16.0, 20.0, 24.0, 28.0, 32.0, 40.0, 48.0, 64.0};
 constexpr int kWheelStep = 120;
 constexpr int kSmallestRing = 18;  // pixels: found at a glance whatever the zoom
-constexpr QColor kMarkColor(255, 0, 255);
 
 double EdgeAbove(double edge) {
     return *std::upper_bound(kEdges.begin(), kEdges.end() - 1, edge + 0.01);
@@ -28,7 +27,7 @@ double EdgeBelow(double edge) {
 }  // namespace
 
 TouchUpCanvas::TouchUpCanvas(TouchUpForm& form, QWidget* parent)
-    : QAbstractScrollArea(parent), form_(form) {
+    : QAbstractScrollArea(parent), form_(form), overlays_(form) {
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setMouseTracking(true);
     viewport()->setCursor(Qt::CrossCursor);
@@ -38,19 +37,33 @@ TouchUpCanvas::TouchUpCanvas(TouchUpForm& form, QWidget* parent)
 
 void TouchUpCanvas::Start(const Surface& photo, int stippleSize) {
     sheet_.SetPhoto(photo, stippleSize);
+    stippleSize_ = stippleSize;
     Follow();
     Fit();
 }
 
-void TouchUpCanvas::Follow() {
+bool TouchUpCanvas::Follow() {
     const CellRect dirty = form_.TakeDirty();
     const QSize before(sheet_.Across(), sheet_.Down());
     if (!dirty.Empty()) {
         sheet_.Follow(form_, dirty);
-        viewport()->update(place_.RectOf(dirty));
+        viewport()->update(place_.RectOf(dirty).adjusted(-2, -2, 3, 3));
     }
+    // What lies over the stipples hangs on more than they do.
+    FollowOverlays();
     if (before != QSize(sheet_.Across(), sheet_.Down())) {
         Place();
+    }
+    return !dirty.Empty();
+}
+
+// Redraws all while something changes that strokes alone do not; between them a stroke repaints no
+// more than it touched.
+void TouchUpCanvas::FollowOverlays() {
+    const OverlayState now = overlays_.State();
+    if (now != overlaysShown_ || now.Moving) {
+        overlaysShown_ = now;
+        viewport()->update();
     }
 }
 
@@ -71,6 +84,20 @@ void TouchUpCanvas::Fit() {
     place_.Edge = FitEdge();
     Place();
     emit Zoomed();
+}
+
+void TouchUpCanvas::ShowActualSize() {
+    ZoomTo(std::max(stippleSize_, 1), ZoomSpot());
+}
+
+void TouchUpCanvas::CenterOn(CellPos at) {
+    const QPoint off = MiddleOf(at) - viewport()->rect().center();
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + off.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + off.y());
+}
+
+CellRect TouchUpCanvas::Shown() const {
+    return place_.CellsIn(viewport()->rect(), sheet_.Bounds());
 }
 
 void TouchUpCanvas::ZoomIn() {
@@ -119,6 +146,7 @@ void TouchUpCanvas::Place() {
                      sheet.height() <= room.height() ? (room.height() - sheet.height()) / 2
                                                      : -verticalScrollBar()->value()};
     viewport()->update();
+    emit Moved();
 }
 
 void TouchUpCanvas::resizeEvent(QResizeEvent* /*event*/) {
@@ -132,6 +160,7 @@ void TouchUpCanvas::resizeEvent(QResizeEvent* /*event*/) {
 void TouchUpCanvas::scrollContentsBy(int dx, int dy) {
     place_.Corner += QPoint(dx, dy);
     viewport()->scroll(dx, dy);
+    emit Moved();
 }
 
 void TouchUpCanvas::GoTo(CellPos at) {
@@ -157,13 +186,6 @@ void TouchUpCanvas::MoveCursor(int dx, int dy) {
     emit Pointed(cursor_);
 }
 
-CellRect TouchUpCanvas::BrushAt(CellPos at) const {
-    const TouchUpControls& shown = form_.Controls();
-    const int size = shown.Tool == TouchUpTool::Brush ? static_cast<int>(shown.Brush.Size) : 1;
-    const CellPos first{at.X - (size - 1) / 2, at.Y - (size - 1) / 2};
-    return {first.X, first.Y, first.X + size - 1, first.Y + size - 1};
-}
-
 QRect TouchUpCanvas::CursorRect() const {
     QRect ring = place_.RectOf(cursor_);
     const int grow = std::max(4, (kSmallestRing - ring.width()) / 2);
@@ -176,7 +198,7 @@ void TouchUpCanvas::PointTo(std::optional<CellPos> at) {
     }
     for (const std::optional<CellPos>& spot : {pointer_, at}) {
         if (spot) {
-            viewport()->update(place_.RectOf(BrushAt(*spot)).adjusted(-2, -2, 2, 2));
+            viewport()->update(overlays_.BrushRect(*spot, place_));
         }
     }
     pointer_ = at;
@@ -208,15 +230,18 @@ void TouchUpCanvas::mousePressEvent(QMouseEvent* event) {
         drag_ = Drag::Pan;
         panFrom_ = event->position().toPoint();
         ShowPanPointer();
-    } else if (event->button() == Qt::LeftButton) {
+    } else if (event->button() == Qt::LeftButton || event->button() == Qt::RightButton) {
         drag_ = Drag::Tool;
+        button_ = event->button();
         viewport()->update(CursorRect());
         cursorShown_ = false;
         cursor_ = {std::clamp(at.X, 1, std::max(1, sheet_.Across())),
                    std::clamp(at.Y, 1, std::max(1, sheet_.Down()))};
-        emit Pressed(at);
-    } else if (event->button() == Qt::RightButton) {
-        emit Picked(at);
+        const Qt::KeyboardModifiers keys = event->modifiers();
+        emit Pressed(at, {.Right = button_ == Qt::RightButton,
+                          .Shift = keys.testFlag(Qt::ShiftModifier),
+                          .Ctrl = keys.testFlag(Qt::ControlModifier),
+                          .Alt = keys.testFlag(Qt::AltModifier)});
     }
 }
 
@@ -241,7 +266,7 @@ void TouchUpCanvas::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TouchUpCanvas::mouseReleaseEvent(QMouseEvent* event) {
-    if (drag_ == Drag::Tool && event->button() == Qt::LeftButton) {
+    if (drag_ == Drag::Tool && event->button() == button_) {
         drag_ = Drag::None;
         emit Released();
     } else if (drag_ == Drag::Pan &&
@@ -263,18 +288,34 @@ void TouchUpCanvas::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
+// Arrows move the selection while its tool is in hand, and else the keyboard's stipple.
+bool TouchUpCanvas::MovesBy(QKeyEvent& event) {
+    const int dx = (event.key() == Qt::Key_Right) - (event.key() == Qt::Key_Left);
+    const int dy = (event.key() == Qt::Key_Down) - (event.key() == Qt::Key_Up);
+    if (dx == 0 && dy == 0) {
+        return false;
+    }
+    const bool moves = form_.Open() && form_.Controls().Tool == TouchUpTool::Move &&
+                       (form_.Selection().Any() || form_.Selection().Floating() != nullptr);
+    if (moves) {
+        emit Nudged({dx, dy});
+    } else {
+        MoveCursor(dx, dy);
+    }
+    return true;
+}
+
 void TouchUpCanvas::keyPressEvent(QKeyEvent* event) {
+    if (MovesBy(*event)) {
+        return;
+    }
     switch (event->key()) {
-        case Qt::Key_Left:
-            return MoveCursor(-1, 0);
-        case Qt::Key_Right:
-            return MoveCursor(1, 0);
-        case Qt::Key_Up:
-            return MoveCursor(0, -1);
-        case Qt::Key_Down:
-            return MoveCursor(0, 1);
         case Qt::Key_Return:
         case Qt::Key_Enter:
+            if (form_.Open() && form_.Selection().Floating() != nullptr) {
+                emit PutDown();
+                return;
+            }
             emit Pressed(cursor_);
             emit Released();
             return;
@@ -329,6 +370,14 @@ void TouchUpCanvas::paintEvent(QPaintEvent* event) {
     const QRect exposed = event->rect();
     painter.fillRect(exposed, palette().color(QPalette::Mid));
     sheet_.Paint(painter, exposed, place_, look_);
+    if (form_.Open() && !look_.PhotoOnly) {
+        painter.save();
+        painter.setClipRect(place_.RectOf(sheet_.Bounds()).adjusted(-1, -1, 1, 1),
+                            Qt::IntersectClip);
+        overlays_.Paint(painter, place_.CellsIn(exposed.adjusted(-2, -2, 2, 2), sheet_.Bounds()),
+                        place_);
+        painter.restore();
+    }
     if (blinkOn_ && !look_.PhotoOnly) {
         PaintMarks(painter, place_.CellsIn(exposed, sheet_.Bounds()));
     }
@@ -360,8 +409,8 @@ void TouchUpCanvas::PaintPointer(QPainter& painter) const {
         painter.drawRect(ring.adjusted(0, 0, -1, -1));
         painter.drawRect(ring.adjusted(1, 1, -2, -2));
     }
-    if (pointer_ && drag_ != Drag::Pan) {
-        outline(place_.RectOf(BrushAt(*pointer_)));
+    if (pointer_ && drag_ != Drag::Pan && form_.Open()) {
+        overlays_.PaintBrush(painter, *pointer_, place_);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "desktop/sheet_painter.h"
+#include "desktop/touch_up_overlays.h"
 
 namespace vendrel {
 
@@ -13,14 +14,15 @@ class TouchUpCanvas : public QAbstractScrollArea {
     Q_OBJECT
 
   public:
-    static constexpr double kLargestEdge = 24;  // screen pixels per stipple
+    static constexpr double kLargestEdge = 64;  // screen pixels per stipple
 
     explicit TouchUpCanvas(TouchUpForm& form, QWidget* parent = nullptr);
 
     /// The editor was opened.
     void Start(const Surface& photo, int stippleSize);
     /// Repaints what the form has touched since the last call.
-    void Follow();
+    /// False where it touched nothing.
+    bool Follow();
     /// Whether the marked stipples stand out now. Only these are repainted.
     void Blink(bool on);
     /// Puts the keyboard's stipple there and brings it into view.
@@ -31,6 +33,17 @@ class TouchUpCanvas : public QAbstractScrollArea {
     void ZoomIn();
     void ZoomOut();
     void Fit();
+    /// So that a pixel of the photo takes one of the screen.
+    void ShowActualSize();
+    /// Brings a stipple to the middle, as far as the sheet goes.
+    void CenterOn(CellPos at);
+    /// The stipples that show, in part or whole.
+    [[nodiscard]] CellRect Shown() const;
+    /// Of the mouse, else of the keyboard.
+    [[nodiscard]] CellPos PointedCell() const { return pointer_.value_or(cursor_); }
+    [[nodiscard]] const SheetPlace& WhereItLies() const { return place_; }
+    [[nodiscard]] const EditSheet& Stipples() const { return form_.Sheet(); }
+    [[nodiscard]] SheetPainter& Sheet() { return sheet_; }
     [[nodiscard]] double Edge() const { return place_.Edge; }
     /// The middle of a stipple, in the viewport's pixels.
     [[nodiscard]] QPoint MiddleOf(CellPos cell) const { return place_.RectOf(cell).center(); }
@@ -39,10 +52,14 @@ class TouchUpCanvas : public QAbstractScrollArea {
     void SetLook(const EditorLook& look);
 
   signals:
-    void Pressed(CellPos at);
+    void Pressed(CellPos at, PressKeys keys = {});
     void Dragged(CellPos at);
     void Released();
     void Picked(CellPos at);
+    void PutDown();
+    void Nudged(CellPos by);
+    /// Another part of the sheet shows, or at another size.
+    void Moved();
     void Pointed(CellPos at);
     void Zoomed();
 
@@ -61,6 +78,7 @@ class TouchUpCanvas : public QAbstractScrollArea {
   private:
     enum class Drag { None, Tool, Pan };
 
+    void FollowOverlays();
     [[nodiscard]] double FitEdge() const;
     void ZoomTo(double edge, QPointF around);
     [[nodiscard]] QPointF ZoomSpot() const;
@@ -69,20 +87,24 @@ class TouchUpCanvas : public QAbstractScrollArea {
     void MoveCursor(int dx, int dy);
     void PanBy(QPoint way);
     void ShowPanPointer();
-    [[nodiscard]] CellRect BrushAt(CellPos at) const;
+    [[nodiscard]] bool MovesBy(QKeyEvent& event);
     [[nodiscard]] QRect CursorRect() const;
     [[nodiscard]] QRegion MarkedRegion() const;
     void PaintMarks(QPainter& painter, const CellRect& shown) const;
     void PaintPointer(QPainter& painter) const;
 
     TouchUpForm& form_;
+    TouchUpOverlays overlays_;
+    OverlayState overlaysShown_;
     SheetPainter sheet_;
+    int stippleSize_ = 1;
     SheetPlace place_;
     EditorLook look_;
     bool fits_ = true;  // zoomed to be seen whole, at any size of the window
     bool blinkOn_ = false;
     std::vector<CellPos> marked_;
     Drag drag_ = Drag::None;
+    Qt::MouseButton button_ = Qt::LeftButton;  // that drags
     bool spaceHeld_ = false;
     QPoint panFrom_;
     int wheel_ = 0;  // eighths of a degree not used up yet

@@ -1,16 +1,20 @@
 #pragma once
 
-#include <QCheckBox>
 #include <QPushButton>
-#include <QSlider>
 #include <QTimer>
-#include <QToolButton>
-#include <array>
 
+#include "desktop/beside_view.h"
 #include "desktop/form_dialog.h"
+#include "desktop/history_list.h"
 #include "desktop/kept_work_dialog.h"
-#include "desktop/paint_rows.h"
+#include "desktop/navigator_view.h"
+#include "desktop/painting_job.h"
+#include "desktop/touch_up_areas_panel.h"
 #include "desktop/touch_up_canvas.h"
+#include "desktop/touch_up_paints.h"
+#include "desktop/touch_up_selection_panel.h"
+#include "desktop/touch_up_tool_bar.h"
+#include "desktop/touch_up_view_panel.h"
 #include "desktop/value_label.h"
 
 namespace vendrel {
@@ -21,6 +25,7 @@ class TouchUpDialog : public FormDialog {
 
   public:
     TouchUpDialog(const ViewContext& context, QWidget* parent);
+    ~TouchUpDialog() override;
 
     void Load() override;
     void Mirror() override;
@@ -35,26 +40,22 @@ class TouchUpDialog : public FormDialog {
 
   private:
     void Arrange();
-    [[nodiscard]] QLayout* MakeToolRow();
+    [[nodiscard]] QWidget* MakeMiddle();
     [[nodiscard]] QWidget* MakeSide();
-    [[nodiscard]] QWidget* MakeMarkers();
-    [[nodiscard]] QWidget* MakeCleanUp();
-    [[nodiscard]] QWidget* MakeView();
     [[nodiscard]] QLayout* MakeButtons();
     void Connect();
     void ConnectCanvas();
     void ConnectTimers();
     void ConnectKeptWork();
-    void AddShortcuts();
     /// Starts work through the edge that the open editor alone can do.
+    [[nodiscard]] EditorWork Work();
     void RunOpen(const std::function<void()>& work);
-    /// A form handler, started the same way.
-    [[nodiscard]] std::function<void()> Handler(void (TouchUpForm::*handler)());
-    void ChooseLook();
     void ShowPhoto(bool only);
-    void NextLoner();
-    void MirrorPalette();
-    void MirrorTools();
+    void GoToNext(std::optional<CellPos> (TouchUpForm::*next)());
+    void CopySelection();
+    void PasteSelection();
+    void ShowBeside();
+    void MirrorBlinking();
     void MirrorStatus();
     void PointedAt(CellPos at);
     /// False while other work yields, and when the editor is closed.
@@ -62,27 +63,15 @@ class TouchUpDialog : public FormDialog {
 
     TouchUpForm form_;
     TouchUpCanvas* canvas_;
-    std::array<QToolButton*, 5> tools_{};  // brush of one, two, three; fill; replace
-    QToolButton* undo_;
-    QToolButton* redo_;
-    QToolButton* zoomIn_;
-    QToolButton* zoomOut_;
-    QToolButton* fit_;
-    ValueLabel* zoom_;
-    PaintRows* palette_;
-    QPushButton* tidy_;
-    QCheckBox* blinkLoners_;
-    QCheckBox* blinkPaint_;
-    QPushButton* nextLoner_;
-    ValueLabel* loners_;
-    QToolButton* lowerLevel_;
-    QToolButton* raiseLevel_;
-    ValueLabel* cleanLevel_;
-    ValueLabel* cleanPreview_;
-    QPushButton* cleanUp_;
-    QCheckBox* gridLines_;
-    QCheckBox* symbols_;
-    QSlider* photo_;
+    TouchUpToolBar* tools_;
+    NavigatorView* navigator_;
+    TouchUpPaints* paints_;
+    TouchUpViewPanel* view_;
+    TouchUpAreasPanel* areas_;
+    TouchUpSelectionPanel* selection_;
+    HistoryList* history_;
+    BesideView* beside_;
+    PaintingJob* painting_;
     QPushButton* keptWork_;
     QPushButton* load_;
     QPushButton* save_;
@@ -92,6 +81,7 @@ class TouchUpDialog : public FormDialog {
     ValueLabel* status_;
     KeptWorkDialog* kept_;
     QTimer blink_;
+    QTimer figures_;
     QTimer recovery_;
     bool blinkOn_ = false;
     CellPos pointedAt_;  // {0, 0} for no stipple

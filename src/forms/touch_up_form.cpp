@@ -10,12 +10,14 @@
 
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
+#include "forms/counted.h"
 #include "output/chart_contents.h"
 #include "output/symbol_set.h"
 #include "shell/paint_id.h"
 #include "shell/symbol_of.h"
 #include "storage/load_stipples.h"
 #include "storage/stipple_file.h"
+#include "support/decimals.h"
 #include "support/error.h"
 #include "support/list.h"
 #include "touchup/clean_up.h"
@@ -30,14 +32,6 @@ constexpr const char* kTitle = "Touch Up";
 std::string SymbolText(int symbol) {
     return symbol <= kSymbolCount ? std::string(1, At(kSymbolCharacters, symbol - 1))
                                   : std::to_string(symbol);
-}
-
-std::string Counted(int count, const std::string& one, const std::string& many) {
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
-std::string Place(CellPos at) {
-    return "column " + std::to_string(at.X) + ", row " + std::to_string(at.Y);
 }
 
 std::string StepCaption(const std::string& verb, const std::string& step) {
@@ -66,7 +60,14 @@ void TouchUpForm::Form_Load() {
     editor_ = std::make_unique<TouchUp>(place_);
     controls_ = {};
     controls_.Brush.Paint = 1;
+    paintBefore_ = 1;
     lonerAt_ = {};
+    lineFrom_.reset();
+    const WorkState& state = *place_.State;
+    const int width = std::max(1, place_.Frames->CaptureFrame.Picture.Width());
+    areas_.emplace(*editor_, CanvasScale(state.Chosen, width).Enlarged(state.StippleSize),
+                   state.Chosen.Limits);
+    selection_.emplace(*editor_);
     Touched(Sheet().Bounds());
     Follow();
 }
@@ -142,53 +143,6 @@ void TouchUpForm::CloseKept_Click() {
     controls_.Kept.Shown = false;
 }
 
-void TouchUpForm::Tool_Click(TouchUpTool tool) {
-    controls_.Tool = tool;
-}
-
-void TouchUpForm::BrushSize_Click(BrushSize size) {
-    controls_.Brush.Size = size;
-    controls_.Tool = TouchUpTool::Brush;
-}
-
-void TouchUpForm::PaintList_Click(int paint) {
-    if (Sheet().HoldsPaint(paint)) {
-        controls_.Brush.Paint = paint;
-        MarkAgain();
-    }
-}
-
-void TouchUpForm::PointerDown(CellPos at) {
-    controls_.Status.clear();
-    switch (controls_.Tool) {
-        case TouchUpTool::Brush:
-            Touched(editor_->BeginStroke(at, controls_.Brush));
-            break;
-        case TouchUpTool::Fill:
-            Touched(editor_->Fill(at, controls_.Brush.Paint));
-            break;
-        case TouchUpTool::Replace:
-            if (Sheet().Holds(at)) {
-                Touched(editor_->Replace(Sheet().PaintAt(at), controls_.Brush.Paint));
-            }
-            break;
-    }
-    FollowPalette();
-}
-
-void TouchUpForm::PointerTo(CellPos at) {
-    const CellRect dirty = editor_->StrokeTo(at);
-    if (!dirty.Empty()) {
-        Touched(dirty);
-        FollowPalette();
-    }
-}
-
-void TouchUpForm::PointerUp() {
-    editor_->EndStroke();
-    Follow();
-}
-
 void TouchUpForm::PickPaint(CellPos at) {
     PaintList_Click(Sheet().PaintAt(at));
 }
@@ -204,30 +158,6 @@ std::string TouchUpForm::Describe(CellPos at) const {
     const TouchUpPaint& row = controls_.Palette[paint];
     return "Column " + std::to_string(at.X) + ", row " + std::to_string(at.Y) + ":  " + row.Symbol +
            "  " + row.Label;
-}
-
-void TouchUpForm::Undo_Click() {
-    controls_.Status = editor_->CanUndo() ? "Undone: " + editor_->UndoName() : "";
-    KeepPaintInHand([this] { Touched(editor_->Undo()); });
-    Follow();
-}
-
-void TouchUpForm::Redo_Click() {
-    controls_.Status = editor_->CanRedo() ? "Done again: " + editor_->RedoName() : "";
-    KeepPaintInHand([this] { Touched(editor_->Redo()); });
-    Follow();
-}
-
-void TouchUpForm::KeepPaintInHand(const std::function<void()>& step) {
-    int& inHand = controls_.Brush.Paint;
-    const PaintId id = IdOf(Sheet().Paints()[inHand]);
-    step();
-    const PaintList& paints = Sheet().Paints();
-    if (paints.Holds(inHand) && IdOf(paints[inHand]) == id) {
-        return;
-    }
-    const auto found = std::ranges::find(paints, id, IdOf);
-    inHand = found == paints.end() ? 1 : static_cast<int>(found - paints.begin()) + 1;
 }
 
 void TouchUpForm::TidyPaints_Click() {
@@ -413,7 +343,7 @@ void TouchUpForm::Touched(const CellRect& dirty) {
     }
 }
 
-void TouchUpForm::Follow() {
+void TouchUpForm::FollowSteps() {
     if (!Sheet().HoldsPaint(controls_.Brush.Paint)) {
         controls_.Brush.Paint = 1;
     }
@@ -423,9 +353,25 @@ void TouchUpForm::Follow() {
     controls_.RedoCaption = StepCaption("Redo", editor_->RedoName());
     controls_.LoadEnabled = editor_->CanLoad();
     controls_.Unsaved = editor_->HasChanges();
+    controls_.Steps = editor_->StepNames();
+    controls_.StepsDone = editor_->StepsDone();
+    selection_->Follow();
+    controls_.Selected = selection_->Text();
     FollowPalette();
-    FollowCleanUp();
-    FollowLoners();
+}
+
+void TouchUpForm::FollowFigures() {
+    if (std::exchange(figuresStale_, false)) {
+        areas_->Follow();
+        FollowCleanUp();
+        FollowLoners();
+    }
+}
+
+void TouchUpForm::Follow() {
+    FollowSteps();
+    figuresStale_ = true;
+    FollowFigures();
 }
 
 void TouchUpForm::FollowPalette() {
@@ -436,6 +382,16 @@ void TouchUpForm::FollowPalette() {
                                 PaintLabel(paints[i]), ColorOf(paints[i]), paints[i].CellCount};
     }
     controls_.TidyEnabled = std::ranges::find(paints, 0, &PaintColor::CellCount) != paints.end();
+    controls_.Rows = SortedPaints(paints, controls_.Order);
+    controls_.AddEnabled = paints.Count() < kMostPaints;
+    controls_.RemoveEnabled = paints.Count() > 1;
+    FollowChosenPaint();
+}
+
+void TouchUpForm::FollowChosenPaint() {
+    const int stipples = Sheet().Paints()[controls_.Brush.Paint].CellCount;
+    controls_.ChosenPaint = Counted(stipples, "stipple", "stipples") + ", " +
+                            Decimals(areas_->Cm2(stipples), 1) + " cm\u00b2";
 }
 
 void TouchUpForm::FollowCleanUp() {
@@ -453,7 +409,7 @@ void TouchUpForm::FollowLoners() {
     const int left = static_cast<int>(FindLoners(Sheet()).size());
     controls_.Loners = left == 0 ? "No loners" : Counted(left, "loner left", "loners left");
     if (left > 0 && lonerAt_ != CellPos{}) {
-        controls_.Loners += "; " + Place(lonerAt_);
+        controls_.Loners += "; " + PlaceText(lonerAt_);
     }
 }
 

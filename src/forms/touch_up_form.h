@@ -4,15 +4,27 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "forms/paint_order.h"
+#include "forms/touch_up_areas.h"
+#include "forms/touch_up_selection.h"
 #include "shell/workplace.h"
 #include "touchup/touch_up.h"
 
 namespace vendrel {
 
 /// What a press on the picture does.
-enum class TouchUpTool { Brush, Fill, Replace };
+enum class TouchUpTool { Brush, Fill, Replace, Box, Lasso, SamePaint, SameArea, Move };
+
+/// What is held down while the picture is pressed.
+struct PressKeys {
+    bool Right = false;  // the button, rather than the left one
+    bool Shift = false;
+    bool Ctrl = false;
+    bool Alt = false;
+};
 
 /// A paint of the editor's palette, by index from 1.
 struct TouchUpPaint {
@@ -47,8 +59,18 @@ struct KeptControls {
 /// What the touch-up window shows.
 struct TouchUpControls {
     TouchUpTool Tool = TouchUpTool::Brush;
-    EditBrush Brush;  // size, and the paint of all tools
+    EditBrush Brush;  // size and shape, and the paint of all tools
     OneBased<TouchUpPaint> Palette;
+    PaintOrder Order = PaintOrder::Symbol;
+    std::vector<int> Rows;    // the paints, from 1, in that order
+    std::string ChosenPaint;  // how much of it there is
+    bool ShowEdits = false;   // edited stipples are tinted
+    bool Alone = false;       // all other paints are paled
+    bool AddEnabled = false;  // a paint of the catalogue
+    bool RemoveEnabled = false;
+    std::string Selected;  // what is selected or floats
+    std::vector<std::string> Steps;
+    int StepsDone = 0;
     bool BlinkLoners = false;
     bool BlinkPaint = false;  // every stipple of the chosen paint
     std::string Loners;       // how many are left, and where the last one found stands
@@ -85,15 +107,24 @@ class TouchUpForm {
     [[nodiscard]] const TouchUpControls& Controls() const { return controls_; }
 
     void Tool_Click(TouchUpTool tool);
-    void BrushSize_Click(BrushSize size);
+    /// 1..kLargestBrush; others take the nearest.
+    void BrushSize_Click(int size);
+    void BrushShape_Click();
     /// Takes a paint of the palette up; others are left alone.
     void PaintList_Click(int paint);
+    /// Takes up the paint that was in hand before.
+    void SwapPaints_Click();
 
     /// The tool is put down; a stroke goes on with PointerTo. Of what is shown, all but the counts
-    /// of the palette waits for PointerUp.
-    void PointerDown(CellPos at);
+    /// of the palette waits for PointerUp, and the figures of areas and loners for FollowFigures.
+    /// With Ctrl, or the right button, it takes up the paint there instead; with the right button
+    /// and Shift the brush erases; with Shift it draws a line from where it was last. Tools that
+    /// select add with Shift and take away with Alt.
+    void PointerDown(CellPos at, PressKeys keys = {});
     void PointerTo(CellPos at);
     void PointerUp();
+    /// To be called when the hand rests: what takes longer than a stroke may.
+    void FollowFigures();
     /// Takes up the paint of the stipple there.
     void PickPaint(CellPos at);
     /// "Column 3, row 5: paint"; empty outside the picture.
@@ -101,6 +132,49 @@ class TouchUpForm {
 
     void Undo_Click();
     void Redo_Click();
+    /// Goes to the state in which so many steps are done.
+    void Step_Click(int done);
+
+    // Areas.
+    [[nodiscard]] const TouchUpAreas& Areas() const { return *areas_; }
+    void MergeBelow_Change(int below, AreaUnit unit);
+    void MergePreview_Click();
+    void MergeAreas_Click();
+    void Outlines_Click();
+    void MarkHard_Click();
+    std::optional<CellPos> NextHard_Click();
+
+    // The selection.
+    [[nodiscard]] const TouchUpSelection& Selection() const { return *selection_; }
+    void SelectAll_Click();
+    void SelectNone_Click();
+    void InvertSelection_Click();
+    void GrowSelection_Click();
+    void ShrinkSelection_Click();
+    void FillSelection_Click();
+    void EraseSelection_Click();
+    void MirrorAcross_Click();
+    void MirrorDown_Click();
+    void NudgeSelection_Click(CellPos by);
+    /// The selection as text for the clipboard; empty when there is none.
+    [[nodiscard]] std::string Copy_Click();
+    void Paste_Click(std::string_view text, CellPos middle);
+    void PutDown_Click();
+    /// Escape: gives up what floats, or else the selection. False when there is neither.
+    bool Escape_Click();
+
+    // The paints.
+    void ShowEdits_Click() { controls_.ShowEdits = !controls_.ShowEdits; }
+    /// Whether an edit of its own lies over a stipple.
+    [[nodiscard]] bool IsEdited(CellPos at) const { return editor_->IsEdited(at); }
+    void Alone_Click();
+    void PaintOrder_Click(PaintOrder order);
+    [[nodiscard]] std::vector<PaintColor> OfferPaints(const std::string& words) const;
+    void AddPaint_Click(const PaintColor& paint);
+    /// Its stipples go to the paint that looks most like it.
+    void RemovePaint_Click();
+    /// In the order of symbols.
+    void MovePaint_Click(int from, int to);
 
     void BlinkLoners_Click();
     void BlinkPaint_Click();
@@ -141,7 +215,16 @@ class TouchUpForm {
 
   private:
     void Touched(const CellRect& dirty);
+    void Press(CellPos at, PressKeys keys);
+    void PressBrush(CellPos at, PressKeys keys);
+    /// A step, and what is shown after it.
+    void Do(const std::function<CellRect()>& step);
+    void Reselect(const std::function<void()>& step);
+    void ChangePalette(const char* name, EditIntent intent, SheetContents sheet);
     void Follow();
+    void FollowSteps();
+    void FollowChosenPaint();
+    void TouchedAlone();
     void FollowPalette();
     void FollowCleanUp();
     void FollowLoners();
@@ -161,8 +244,13 @@ class TouchUpForm {
     CellRect dirty_;
     std::vector<CellPos> marked_;
     bool markedStale_ = true;
+    bool figuresStale_ = false;
     std::vector<KeptWork> kept_;
     CellPos lonerAt_;  // {0, 0} until one was stepped to
+    std::optional<TouchUpAreas> areas_;
+    std::optional<TouchUpSelection> selection_;
+    int paintBefore_ = 1;              // in hand before the one that is
+    std::optional<CellPos> lineFrom_;  // where the brush was last
 };
 
 }  // namespace vendrel

@@ -54,9 +54,7 @@ std::vector<CellChange> PlanCleanUp(const EditSheet& sheet, int level) {
         for (int x = 1; x <= sheet.Across(); ++x) {
             const int paint = TakingOver(sheet, {x, y}, level);
             if (paint != 0) {
-                changes.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y),
-                                   static_cast<std::int16_t>(sheet.PaintAt({x, y})),
-                                   static_cast<std::int16_t>(paint)});
+                changes.push_back(ChangeAt({x, y}, sheet.PaintAt({x, y}), paint));
             }
         }
     }

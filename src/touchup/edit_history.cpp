@@ -32,6 +32,15 @@ std::string EditHistory::RedoName() const {
     return CanRedo() ? steps_[done_].Name : std::string();
 }
 
+std::vector<std::string> EditHistory::Names() const {
+    std::vector<std::string> names;
+    names.reserve(steps_.size());
+    for (const EditStep& step : steps_) {
+        names.push_back(step.Name);
+    }
+    return names;
+}
+
 bool EditHistory::IsDone(int id) const {
     return std::any_of(steps_.begin(), steps_.begin() + static_cast<std::ptrdiff_t>(done_),
                        [id](const EditStep& step) { return step.Id == id; });

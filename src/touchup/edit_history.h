@@ -38,6 +38,9 @@ class EditHistory {
     /// Names of the steps that Undo and Redo would take; empty when there is none.
     [[nodiscard]] std::string UndoName() const;
     [[nodiscard]] std::string RedoName() const;
+    /// Of all steps, the first one first; those from Done() on are undone.
+    [[nodiscard]] std::vector<std::string> Names() const;
+    [[nodiscard]] int Done() const { return static_cast<int>(done_); }
     /// Both do nothing when there is no such step; they answer what changed on the sheet.
     CellRect Undo(EditSheet& sheet);
     CellRect Redo(EditSheet& sheet);

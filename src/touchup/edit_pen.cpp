@@ -3,7 +3,7 @@
 namespace vendrel {
 
 void EditPen::Paint(CellPos pos, int paint) {
-    if (!sheet_->Holds(pos) || !sheet_->HoldsPaint(paint)) {
+    if (!MayPaint(pos) || !sheet_->HoldsPaint(paint)) {
         return;
     }
     const int from = sheet_->PaintAt(pos);
@@ -11,8 +11,7 @@ void EditPen::Paint(CellPos pos, int paint) {
         return;
     }
     sheet_->SetPaint(pos, paint);
-    changes_.push_back({static_cast<std::int16_t>(pos.X), static_cast<std::int16_t>(pos.Y),
-                        static_cast<std::int16_t>(from), static_cast<std::int16_t>(paint)});
+    changes_.push_back(ChangeAt(pos, from, paint));
     dirty_.Include(pos);
 }
 

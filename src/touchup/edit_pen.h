@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <utility>
 #include <vector>
 
+#include "touchup/cell_set.h"
 #include "touchup/edit_sheet.h"
 
 namespace vendrel {
@@ -14,6 +16,13 @@ class EditPen {
     explicit EditPen(EditSheet& sheet) : sheet_(&sheet) {}
 
     void Paint(CellPos pos, int paint);
+    /// From here on stipples outside that set stay as they are; no set lifts that.
+    void KeepWithin(std::shared_ptr<const CellSet> cells) { within_ = std::move(cells); }
+
+    [[nodiscard]] bool KeepsWithin() const { return within_ != nullptr; }
+    [[nodiscard]] bool MayPaint(CellPos at) const {
+        return sheet_->Holds(at) && (!within_ || within_->Has(at));
+    }
 
     [[nodiscard]] EditSheet& Sheet() const { return *sheet_; }
     [[nodiscard]] bool Drew() const { return !changes_.empty(); }
@@ -23,6 +32,7 @@ class EditPen {
 
   private:
     EditSheet* sheet_;
+    std::shared_ptr<const CellSet> within_;
     std::vector<CellChange> changes_;
     CellRect dirty_;
 };

@@ -23,6 +23,11 @@ struct CellChange {
     bool operator==(const CellChange&) const = default;
 };
 
+[[nodiscard]] inline CellChange ChangeAt(CellPos at, int from, int to) {
+    return {static_cast<std::int16_t>(at.X), static_cast<std::int16_t>(at.Y),
+            static_cast<std::int16_t>(from), static_cast<std::int16_t>(to)};
+}
+
 /// What a load says of itself before it is read: a file that does not fit says more than the
 /// copies hold.
 struct SheetSizes {

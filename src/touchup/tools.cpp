@@ -1,67 +1,50 @@
 #include "touchup/tools.h"
 
-#include <cstdlib>
-#include <vector>
+#include "touchup/selecting.h"
 
 namespace vendrel {
-namespace {
 
-void Stamp(EditPen& pen, CellPos at, EditBrush brush) {
-    const int size = static_cast<int>(brush.Size);
+std::vector<CellPos> CellsUnder(const EditBrush& brush, CellPos at) {
+    const int size = brush.Size;
     const int left = at.X - (size - 1) / 2;
     const int top = at.Y - (size - 1) / 2;
-    for (int y = top; y < top + size; ++y) {
-        for (int x = left; x < left + size; ++x) {
-            pen.Paint({x, y}, brush.Paint);
+    std::vector<CellPos> cells;
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            // From the middle, in halves of a stipple. A circle of the whole size would keep the
+            // corners of a brush of three; this much less rounds all sizes without lone tips.
+            const int dx = 2 * x - (size - 1);
+            const int dy = 2 * y - (size - 1);
+            if (!brush.Round || 4 * (dx * dx + dy * dy) <= size * (4 * size - 3)) {
+                cells.push_back({left + x, top + y});
+            }
         }
     }
+    return cells;
 }
 
-}  // namespace
+void DrawStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush) {
+    ForLine(from, to, [&](CellPos spot) {
+        for (const CellPos& at : CellsUnder(brush, spot)) {
+            pen.Paint(at, brush.Paint);
+        }
+    });
+}
 
-void DrawStroke(EditPen& pen, CellPos from, CellPos to, EditBrush brush) {
-    const int width = std::abs(to.X - from.X);
-    const int height = -std::abs(to.Y - from.Y);
-    const int stepX = from.X < to.X ? 1 : -1;
-    const int stepY = from.Y < to.Y ? 1 : -1;
-    int error = width + height;
-    for (CellPos at = from;;) {
-        Stamp(pen, at, brush);
-        if (at == to) {
-            return;
+void EraseStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush,
+                 const Grid<int>& base) {
+    ForLine(from, to, [&](CellPos spot) {
+        for (const CellPos& at : CellsUnder(brush, spot)) {
+            if (base.Holds(at.X, at.Y)) {
+                pen.Paint(at, base(at.X, at.Y));
+            }
         }
-        const int twice = 2 * error;
-        if (twice >= height) {
-            error += height;
-            at.X += stepX;
-        }
-        if (twice <= width) {
-            error += width;
-            at.Y += stepY;
-        }
-    }
+    });
 }
 
 void FillArea(EditPen& pen, CellPos at, int paint) {
-    const EditSheet& sheet = pen.Sheet();
-    const int from = sheet.PaintAt(at);
-    if (!sheet.Holds(at) || !sheet.HoldsPaint(paint) || from == paint) {
-        return;
-    }
-    // The new paint itself marks the stipples done, so the fill costs no more than it repaints.
-    pen.Paint(at, paint);
-    std::vector<CellPos> open{at};
-    while (!open.empty()) {
-        const CellPos center = open.back();
-        open.pop_back();
-        for (int y = center.Y - 1; y <= center.Y + 1; ++y) {
-            for (int x = center.X - 1; x <= center.X + 1; ++x) {
-                if (sheet.Holds({x, y}) && sheet.PaintAt({x, y}) == from) {
-                    pen.Paint({x, y}, paint);
-                    open.push_back({x, y});
-                }
-            }
-        }
+    for (const CellPos& cell : AreaAround(pen.Sheet(), at).Cells()) {
+        pen.Paint(cell, paint);
     }
 }
 

@@ -1,19 +1,57 @@
 #pragma once
 
+#include <cstdlib>
+#include <vector>
+
 #include "touchup/edit_pen.h"
 
 namespace vendrel {
 
-enum class BrushSize { One = 1, Two = 2, Three = 3 };
+inline constexpr int kLargestBrush = 9;
 
 struct EditBrush {
-    BrushSize Size = BrushSize::One;
+    int Size = 1;   // stipples across, 1..kLargestBrush
     int Paint = 0;  // 1..FoundCount
+    bool Round = false;
 };
 
-/// Stamps the brush on every stipple of the line from `from` to `to`, both included, so that a
-/// fast pointer leaves no gaps. A brush of two reaches right and down, a brush of three around.
-void DrawStroke(EditPen& pen, CellPos from, CellPos to, EditBrush brush);
+/// The stipples under the brush, row-major. A brush of two reaches right and down, one of three
+/// around. Some may lie outside the sheet.
+[[nodiscard]] std::vector<CellPos> CellsUnder(const EditBrush& brush, CellPos at);
+
+/// Calls `visit(CellPos)` for every stipple of the line, both ends included, without gaps.
+template <class Visit>
+void ForLine(CellPos from, CellPos to, Visit visit) {
+    const int width = std::abs(to.X - from.X);
+    const int height = -std::abs(to.Y - from.Y);
+    const int stepX = from.X < to.X ? 1 : -1;
+    const int stepY = from.Y < to.Y ? 1 : -1;
+    int error = width + height;
+    for (CellPos at = from;;) {
+        visit(at);
+        if (at == to) {
+            return;
+        }
+        const int twice = 2 * error;
+        if (twice >= height) {
+            error += height;
+            at.X += stepX;
+        }
+        if (twice <= width) {
+            error += width;
+            at.Y += stepY;
+        }
+    }
+}
+
+/// Stamps the brush on every stipple of the line from `from` to `to`, so that a fast pointer leaves
+/// no gaps.
+void DrawStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush);
+
+/// The same with the paint that each stipple has in `base`, which is as large as the sheet; 0 there
+/// leaves one alone.
+void EraseStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush,
+                 const Grid<int>& base);
 
 /// Repaints the area of one paint that holds `at`, linked through sides and corners.
 void FillArea(EditPen& pen, CellPos at, int paint);

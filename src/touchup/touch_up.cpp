@@ -74,11 +74,50 @@ CellRect TouchUp::BeginStroke(CellPos at, EditBrush brush) {
     return StrokeTo(at);
 }
 
+CellRect TouchUp::BeginErasing(CellPos at, EditBrush brush) {
+    EndStroke();
+    brush_ = brush;
+    erasing_ = PaintsOfBase();
+    strokeAt_ = at;
+    drawing_ = true;
+    return StrokeTo(at);
+}
+
+AreaMerge TouchUp::PreviewAreaMerge(int smallest) const {
+    AreaMerge plan = PlanAreaMerge(sheet_, smallest);
+    std::erase_if(plan.Changes, [this](const CellChange& change) {
+        return !pen_.MayPaint({change.X, change.Y});
+    });
+    return plan;
+}
+
+CellRect TouchUp::MergeAreas(int smallest) {
+    return Edit("Merge Areas", EditIntent::Neighbors, [&](EditPen& pen) {
+        for (const CellChange& change : PlanAreaMerge(sheet_, smallest).Changes) {
+            pen.Paint({change.X, change.Y}, change.To);
+        }
+    });
+}
+
+Grid<int> TouchUp::PaintsOfBase() const {
+    Grid<int> paints(sheet_.Across(), sheet_.Down());
+    for (int y = 1; y <= paints.Down(); ++y) {
+        for (int x = 1; x <= paints.Across(); ++x) {
+            paints(x, y) = BasePaintAt({x, y});
+        }
+    }
+    return paints;
+}
+
 CellRect TouchUp::StrokeTo(CellPos at) {
     if (!drawing_) {
         return {};
     }
-    DrawStroke(pen_, strokeAt_, at, brush_);
+    if (erasing_) {
+        EraseStroke(pen_, strokeAt_, at, brush_, *erasing_);
+    } else {
+        DrawStroke(pen_, strokeAt_, at, brush_);
+    }
     strokeAt_ = at;
     const CellRect dirty = pen_.TakeDirty();
     if (!dirty.Empty()) {
@@ -89,7 +128,30 @@ CellRect TouchUp::StrokeTo(CellPos at) {
 
 void TouchUp::EndStroke() {
     drawing_ = false;
-    PushStroke(kBrushName);
+    PushStroke(StrokeName(), erasing_ ? EditIntent::Erase : EditIntent::Paint);
+    erasing_.reset();
+}
+
+CellRect TouchUp::Edit(const std::string& name, EditIntent intent,
+                       const std::function<void(EditPen&)>& work) {
+    EndStroke();
+    work(pen_);
+    PushStroke(name, intent);
+    return pen_.TakeDirty();
+}
+
+void TouchUp::ChangePalette(const std::string& name, EditIntent intent, SheetContents sheet) {
+    EndStroke();
+    RefuseFlaw(sheet_, "The paints cannot be changed");
+    history_.Push({name, sheet_.Copy(), intent});
+    sheet_.Exchange(sheet);
+    sheet_.Recount();
+    timer_.NoteChange();
+}
+
+void TouchUp::KeepWithin(std::shared_ptr<const CellSet> cells) {
+    EndStroke();
+    pen_.KeepWithin(std::move(cells));
 }
 
 void TouchUp::PushStroke(std::string name, EditIntent intent) {
@@ -100,27 +162,23 @@ void TouchUp::PushStroke(std::string name, EditIntent intent) {
 }
 
 CellRect TouchUp::Fill(CellPos at, int paint) {
-    EndStroke();
-    FillArea(pen_, at, paint);
-    PushStroke("Fill");
-    return pen_.TakeDirty();
+    return Edit("Fill", EditIntent::Paint, [&](EditPen& pen) { FillArea(pen, at, paint); });
 }
 
 CellRect TouchUp::Replace(int from, int to) {
-    EndStroke();
-    ReplacePaint(pen_, from, to);
-    PushStroke("Replace Paint", EditIntent::Exchange);
-    return pen_.TakeDirty();
+    // Within a selection it says nothing of the paint elsewhere.
+    const EditIntent intent = pen_.KeepsWithin() ? EditIntent::Paint : EditIntent::Exchange;
+    return Edit("Replace Paint", intent, [&](EditPen& pen) { ReplacePaint(pen, from, to); });
 }
 
-const BaseView& TouchUp::Base() {
+const BaseView& TouchUp::Base() const {
     if (std::exchange(baseId_, history_.StateId()) != history_.StateId()) {
         base_ = BaseView(atOpening_, history_.DoneSteps(), sheet_);
     }
     return base_;
 }
 
-CellRect TouchUp::Erase(std::span<const CellPos> cells) {
+CellRect TouchUp::Erase(std::span<const CellPos> cells, const std::string& name) {
     EndStroke();
     std::vector<CellChange> changes;
     CellRect dirty;
@@ -134,7 +192,7 @@ CellRect TouchUp::Erase(std::span<const CellPos> cells) {
     }
     if (!changes.empty()) {
         DoChanges(sheet_, changes);
-        history_.Push({"Erase", std::move(changes), EditIntent::Erase});
+        history_.Push({name, std::move(changes), EditIntent::Erase});
         timer_.NoteChange();
     }
     return dirty;
@@ -151,17 +209,19 @@ void TouchUp::LowerCleanLevel() {
 }
 
 CleanUpPreview TouchUp::PreviewCleanUp() const {
-    const std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
+    std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
+    std::erase_if(changes, [this](const CellChange& change) {
+        return !pen_.MayPaint({change.X, change.Y});
+    });
     return {static_cast<int>(changes.size()), CountAreasAfter(sheet_, changes)};
 }
 
 CellRect TouchUp::CleanUp() {
-    EndStroke();
-    for (const CellChange& change : PlanCleanUp(sheet_, place_.State->CleanLevel)) {
-        pen_.Paint({change.X, change.Y}, change.To);
-    }
-    PushStroke("Clean Up", EditIntent::Neighbors);
-    return pen_.TakeDirty();
+    return Edit("Clean Up", EditIntent::Neighbors, [this](EditPen& pen) {
+        for (const CellChange& change : PlanCleanUp(sheet_, place_.State->CleanLevel)) {
+            pen.Paint({change.X, change.Y}, change.To);
+        }
+    });
 }
 
 CellRect TouchUp::Undo() {
@@ -172,6 +232,24 @@ CellRect TouchUp::Undo() {
 CellRect TouchUp::Redo() {
     EndStroke();
     return AfterStep(history_.Redo(sheet_));
+}
+
+CellRect TouchUp::GoToStep(int done) {
+    EndStroke();
+    CellRect dirty;
+    const auto include = [&dirty](const CellRect& more) {
+        if (!more.Empty()) {
+            dirty.Include({more.Left, more.Top});
+            dirty.Include({more.Right, more.Bottom});
+        }
+    };
+    while (history_.Done() > done && history_.CanUndo()) {
+        include(history_.Undo(sheet_));
+    }
+    while (history_.Done() < done && history_.CanRedo()) {
+        include(history_.Redo(sheet_));
+    }
+    return AfterStep(dirty);
 }
 
 CellRect TouchUp::AfterStep(CellRect dirty) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -8,8 +9,10 @@
 
 #include "shell/workplace.h"
 #include "touchup/edit_history.h"
+#include "touchup/palette_steps.h"
 #include "touchup/recording.h"
 #include "touchup/recovery.h"
+#include "touchup/small_areas.h"
 #include "touchup/tidying.h"
 #include "touchup/tools.h"
 
@@ -27,6 +30,8 @@ struct CleanUpPreview {
 /// loads and TidyPaints alone.
 class TouchUp {
   public:
+    static constexpr const char* kEraseName = "Erase";
+
     /// Opens the editor on the kit's grid. Throws Error when there is none.
     explicit TouchUp(Workplace& place);
     TouchUp(const TouchUp&) = delete;
@@ -37,32 +42,54 @@ class TouchUp {
 
     // A stroke runs from press to release and is one step.
     CellRect BeginStroke(CellPos at, EditBrush brush);
+    /// The brush gives stipples back what the conversion gave them.
+    CellRect BeginErasing(CellPos at, EditBrush brush);
     CellRect StrokeTo(CellPos at);
     void EndStroke();
+    [[nodiscard]] bool Drawing() const { return drawing_; }
+
+    /// A step of any kind: what `work` paints. Nothing where that changes nothing.
+    CellRect Edit(const std::string& name, EditIntent intent,
+                  const std::function<void(EditPen&)>& work);
+    /// A step to another palette, its stipples following.
+    void ChangePalette(const std::string& name, EditIntent intent, SheetContents sheet);
+    /// The paint that every stipple has without the edits of its own.
+    [[nodiscard]] Grid<int> PaintsOfBase() const;
+    /// From here on all tools leave the stipples outside alone; no set lifts that.
+    void KeepWithin(std::shared_ptr<const CellSet> cells);
 
     CellRect Fill(CellPos at, int paint);
     CellRect Replace(int from, int to);
 
     /// The paint that a stipple has without the edits of its own; 0 outside the base.
-    [[nodiscard]] int BasePaintAt(CellPos at) { return Base().PaintAt(at); }
+    [[nodiscard]] int BasePaintAt(CellPos at) const { return Base().PaintAt(at); }
     /// Whether an edit of its own lies over a stipple; a stroke counts when it has ended.
-    [[nodiscard]] bool IsEdited(CellPos at) { return Base().IsEdited(at); }
+    [[nodiscard]] bool IsEdited(CellPos at) const { return Base().IsEdited(at); }
     /// Takes the edits of these stipples away, as one step.
-    CellRect Erase(std::span<const CellPos> cells);
+    CellRect Erase(std::span<const CellPos> cells, const std::string& name = kEraseName);
 
     void RaiseCleanLevel();
     void LowerCleanLevel();
     [[nodiscard]] CleanUpPreview PreviewCleanUp() const;
     CellRect CleanUp();
 
+    /// Areas of fewer than `smallest` stipples take the paint beside them.
+    [[nodiscard]] AreaMerge PreviewAreaMerge(int smallest) const;
+    CellRect MergeAreas(int smallest);
+
     [[nodiscard]] bool CanUndo() const { return history_.CanUndo() || pen_.Drew(); }
     [[nodiscard]] bool CanRedo() const { return history_.CanRedo() && !pen_.Drew(); }
     [[nodiscard]] std::string UndoName() const {
-        return pen_.Drew() ? kBrushName : history_.UndoName();
+        return pen_.Drew() ? StrokeName() : history_.UndoName();
     }
     [[nodiscard]] std::string RedoName() const { return CanRedo() ? history_.RedoName() : ""; }
     CellRect Undo();
     CellRect Redo();
+    /// Names of all steps, the undone ones too, and how many are done.
+    [[nodiscard]] std::vector<std::string> StepNames() const { return history_.Names(); }
+    [[nodiscard]] int StepsDone() const { return history_.Done(); }
+    /// Undoes or redoes until that many are done.
+    CellRect GoToStep(int done);
 
     /// Drops the paints that no stipple uses, as one step; nothing where there is none. Throws
     /// Error while a broken load stands.
@@ -110,9 +137,10 @@ class TouchUp {
 
   private:
     static constexpr const char* kBrushName = "Brush";
+    [[nodiscard]] std::string StrokeName() const { return erasing_ ? kEraseName : kBrushName; }
 
     void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
-    const BaseView& Base();
+    const BaseView& Base() const;
     void PushReplacement(std::string name, EditIntent intent);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
@@ -134,13 +162,14 @@ class TouchUp {
 
     Workplace& place_;
     KitEdits atOpening_;
-    BaseView base_;
-    int baseId_ = -1;  // state of the history that base_ was looked at
+    mutable BaseView base_;
+    mutable int baseId_ = -1;  // state of the history that base_ was looked at
     EditSheet sheet_;
     EditPen pen_{sheet_};
     EditHistory history_;
     RecoveryTimer timer_;
     EditBrush brush_;
+    std::optional<Grid<int>> erasing_;  // to these paints
     CellPos strokeAt_;
     bool drawing_ = false;
     int savedId_ = -1;  // state of the history that the saved grid holds, also after a load

@@ -1,5 +1,9 @@
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPaintEvent>
@@ -58,6 +62,12 @@ class TouchUpWindowTest : public QObject {
     void StrokesRepaintOnlyWhatTheyTouch();
     void ClosingTheProgramWithAcceptedWorkAsks();
     void KeptWorkIsRestoredOrThrownAway();
+    void PressesWithKeysPickEraseAndDrawLines();
+    void SelectionsAreMovedCopiedMirroredAndPasted();
+    void AreasAreOutlinedMarkedAndMerged();
+    void PaintsStandAloneAndMoveAndGo();
+    void HistoryGoesToAnyStep();
+    void PhotoAndPaintingStandBesideTheStipples();
     void AnEditorThatCannotOpenDoesNothingButClose();
     void TheEndOfTheSessionKeepsOpenWorkOrIsRefused();
 
@@ -171,7 +181,7 @@ void TouchUpWindowTest::SaveWritesTheFileAndFreesTheCancelFromItsQuestion() {
 void TouchUpWindowTest::WheelZoomsAtThePointer() {
     const double fit = canvas_->Edge();
     const QPoint spot = At(State().CellsAcross / 3, State().CellsDown / 2);
-    QWheelEvent turn(spot, canvas_->viewport()->mapToGlobal(spot), {}, {0, 1200}, Qt::NoButton, {},
+    QWheelEvent turn(spot, canvas_->viewport()->mapToGlobal(spot), {}, {0, 3600}, Qt::NoButton, {},
                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(canvas_->viewport(), &turn);
     QCOMPARE(canvas_->Edge(), TouchUpCanvas::kLargestEdge);
@@ -207,7 +217,7 @@ void TouchUpWindowTest::ZoomingAfterALonerIsFoundShowsIt() {
     QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(loner.X, loner.Y));
     QTest::mouseMove(canvas_->viewport(), At(3, 3));
     QTest::keyClick(canvas_, Qt::Key_F3);
-    for (int i = 0; i < 12; ++i) {
+    for (int i = 0; i < 20; ++i) {
         QTest::keyClick(canvas_, Qt::Key_Plus);
     }
     QCOMPARE(canvas_->Edge(), TouchUpCanvas::kLargestEdge);
@@ -297,6 +307,133 @@ void TouchUpWindowTest::KeptWorkIsRestoredOrThrownAway() {
     QVERIFY(!kept.isVisible());
     QCOMPARE(PaintAt(2, 2), 2);
     QCOMPARE(UndoText(), QStringLiteral("Undo Restore"));
+}
+
+void TouchUpWindowTest::PressesWithKeysPickEraseAndDrawLines() {
+    QWidget* const picture = canvas_->viewport();
+    QTest::keyClick(canvas_, Qt::Key_BracketRight);
+    QTest::keyClick(canvas_, Qt::Key_BracketRight);
+    QTest::keyClick(canvas_, Qt::Key_Q);
+    QTest::mouseClick(picture, Qt::LeftButton, {}, At(3, 3));
+    QVERIFY2(PaintAt(3, 2) == 2 && PaintAt(2, 2) == 1, "a round brush of three is a cross");
+    QTest::mouseClick(picture, Qt::LeftButton, Qt::ShiftModifier, At(9, 3));
+    QCOMPARE(PaintAt(6, 2), 2);
+    QCOMPARE(UndoText(), QStringLiteral("Undo Line"));
+    QTest::mouseClick(picture, Qt::LeftButton, Qt::ControlModifier, At(20, 20));
+    QCOMPARE(Rows().indexOfTopLevelItem(Rows().currentItem()), 0);
+    QTest::keyClick(canvas_, Qt::Key_X);
+    QCOMPARE(Rows().indexOfTopLevelItem(Rows().currentItem()), 1);
+    QTest::mousePress(picture, Qt::RightButton, Qt::ShiftModifier, At(1, 3));
+    QTest::mouseMove(picture, At(12, 3));
+    QTest::mouseRelease(picture, Qt::RightButton, Qt::ShiftModifier, At(12, 3));
+    QCOMPARE(UndoText(), QStringLiteral("Undo Erase"));
+    QCOMPARE(State().EditStipples, State().Stipples);
+}
+
+void TouchUpWindowTest::SelectionsAreMovedCopiedMirroredAndPasted() {
+    QWidget* const picture = canvas_->viewport();
+    QTest::mouseClick(picture, Qt::LeftButton, {}, At(3, 3));
+    QTest::keyClick(canvas_, Qt::Key_V);
+    Drag(At(2, 3), At(3, 4));
+    QCOMPARE(Find<QLabel>(*canvas_->window(), "Selected").text(),
+             QStringLiteral("4 stipples selected"));
+    QTest::keyClick(canvas_, Qt::Key_H);
+    QVERIFY(PaintAt(2, 3) == 2 && PaintAt(3, 3) == 1);
+    QTest::keyClick(canvas_, Qt::Key_M);
+    Drag(At(2, 3), At(8, 9));
+    QVERIFY(PaintAt(8, 9) == 2 && PaintAt(2, 3) == 1);
+    QCOMPARE(UndoText(), QStringLiteral("Undo Move"));
+    QTest::keyClick(canvas_, Qt::Key_Right);
+    QCOMPARE(PaintAt(9, 9), 2);
+    QTest::keySequence(canvas_, QKeySequence(QKeySequence::Copy));
+    QTest::keySequence(canvas_, QKeySequence(QKeySequence::Paste));
+    QTest::keyClick(canvas_, Qt::Key_Return);
+    QCOMPARE(UndoText(), QStringLiteral("Undo Paste"));
+    QCOMPARE(PaintAt(9, 9), 2);
+    QVERIFY2(PaintAt(7, 8) == 2, "round the pointer");
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_A));
+    QTest::keyClick(canvas_, Qt::Key_Delete);
+    QCOMPARE(State().EditStipples, State().Stipples);
+    QTest::keyClick(canvas_, Qt::Key_Escape);
+    QVERIFY(canvas_->isVisible());
+    QTest::keyClick(canvas_, Qt::Key_W);
+    QTest::mouseClick(picture, Qt::LeftButton, {}, At(2, 2));
+    QTest::keyClick(canvas_, Qt::Key_F, Qt::ShiftModifier);
+    QCOMPARE(Rows().topLevelItem(0)->text(2), QStringLiteral("0"));
+}
+
+void TouchUpWindowTest::AreasAreOutlinedMarkedAndMerged() {
+    QWidget& window = *canvas_->window();
+    QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(3, 3));
+    QTest::keyClick(canvas_, Qt::Key_O);
+    QVERIFY(Find<QCheckBox>(window, "Outlines").isChecked());
+    Find<QCheckBox>(window, "MarkHard").click();
+    QTest::keyClick(canvas_, Qt::Key_F4);
+    QCOMPARE(Find<QLabel>(window, "Hard").text(),
+             QStringLiteral("1 area is hard to paint; column 3, row 3"));
+    Find<QCheckBox>(window, "MergePreview").click();
+    QVERIFY(Find<QLabel>(window, "MergeText").text().startsWith("1 stipple would change"));
+    const QImage marked = canvas_->viewport()->grab().toImage();
+    Find<QPushButton>(window, "MergeAreas").click();
+    QCOMPARE(State().EditStipples, State().Stipples);
+    QVERIFY(canvas_->viewport()->grab().toImage() != marked);
+    QCOMPARE(UndoText(), QStringLiteral("Undo Merge Areas"));
+}
+
+void TouchUpWindowTest::PaintsStandAloneAndMoveAndGo() {
+    QWidget& window = *canvas_->window();
+    const auto colorAt = [this](int x, int y) {
+        const QImage shot = canvas_->viewport()->grab().toImage();
+        return shot.pixelColor(At(x, y));
+    };
+    QTest::keyClick(canvas_, Qt::Key_A);
+    QVERIFY2(colorAt(2, 2).green() > 150, "the red half is paled");
+    QTest::keyClick(canvas_, Qt::Key_A);
+    QCOMPARE(colorAt(2, 2), QColor(200, 0, 0));
+    QTest::keyClick(canvas_, Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(PaintAt(1, 1), 2);
+    QCOMPARE(Rows().topLevelItem(0)->text(1), QStringLiteral("Green"));
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    Find<QPushButton>(window, "RemovePaint").click();
+    QCOMPARE(Rows().topLevelItemCount(), 1);
+    QTimer::singleShot(0, &window, [] {
+        auto* dialog = QApplication::activeModalWidget();
+        QVERIFY(dialog != nullptr);
+        QTest::keyClicks(&Find<QLineEdit>(*dialog, "PaintWords"), "gree");
+        QCOMPARE(Find<QListWidget>(*dialog, "PaintOffers").count(), 1);
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    Find<QPushButton>(window, "AddPaint").click();
+    QCOMPARE(Rows().topLevelItem(1)->text(1), QStringLiteral("Green"));
+    QCOMPARE(Rows().indexOfTopLevelItem(Rows().currentItem()), 1);
+}
+
+void TouchUpWindowTest::HistoryGoesToAnyStep() {
+    auto& history = Find<QListWidget>(*canvas_->window(), "History");
+    Drag(At(1, 1), At(3, 1));
+    QTest::keyClick(canvas_, Qt::Key_F);
+    QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(9, 9));
+    QCOMPARE(history.count(), 3);
+    QCOMPARE(history.item(2)->text(), QStringLiteral("Fill"));
+    history.setCurrentRow(0);
+    QCOMPARE(State().EditStipples, State().Stipples);
+    QCOMPARE(history.count(), 3);
+    history.setCurrentRow(1);
+    QVERIFY(PaintAt(2, 1) == 2 && PaintAt(9, 9) == 1);
+}
+
+void TouchUpWindowTest::PhotoAndPaintingStandBesideTheStipples() {
+    auto& what = Find<QComboBox>(*canvas_->window(), "Beside");
+    auto& beside = Find<QWidget>(*canvas_->window(), "BesideView");
+    what.setCurrentIndex(1);
+    const auto colorAt = [&](int x, int y) { return beside.grab().toImage().pixelColor(At(x, y)); };
+    QTRY_COMPARE(colorAt(2, 2), QColor(200, 0, 0));
+    QTest::keyClick(canvas_, Qt::Key_F);
+    QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(2, 2));
+    QCOMPARE(colorAt(2, 2), QColor(200, 0, 0));
+    what.setCurrentIndex(2);
+    QTRY_COMPARE_WITH_TIMEOUT(colorAt(2, 2), QColor(0, 200, 0), 20000);
+    QVERIFY2(State().EditStipples != State().Stipples, "the kit itself waits for Accept");
 }
 
 void TouchUpWindowTest::AnEditorThatCannotOpenDoesNothingButClose() {

@@ -57,6 +57,7 @@ class TouchUpFormTest : public ::testing::Test {
         form_->Tool_Click(tool);
         form_->PointerDown(at);
         form_->PointerUp();
+        form_->FollowFigures();
     }
     /// One stipple of paint 4 in the red quarter: a change, and a loner.
     void MakeSpot() {
@@ -106,7 +107,7 @@ TEST_F(TouchUpFormTest, ToolsRepaintWhatTheyAreMeantTo) {
     Press({1, 1});
     EXPECT_FALSE(Shown().UndoEnabled) << "the paint was there already";
     form_->PaintList_Click(2);
-    form_->BrushSize_Click(BrushSize::Three);
+    form_->BrushSize_Click(3);
     for (const auto& [tool, replaced, caption] :
          {std::tuple{TouchUpTool::Brush, 9, "Undo Brush"},
           {TouchUpTool::Fill, quarter, "Undo Fill"},

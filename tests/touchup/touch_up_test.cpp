@@ -12,6 +12,8 @@
 #include "sheets.h"
 #include "support/error.h"
 #include "support/leftovers.h"
+#include "touchup/cell_patch.h"
+#include "touchup/selecting.h"
 #include "touchup/unsaved_work.h"
 
 namespace vendrel::test {
@@ -32,57 +34,111 @@ EditTime At(int second) {
     return EditTime{} + std::chrono::seconds(second);
 }
 
+// The editor as plainly as it can be had: a whole copy of the kit for every state.
+class PlainHistory {
+  public:
+    explicit PlainHistory(const EditSheet& sheet) : states_{StateOf(sheet)} {}
+    [[nodiscard]] bool Shows(const EditSheet& sheet) const {
+        return states_[done_] == StateOf(sheet);
+    }
+    [[nodiscard]] std::size_t Count() const { return states_.size(); }
+    void GoTo(std::size_t done) { done_ = std::min(done, states_.size() - 1); }
+    void Follow(const TouchUp& editor) {
+        if (static_cast<std::size_t>(editor.StepsDone()) != done_ || !Shows(editor.Sheet())) {
+            states_.resize(done_ + 1);
+            states_.push_back(StateOf(editor.Sheet()));
+            ++done_;
+        }
+    }
+    [[nodiscard]] std::size_t Done() const { return done_; }
+
+  private:
+    using State = std::pair<Grid<StippleCell>, PaintList>;
+    static State StateOf(const EditSheet& sheet) { return {sheet.Cells(), sheet.Paints()}; }
+    std::vector<State> states_;
+    std::size_t done_ = 0;
+};
+
 // An edit of any kind, as a hand on the mouse would make it.
 void EditAtRandom(TouchUp& editor, WorkState& state, std::mt19937& random) {
-    const auto upTo = [&](unsigned n) { return static_cast<int>(random() % n); };
-    const CellPos from{upTo(16), upTo(13)};
-    const int paint = 1 + upTo(6);
+    const auto upTo = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    const EditSheet& sheet = editor.Sheet();
+    const CellPos from{upTo(12), upTo(9)};
+    const CellPos to{upTo(12), upTo(9)};
+    const int paint = 1 + upTo(sheet.PaintCount());
+    const int other = 1 + upTo(sheet.PaintCount());
+    const EditBrush brush{1 + upTo(kLargestBrush), paint, upTo(2) == 0};
+    const CellSet cells = upTo(2) == 0 ? CellsBetween(sheet, from, to) : AreaAround(sheet, from);
     state.CleanLevel = 2 + upTo(7);
     const std::function<void()> edits[] = {
         [&] { editor.Fill(from, paint); },
-        [&] { editor.Replace(paint, 1 + upTo(6)); },
+        [&] { editor.Replace(paint, other); },
         [&] { editor.CleanUp(); },
-        [&] { editor.Undo(); },
-        [&] { editor.Redo(); },
+        [&] { editor.MergeAreas(1 + upTo(6)); },
+        [&] { editor.BeginStroke(from, brush), editor.StrokeTo(to), editor.EndStroke(); },
+        [&] { editor.BeginErasing(from, brush), editor.StrokeTo(to), editor.EndStroke(); },
+        [&] { editor.KeepWithin(upTo(2) == 0 ? nullptr : std::make_shared<const CellSet>(cells)); },
         [&] {
-            editor.BeginStroke(from, {static_cast<BrushSize>(1 + upTo(3)), paint});
-            editor.StrokeTo({upTo(16), upTo(13)});
+            editor.Edit("Move", EditIntent::Paint, [&](EditPen& pen) {
+                const CellPatch patch = Mirrored(CutPatch(sheet, cells), MirrorWay::UpsideDown);
+                CloseHole(pen, cells);
+                PlacePatch(pen, patch, to);
+            });
         },
+        [&] {
+            PaintColor fresh = state.PaintColors[1];
+            fresh.PaintName = "Fresh " + std::to_string(upTo(3));
+            editor.ChangePalette("Add", EditIntent::Paint, WithPaints(sheet, {fresh}));
+        },
+        [&] {
+            if (sheet.PaintCount() > 2) {
+                editor.ChangePalette("Remove", EditIntent::Exchange, WithoutPaint(sheet, paint));
+            }
+        },
+        [&] {
+            editor.ChangePalette("Sort", EditIntent::Paint, WithPaintMoved(sheet, paint, other));
+        },
+        [&] { editor.TidyPaints(); },
     };
-    edits[upTo(6)]();
+    edits[upTo(std::ssize(edits))]();
 }
 
-TEST(History, UndoneToTheBottomGivesTheFirstGridBackAndRedoneTheLast) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
+TEST(History, ShowsWhatAPlainModelShowsThroughThousandsOfSessions) {
+    for (unsigned seed = 1; seed <= 2000; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
-        KitBench bench(Rows(12, "123456123456123"), 6);
+        KitBench bench(Rows(8, "12345612345"), 6);
         TouchUp editor(bench.Place);
-        for (int i = 0; i < 60; ++i) {
-            EditAtRandom(editor, bench.State, random);
-            ASSERT_TRUE(bench.CountsAreTrue());
-        }
-        const auto redoAll = [&editor] {
-            while (editor.CanRedo()) {
+        PlainHistory plain(editor.Sheet());
+        for (int i = 0; i < 25; ++i) {
+            if (random() % 3 != 0) {
+                EditAtRandom(editor, bench.State, random);
+                plain.Follow(editor);
+            } else if (random() % 2 == 0) {
+                plain.GoTo(random() % plain.Count());
+                editor.GoToStep(static_cast<int>(plain.Done()));
+            } else if (plain.Done() > 0) {
+                plain.GoTo(plain.Done() - 1);
+                editor.Undo();
+            } else {
+                plain.GoTo(1);
                 editor.Redo();
             }
-        };
-        redoAll();
-        const Grid<StippleCell> last = bench.State.EditStipples;
-        while (editor.CanUndo()) {
-            editor.Undo();
+            ASSERT_TRUE(plain.Shows(editor.Sheet()));
+            ASSERT_TRUE(bench.CountsAreTrue());
+            ASSERT_EQ(editor.StepNames().size() + 1, plain.Count());
         }
-        EXPECT_EQ(bench.State.EditStipples, bench.State.Stipples);
+        plain.GoTo(0);
+        editor.GoToStep(0);
+        EXPECT_TRUE(plain.Shows(editor.Sheet()));
         EXPECT_FALSE(editor.HasChanges());
-        redoAll();
-        EXPECT_EQ(bench.State.EditStipples, last);
     }
 }
 
 TEST(History, NamesItsStepsAndForgetsTheUndoneOnesWithANewEdit) {
     KitBench bench({"11", "22"});
     TouchUp editor(bench.Place);
-    editor.BeginStroke({1, 1}, {BrushSize::One, 3});
+    editor.BeginStroke({1, 1}, {1, 3});
     EXPECT_EQ(editor.UndoName(), "Brush") << "already while the button is down";
     editor.Fill({1, 2}, 4);
     editor.Undo();
@@ -406,7 +462,7 @@ TEST(Recovery, StaysWithAnAcceptedGridUntilItIsSaved) {
     {
         TouchUp again(bench.Place);
         EXPECT_THAT(Listed(bench.Place), IsEmpty()) << "the work is not lost, it is here";
-        again.BeginStroke({1, 1}, {BrushSize::One, 1});
+        again.BeginStroke({1, 1}, {1, 1});
         again.KeepRecovery(At(1));
         EXPECT_FALSE(again.Cancel());
         again.SettleRecovery();

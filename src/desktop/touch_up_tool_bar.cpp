@@ -1,0 +1,154 @@
+#include "desktop/touch_up_tool_bar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <array>
+#include <cstring>
+#include <utility>
+
+#include "desktop/text.h"
+
+namespace vendrel {
+namespace {
+
+/// A tool: what it is called, what its key is.
+struct ToolLook {
+    const char* Name;
+    const char* Caption;
+    const char* Hint;
+    TouchUpTool Tool;
+    int Size = 0;  // of a brush that is a tool of its own
+};
+
+constexpr std::array<ToolLook, 10> kTools = {{
+    {"Brush1", "1", "Brush of one stipple (1); B takes the brush as it was", TouchUpTool::Brush, 1},
+    {"Brush2", "2", "Brush of two by two stipples (2)", TouchUpTool::Brush, 2},
+    {"Brush3", "3", "Brush of three by three stipples (3)", TouchUpTool::Brush, 3},
+    {"Fill", "Fill", "Fill an area with the chosen paint (F)", TouchUpTool::Fill},
+    {"Replace", "Replace", "Replace a paint everywhere by the chosen one (R)",
+     TouchUpTool::Replace},
+    {"Select", "Box", "Select a rectangle (V); Shift adds, Alt takes away", TouchUpTool::Box},
+    {"Lasso", "Lasso", "Select by a line around (L); Shift adds, Alt takes away",
+     TouchUpTool::Lasso},
+    {"SamePaint", "Paint", "Select all stipples of one paint (W); Shift adds, Alt takes away",
+     TouchUpTool::SamePaint},
+    {"SameArea", "Area", "Select an area (Shift+W); Shift adds, Alt takes away",
+     TouchUpTool::SameArea},
+    {"Move", "Move", "Move the selection (M); with Alt a copy of it", TouchUpTool::Move},
+}};
+
+// Some styles hardly show which button is down, dark ones above all.
+void MirrorTool(QToolButton& button, bool inHand) {
+    button.setChecked(inHand);
+    QPalette look;
+    if (inHand) {
+        look.setBrush(QPalette::Button, look.highlight());
+        look.setBrush(QPalette::ButtonText, look.highlightedText());
+    }
+    button.setPalette(look);
+}
+
+}  // namespace
+
+TouchUpToolBar::TouchUpToolBar(EditorWork work, QWidget* parent)
+    : QWidget(parent),
+      Undo(EditorButton("Undo", tr("Undo"), tr("Undo (Ctrl+Z)"), work, &TouchUpForm::Undo_Click)),
+      Redo(EditorButton("Redo", tr("Redo"), tr("Redo (Ctrl+Shift+Z)"), work,
+                        &TouchUpForm::Redo_Click)),
+      ZoomIn(EditorButton<QToolButton>("ZoomIn", QStringLiteral("+"), tr("Zoom in (+)"))),
+      ZoomOut(
+          EditorButton<QToolButton>("ZoomOut", QStringLiteral("\u2212"), tr("Zoom out (\u2212)"))),
+      Fit(EditorButton<QToolButton>("Fit", tr("Fit"), tr("Show the whole picture (0)"))),
+      ActualSize(EditorButton<QToolButton>("ActualSize", QStringLiteral("1:1"),
+                                           tr("The photo's own size (9)"))),
+      work_(std::move(work)),
+      size_(Named<QSpinBox>("BrushSize", tr("Brush size in stipples"))),
+      round_(EditorButton("BrushRound", tr("Round"), tr("Round brush (Q)"), work_,
+                          &TouchUpForm::BrushShape_Click)),
+      zoom_(new ValueLabel("Zoom", tr("Zoom"))) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(3);
+    AddTools(*row);
+    row->addSpacing(12);
+    row->addWidget(Undo);
+    row->addWidget(Redo);
+    row->addStretch(1);
+    zoom_->setMinimumWidth(zoom_->fontMetrics().horizontalAdvance(QStringLiteral("24.0 pixels ")));
+    zoom_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    for (QWidget* widget : {static_cast<QWidget*>(zoom_), static_cast<QWidget*>(ZoomOut),
+                            static_cast<QWidget*>(ZoomIn), static_cast<QWidget*>(Fit),
+                            static_cast<QWidget*>(ActualSize)}) {
+        row->addWidget(widget);
+    }
+}
+
+void TouchUpToolBar::AddTools(QHBoxLayout& row) {
+    row.addWidget(new QLabel(tr("Brush")));
+    for (std::size_t i = 0; i < kTools.size(); ++i) {
+        tools_.push_back(
+            EditorButton<QToolButton>(kTools[i].Name, tr(kTools[i].Caption), tr(kTools[i].Hint)));
+        tools_[i]->setCheckable(true);
+        connect(tools_[i], &QToolButton::clicked, this, [this, i] { Use(i); });
+        if (kTools[i].Tool == TouchUpTool::Fill) {
+            AddBrush(row);
+            row.addSpacing(12);
+        } else if (kTools[i].Tool == TouchUpTool::Box) {
+            row.addSpacing(12);
+            row.addWidget(new QLabel(tr("Select")));
+        }
+        row.addWidget(tools_[i]);
+    }
+}
+
+void TouchUpToolBar::AddBrush(QHBoxLayout& row) {
+    size_->setRange(1, kLargestBrush);
+    size_->setToolTip(tr("Brush size ([ and ])"));
+    size_->setFocusPolicy(Qt::ClickFocus);
+    connect(size_, &QSpinBox::valueChanged, this,
+            [this](int size) { work_([size](TouchUpForm& form) { form.BrushSize_Click(size); }); });
+    round_->setCheckable(true);
+    row.addWidget(size_);
+    row.addWidget(round_);
+}
+
+void TouchUpToolBar::Use(std::size_t tool) {
+    const ToolLook& look = kTools.at(tool);
+    work_([&look](TouchUpForm& form) {
+        if (look.Size > 0) {
+            form.BrushSize_Click(look.Size);
+        } else {
+            form.Tool_Click(look.Tool);
+        }
+    });
+}
+
+void TouchUpToolBar::Take(const char* tool) {
+    for (std::size_t i = 0; i < kTools.size(); ++i) {
+        if (std::strcmp(kTools[i].Name, tool) == 0) {
+            Use(i);
+        }
+    }
+}
+
+void TouchUpToolBar::Mirror(const TouchUpControls& shown) {
+    for (std::size_t i = 0; i < kTools.size(); ++i) {
+        MirrorTool(*tools_[i], kTools[i].Tool == shown.Tool &&
+                                   (kTools[i].Size == 0 || kTools[i].Size == shown.Brush.Size));
+    }
+    const QSignalBlocker quiet(size_);
+    size_->setValue(shown.Brush.Size);
+    MirrorTool(*round_, shown.Brush.Round);
+    Undo->setText(Text(shown.UndoCaption));
+    Redo->setText(Text(shown.RedoCaption));
+    Undo->setEnabled(shown.UndoEnabled);
+    Redo->setEnabled(shown.RedoEnabled);
+}
+
+void TouchUpToolBar::ShowZoom(double edge) {
+    zoom_->Show(edge == static_cast<int>(edge) ? tr("%1 pixels").arg(static_cast<int>(edge))
+                                               : tr("%1 pixels").arg(edge, 0, 'f', 1));
+}
+
+}  // namespace vendrel
