@@ -88,8 +88,8 @@ void Measure(TouchUpCanvas& canvas, const char* what) {
     auto* editor = canvas.window();
     for (int i = 0; i < 8; ++i) {
         editor->findChild<QTreeWidget*>(QStringLiteral("Palette"))
-            ->setCurrentItem(editor->findChild<QTreeWidget*>(QStringLiteral("Palette"))
-                                 ->topLevelItem(i));
+            ->setCurrentItem(
+                editor->findChild<QTreeWidget*>(QStringLiteral("Palette"))->topLevelItem(i));
         hand.Stroke(Qt::LeftButton, moves, ends);
         hand.Stroke(Qt::MiddleButton, pans, panEnds);
     }

@@ -54,18 +54,18 @@ void PaintingJob::Paint() {
     }
     busy_ = true;
     stale_ = false;
-    threads_.start([this, preview = preview_, paints = form_.Sheet().Paints(),
-                    cells = form_.Sheet().Cells()] {
-        QImage picture;
-        QString trouble;
-        try {
-            picture = ToImage(preview->Paint(paints, cells)).copy();
-        } catch (const std::exception& failure) {
-            trouble = Text(SentenceOf(failure));
-        }
-        QMetaObject::invokeMethod(
-            this, [this, picture, trouble] { Finish(picture, trouble); }, Qt::QueuedConnection);
-    });
+    threads_.start(
+        [this, preview = preview_, paints = form_.Sheet().Paints(), cells = form_.Sheet().Cells()] {
+            QImage picture;
+            QString trouble;
+            try {
+                picture = ToImage(preview->Paint(paints, cells)).copy();
+            } catch (const std::exception& failure) {
+                trouble = Text(SentenceOf(failure));
+            }
+            QMetaObject::invokeMethod(
+                this, [this, picture, trouble] { Finish(picture, trouble); }, Qt::QueuedConnection);
+        });
 }
 
 void PaintingJob::Finish(const QImage& picture, const QString& trouble) {

@@ -353,7 +353,7 @@ void TouchUpForm::Touched(const CellRect& dirty) {
     }
 }
 
-void TouchUpForm::Follow() {
+void TouchUpForm::FollowSteps() {
     if (!Sheet().HoldsPaint(controls_.Brush.Paint)) {
         controls_.Brush.Paint = 1;
     }
@@ -367,10 +367,21 @@ void TouchUpForm::Follow() {
     controls_.StepsDone = editor_->StepsDone();
     selection_->Follow();
     controls_.Selected = selection_->Text();
-    areas_->Follow();
     FollowPalette();
-    FollowCleanUp();
-    FollowLoners();
+}
+
+void TouchUpForm::FollowFigures() {
+    if (std::exchange(figuresStale_, false)) {
+        areas_->Follow();
+        FollowCleanUp();
+        FollowLoners();
+    }
+}
+
+void TouchUpForm::Follow() {
+    FollowSteps();
+    figuresStale_ = true;
+    FollowFigures();
 }
 
 void TouchUpForm::FollowPalette() {

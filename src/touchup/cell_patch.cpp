@@ -128,10 +128,9 @@ void CloseHole(EditPen& pen, const CellSet& hole) {
 }
 
 std::string PatchText(const CellPatch& patch) {
-    std::string text = Quoted(std::string(kFirstField)) + ",1\n" +
-                       std::to_string(patch.Cells.Across()) + ',' +
-                       std::to_string(patch.Cells.Down()) + ',' +
-                       std::to_string(patch.Paints.Count()) + '\n';
+    std::string text =
+        Quoted(std::string(kFirstField)) + ",1\n" + std::to_string(patch.Cells.Across()) + ',' +
+        std::to_string(patch.Cells.Down()) + ',' + std::to_string(patch.Paints.Count()) + '\n';
     for (const PaintColor& paint : patch.Paints) {
         text += std::to_string(paint.Red) + ',' + std::to_string(paint.Green) + ',' +
                 std::to_string(paint.Blue) + ',' + Quoted(paint.Mfg) + ',' +

@@ -57,6 +57,7 @@ class TouchUpFormTest : public ::testing::Test {
         form_->Tool_Click(tool);
         form_->PointerDown(at);
         form_->PointerUp();
+        form_->FollowFigures();
     }
     /// One stipple of paint 4 in the red quarter: a change, and a loner.
     void MakeSpot() {
