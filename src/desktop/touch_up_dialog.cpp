@@ -330,6 +330,7 @@ void TouchUpDialog::PasteSelection() {
 
 void TouchUpDialog::ShowBeside() {
     beside_->Show(view_->WhatBeside());
+    static_cast<QSplitter*>(beside_->parentWidget())->setSizes({width(), width()});
     painting_->Want(view_->WhatBeside() == Beside::Painting);
 }
 

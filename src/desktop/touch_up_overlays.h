@@ -40,6 +40,9 @@ class TouchUpOverlays {
   private:
     [[nodiscard]] std::vector<CellPos> BrushCells(CellPos at) const;
     [[nodiscard]] QColor PaintColorOf(int paint) const;
+    /// As they would be once the areas were merged, while that is shown.
+    [[nodiscard]] Grid<int> PaintsShown() const;
+    void PaintMergeBorders(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintMerge(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintHard(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintOutlines(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
