@@ -242,6 +242,8 @@ void TouchUpDialog::Load() {
     painting_->Start(Context().Place);
     canvas_->Start(Context().Place.Frames->CaptureFrame.Picture,
                    Context().Place.State->StippleSize);
+    beside_->SetPainting({}, {});
+    ShowBeside();
     Mirror();
     recovery_.start();
     form_.OfferRecovery();
