@@ -64,15 +64,18 @@ void PaintingJob::Paint() {
                 trouble = Text(SentenceOf(failure));
             }
             QMetaObject::invokeMethod(
-                this, [this, picture, trouble] { Finish(picture, trouble); }, Qt::QueuedConnection);
+                this,
+                [this, picture, trouble, preview] {
+                    busy_ = false;
+                    if (preview == preview_) {  // else the editor was closed meanwhile
+                        Finish(picture, trouble);
+                    }
+                },
+                Qt::QueuedConnection);
         });
 }
 
 void PaintingJob::Finish(const QImage& picture, const QString& trouble) {
-    busy_ = false;
-    if (place_ == nullptr) {
-        return;  // closed meanwhile
-    }
     emit Painted(picture, trouble);
     if (stale_ && wanted_ && !pause_.isActive()) {
         pause_.start();

@@ -243,6 +243,8 @@ void TouchUpDialog::Load() {
     painting_->Start(Context().Place);
     canvas_->Start(Context().Place.Frames->CaptureFrame.Picture,
                    Context().Place.State->StippleSize);
+    beside_->SetPainting({}, {});
+    ShowBeside();
     Mirror();
     recovery_.start();
     form_.OfferRecovery();
@@ -332,6 +334,7 @@ void TouchUpDialog::PasteSelection() {
 
 void TouchUpDialog::ShowBeside() {
     beside_->Show(view_->WhatBeside());
+    static_cast<QSplitter*>(beside_->parentWidget())->setSizes({width(), width()});
     painting_->Want(view_->WhatBeside() == Beside::Painting);
 }
 

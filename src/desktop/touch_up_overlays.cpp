@@ -101,6 +101,7 @@ void TouchUpOverlays::Paint(QPainter& painter, const CellRect& shown,
     if (form_.Areas().Controls().Outlines) {
         PaintOutlines(painter, shown, place);
     }
+    PaintMergeBorders(painter, shown, place);
     PaintHard(painter, shown, place);
     PaintFloating(painter, shown, place);
     const CellSet& selected = form_.Selection().Cells();
@@ -127,19 +128,38 @@ void TouchUpOverlays::PaintEdits(QPainter& painter, const CellRect& shown,
     painter.drawLines(OutlineOf(shown, place, isEdited));
 }
 
+Grid<int> TouchUpOverlays::PaintsShown() const {
+    const EditSheet& sheet = form_.Sheet();
+    Grid<int> paints(sheet.Across(), sheet.Down());
+    for (int y = 1; y <= sheet.Down(); ++y) {
+        for (int x = 1; x <= sheet.Across(); ++x) {
+            paints(x, y) = sheet.PaintAt({x, y});
+        }
+    }
+    for (const CellChange& change : form_.Areas().Changes()) {
+        paints(change.X, change.Y) = change.To;
+    }
+    return paints;
+}
+
 void TouchUpOverlays::PaintMerge(QPainter& painter, const CellRect& shown,
                                  const SheetPlace& place) const {
+    for (const CellChange& change : form_.Areas().Changes()) {
+        if (IsShown({change.X, change.Y}, shown)) {
+            painter.fillRect(place.RectOf(CellPos{change.X, change.Y}), PaintColorOf(change.To));
+        }
+    }
+}
+
+void TouchUpOverlays::PaintMergeBorders(QPainter& painter, const CellRect& shown,
+                                        const SheetPlace& place) const {
     const std::vector<CellChange>& changes = form_.Areas().Changes();
     if (changes.empty()) {
         return;
     }
     CellSet changed(form_.Sheet().Across(), form_.Sheet().Down());
     for (const CellChange& change : changes) {
-        const CellPos at{change.X, change.Y};
-        changed.Add(at);
-        if (IsShown(at, shown)) {
-            painter.fillRect(place.RectOf(at), PaintColorOf(change.To));
-        }
+        changed.Add({change.X, change.Y});
     }
     painter.setPen(QPen(kMarkColor, 1));
     painter.drawLines(OutlineOf(shown, place, [&changed](CellPos at) { return changed.Has(at); }));
@@ -154,15 +174,17 @@ void TouchUpOverlays::PaintHard(QPainter& painter, const CellRect& shown,
 
 void TouchUpOverlays::PaintOutlines(QPainter& painter, const CellRect& shown,
                                     const SheetPlace& place) const {
-    const EditSheet& sheet = form_.Sheet();
+    const Grid<int> paints = PaintsShown();
+    const auto paintAt = [&paints](CellPos at) {
+        return paints.Holds(at.X, at.Y) ? paints(at.X, at.Y) : 0;
+    };
     // Black would not show between dark paints.
     const auto isDark = [&](CellPos at) {
-        return qGray(PaintColorOf(sheet.PaintAt(at)).rgb()) < kDarkGray;
+        return qGray(PaintColorOf(paintAt(at)).rgb()) < kDarkGray;
     };
     for (const bool dark : {false, true}) {
         const Lines lines = SidesBetween(shown, place, [&](CellPos one, CellPos other) {
-            return sheet.PaintAt(one) != sheet.PaintAt(other) &&
-                   (isDark(one) && isDark(other)) == dark;
+            return paintAt(one) != paintAt(other) && (isDark(one) && isDark(other)) == dark;
         });
         painter.setPen(QPen(dark ? QColor(Qt::lightGray) : QColor(Qt::black), 1));
         painter.drawLines(lines);

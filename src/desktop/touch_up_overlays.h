@@ -42,6 +42,9 @@ class TouchUpOverlays {
     [[nodiscard]] std::vector<CellPos> BrushCells(CellPos at) const;
     [[nodiscard]] QColor PaintColorOf(int paint) const;
     void PaintEdits(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
+    /// As they would be once the areas were merged, while that is shown.
+    [[nodiscard]] Grid<int> PaintsShown() const;
+    void PaintMergeBorders(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintMerge(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintHard(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintOutlines(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;

@@ -28,14 +28,16 @@ constexpr std::array<ToolLook, 10> kTools = {{
     {"Fill", "Fill", "Fill an area with the chosen paint (F)", TouchUpTool::Fill},
     {"Replace", "Replace", "Replace a paint everywhere by the chosen one (R)",
      TouchUpTool::Replace},
-    {"Select", "Box", "Select a rectangle (V); Shift adds, Alt takes away", TouchUpTool::Box},
-    {"Lasso", "Lasso", "Select by a line around (L); Shift adds, Alt takes away",
+    {"Select", "Box", "Select a rectangle (V); Shift adds, Ctrl+Shift takes away",
+     TouchUpTool::Box},
+    {"Lasso", "Lasso", "Select by a line around (L); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::Lasso},
-    {"SamePaint", "Paint", "Select all stipples of one paint (W); Shift adds, Alt takes away",
+    {"SamePaint", "Paint",
+     "Select all stipples of one paint (W); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::SamePaint},
-    {"SameArea", "Area", "Select an area (Shift+W); Shift adds, Alt takes away",
+    {"SameArea", "Area", "Select an area (Shift+W); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::SameArea},
-    {"Move", "Move", "Move the selection (M); with Alt a copy of it", TouchUpTool::Move},
+    {"Move", "Move", "Move the selection (M); with Shift a copy of it", TouchUpTool::Move},
 }};
 
 // Some styles hardly show which button is down, dark ones above all.

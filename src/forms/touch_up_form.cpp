@@ -240,6 +240,7 @@ void TouchUpForm::LoadIt_Click() {
 
 void TouchUpForm::SaveIt_Click() {
     controls_.Status.clear();
+    Touched(selection_->PutDown());
     editor_->SaveIt_Click();
     controls_.Status =
         "Saved " + StippleFilePath(place_.Folder, place_.State, place_.State).filename().string();
@@ -257,6 +258,7 @@ void TouchUpForm::SaveKit_Click() {
 }
 
 void TouchUpForm::Accept_Click() {
+    Touched(selection_->PutDown());
     editor_->Accept();
     Close(true);
 }

@@ -121,7 +121,8 @@ class TouchUpForm {
     /// of the palette waits for PointerUp, and the figures of areas and loners for FollowFigures.
     /// With Ctrl, or the right button, it takes up the paint there instead; with the right button
     /// and Shift the brush erases; with Shift it draws a line from where it was last. Tools that
-    /// select add with Shift and take away with Alt.
+    /// select add with Shift and take away with Alt or Ctrl and Shift; moving leaves a copy with
+    /// Shift or Alt.
     void PointerDown(CellPos at, PressKeys keys = {});
     void PointerTo(CellPos at);
     void PointerUp();

@@ -85,7 +85,7 @@ void TouchUpForm::Press(CellPos at, PressKeys keys) {
         case TouchUpTool::SameArea:
             return selection_->BeginChoosing(SelectBy::Area, at, how);
         case TouchUpTool::Move:
-            if (!selection_->BeginMoving(at, keys.Alt)) {
+            if (!selection_->BeginMoving(at, keys.Alt || keys.Shift)) {
                 controls_.Status = "Select the stipples to be moved first (V).";
             }
             return;
