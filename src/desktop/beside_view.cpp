@@ -1,5 +1,6 @@
 #include "desktop/beside_view.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace vendrel {
@@ -11,7 +12,11 @@ BesideView::BesideView(TouchUpCanvas& canvas, QWidget* parent) : QWidget(parent)
     setMinimumWidth(160);
     hide();
     connect(&canvas, &TouchUpCanvas::Moved, this, [this] { update(); });
-    connect(&canvas, &TouchUpCanvas::Pointed, this, [this] { update(); });
+    connect(&canvas, &TouchUpCanvas::Pointed, this, [this] {
+        update(mark_);
+        mark_ = canvas_.WhereItLies().RectOf(canvas_.PointedCell()).adjusted(-3, -3, 3, 3);
+        update(mark_);
+    });
 }
 
 void BesideView::Show(Beside what) {
@@ -26,8 +31,9 @@ void BesideView::SetPainting(const QImage& painting, const QString& trouble) {
     update();
 }
 
-void BesideView::paintEvent(QPaintEvent* /*event*/) {
+void BesideView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
+    painter.setClipRect(event->rect());
     painter.fillRect(rect(), palette().color(QPalette::Mid));
     const bool isPhoto = shows_ == Beside::Photo;
     if (!isPhoto && painting_.isNull()) {

@@ -30,6 +30,7 @@ class BesideView : public QWidget {
     TouchUpCanvas& canvas_;
     Beside shows_ = Beside::Nothing;
     QImage painting_;
+    QRect mark_;  // of the pointer
     QString trouble_;
 };
 

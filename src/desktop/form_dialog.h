@@ -27,6 +27,10 @@ class FormDialog : public QDialog {
     void reject() override;
 
   protected:
+    /// Measures everything anew, tabs that are not seen too, so that the window has its size before
+    /// it is placed. For the end of Prepare.
+    void SettleSize();
+    void resizeEvent(QResizeEvent* event) override;
     /// What closing without a button means.
     virtual void Dismiss() = 0;
     /// Starts work through the edge.

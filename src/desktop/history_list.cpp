@@ -14,10 +14,9 @@ HistoryList::HistoryList(EditorWork work, QWidget* parent) : QListWidget(parent)
     setUniformItemSizes(true);
     addItem(tr("As opened"));
     // Step 0 is the state at the opening.
-    connect(this, &QListWidget::currentRowChanged, this,
-            [work = std::move(work)](int row) {
-                work([row](TouchUpForm& form) { form.Step_Click(row); });
-            });
+    connect(this, &QListWidget::currentRowChanged, this, [work = std::move(work)](int row) {
+        work([row](TouchUpForm& form) { form.Step_Click(row); });
+    });
 }
 
 void HistoryList::Mirror(const TouchUpControls& shown) {
@@ -29,7 +28,8 @@ void HistoryList::Mirror(const TouchUpControls& shown) {
     for (auto step = shown.Steps.begin() + same; step != shown.Steps.end(); ++step) {
         addItem(Text(*step));
     }
-    const int from = std::min<int>(static_cast<int>(same) + 1, std::max(0, std::min(done_, shown.StepsDone)));
+    const int from =
+        std::min<int>(static_cast<int>(same) + 1, std::max(0, std::min(done_, shown.StepsDone)));
     for (int row = from; row < count(); ++row) {
         item(row)->setForeground(palette().brush(
             row <= shown.StepsDone ? QPalette::Active : QPalette::Disabled, QPalette::Text));

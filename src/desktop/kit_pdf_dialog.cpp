@@ -39,6 +39,7 @@ KitPdfDialog::KitPdfDialog(const ViewContext& context, QWidget* parent)
 void KitPdfDialog::Prepare() {
     form_.Form_Load();
     Mirror();
+    SettleSize();
 }
 
 }  // namespace vendrel

@@ -4,12 +4,19 @@
 #include <QPainter>
 
 namespace vendrel {
+namespace {
+
+constexpr int kLeastHeight = 90;  // pixels
+constexpr int kUsualHeight = 150;
+
+}  // namespace
 
 NavigatorView::NavigatorView(TouchUpCanvas& canvas, QWidget* parent)
     : QWidget(parent), canvas_(canvas) {
     setObjectName(QStringLiteral("Navigator"));
     setAccessibleName(tr("Navigator: the part that is shown"));
-    setMinimumHeight(90);
+    setMinimumHeight(kLeastHeight);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     connect(&canvas, &TouchUpCanvas::Moved, this, [this] { update(); });
 }
 
@@ -19,6 +26,10 @@ QRect NavigatorView::Room() const {
     QRect room(QPoint(), cells.size().scaled(size(), Qt::KeepAspectRatio));
     room.moveCenter(rect().center());
     return room;
+}
+
+QSize NavigatorView::sizeHint() const {
+    return {200, kUsualHeight};
 }
 
 void NavigatorView::Follow() {
@@ -57,9 +68,8 @@ void NavigatorView::GoTo(const QMouseEvent& event) {
     const QRect room = Room();
     if (event.buttons().testFlag(Qt::LeftButton) && room.width() > 0) {
         const QPointF at = event.position() - room.topLeft();
-        canvas_.CenterOn(
-            {static_cast<int>(at.x() * canvas_.Sheet().Across() / room.width()) + 1,
-             static_cast<int>(at.y() * canvas_.Sheet().Down() / room.height()) + 1});
+        canvas_.CenterOn({static_cast<int>(at.x() * canvas_.Sheet().Across() / room.width()) + 1,
+                          static_cast<int>(at.y() * canvas_.Sheet().Down() / room.height()) + 1});
     }
 }
 

@@ -17,6 +17,7 @@ class NavigatorView : public QWidget {
 
     /// The stipples were edited.
     void Follow();
+    [[nodiscard]] QSize sizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -78,6 +78,8 @@ void PaintRows::dropEvent(QDropEvent* event) {
     }
     event->setDropAction(Qt::IgnoreAction);
     event->accept();
+    setState(NoState);  // or the line where it was dropped stays
+    viewport()->update();
     if (Holds(rows_, from) && Holds(rows_, to)) {
         emit Dragged(At(rows_, from), At(rows_, to));
     }

@@ -54,25 +54,28 @@ void PaintingJob::Paint() {
     }
     busy_ = true;
     stale_ = false;
-    threads_.start([this, preview = preview_, paints = form_.Sheet().Paints(),
-                    cells = form_.Sheet().Cells()] {
-        QImage picture;
-        QString trouble;
-        try {
-            picture = ToImage(preview->Paint(paints, cells)).copy();
-        } catch (const std::exception& failure) {
-            trouble = Text(SentenceOf(failure));
-        }
-        QMetaObject::invokeMethod(
-            this, [this, picture, trouble] { Finish(picture, trouble); }, Qt::QueuedConnection);
-    });
+    threads_.start(
+        [this, preview = preview_, paints = form_.Sheet().Paints(), cells = form_.Sheet().Cells()] {
+            QImage picture;
+            QString trouble;
+            try {
+                picture = ToImage(preview->Paint(paints, cells)).copy();
+            } catch (const std::exception& failure) {
+                trouble = Text(SentenceOf(failure));
+            }
+            QMetaObject::invokeMethod(
+                this,
+                [this, picture, trouble, preview] {
+                    busy_ = false;
+                    if (preview == preview_) {  // else the editor was closed meanwhile
+                        Finish(picture, trouble);
+                    }
+                },
+                Qt::QueuedConnection);
+        });
 }
 
 void PaintingJob::Finish(const QImage& picture, const QString& trouble) {
-    busy_ = false;
-    if (place_ == nullptr) {
-        return;  // closed meanwhile
-    }
     emit Painted(picture, trouble);
     if (stale_ && wanted_ && !pause_.isActive()) {
         pause_.start();

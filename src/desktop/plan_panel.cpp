@@ -17,7 +17,8 @@ namespace {
 
 constexpr int kHighestPage = 470;  // of the first page as it is shown
 constexpr int kLowestPage = 180;
-constexpr int kAroundPage = 330;    // title bar, figures and buttons
+constexpr int kAroundPage = 350;    // title bar, figures and buttons
+constexpr int kFigureLetters = 44;  // to a line
 constexpr double kPageShape = 0.8;  // what it is fitted into, wide for its height
 constexpr int kQuietMs = 150;       // before it is drawn again
 constexpr double kUsualWidthMm = 500;
@@ -102,6 +103,8 @@ PlanPanel::PlanPanel(const QWidget& window)
     page_->setFixedSize(static_cast<int>(std::lround(height * kPageShape)), height);
     page_->setAlignment(Qt::AlignCenter);
     page_->setAccessibleName(tr("First page of the plan"));
+    figures_->setFixedWidth(
+        std::max(page_->width(), kFigureLetters * fontMetrics().averageCharWidth()));
     auto* shown = new QVBoxLayout;
     shown->addWidget(page_, 0, Qt::AlignHCenter);
     shown->addWidget(figures_);
@@ -215,13 +218,17 @@ QGroupBox* PlanPanel::MakeFigures() {
     rows->addRow(tr("Canvas"), canvas_);
     rows->addRow(tr("Smallest symbol"), smallest_);
     rows->addRow(tr("Painting"), effort_);
-    // Room for the whole warning: the window shall not jump while a width is chosen.
-    warning_->setWordWrap(true);
-    warning_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    warning_->setMinimumHeight(3 * fontMetrics().lineSpacing());
     auto* column = new QVBoxLayout(box);
     column->addLayout(rows);
     column->addWidget(warning_);
+    // Room for the longest of each: the window shall not jump while a width is chosen.
+    const std::pair<QLabel*, int> lines[] = {
+        {pages_, 2}, {canvas_, 2}, {effort_, 2}, {warning_, 5}};
+    for (const auto& [label, count] : lines) {
+        label->setWordWrap(true);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label->setMinimumHeight(count * fontMetrics().lineSpacing());
+    }
     return box;
 }
 
@@ -385,7 +392,7 @@ void PlanPanel::MirrorPaint(const PlanSettings& settings) {
 }
 
 void PlanPanel::MirrorFigures(const PlanFigures& figures) {
-    pages_->setText(tr("%1 of the plan, and cover, chart and map in front").arg(figures.Pages));
+    pages_->setText(tr("%1, after cover, chart and map").arg(figures.Pages));
     const QString picture =
         figures.Canvas == figures.Picture
             ? QString()
@@ -393,9 +400,8 @@ void PlanPanel::MirrorFigures(const PlanFigures& figures) {
     canvas_->setText(Text(SizeText(figures.Canvas, figures.Inches)) + picture);
     smallest_->setText(figures.Symbols ? tr("%1 mm").arg(Text(SmallestText(*figures.Symbols)))
                                        : QStringLiteral("\u2026"));
-    effort_->setText(tr("about %1 hours, %2 ml of paint")
-                         .arg(figures.Hours, 0, 'f', 0)
-                         .arg(figures.Ml, 0, 'f', 0));
+    effort_->setText(
+        tr("%1 hours, %2 ml of paint").arg(figures.Hours, 0, 'f', 0).arg(figures.Ml, 0, 'f', 0));
     const std::string warning = WarningOf(figures);
     warning_->setText(!figures.Symbols  ? QString()
                       : warning.empty() ? tr("All symbols can be read.")

@@ -37,7 +37,7 @@ SaveEverythingDialog::SaveEverythingDialog(const ViewContext& context, QWidget* 
 
 void SaveEverythingDialog::Arrange() {
     auto* always = new QGroupBox(tr("Always"));
-    (new QVBoxLayout(always))->addWidget(always_);
+    (new QVBoxLayout(always))->addWidget(always_, 0, Qt::AlignTop);
     auto* chosen = new QGroupBox(tr("If you like"));
     auto* choices = new QVBoxLayout(chosen);
     choices->addWidget(grid_);
@@ -112,6 +112,7 @@ void SaveEverythingDialog::Prepare() {
     name_->setText(Text(form_.Name()));
     name_->setPlaceholderText(Text(form_.Controls().PhotoName));
     Mirror();
+    SettleSize();
 }
 
 void SaveEverythingDialog::Mirror() {

@@ -11,8 +11,8 @@
 namespace vendrel {
 namespace {
 
-QCheckBox* Check(const char* name, const QString& text, const QString& hint,
-                 const EditorWork& work, EditorHandler handler) {
+QCheckBox* Check(const char* name, const QString& text, const QString& hint, const EditorWork& work,
+                 EditorHandler handler) {
     auto* check = EditorButton<QCheckBox>(name, text, hint);
     OnClick(check, work, handler);
     return check;
@@ -35,8 +35,8 @@ TouchUpAreasPanel::TouchUpAreasPanel(EditorWork work, QWidget* parent)
     : QWidget(parent),
       NextLoner(EditorButton<QPushButton>("NextLoner", tr("&Next loner"),
                                           tr("Go to the next loner (F3)"))),
-      NextHard(EditorButton<QPushButton>(
-          "NextHard", tr("Ne&xt"), tr("Go to the next area that is hard to paint (F4)"))),
+      NextHard(EditorButton<QPushButton>("NextHard", tr("Ne&xt"),
+                                         tr("Go to the next area that is hard to paint (F4)"))),
       work_(std::move(work)),
       outlines_(Check("Outlines", tr("&Outlines"), tr("Outlines of the printed areas (O)"), work_,
                       &TouchUpForm::Outlines_Click)),

@@ -11,9 +11,8 @@
 namespace vendrel {
 namespace {
 
-constexpr std::array kEdges = {1.0,  2.0,  3.0,  4.0,  5.0,  6.0, 8.0,
-                               10.0, 12.0, 14.0, 16.0, 20.0, 24.0,
-                               28.0, 32.0, 40.0, 48.0, 64.0};
+constexpr std::array kEdges = {1.0,  2.0,  3.0,  4.0,  5.0,  6.0,  8.0,  10.0, 12.0,
+                               14.0, 16.0, 20.0, 24.0, 28.0, 32.0, 40.0, 48.0, 64.0};
 constexpr int kWheelStep = 120;
 constexpr int kSmallestRing = 18;  // pixels: found at a glance whatever the zoom
 

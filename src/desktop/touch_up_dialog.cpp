@@ -19,6 +19,7 @@ namespace vendrel {
 namespace {
 
 constexpr int kBlinkPause = 400;      // milliseconds
+constexpr int kFiguresPause = 200;    // milliseconds
 constexpr int kRecoveryPause = 1000;  // milliseconds
 constexpr int kSideWidth = 330;
 constexpr Qt::Key kPhotoKey = Qt::Key_P;
@@ -30,8 +31,9 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       form_(context.Place, &context.Form.Kits()),
       canvas_(new TouchUpCanvas(form_)),
       tools_(new TouchUpToolBar(Work())),
+      navigator_(new NavigatorView(*canvas_)),
       paints_(new TouchUpPaints(Work())),
-      view_(new TouchUpViewPanel(*canvas_)),
+      view_(new TouchUpViewPanel(*canvas_, Work())),
       areas_(new TouchUpAreasPanel(Work())),
       selection_(new TouchUpSelectionPanel(Work())),
       history_(new HistoryList(Work())),
@@ -99,6 +101,7 @@ QWidget* TouchUpDialog::MakeSide() {
     tabs->setObjectName(QStringLiteral("Panels"));
     tabs->setAccessibleName(tr("Panels"));
     tabs->setDocumentMode(true);
+    tabs->addTab(paints_, tr("Paints"));
     tabs->addTab(view_, tr("View"));
     tabs->addTab(areas_, tr("Areas"));
     tabs->addTab(selection_, tr("Selection"));
@@ -106,9 +109,9 @@ QWidget* TouchUpDialog::MakeSide() {
     auto* side = new QSplitter(Qt::Vertical);
     side->setFixedWidth(kSideWidth);
     side->setChildrenCollapsible(false);
-    side->addWidget(paints_);
+    side->addWidget(navigator_);
     side->addWidget(tabs);
-    side->setStretchFactor(0, 1);
+    side->setStretchFactor(1, 1);
     return side;
 }
 
@@ -205,6 +208,16 @@ void TouchUpDialog::ConnectTimers() {
         blinkOn_ = !blinkOn_;
         canvas_->Blink(blinkOn_);
     });
+    figures_.setInterval(kFiguresPause);
+    figures_.setSingleShot(true);
+    connect(&figures_, &QTimer::timeout, this, [this] {
+        if (Ready()) {
+            form_.FollowFigures();
+            canvas_->Follow();
+            navigator_->Follow();
+            areas_->Mirror(form_.Controls(), form_.Areas().Controls());
+        }
+    });
     recovery_.setInterval(kRecoveryPause);
     connect(&recovery_, &QTimer::timeout, this, [this] {
         if (Ready()) {
@@ -230,6 +243,8 @@ void TouchUpDialog::Load() {
     painting_->Start(Context().Place);
     canvas_->Start(Context().Place.Frames->CaptureFrame.Picture,
                    Context().Place.State->StippleSize);
+    beside_->SetPainting({}, {});
+    ShowBeside();
     Mirror();
     recovery_.start();
     form_.OfferRecovery();
@@ -244,16 +259,18 @@ void TouchUpDialog::KeepWork() {
 void TouchUpDialog::Mirror() {
     if (!form_.Open()) {
         recovery_.stop();
+        figures_.stop();
         blink_.stop();
         painting_->Stop();
         return;
     }
     if (canvas_->Follow()) {
         painting_->NoteChange();
-        view_->Follow();
     }
+    figures_.start();
     const TouchUpControls& shown = form_.Controls();
     paints_->Mirror(shown);
+    view_->Mirror(shown);
     tools_->Mirror(shown);
     areas_->Mirror(shown, form_.Areas().Controls());
     selection_->Mirror(form_);
@@ -317,6 +334,7 @@ void TouchUpDialog::PasteSelection() {
 
 void TouchUpDialog::ShowBeside() {
     beside_->Show(view_->WhatBeside());
+    static_cast<QSplitter*>(beside_->parentWidget())->setSizes({width(), width()});
     painting_->Want(view_->WhatBeside() == Beside::Painting);
 }
 

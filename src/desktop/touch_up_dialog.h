@@ -7,6 +7,7 @@
 #include "desktop/form_dialog.h"
 #include "desktop/history_list.h"
 #include "desktop/kept_work_dialog.h"
+#include "desktop/navigator_view.h"
 #include "desktop/painting_job.h"
 #include "desktop/touch_up_areas_panel.h"
 #include "desktop/touch_up_canvas.h"
@@ -63,6 +64,7 @@ class TouchUpDialog : public FormDialog {
     TouchUpForm form_;
     TouchUpCanvas* canvas_;
     TouchUpToolBar* tools_;
+    NavigatorView* navigator_;
     TouchUpPaints* paints_;
     TouchUpViewPanel* view_;
     TouchUpAreasPanel* areas_;
@@ -79,6 +81,7 @@ class TouchUpDialog : public FormDialog {
     ValueLabel* status_;
     KeptWorkDialog* kept_;
     QTimer blink_;
+    QTimer figures_;
     QTimer recovery_;
     bool blinkOn_ = false;
     CellPos pointedAt_;  // {0, 0} for no stipple

@@ -46,6 +46,7 @@ void AddTouchUpKeys(QWidget& window, TouchUpToolBar& tools, const EditorWork& wo
         {Qt::Key_BracketRight, [](TouchUpForm& form) { ChangeBrush(form, 1); }},
         {Qt::Key_A, &TouchUpForm::Alone_Click},
         {Qt::Key_O, &TouchUpForm::Outlines_Click},
+        {Qt::Key_E, &TouchUpForm::ShowEdits_Click},
         {Qt::CTRL | Qt::Key_A, &TouchUpForm::SelectAll_Click},
         {Qt::CTRL | Qt::Key_D, &TouchUpForm::SelectNone_Click},
         {Qt::CTRL | Qt::Key_I, &TouchUpForm::InvertSelection_Click},

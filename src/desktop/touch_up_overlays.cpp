@@ -9,6 +9,9 @@ namespace {
 
 using Lines = QVector<QLine>;
 
+constexpr int kDarkGray = 80;  // of 255
+constexpr int kTint = 60;      // of 255, how far a tint covers
+
 bool IsShown(CellPos at, const CellRect& shown) {
     return at.X >= shown.Left && at.X <= shown.Right && at.Y >= shown.Top && at.Y <= shown.Bottom;
 }
@@ -72,13 +75,15 @@ void ForRuns(const std::vector<CellPos>& cells, const CellRect& shown, Fill fill
 }  // namespace
 
 QColor TouchUpOverlays::PaintColorOf(int paint) const {
-    const Color color = form_.Controls().Palette[paint].Swatch;
+    const OneBased<TouchUpPaint>& palette = form_.Controls().Palette;
+    const Color color = palette[palette.Holds(paint) ? paint : 0].Swatch;
     return {RedOf(color), GreenOf(color), BlueOf(color)};
 }
 
 OverlayState TouchUpOverlays::State() const {
     const TouchUpSelection& selection = form_.Selection();
     return {.Outlines = form_.Areas().Controls().Outlines,
+            .Edits = form_.Controls().ShowEdits,
             .Changes = form_.Areas().Changes().size(),
             .Hard = form_.Areas().Hard().size(),
             .Selected = selection.Cells().Count(),
@@ -89,36 +94,75 @@ OverlayState TouchUpOverlays::State() const {
 
 void TouchUpOverlays::Paint(QPainter& painter, const CellRect& shown,
                             const SheetPlace& place) const {
+    if (form_.Controls().ShowEdits) {
+        PaintEdits(painter, shown, place);
+    }
     PaintMerge(painter, shown, place);
     if (form_.Areas().Controls().Outlines) {
         PaintOutlines(painter, shown, place);
     }
+    PaintMergeBorders(painter, shown, place);
     PaintHard(painter, shown, place);
     PaintFloating(painter, shown, place);
     const CellSet& selected = form_.Selection().Cells();
     if (form_.Selection().Any() && form_.Selection().Floating() == nullptr) {
-        DrawTwoToned(painter, OutlineOf(shown, place,
-                                        [&selected](CellPos at) { return selected.Has(at); }));
+        DrawTwoToned(painter,
+                     OutlineOf(shown, place, [&selected](CellPos at) { return selected.Has(at); }));
     }
+}
+
+// Faint enough to tell the paints, with an outline that finds a single stipple.
+void TouchUpOverlays::PaintEdits(QPainter& painter, const CellRect& shown,
+                                 const SheetPlace& place) const {
+    QColor tint = kMarkColor;
+    tint.setAlpha(kTint);
+    const auto isEdited = [this](CellPos at) { return form_.IsEdited(at); };
+    for (int y = shown.Top; y <= shown.Bottom; ++y) {
+        for (int x = shown.Left; x <= shown.Right; ++x) {
+            if (isEdited({x, y})) {
+                painter.fillRect(place.RectOf(CellPos{x, y}), tint);
+            }
+        }
+    }
+    painter.setPen(QPen(kMarkColor, 1));
+    painter.drawLines(OutlineOf(shown, place, isEdited));
+}
+
+Grid<int> TouchUpOverlays::PaintsShown() const {
+    const EditSheet& sheet = form_.Sheet();
+    Grid<int> paints(sheet.Across(), sheet.Down());
+    for (int y = 1; y <= sheet.Down(); ++y) {
+        for (int x = 1; x <= sheet.Across(); ++x) {
+            paints(x, y) = sheet.PaintAt({x, y});
+        }
+    }
+    for (const CellChange& change : form_.Areas().Changes()) {
+        paints(change.X, change.Y) = change.To;
+    }
+    return paints;
 }
 
 void TouchUpOverlays::PaintMerge(QPainter& painter, const CellRect& shown,
                                  const SheetPlace& place) const {
+    for (const CellChange& change : form_.Areas().Changes()) {
+        if (IsShown({change.X, change.Y}, shown)) {
+            painter.fillRect(place.RectOf(CellPos{change.X, change.Y}), PaintColorOf(change.To));
+        }
+    }
+}
+
+void TouchUpOverlays::PaintMergeBorders(QPainter& painter, const CellRect& shown,
+                                        const SheetPlace& place) const {
     const std::vector<CellChange>& changes = form_.Areas().Changes();
     if (changes.empty()) {
         return;
     }
     CellSet changed(form_.Sheet().Across(), form_.Sheet().Down());
     for (const CellChange& change : changes) {
-        const CellPos at{change.X, change.Y};
-        changed.Add(at);
-        if (IsShown(at, shown)) {
-            painter.fillRect(place.RectOf(at), PaintColorOf(change.To));
-        }
+        changed.Add({change.X, change.Y});
     }
     painter.setPen(QPen(kMarkColor, 1));
-    painter.drawLines(
-        OutlineOf(shown, place, [&changed](CellPos at) { return changed.Has(at); }));
+    painter.drawLines(OutlineOf(shown, place, [&changed](CellPos at) { return changed.Has(at); }));
 }
 
 void TouchUpOverlays::PaintHard(QPainter& painter, const CellRect& shown,
@@ -130,16 +174,21 @@ void TouchUpOverlays::PaintHard(QPainter& painter, const CellRect& shown,
 
 void TouchUpOverlays::PaintOutlines(QPainter& painter, const CellRect& shown,
                                     const SheetPlace& place) const {
-    const EditSheet& sheet = form_.Sheet();
-    const Lines lines = SidesBetween(shown, place, [&sheet](CellPos one, CellPos other) {
-        return sheet.PaintAt(one) != sheet.PaintAt(other);
-    });
-    if (place.Edge >= 8) {
-        painter.setPen(QPen(QColor(255, 255, 255, 200), 3));
+    const Grid<int> paints = PaintsShown();
+    const auto paintAt = [&paints](CellPos at) {
+        return paints.Holds(at.X, at.Y) ? paints(at.X, at.Y) : 0;
+    };
+    // Black would not show between dark paints.
+    const auto isDark = [&](CellPos at) {
+        return qGray(PaintColorOf(paintAt(at)).rgb()) < kDarkGray;
+    };
+    for (const bool dark : {false, true}) {
+        const Lines lines = SidesBetween(shown, place, [&](CellPos one, CellPos other) {
+            return paintAt(one) != paintAt(other) && (isDark(one) && isDark(other)) == dark;
+        });
+        painter.setPen(QPen(dark ? QColor(Qt::lightGray) : QColor(Qt::black), 1));
         painter.drawLines(lines);
     }
-    painter.setPen(QPen(Qt::black, 1));
-    painter.drawLines(lines);
 }
 
 void TouchUpOverlays::PaintFloating(QPainter& painter, const CellRect& shown,
@@ -166,8 +215,7 @@ void TouchUpOverlays::PaintFloating(QPainter& painter, const CellRect& shown,
             }
         }
     }
-    DrawTwoToned(painter,
-                 OutlineOf(shown, place, [&](CellPos at) { return paintAt(at) != 0; }));
+    DrawTwoToned(painter, OutlineOf(shown, place, [&](CellPos at) { return paintAt(at) != 0; }));
 }
 
 std::vector<CellPos> TouchUpOverlays::BrushCells(CellPos at) const {
@@ -187,8 +235,8 @@ QRect TouchUpOverlays::BrushRect(CellPos at, const SheetPlace& place) const {
 void TouchUpOverlays::PaintBrush(QPainter& painter, CellPos at, const SheetPlace& place) const {
     const std::vector<CellPos> cells = BrushCells(at);
     const TouchUpTool tool = form_.Controls().Tool;
-    const bool paints = tool == TouchUpTool::Brush || tool == TouchUpTool::Fill ||
-                        tool == TouchUpTool::Replace;
+    const bool paints =
+        tool == TouchUpTool::Brush || tool == TouchUpTool::Fill || tool == TouchUpTool::Replace;
     QRegion region;
     for (const CellPos& cell : cells) {
         region += place.RectOf(cell);

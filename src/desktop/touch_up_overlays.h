@@ -13,6 +13,7 @@ inline constexpr QColor kMarkColor(255, 0, 255);
 /// What tells one look of the overlays from another.
 struct OverlayState {
     bool Outlines = false;
+    bool Edits = false;
     std::size_t Changes = 0;
     std::size_t Hard = 0;
     int Selected = 0;
@@ -40,6 +41,10 @@ class TouchUpOverlays {
   private:
     [[nodiscard]] std::vector<CellPos> BrushCells(CellPos at) const;
     [[nodiscard]] QColor PaintColorOf(int paint) const;
+    void PaintEdits(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
+    /// As they would be once the areas were merged, while that is shown.
+    [[nodiscard]] Grid<int> PaintsShown() const;
+    void PaintMergeBorders(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintMerge(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintHard(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintOutlines(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;

@@ -30,8 +30,8 @@ TouchUpPaints::TouchUpPaints(EditorWork work, QWidget* parent)
           &TouchUpForm::TidyPaints_Click)) {
     list_->setObjectName(QStringLiteral("Palette"));
     list_->setAccessibleName(tr("Paints"));
-    list_->setAccessibleDescription(
-        tr("In the order of symbols a paint can be dragged, or moved with Alt and the arrow keys."));
+    list_->setAccessibleDescription(tr(
+        "In the order of symbols a paint can be dragged, or moved with Alt and the arrow keys."));
     order_->addItems({tr("By symbol"), tr("By hue"), tr("By lightness"), tr("By use")});
     order_->setFocusPolicy(Qt::TabFocus);
     alone_->setCheckable(true);
@@ -61,9 +61,8 @@ void TouchUpPaints::Connect() {
         work_([paint, to](TouchUpForm& form) { form.MovePaint_Click(paint, to); });
     });
     connect(order_, &QComboBox::activated, this, [this](int order) {
-        work_([order](TouchUpForm& form) {
-            form.PaintOrder_Click(static_cast<PaintOrder>(order));
-        });
+        work_(
+            [order](TouchUpForm& form) { form.PaintOrder_Click(static_cast<PaintOrder>(order)); });
     });
     connect(add_, &QPushButton::clicked, this, &TouchUpPaints::AskForPaint);
 }

@@ -17,8 +17,8 @@ TouchUpSelectionPanel::TouchUpSelectionPanel(const EditorWork& work, QWidget* pa
                                 EditorHandler handler) {
         return EditorButton<QPushButton>(name, caption, hint, work, handler);
     };
-    auto* all = button("SelectAll", tr("All"), tr("Select all (Ctrl+A)"),
-                       &TouchUpForm::SelectAll_Click);
+    auto* all =
+        button("SelectAll", tr("All"), tr("Select all (Ctrl+A)"), &TouchUpForm::SelectAll_Click);
     auto* none = button("SelectNone", tr("None"), tr("Select nothing (Ctrl+D)"),
                         &TouchUpForm::SelectNone_Click);
     auto* invert = button("InvertSelection", tr("Invert"), tr("Select all others (Ctrl+I)"),
@@ -29,9 +29,9 @@ TouchUpSelectionPanel::TouchUpSelectionPanel(const EditorWork& work, QWidget* pa
                           &TouchUpForm::ShrinkSelection_Click);
     auto* fill = button("FillSelection", tr("Fill"), tr("Fill with the chosen paint (Shift+F)"),
                         &TouchUpForm::FillSelection_Click);
-    auto* erase = button("EraseSelection", tr("Erase"),
-                         tr("Back to what the conversion gave (Delete)"),
-                         &TouchUpForm::EraseSelection_Click);
+    auto* erase =
+        button("EraseSelection", tr("Erase"), tr("Back to what the conversion gave (Delete)"),
+               &TouchUpForm::EraseSelection_Click);
     auto* across = button("MirrorAcross", tr("Mirror ↔"), tr("Mirror left to right (H)"),
                           &TouchUpForm::MirrorAcross_Click);
     auto* down = button("MirrorDown", tr("Mirror ↕"), tr("Mirror upside down (Shift+H)"),
@@ -40,7 +40,7 @@ TouchUpSelectionPanel::TouchUpSelectionPanel(const EditorWork& work, QWidget* pa
     grid->setContentsMargins(4, 4, 4, 4);
     grid->setSpacing(4);
     grid->addWidget(selected_, 0, 0, 1, 3);
-    const std::vector<QWidget*> order = {all,  none,  invert, grow, shrink, fill,
+    const std::vector<QWidget*> order = {all,   none,   invert, grow, shrink, fill,
                                          erase, across, down,   Copy, Paste};
     for (std::size_t i = 0; i < order.size(); ++i) {
         grid->addWidget(order[i], 1 + static_cast<int>(i) / 3, static_cast<int>(i) % 3);

@@ -28,14 +28,16 @@ constexpr std::array<ToolLook, 10> kTools = {{
     {"Fill", "Fill", "Fill an area with the chosen paint (F)", TouchUpTool::Fill},
     {"Replace", "Replace", "Replace a paint everywhere by the chosen one (R)",
      TouchUpTool::Replace},
-    {"Select", "Select", "Select a rectangle (V); Shift adds, Alt takes away", TouchUpTool::Box},
-    {"Lasso", "Lasso", "Select by a line around (L); Shift adds, Alt takes away",
+    {"Select", "Box", "Select a rectangle (V); Shift adds, Ctrl+Shift takes away",
+     TouchUpTool::Box},
+    {"Lasso", "Lasso", "Select by a line around (L); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::Lasso},
-    {"SamePaint", "Paint", "Select all stipples of one paint (W); Shift adds, Alt takes away",
+    {"SamePaint", "Paint",
+     "Select all stipples of one paint (W); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::SamePaint},
-    {"SameArea", "Area", "Select an area (Shift+W); Shift adds, Alt takes away",
+    {"SameArea", "Area", "Select an area (Shift+W); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::SameArea},
-    {"Move", "Move", "Move the selection (M); with Alt a copy of it", TouchUpTool::Move},
+    {"Move", "Move", "Move the selection (M); with Shift a copy of it", TouchUpTool::Move},
 }};
 
 // Some styles hardly show which button is down, dark ones above all.
@@ -57,8 +59,8 @@ TouchUpToolBar::TouchUpToolBar(EditorWork work, QWidget* parent)
       Redo(EditorButton("Redo", tr("Redo"), tr("Redo (Ctrl+Shift+Z)"), work,
                         &TouchUpForm::Redo_Click)),
       ZoomIn(EditorButton<QToolButton>("ZoomIn", QStringLiteral("+"), tr("Zoom in (+)"))),
-      ZoomOut(EditorButton<QToolButton>("ZoomOut", QStringLiteral("\u2212"),
-                                        tr("Zoom out (\u2212)"))),
+      ZoomOut(
+          EditorButton<QToolButton>("ZoomOut", QStringLiteral("\u2212"), tr("Zoom out (\u2212)"))),
       Fit(EditorButton<QToolButton>("Fit", tr("Fit"), tr("Show the whole picture (0)"))),
       ActualSize(EditorButton<QToolButton>("ActualSize", QStringLiteral("1:1"),
                                            tr("The photo's own size (9)"))),
@@ -87,8 +89,8 @@ TouchUpToolBar::TouchUpToolBar(EditorWork work, QWidget* parent)
 void TouchUpToolBar::AddTools(QHBoxLayout& row) {
     row.addWidget(new QLabel(tr("Brush")));
     for (std::size_t i = 0; i < kTools.size(); ++i) {
-        tools_.push_back(EditorButton<QToolButton>(kTools[i].Name, tr(kTools[i].Caption),
-                                                   tr(kTools[i].Hint)));
+        tools_.push_back(
+            EditorButton<QToolButton>(kTools[i].Name, tr(kTools[i].Caption), tr(kTools[i].Hint)));
         tools_[i]->setCheckable(true);
         connect(tools_[i], &QToolButton::clicked, this, [this, i] { Use(i); });
         if (kTools[i].Tool == TouchUpTool::Fill) {
@@ -96,6 +98,7 @@ void TouchUpToolBar::AddTools(QHBoxLayout& row) {
             row.addSpacing(12);
         } else if (kTools[i].Tool == TouchUpTool::Box) {
             row.addSpacing(12);
+            row.addWidget(new QLabel(tr("Select")));
         }
         row.addWidget(tools_[i]);
     }
@@ -105,9 +108,8 @@ void TouchUpToolBar::AddBrush(QHBoxLayout& row) {
     size_->setRange(1, kLargestBrush);
     size_->setToolTip(tr("Brush size ([ and ])"));
     size_->setFocusPolicy(Qt::ClickFocus);
-    connect(size_, &QSpinBox::valueChanged, this, [this](int size) {
-        work_([size](TouchUpForm& form) { form.BrushSize_Click(size); });
-    });
+    connect(size_, &QSpinBox::valueChanged, this,
+            [this](int size) { work_([size](TouchUpForm& form) { form.BrushSize_Click(size); }); });
     round_->setCheckable(true);
     row.addWidget(size_);
     row.addWidget(round_);

@@ -5,8 +5,7 @@
 #include <QSlider>
 
 #include "desktop/beside_view.h"
-#include "desktop/navigator_view.h"
-#include "desktop/sheet_painter.h"
+#include "desktop/touch_up_work.h"
 
 namespace vendrel {
 
@@ -15,9 +14,10 @@ class TouchUpViewPanel : public QWidget {
     Q_OBJECT
 
   public:
-    explicit TouchUpViewPanel(TouchUpCanvas& canvas, QWidget* parent = nullptr);
+    TouchUpViewPanel(TouchUpCanvas& canvas, const EditorWork& work, QWidget* parent = nullptr);
 
-    void Follow() { navigator_->Follow(); }
+    void Mirror(const TouchUpControls& shown);
+
     [[nodiscard]] Beside WhatBeside() const;
 
   signals:
@@ -27,9 +27,9 @@ class TouchUpViewPanel : public QWidget {
     void ChooseLook();
 
     TouchUpCanvas& canvas_;
-    NavigatorView* navigator_;
     QCheckBox* gridLines_;
     QCheckBox* symbols_;
+    QCheckBox* edits_;
     QSlider* photo_;
     QComboBox* beside_;
 };

@@ -1,6 +1,7 @@
 #include "export/print_symbols.h"
 
 #include <QtGui/QFontDatabase>
+#include <QtGui/QRawFont>
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -14,6 +15,7 @@ namespace {
 
 constexpr const char* kLetterFamily = "Liberation Mono";
 constexpr int kMeasureSize = 1000;
+constexpr int kDrawnSize = 250;  // of letters before they are scaled: about as they come out
 constexpr double kBroadestLetter = 0.66;  // width of a symbol for its height
 constexpr double kBroadestNumber = 1.2;
 constexpr double kBarGap = 0.07;  // under a small letter, in ems
@@ -43,6 +45,22 @@ QRectF InkOf(const QString& text, const QFont& font) {
     QPainterPath path;
     path.addText(0, 0, Sized(font, kMeasureSize), text);
     return Scaled(path.boundingRect(), 1.0 / kMeasureSize);
+}
+
+// Laid out once: shaping a letter takes longer than drawing it.
+QGlyphRun GlyphsOf(const QString& text, const QFont& font) {
+    const QRawFont raw = QRawFont::fromFont(font);
+    QGlyphRun run;
+    run.setRawFont(raw);
+    run.setGlyphIndexes(raw.glyphIndexesForString(text));
+    QList<QPointF> positions;
+    QPointF at(0, 0);
+    for (const QPointF& advance : raw.advancesForGlyphIndexes(run.glyphIndexes())) {
+        positions.append(at);
+        at += advance;
+    }
+    run.setPositions(positions);
+    return run;
 }
 
 QPainterPath PathOf(const Sign& sign) {
@@ -107,6 +125,7 @@ void PrintSymbols::AddNumbers(int paints) {
 void PrintSymbols::AddText(const QString& text, double broadest) {
     Shape shape;
     shape.Text = text;
+    shape.Glyphs = GlyphsOf(text, Sized(font_, kDrawnSize));
     shape.Name = text.toStdString();
     shape.Ink = InkOf(text, font_);
     shape.Box = std::max(shape.Ink.height(), capital_);
@@ -155,42 +174,38 @@ std::string PrintSymbols::NameOf(int symbol) const {
 
 void PrintSymbols::Draw(QPainter& painter, int symbol, QPointF centre, double height) const {
     const Shape& shape = shapes_.at(static_cast<std::size_t>(symbol - 1));
-    // Whole font sizes are enough: the painter's unit is far smaller than a symbol.
-    const double em = std::max(1.0, std::floor(height / shape.Box));
-    painter.save();
-    painter.translate(centre);
-    painter.scale(shape.Squeeze, 1);
-    painter.translate(-shape.Ink.center() * em);
-    DrawShape(painter, shape, em);
-    painter.restore();
+    const double em = height / shape.Box;
+    QTransform place = QTransform::fromTranslate(centre.x(), centre.y());
+    place.scale(em * shape.Squeeze, em);
+    place.translate(-shape.Ink.center().x(), -shape.Ink.center().y());
+    DrawShape(painter, shape, place);
 }
 
 void PrintSymbols::DrawInLine(QPainter& painter, int symbol, QPointF centre,
                               double capitals) const {
     const Shape& shape = shapes_.at(static_cast<std::size_t>(symbol - 1));
-    painter.save();
-    if (shape.Text.isEmpty()) {
-        painter.translate(centre);
-        DrawShape(painter, shape, capitals * kSignInLine);
-    } else {
-        const double em = std::max(1.0, std::floor(capitals / capital_));
-        painter.translate(centre.x() - shape.Ink.center().x() * em, centre.y() + capitals / 2);
-        DrawShape(painter, shape, em);
-    }
-    painter.restore();
+    const bool isSign = shape.Text.isEmpty();
+    const double em = isSign ? capitals * kSignInLine : capitals / capital_;
+    QTransform place = QTransform::fromTranslate(centre.x() - shape.Ink.center().x() * em,
+                                                 centre.y() + (isSign ? 0 : capitals / 2));
+    place.scale(em, em);
+    DrawShape(painter, shape, place);
 }
 
-// With the pen at the painter's zero.
-void PrintSymbols::DrawShape(QPainter& painter, const Shape& shape, double em) const {
+// All letters in one size of their font, scaled: every size would be a font of its own.
+void PrintSymbols::DrawShape(QPainter& painter, const Shape& shape, const QTransform& place) {
     if (shape.Text.isEmpty()) {
-        painter.fillPath(QTransform::fromScale(em, em).map(shape.Path), painter.pen().color());
+        painter.fillPath(place.map(shape.Path), painter.pen().color());
         return;
     }
-    painter.setFont(Sized(font_, static_cast<int>(em)));
-    painter.drawText(QPointF(0, 0), shape.Text);
+    const QTransform before = painter.worldTransform();
+    painter.setWorldTransform(QTransform::fromScale(1.0 / kDrawnSize, 1.0 / kDrawnSize) * place *
+                              before);
+    painter.drawGlyphRun(QPointF(0, 0), shape.Glyphs);
     if (!shape.Bar.isEmpty()) {
-        painter.fillRect(Scaled(shape.Bar, em), painter.pen().color());
+        painter.fillRect(Scaled(shape.Bar, kDrawnSize), painter.pen().color());
     }
+    painter.setWorldTransform(before);
 }
 
 }  // namespace vendrel

@@ -4,6 +4,7 @@
 #include <QtCore/QRectF>
 #include <QtCore/QString>
 #include <QtGui/QFont>
+#include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <string>
@@ -41,7 +42,8 @@ class PrintSymbols {
   private:
     // In a font of 1 unit, from the pen's position on the base line.
     struct Shape {
-        QString Text;  // empty for a sign
+        QString Text;      // empty for a sign
+        QGlyphRun Glyphs;  // the text's, in a font of kDrawnSize units
         std::string Name;
         QPainterPath Path;   // of a sign
         QRectF Ink;          // the underline included
@@ -53,7 +55,7 @@ class PrintSymbols {
     void AddNumbers(int paints);
     void AddSigns(int paints);
     void AddText(const QString& text, double broadest);
-    void DrawShape(QPainter& painter, const Shape& shape, double em) const;
+    static void DrawShape(QPainter& painter, const Shape& shape, const QTransform& place);
 
     QFont font_;
     double capital_ = 1;         // height of one

@@ -21,6 +21,9 @@ double HueOf(const Lab& lab) {
 }
 
 double KeyOf(const PaintColor& paint, PaintOrder order) {
+    if (order == PaintOrder::Symbol) {
+        return 0;
+    }
     const Lab lab = LabOf(ColorOf(paint));
     switch (order) {
         case PaintOrder::Hue:

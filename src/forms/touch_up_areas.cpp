@@ -61,18 +61,17 @@ void TouchUpAreas::FollowMerge() {
     plan_ = controls_.Preview ? editor_.PreviewAreaMerge(Smallest()) : AreaMerge{};
     const int changes = static_cast<int>(plan_.Changes.size());
     controls_.MergeEnabled = !controls_.Preview || changes > 0;
-    controls_.MergeText =
-        controls_.Preview
-            ? Counted(changes, "stipple would change", "stipples would change") + ", " +
-                  Counted(plan_.AreasLeft, "area left", "areas left")
-            : "";
+    controls_.MergeText = controls_.Preview
+                              ? Counted(changes, "stipple would change", "stipples would change") +
+                                    ", " + Counted(plan_.AreasLeft, "area left", "areas left")
+                              : "";
 }
 
 void TouchUpAreas::FollowHard(const HardAreas& hard) {
     const int count = static_cast<int>(hard.List.size());
-    controls_.HardText = count == 0 ? "All areas can be painted"
-                                    : Counted(count, "area is hard to paint",
-                                              "areas are hard to paint");
+    controls_.HardText = count == 0
+                             ? "All areas can be painted"
+                             : Counted(count, "area is hard to paint", "areas are hard to paint");
     if (count > 0 && hardAt_ != CellPos{}) {
         controls_.HardText += "; " + PlaceText(hardAt_);
     }

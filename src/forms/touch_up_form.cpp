@@ -240,6 +240,7 @@ void TouchUpForm::LoadIt_Click() {
 
 void TouchUpForm::SaveIt_Click() {
     controls_.Status.clear();
+    Touched(selection_->PutDown());
     editor_->SaveIt_Click();
     controls_.Status =
         "Saved " + StippleFilePath(place_.Folder, place_.State, place_.State).filename().string();
@@ -257,6 +258,7 @@ void TouchUpForm::SaveKit_Click() {
 }
 
 void TouchUpForm::Accept_Click() {
+    Touched(selection_->PutDown());
     editor_->Accept();
     Close(true);
 }
@@ -353,7 +355,7 @@ void TouchUpForm::Touched(const CellRect& dirty) {
     }
 }
 
-void TouchUpForm::Follow() {
+void TouchUpForm::FollowSteps() {
     if (!Sheet().HoldsPaint(controls_.Brush.Paint)) {
         controls_.Brush.Paint = 1;
     }
@@ -367,10 +369,21 @@ void TouchUpForm::Follow() {
     controls_.StepsDone = editor_->StepsDone();
     selection_->Follow();
     controls_.Selected = selection_->Text();
-    areas_->Follow();
     FollowPalette();
-    FollowCleanUp();
-    FollowLoners();
+}
+
+void TouchUpForm::FollowFigures() {
+    if (std::exchange(figuresStale_, false)) {
+        areas_->Follow();
+        FollowCleanUp();
+        FollowLoners();
+    }
+}
+
+void TouchUpForm::Follow() {
+    FollowSteps();
+    figuresStale_ = true;
+    FollowFigures();
 }
 
 void TouchUpForm::FollowPalette() {

@@ -65,6 +65,7 @@ struct TouchUpControls {
     PaintOrder Order = PaintOrder::Symbol;
     std::vector<int> Rows;    // the paints, from 1, in that order
     std::string ChosenPaint;  // how much of it there is
+    bool ShowEdits = false;   // edited stipples are tinted
     bool Alone = false;       // all other paints are paled
     bool AddEnabled = false;  // a paint of the catalogue
     bool RemoveEnabled = false;
@@ -117,13 +118,16 @@ class TouchUpForm {
     void SwapPaints_Click();
 
     /// The tool is put down; a stroke goes on with PointerTo. Of what is shown, all but the counts
-    /// of the palette waits for PointerUp.
+    /// of the palette waits for PointerUp, and the figures of areas and loners for FollowFigures.
     /// With Ctrl, or the right button, it takes up the paint there instead; with the right button
     /// and Shift the brush erases; with Shift it draws a line from where it was last. Tools that
-    /// select add with Shift and take away with Alt.
+    /// select add with Shift and take away with Alt or Ctrl and Shift; moving leaves a copy with
+    /// Shift or Alt.
     void PointerDown(CellPos at, PressKeys keys = {});
     void PointerTo(CellPos at);
     void PointerUp();
+    /// To be called when the hand rests: what takes longer than a stroke may.
+    void FollowFigures();
     /// Takes up the paint of the stipple there.
     void PickPaint(CellPos at);
     /// "Column 3, row 5: paint"; empty outside the picture.
@@ -163,6 +167,9 @@ class TouchUpForm {
     bool Escape_Click();
 
     // The paints.
+    void ShowEdits_Click() { controls_.ShowEdits = !controls_.ShowEdits; }
+    /// Whether an edit of its own lies over a stipple.
+    [[nodiscard]] bool IsEdited(CellPos at) const { return editor_->IsEdited(at); }
     void Alone_Click();
     void PaintOrder_Click(PaintOrder order);
     [[nodiscard]] std::vector<PaintColor> OfferPaints(const std::string& words) const;
@@ -220,6 +227,7 @@ class TouchUpForm {
     void Reselect(const std::function<void()>& step);
     void ChangePalette(const char* name, EditIntent intent, SheetContents sheet);
     void Follow();
+    void FollowSteps();
     void FollowChosenPaint();
     void TouchedAlone();
     void FollowPalette();
@@ -242,6 +250,7 @@ class TouchUpForm {
     CellRect dirty_;
     std::vector<CellPos> marked_;
     bool markedStale_ = true;
+    bool figuresStale_ = false;
     std::vector<KeptWork> kept_;
     CellPos lonerAt_;  // {0, 0} until one was stepped to
     std::optional<TouchUpAreas> areas_;

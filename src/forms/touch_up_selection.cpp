@@ -107,7 +107,7 @@ CellRect TouchUpSelection::Fill(int paint) {
 }
 
 CellRect TouchUpSelection::Erase() {
-    return editor_.Erase(cells_.Cells());
+    return editor_.Erase(cells_.Cells(), "Erase Selection");
 }
 
 CellRect TouchUpSelection::Mirror(MirrorWay way) {
@@ -171,8 +171,7 @@ CellRect TouchUpSelection::PutDown() {
     }
     CellRect dirty;
     if (!fresh.Empty()) {
-        editor_.ChangePalette("Add Paints", EditIntent::Paint,
-                              WithPaints(editor_.Sheet(), fresh));
+        editor_.ChangePalette("Add Paints", EditIntent::Paint, WithPaints(editor_.Sheet(), fresh));
         dirty = editor_.Sheet().Bounds();
     }
     const CellRect painted = EditFreely(name, [&](EditPen& pen) {

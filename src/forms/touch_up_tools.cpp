@@ -85,7 +85,7 @@ void TouchUpForm::Press(CellPos at, PressKeys keys) {
         case TouchUpTool::SameArea:
             return selection_->BeginChoosing(SelectBy::Area, at, how);
         case TouchUpTool::Move:
-            if (!selection_->BeginMoving(at, keys.Alt)) {
+            if (!selection_->BeginMoving(at, keys.Alt || keys.Shift)) {
                 controls_.Status = "Select the stipples to be moved first (V).";
             }
             return;
@@ -121,7 +121,8 @@ void TouchUpForm::PointerTo(CellPos at) {
 void TouchUpForm::PointerUp() {
     editor_->EndStroke();
     Touched(selection_->EndDrag());
-    Follow();
+    FollowSteps();
+    figuresStale_ = true;
 }
 
 void TouchUpForm::Undo_Click() {
@@ -237,7 +238,8 @@ void TouchUpForm::NudgeSelection_Click(CellPos by) {
 }
 
 std::string TouchUpForm::Copy_Click() {
-    controls_.Status = selection_->Any() ? "Copied." : "Select the stipples to be copied first (V).";
+    controls_.Status =
+        selection_->Any() ? "Copied." : "Select the stipples to be copied first (V).";
     return selection_->Copy();
 }
 
@@ -303,8 +305,8 @@ void TouchUpForm::RemovePaint_Click() {
         Sheet().Paints()[NearestByEye(Sheet().Paints(), Sheet().Paints()[paint], paint)];
     ChangePalette("Remove Paint", EditIntent::Exchange, WithoutPaint(Sheet(), paint));
     PaintList_Click(FindPaint(Sheet().Paints(), heir));
-    controls_.Status = removed.PaintName + " is left out; its stipples have " + heir.PaintName +
-                       " now.";
+    controls_.Status =
+        removed.PaintName + " is left out; its stipples have " + heir.PaintName + " now.";
 }
 
 void TouchUpForm::MovePaint_Click(int from, int to) {

@@ -22,7 +22,7 @@ std::string Quoted(std::string text) {
     return '"' + text + '"';
 }
 
-PaintColor ReadPaint(FieldReader& reader) {
+PaintColor ReadPatchPaint(FieldReader& reader) {
     PaintColor paint;
     paint.Red = reader.ReadInt("red", 0, 255);
     paint.Green = reader.ReadInt("green", 0, 255);
@@ -128,10 +128,9 @@ void CloseHole(EditPen& pen, const CellSet& hole) {
 }
 
 std::string PatchText(const CellPatch& patch) {
-    std::string text = Quoted(std::string(kFirstField)) + ",1\n" +
-                       std::to_string(patch.Cells.Across()) + ',' +
-                       std::to_string(patch.Cells.Down()) + ',' +
-                       std::to_string(patch.Paints.Count()) + '\n';
+    std::string text =
+        Quoted(std::string(kFirstField)) + ",1\n" + std::to_string(patch.Cells.Across()) + ',' +
+        std::to_string(patch.Cells.Down()) + ',' + std::to_string(patch.Paints.Count()) + '\n';
     for (const PaintColor& paint : patch.Paints) {
         text += std::to_string(paint.Red) + ',' + std::to_string(paint.Green) + ',' +
                 std::to_string(paint.Blue) + ',' + Quoted(paint.Mfg) + ',' +
@@ -165,7 +164,7 @@ CellPatch ReadPatch(std::string_view text) {
     const int count = reader.ReadInt("paints", 1, kLargestSide);
     CellPatch patch;
     for (int i = 1; i <= count; ++i) {
-        patch.Paints.Add(ReadPaint(reader));
+        patch.Paints.Add(ReadPatchPaint(reader));
     }
     patch.Cells = Grid<int>(across, down);
     for (int y = 1; y <= down; ++y) {

@@ -19,7 +19,7 @@ class EditPen {
     /// From here on stipples outside that set stay as they are; no set lifts that.
     void KeepWithin(std::shared_ptr<const CellSet> cells) { within_ = std::move(cells); }
 
-    [[nodiscard]] bool IsKeptWithin() const { return within_ != nullptr; }
+    [[nodiscard]] bool KeepsWithin() const { return within_ != nullptr; }
     [[nodiscard]] bool MayPaint(CellPos at) const {
         return sheet_->Holds(at) && (!within_ || within_->Has(at));
     }

@@ -71,7 +71,7 @@ SheetContents WithPaintMoved(const EditSheet& sheet, int from, int to) {
     PaintList& paints = moved.FoundColors;
     OneBased<int> newOf(paints.Count());
     for (int old = 1; old <= paints.Count(); ++old) {
-        newOf[old] = old == from                ? to
+        newOf[old] = old == from               ? to
                      : old > from && old <= to ? old - 1
                      : old < from && old >= to ? old + 1
                                                : old;

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <ranges>
 #include <utility>
 
 #include "edits/layer_recorder.h"
@@ -58,8 +59,8 @@ class PlayedSteps {
             return;
         }
         const auto& changes = std::get<Changes>(done_[i].What);
-        for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
-            contents.EditStipples(change->X, change->Y).ColorIndex = change->From;
+        for (const CellChange& change : std::views::reverse(changes)) {
+            contents.EditStipples(change.X, change.Y).ColorIndex = change.From;
         }
     }
 

@@ -99,12 +99,11 @@ CellRect TouchUp::MergeAreas(int smallest) {
     });
 }
 
-Grid<int> TouchUp::PaintsOfBase() {
-    const BaseView& base = Base();
+Grid<int> TouchUp::PaintsOfBase() const {
     Grid<int> paints(sheet_.Across(), sheet_.Down());
-    for (int y = 1; y <= sheet_.Down(); ++y) {
-        for (int x = 1; x <= sheet_.Across(); ++x) {
-            paints(x, y) = base.PaintAt({x, y});
+    for (int y = 1; y <= paints.Down(); ++y) {
+        for (int x = 1; x <= paints.Across(); ++x) {
+            paints(x, y) = BasePaintAt({x, y});
         }
     }
     return paints;
@@ -167,19 +166,19 @@ CellRect TouchUp::Fill(CellPos at, int paint) {
 }
 
 CellRect TouchUp::Replace(int from, int to) {
-    // Within a selection the paint stays wanted elsewhere.
-    return Edit("Replace Paint", pen_.IsKeptWithin() ? EditIntent::Paint : EditIntent::Exchange,
-                [&](EditPen& pen) { ReplacePaint(pen, from, to); });
+    // Within a selection it says nothing of the paint elsewhere.
+    const EditIntent intent = pen_.KeepsWithin() ? EditIntent::Paint : EditIntent::Exchange;
+    return Edit("Replace Paint", intent, [&](EditPen& pen) { ReplacePaint(pen, from, to); });
 }
 
-const BaseView& TouchUp::Base() {
+const BaseView& TouchUp::Base() const {
     if (std::exchange(baseId_, history_.StateId()) != history_.StateId()) {
         base_ = BaseView(atOpening_, history_.DoneSteps(), sheet_);
     }
     return base_;
 }
 
-CellRect TouchUp::Erase(std::span<const CellPos> cells) {
+CellRect TouchUp::Erase(std::span<const CellPos> cells, const std::string& name) {
     EndStroke();
     std::vector<CellChange> changes;
     CellRect dirty;
@@ -193,7 +192,7 @@ CellRect TouchUp::Erase(std::span<const CellPos> cells) {
     }
     if (!changes.empty()) {
         DoChanges(sheet_, changes);
-        history_.Push({"Erase", std::move(changes), EditIntent::Erase});
+        history_.Push({name, std::move(changes), EditIntent::Erase});
         timer_.NoteChange();
     }
     return dirty;
@@ -283,29 +282,17 @@ TidyReport TouchUp::TidyPaints() {
 }
 
 void TouchUp::SaveIt_Click() {
-    SaveBy([this](const EditSheet& sheet, const KitEdits& /*edits*/) {
-        WriteSheet(GridFile(), sheet, place_.State->FinalColors);
-        return true;
-    });
-    KitIsSaved(place_);
-}
-
-bool TouchUp::SaveBy(const SaveSheet& save) {
     EndStroke();
     RefuseFlaw(sheet_, "The stipples cannot be saved");
-    RecordedEdits recorded = Recorded();
-    if (!save(sheet_, recorded.Edits)) {
-        return false;
-    }
+    WriteSheet(GridFile(), sheet_, place_.State->FinalColors);
     savedId_ = history_.StateId();
-    saved_ = {sheet_.Copy(), savedId_, std::move(recorded)};
+    saved_ = {sheet_.Copy(), savedId_, Recorded()};
     for (Replacement& replacement : replacements_) {
         replacement.Buries = false;  // this is what the painter wants
     }
     timer_.NoteKept();
     RemoveRestored();
-    WorkIsSaved(place_.State);
-    return true;
+    KitIsSaved(place_);
 }
 
 bool TouchUp::CanLoad() const {

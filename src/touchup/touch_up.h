@@ -30,6 +30,8 @@ struct CleanUpPreview {
 /// loads and TidyPaints alone.
 class TouchUp {
   public:
+    static constexpr const char* kEraseName = "Erase";
+
     /// Opens the editor on the kit's grid. Throws Error when there is none.
     explicit TouchUp(Workplace& place);
     TouchUp(const TouchUp&) = delete;
@@ -51,6 +53,8 @@ class TouchUp {
                   const std::function<void(EditPen&)>& work);
     /// A step to another palette, its stipples following.
     void ChangePalette(const std::string& name, EditIntent intent, SheetContents sheet);
+    /// The paint that every stipple has without the edits of its own.
+    [[nodiscard]] Grid<int> PaintsOfBase() const;
     /// From here on all tools leave the stipples outside alone; no set lifts that.
     void KeepWithin(std::shared_ptr<const CellSet> cells);
 
@@ -58,11 +62,11 @@ class TouchUp {
     CellRect Replace(int from, int to);
 
     /// The paint that a stipple has without the edits of its own; 0 outside the base.
-    [[nodiscard]] int BasePaintAt(CellPos at) { return Base().PaintAt(at); }
+    [[nodiscard]] int BasePaintAt(CellPos at) const { return Base().PaintAt(at); }
     /// Whether an edit of its own lies over a stipple; a stroke counts when it has ended.
-    [[nodiscard]] bool IsEdited(CellPos at) { return Base().IsEdited(at); }
+    [[nodiscard]] bool IsEdited(CellPos at) const { return Base().IsEdited(at); }
     /// Takes the edits of these stipples away, as one step.
-    CellRect Erase(std::span<const CellPos> cells);
+    CellRect Erase(std::span<const CellPos> cells, const std::string& name = kEraseName);
 
     void RaiseCleanLevel();
     void LowerCleanLevel();
@@ -94,10 +98,6 @@ class TouchUp {
     /// Writes the saved grid of this photo and difficulty, whole or not at all. Throws FileError,
     /// and Error while a broken load stands.
     void SaveIt_Click();
-    /// The same by `save`, which gets the copies and what Accept would make the kit's edits, and
-    /// may answer that it would rather not.
-    using SaveSheet = std::function<bool(const EditSheet& sheet, const KitEdits& edits)>;
-    bool SaveBy(const SaveSheet& save);
     /// Reads the saved grid into the copies as they are sized; one that is not all there or does
     /// not fit throws before anything is touched. One step, even when a broken line ends it
     /// part-way: draw everything anew then, too.
@@ -137,12 +137,10 @@ class TouchUp {
 
   private:
     static constexpr const char* kBrushName = "Brush";
-    static constexpr const char* kEraseName = "Erase";
     [[nodiscard]] std::string StrokeName() const { return erasing_ ? kEraseName : kBrushName; }
 
     void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
-    const BaseView& Base();
-    [[nodiscard]] Grid<int> PaintsOfBase();
+    const BaseView& Base() const;
     void PushReplacement(std::string name, EditIntent intent);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
@@ -164,8 +162,8 @@ class TouchUp {
 
     Workplace& place_;
     KitEdits atOpening_;
-    BaseView base_;
-    int baseId_ = -1;  // state of the history that base_ was looked at
+    mutable BaseView base_;
+    mutable int baseId_ = -1;  // state of the history that base_ was looked at
     EditSheet sheet_;
     EditPen pen_{sheet_};
     EditHistory history_;

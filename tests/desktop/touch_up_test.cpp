@@ -426,9 +426,7 @@ void TouchUpWindowTest::PhotoAndPaintingStandBesideTheStipples() {
     auto& what = Find<QComboBox>(*canvas_->window(), "Beside");
     auto& beside = Find<QWidget>(*canvas_->window(), "BesideView");
     what.setCurrentIndex(1);
-    const auto colorAt = [&](int x, int y) {
-        return beside.grab().toImage().pixelColor(At(x, y));
-    };
+    const auto colorAt = [&](int x, int y) { return beside.grab().toImage().pixelColor(At(x, y)); };
     QTRY_COMPARE(colorAt(2, 2), QColor(200, 0, 0));
     QTest::keyClick(canvas_, Qt::Key_F);
     QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(2, 2));

@@ -110,6 +110,27 @@ TEST_F(Printing, KitHasFrontPagesAndThePlanAndTheSameBytesEveryTime) {
     EXPECT_EQ(easel_.Work(), painting);
 }
 
+// The table at the end says where objects begin: a box put in moves what follows.
+TEST_F(Printing, ACanvasPageSaysWhereItIsCut) {
+    const std::string pdf = Pdf({.Sheet = Paper::Canvas, .Canvas = {200, 150}, .BleedMm = 20});
+    EXPECT_THAT(pdf, HasSubstr("/BleedBox [34.016 34.016 "));  // 12 mm
+    EXPECT_THAT(pdf, HasSubstr("/TrimBox [90.709 90.709 "));   // 32 mm
+    std::istringstream table(pdf.substr(std::stoul(pdf.substr(pdf.rfind("startxref") + 9))));
+    std::string word;
+    int first = -1;
+    int objects = 0;
+    table >> word >> first >> objects;
+    ASSERT_EQ(word, "xref");
+    for (int object = 0; object < objects; ++object) {
+        std::size_t offset = 0;
+        std::string generation;
+        table >> offset >> generation >> word;
+        const std::string head = std::to_string(object) + " 0 obj";
+        EXPECT_TRUE(object == 0 || pdf.compare(offset, head.size(), head) == 0) << object;
+    }
+    EXPECT_THAT(Pdf({.CanvasCm = 20}), testing::Not(HasSubstr("TrimBox")));
+}
+
 TEST_F(Printing, AMakersLogoMustBeAPicture) {
     PlanSettings settings{.CanvasCm = 40};
     const std::string plain = Pdf(settings);

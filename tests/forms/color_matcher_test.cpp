@@ -113,7 +113,7 @@ TEST(ColorMatcher, ExchangesWhatWasPaintedByHandTooUntilTakenBack) {
     ASSERT_EQ(corners(), "Red Green");
     {
         TouchUp editor(matcher.Place);
-        editor.BeginStroke({4, 1}, {1, 1});
+        editor.BeginStroke({4, 1}, {.Size = 1, .Paint = 1});
         editor.Accept();
     }
     matcher.Form.Form_Load();

@@ -57,6 +57,7 @@ class TouchUpFormTest : public ::testing::Test {
         form_->Tool_Click(tool);
         form_->PointerDown(at);
         form_->PointerUp();
+        form_->FollowFigures();
     }
     /// One stipple of paint 4 in the red quarter: a change, and a loner.
     void MakeSpot() {
@@ -335,6 +336,41 @@ TEST_F(TouchUpFormTest, ARecoveryFileThatCannotBeWrittenIsToldInTheStatus) {
     MakeSpot();
     EXPECT_NO_THROW(form_->KeepRecovery(At(0)));
     EXPECT_THAT(Shown().Status, HasSubstr("No recovery file"));
+}
+
+TEST_F(TouchUpFormTest, PaintsAreSortedOfferedAddedAndPasted) {
+    const auto rowsBy = [&](PaintOrder order) {
+        form_->PaintOrder_Click(order);
+        return Shown().Rows;
+    };
+    // Red, green, blue and white.
+    EXPECT_THAT(rowsBy(PaintOrder::Symbol), ElementsAre(1, 2, 3, 4));
+    EXPECT_THAT(rowsBy(PaintOrder::Hue), ElementsAre(3, 1, 2, 4));
+    EXPECT_THAT(rowsBy(PaintOrder::Lightness), ElementsAre(4, 2, 1, 3));
+    form_->PaintList_Click(4);
+    Press({3, 3}, TouchUpTool::Replace);
+    EXPECT_THAT(rowsBy(PaintOrder::Use), ElementsAre(4, 2, 3, 1));
+    EXPECT_THAT(Shown().ChosenPaint, HasSubstr("cm\u00b2"));
+    ASSERT_THAT(form_->OfferPaints("DARK"), SizeIs(1));
+    EXPECT_THAT(form_->OfferPaints("green"), IsEmpty()) << "it is there already";
+    form_->AddPaint_Click(form_->OfferPaints("")[0]);
+    EXPECT_EQ(Shown().Palette[5].Name, "Dark Red");
+    EXPECT_EQ(Shown().Brush.Paint, 5);
+    form_->SwapPaints_Click();
+    EXPECT_EQ(Shown().Brush.Paint, 4);
+    form_->Undo_Click();
+    form_->Paste_Click("\"Vendrel stipples\",1\n1,1,1\n9,9,9,\"Other\",\"K\",\"Coal\"\n1\n",
+                       {2, 2});
+    EXPECT_EQ(Shown().UndoCaption, "Undo Replace Paint") << "it floats";
+    form_->PutDown_Click();
+    EXPECT_EQ(Shown().Palette[5].Name, "Coal");
+    EXPECT_EQ(form_->Sheet().PaintAt({2, 2}), 5);
+    EXPECT_THAT(Shown().Steps, ElementsAre("Replace Paint", "Add Paints", "Paste"));
+    form_->Step_Click(0);
+    EXPECT_EQ(State().EditStipples, before_);
+    EXPECT_THROW(form_->Paste_Click("words", {2, 2}), Error);
+    EXPECT_TRUE(form_->Escape_Click()) << "what was pasted is still selected";
+    EXPECT_FALSE(form_->Escape_Click());
 }
 
 TEST_F(TouchUpFormTest, WhateverWouldLoseAnAcceptedGridAsksFirst) {

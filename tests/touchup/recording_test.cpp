@@ -68,12 +68,37 @@ void EditSomehow(TouchUp& editor, WorkState& state, std::mt19937& random) {
         [&] {
             editor.Erase(std::vector<CellPos>{from, {from.X + 1, from.Y}, {99, 1}});
         },
+        [&] { editor.MergeAreas(3); },
         [&] {
-            editor.BeginStroke(from, {1 + upTo(3), paint});
+            editor.BeginErasing(from, {.Size = 3});
+            editor.StrokeTo({upTo(10), upTo(8)});
+        },
+        [&] {
+            CellSet half(9, 7);
+            for (int x = 1; x <= from.X; ++x) {
+                half.Add({x, from.Y});
+            }
+            editor.KeepWithin(std::make_shared<CellSet>(half));
+            editor.Replace(paint, 1 + upTo(5));
+            editor.KeepWithin(nullptr);
+        },
+        [&] {
+            if (editor.Sheet().PaintCount() > 2) {
+                editor.ChangePalette("Remove Paint", EditIntent::Exchange,
+                                     WithoutPaint(editor.Sheet(), 1 + upTo(2)));
+            }
+        },
+        [&] {
+            editor.ChangePalette("Sort Paints", EditIntent::Paint,
+                                 WithPaintMoved(editor.Sheet(), 1, editor.Sheet().PaintCount()));
+        },
+        [&] {
+            editor.BeginStroke(
+                from, {.Size = 1 + upTo(3), .Paint = std::min(paint, editor.Sheet().PaintCount())});
             editor.StrokeTo({upTo(10), upTo(8)});
         },
     };
-    edits[upTo(8)]();
+    edits[upTo(13)]();
 }
 
 TEST(Recording, GivesExactlyTheSheetOverItsBaseAfterAnySession) {

@@ -77,9 +77,7 @@ void EditAtRandom(TouchUp& editor, WorkState& state, std::mt19937& random) {
         [&] { editor.MergeAreas(1 + upTo(6)); },
         [&] { editor.BeginStroke(from, brush), editor.StrokeTo(to), editor.EndStroke(); },
         [&] { editor.BeginErasing(from, brush), editor.StrokeTo(to), editor.EndStroke(); },
-        [&] {
-            editor.KeepWithin(upTo(2) == 0 ? nullptr : std::make_shared<const CellSet>(cells));
-        },
+        [&] { editor.KeepWithin(upTo(2) == 0 ? nullptr : std::make_shared<const CellSet>(cells)); },
         [&] {
             editor.Edit("Move", EditIntent::Paint, [&](EditPen& pen) {
                 const CellPatch patch = Mirrored(CutPatch(sheet, cells), MirrorWay::UpsideDown);
