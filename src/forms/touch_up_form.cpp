@@ -249,6 +249,7 @@ void TouchUpForm::SaveIt_Click() {
 
 void TouchUpForm::SaveKit_Click() {
     controls_.Status.clear();
+    Touched(selection_->PutDown());
     if (editor_->SaveBy([this](const EditSheet& sheet, const KitEdits& edits) {
             return kits_ != nullptr && kits_->Save(sheet, edits);
         })) {
