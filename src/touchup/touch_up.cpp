@@ -282,17 +282,29 @@ TidyReport TouchUp::TidyPaints() {
 }
 
 void TouchUp::SaveIt_Click() {
+    SaveBy([this](const EditSheet& sheet, const KitEdits& /*edits*/) {
+        WriteSheet(GridFile(), sheet, place_.State->FinalColors);
+        return true;
+    });
+    KitIsSaved(place_);
+}
+
+bool TouchUp::SaveBy(const SaveSheet& save) {
     EndStroke();
     RefuseFlaw(sheet_, "The stipples cannot be saved");
-    WriteSheet(GridFile(), sheet_, place_.State->FinalColors);
+    RecordedEdits recorded = Recorded();
+    if (!save(sheet_, recorded.Edits)) {
+        return false;
+    }
     savedId_ = history_.StateId();
-    saved_ = {sheet_.Copy(), savedId_, Recorded()};
+    saved_ = {sheet_.Copy(), savedId_, std::move(recorded)};
     for (Replacement& replacement : replacements_) {
         replacement.Buries = false;  // this is what the painter wants
     }
     timer_.NoteKept();
     RemoveRestored();
-    KitIsSaved(place_);
+    WorkIsSaved(place_.State);
+    return true;
 }
 
 bool TouchUp::CanLoad() const {
