@@ -41,6 +41,8 @@ class TouchUpCanvas : public QAbstractScrollArea {
     [[nodiscard]] CellRect Shown() const;
     /// Of the mouse, else of the keyboard.
     [[nodiscard]] CellPos PointedCell() const { return pointer_.value_or(cursor_); }
+    /// A button is held: whatever takes long has to wait.
+    [[nodiscard]] bool HandIsDown() const { return drag_ != Drag::None; }
     [[nodiscard]] const SheetPlace& WhereItLies() const { return place_; }
     [[nodiscard]] const EditSheet& Stipples() const { return form_.Sheet(); }
     [[nodiscard]] SheetPainter& Sheet() { return sheet_; }

@@ -211,7 +211,9 @@ void TouchUpDialog::ConnectTimers() {
     figures_.setInterval(kFiguresPause);
     figures_.setSingleShot(true);
     connect(&figures_, &QTimer::timeout, this, [this] {
-        if (Ready()) {
+        if (canvas_->HandIsDown()) {
+            figures_.start();
+        } else if (Ready()) {
             form_.FollowFigures();
             canvas_->Follow();
             navigator_->Follow();
