@@ -98,8 +98,8 @@ class TouchUp {
     /// Writes the saved grid of this photo and difficulty, whole or not at all. Throws FileError,
     /// and Error while a broken load stands.
     void SaveIt_Click();
-    /// The same by `save`, which gets the copies and what Accept would make the kit's edits, and may
-    /// answer that it would rather not.
+    /// The same by `save`, which gets the copies and what Accept would make the kit's edits, and
+    /// may answer that it would rather not.
     using SaveSheet = std::function<bool(const EditSheet& sheet, const KitEdits& edits)>;
     bool SaveBy(const SaveSheet& save);
     /// Reads the saved grid into the copies as they are sized; one that is not all there or does
