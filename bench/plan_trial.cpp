@@ -13,9 +13,7 @@
 #include <limits>
 #include <string>
 
-#include "export/gui_application.h"
-#include "export/print_symbols.h"
-#include "plan/plan_layout.h"
+#include "export/qt_exporter.h"
 #include "trial_place.h"
 
 namespace vendrel::bench {
@@ -36,7 +34,7 @@ struct Made {
     double Milliseconds = 0;
 };
 
-Made MakeOne(const Wish& wish, const SymbolAspects& aspects) {
+Made MakeOne(const Wish& wish, const Exporter& fonts) {
     KitOptions options;
     options.Chosen.Level = wish.Level;
     options.Chosen.Paintable = wish.Paintable;
@@ -44,9 +42,9 @@ Made MakeOne(const Wish& wish, const SymbolAspects& aspects) {
     TrialPlace trial(wish.Folder, options);
     trial.Paint(wish.Photo);
     const std::clock_t start = std::clock();
-    PrintPlan plan = MakePrintPlan(trial.State, trial.Frames.WorkFrame.Picture,
-                                   {.Sheet = Paper::A4, .CanvasCm = wish.CanvasCm}, aspects);
-    return {std::move(plan), 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC};
+    PlannedKit kit(trial.Place, fonts, {.CanvasCm = wish.CanvasCm});
+    const PrintPlan& plan = kit.OnPages();
+    return {plan, 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC};
 }
 
 // From a box to a piece of line, in one unit; measured along the piece.
@@ -99,13 +97,13 @@ void Row(const Wish& wish, const Made& made) {
         made.Milliseconds);
 }
 
-void RunAll(const fs::path& folder, const std::string& photo, const SymbolAspects& aspects) {
+void RunAll(const fs::path& folder, const std::string& photo, const Exporter& fonts) {
     for (const Difficulty level : {Difficulty::Medium, Difficulty::Difficult}) {
         for (const bool paintable : {false, true}) {
             for (const double canvas : {0.0, kUsualCanvasCm}) {
                 const Wish wish{folder, photo, level, paintable, canvas};
                 if (!paintable || canvas > 0) {
-                    Row(wish, MakeOne(wish, aspects));
+                    Row(wish, MakeOne(wish, fonts));
                 }
             }
         }
@@ -121,10 +119,9 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "trial_plan FOLDER PHOTO...\nPhotos are those of FOLDER/Pictures.\n");
         return 2;
     }
-    const GuiApplication fonts;
-    const SymbolAspects aspects = PrintSymbols(SymbolStyle::Letters, kSymbolCount).Aspects();
+    const QtExporter fonts;
     for (int i = 2; i < argc; ++i) {
-        bench::RunAll(argv[1], argv[i], aspects);
+        bench::RunAll(argv[1], argv[i], fonts);
     }
     return 0;
 }
