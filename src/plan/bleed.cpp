@@ -20,6 +20,17 @@ void CarryOnFrom(const PlanPoint& end, const PlanPoint& size, const Bleed& bleed
     }
 }
 
+// The sides of a picture that stops short of the canvas on two of them.
+void CarryOnSides(const PlanPoint& size, const Bleed& bleed, std::vector<BleedLine>& lines) {
+    for (const double x : {0.0, size.X}) {
+        for (const double y : {0.0, size.Y}) {
+            lines.push_back({{x, y},
+                             {x + (x > 0 ? bleed.Across : -bleed.Across),
+                              y + (y > 0 ? bleed.Down : -bleed.Down)}});
+        }
+    }
+}
+
 }  // namespace
 
 std::vector<BleedLine> CarryOn(const PlanLines& lines, const PlanPoint& size, const Bleed& bleed) {
@@ -29,6 +40,9 @@ std::vector<BleedLine> CarryOn(const PlanLines& lines, const PlanPoint& size, co
             CarryOnFrom(chain.Points.front(), size, bleed, carried);
             CarryOnFrom(chain.Points.back(), size, bleed, carried);
         }
+    }
+    if ((bleed.Across > 0) != (bleed.Down > 0)) {
+        CarryOnSides(size, bleed, carried);
     }
     return carried;
 }

@@ -19,7 +19,8 @@ struct Bleed {
 };
 
 /// Every border that ends at the edge of a picture of that size, carried on straight and square to
-/// the edge, so that no two of them meet.
+/// the edge, so that no two of them meet; and the picture's own sides where only two are carried
+/// on.
 [[nodiscard]] std::vector<BleedLine> CarryOn(const PlanLines& lines, const PlanPoint& size,
                                              const Bleed& bleed);
 
