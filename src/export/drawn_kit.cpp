@@ -81,6 +81,7 @@ DrawnKit::DrawnKit(PlannedKit& kit)
              PaintingOf(kit.OnPages().Regions, kit.Place().State),
              kit.Settings(),
              NeedsOf(kit),
-             LogoOf(kit.Settings())} {}
+             LogoOf(kit.Settings()),
+             SmallestText(*kit.Figures().Symbols)} {}
 
 }  // namespace vendrel

@@ -86,7 +86,7 @@ void CanvasPage::DrawCropMarks() {
 void CanvasPage::DrawFoot() {
     const SizeMm& sheet = kit_.Plan.Pages.Paper.Sheet;
     const double top = sheet.Height - Design::kWholeCanvasEdge + 2;
-    const double left = edge_ + 4;
+    const double left = edge_ + 8;  // apart from the crop mark
     DrawRuler(painter_, {Mm(left), Mm(top + 3)}, kit_.Settings.InInches());
     painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(3)));

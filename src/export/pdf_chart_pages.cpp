@@ -58,6 +58,7 @@ class ChartPage {
     // Text in a column, between two heights of the row.
     void Write(const Column& column, double top, double height, int flags, const QString& text);
     void WriteFigures(const PaintNeed& need, double top, double height);
+    void WritePages(const PaintNeed& need, double top);
     void DrawSwatch(const PaintNeed& need, double top);
     void WriteName(const PaintNeed& need, double top);
     void Rule(double at);
@@ -107,7 +108,9 @@ void ChartPage::DrawHeading(int page, int pages) {
     if (kit_.Settings.Use.PotMl > 0) {
         Write(kPots, top, 5, Qt::AlignRight, "Pots");
     }
-    Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, 5, Qt::AlignLeft, "On pages");
+    if (kit_.Plan.Pages.Tiles.size() > 1) {
+        Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, 5, Qt::AlignLeft, "On pages");
+    }
     Rule(kTop);
 }
 
@@ -164,15 +167,23 @@ void ChartPage::DrawRow(const Row& row, double top) {
     WriteName(need, top);
     painter_.setFont(TextFont(FontMm(3.2)));
     WriteFigures(need, top, kRow);
+    WritePages(need, top);
+    Rule(top + kRow);
+}
+
+// Of more than one.
+void ChartPage::WritePages(const PaintNeed& need, double top) {
+    const std::size_t all = kit_.Plan.Pages.Tiles.size();
+    if (all == 1) {
+        return;
+    }
     QStringList pages;
     for (const std::string& page : need.Pages) {
         pages << ToQt(page);
     }
-    const bool everywhere = need.Pages.size() == kit_.Plan.Pages.Tiles.size() && pages.size() > 1;
     painter_.setFont(TextFont(FontMm(2.6)));
     Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, kRow, Qt::AlignLeft,
-          everywhere ? "all" : pages.join(' '));
-    Rule(top + kRow);
+          need.Pages.size() == all ? "all" : pages.join(' '));
 }
 
 void ChartPage::DrawSums(double top) {

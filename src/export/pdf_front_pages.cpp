@@ -28,11 +28,6 @@ void DrawPicture(QPainter& painter, const Surface& picture, const QRectF& at) {
     painter.drawRect(at);
 }
 
-double SmallestLabelMm(const PrintPlan& plan) {
-    const auto smallest = std::ranges::min_element(plan.Labels, {}, &PlanLabel::Height);
-    return plan.Scale.Mm(smallest->Height);
-}
-
 QString KitSummary(const KitPages& kit) {
     const WorkState& state = kit.Place.State;
     return QString(
@@ -41,7 +36,7 @@ QString KitSummary(const KitPages& kit) {
         .arg(ToQt(SizeText(kit.Plan.Canvas, kit.Settings.InInches())))
         .arg(kit.Plan.Pages.Tiles.size())
         .arg(kit.Plan.Pages.Tiles.size() == 1 ? "page" : "pages")
-        .arg(SmallestLabelMm(kit.Plan), 0, 'f', 1);
+        .arg(ToQt(kit.SmallestSymbol));
 }
 
 struct CoverPlaces {
@@ -82,6 +77,45 @@ void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) 
     painter.setPen(kFaint);
     painter.drawText(QRectF(picture.left(), picture.bottom() + Mm(1), picture.width(), Mm(6)),
                      Qt::AlignHCenter | Qt::AlignVCenter, text);
+}
+
+// The paints of the chart, in its order, ending at the box's foot.
+void DrawPalette(QPainter& painter, const KitPages& kit, const QRectF& box) {
+    constexpr int kAcross = 5;
+    constexpr double kGap = 1.5;
+    const PaintList& paints = kit.Place.State->PaintColors;
+    const int count = kit.Place.State->PaintCount;
+    const int rows = (count + kAcross - 1) / kAcross;
+    const double step = (box.width() + Mm(kGap)) / kAcross;
+    const double down = std::min(step, (box.height() + Mm(kGap)) / rows);
+    const QSizeF swatch(step - Mm(kGap), down - Mm(kGap));
+    const double top = box.bottom() + Mm(kGap) - rows * down;
+    painter.setPen(QPen(kFaint, Mm(0.1)));
+    for (int i = 0; i < count; ++i) {
+        const QPointF corner(box.left() + i % kAcross * step, top + i / kAcross * down);
+        painter.fillRect(QRectF(corner, swatch), ToQt(ColorOf(paints[i + 1])));
+        painter.drawRect(QRectF(corner, swatch));
+    }
+}
+
+// Beside an upright painting there is room for its paints.
+void DrawCoverPictures(QPainter& painter, const KitPages& kit, const QRectF& room) {
+    const Surface& photo = kit.Place.Frames->CaptureFrame.Picture;
+    const CoverPlaces places = PlacesOn(room, kit.Painting, photo);
+    painter.setRenderHint(QPainter::LosslessImageRendering);
+    DrawPicture(painter, kit.Painting, places.Painting);
+    painter.setRenderHint(QPainter::LosslessImageRendering, false);
+    DrawCaption(painter, places.Painting, "The painting");
+    if (!photo.Empty()) {
+        DrawPicture(painter, photo, places.Photo);
+        DrawCaption(painter, places.Photo, "The photo");
+    }
+    if (kit.Painting.Height() > kit.Painting.Width() && !photo.Empty()) {
+        const QPointF under(places.Photo.left(), places.Photo.bottom() + Mm(12));
+        DrawPalette(painter, kit,
+                    {under, places.Painting.bottomRight() +
+                                QPointF(room.right() - places.Painting.right(), 0)});
+    }
 }
 
 bool HasMaker(const KitPages& kit) {
@@ -242,17 +276,9 @@ void DrawCoverPage(QPainter& painter, const KitPages& kit) {
                      kit.FrontPaper.Width - 2 * kMargin, kMakerMm));
     const double foot = HasMaker(kit) ? Mm(kMakerMm + 4) : 0;
 
-    const QRectF room(Mm(kMargin), Mm(kMargin + 28), width, bottom - foot - Mm(kMargin + 28));
-    const Surface& photo = kit.Place.Frames->CaptureFrame.Picture;
-    const CoverPlaces places = PlacesOn(room, kit.Painting, photo);
-    painter.setRenderHint(QPainter::LosslessImageRendering);
-    DrawPicture(painter, kit.Painting, places.Painting);
-    painter.setRenderHint(QPainter::LosslessImageRendering, false);
-    DrawCaption(painter, places.Painting, "The painting");
-    if (!photo.Empty()) {
-        DrawPicture(painter, photo, places.Photo);
-        DrawCaption(painter, places.Photo, "The photo");
-    }
+    const double top = Mm(kMargin + (kit.StyleNote().isEmpty() ? 28 : 31));
+    const QRectF room(Mm(kMargin), top, width, bottom - foot - top);
+    DrawCoverPictures(painter, kit, room);
 }
 
 void DrawMapPage(QPainter& painter, const KitPages& kit) {

@@ -24,6 +24,7 @@ struct KitPages {
     const PlanSettings& Settings;
     std::vector<PaintNeed> Needs;  // by paint
     QImage Logo;                   // null: none
+    std::string SmallestSymbol;    // in millimetres, of each area's largest
 
     [[nodiscard]] std::string Title() const;  // photo and difficulty
     /// What a painter must know who has the sheet too: a line of its own; empty for letters.

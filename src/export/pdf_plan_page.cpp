@@ -79,8 +79,8 @@ void PlanPage::DrawHeading() {
     const double right = sheet_.Width - Design::kMargin;
     painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(4.4), Weight::Bold));
-    const double logo = DrawLogo(right - 30 - 60, top);
-    const double room = right - left - 60 - 30 - logo;
+    const double logo = DrawLogo(right - 30 - 62, top);
+    const double room = right - left - 62 - 30 - logo;
     DrawLineOfText(painter_, MmRect(left, top, room, 6), Qt::AlignLeft,
                    ToQt("Page " + tile_.Name()) + PageCount());
     painter_.setFont(TextFont(FontMm(3)));
@@ -173,10 +173,10 @@ void PlanPage::DrawLegendEntry(int paint, const QRectF& box) {
     const QPointF corner = box.topLeft();
     painter_.setPen(QPen(kFrameInk, Mm(0.1)));
     painter_.setBrush(ToQt(ColorOf(color)));
-    painter_.drawRect(QRectF(corner + QPointF(0, Mm(0.4)), QSizeF(Mm(6), box.height() - Mm(0.8))));
+    painter_.drawRect(QRectF(corner + QPointF(0, Mm(0.4)), QSizeF(Mm(5), box.height() - Mm(0.8))));
     painter_.setBrush(Qt::NoBrush);
     painter_.setPen(Qt::black);
-    kit_.Symbols.DrawInLine(painter_, SymbolOf(paint), corner + QPointF(Mm(8.3), box.height() / 2),
+    kit_.Symbols.DrawInLine(painter_, SymbolOf(paint), corner + QPointF(Mm(8), box.height() / 2),
                             Mm(2));
     const QRectF text = box.adjusted(Mm(11), 0, -Mm(1), 0);
     const QString name = ToQt(color.PaintName);
