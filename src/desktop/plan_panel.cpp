@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -119,6 +120,7 @@ PlanPanel::PlanPanel(const QWidget& window)
     ConnectLooks();
     ConnectPaint();
     ConnectMaker();
+    ConnectTabs();
 }
 
 void PlanPanel::AddTab(const QString& title, void (PlanPanel::*fill)(QFormLayout& rows)) {
@@ -218,6 +220,10 @@ QGroupBox* PlanPanel::MakeFigures() {
     rows->addRow(tr("Canvas"), canvas_);
     rows->addRow(tr("Smallest symbol"), smallest_);
     rows->addRow(tr("Painting"), effort_);
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        auto* name = qobject_cast<QLabel*>(rows->itemAt(row, QFormLayout::LabelRole)->widget());
+        name->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    }
     auto* column = new QVBoxLayout(box);
     column->addLayout(rows);
     column->addWidget(warning_);
@@ -230,6 +236,20 @@ QGroupBox* PlanPanel::MakeFigures() {
         label->setMinimumHeight(count * fontMetrics().lineSpacing());
     }
     return box;
+}
+
+// Lists take Ctrl+Tab for something typed, and it would end there.
+void PlanPanel::ConnectTabs() {
+    const std::pair<QKeySequence::StandardKey, int> ways[] = {{QKeySequence::NextChild, 1},
+                                                              {QKeySequence::PreviousChild, -1}};
+    for (const auto& [keys, step] : ways) {
+        auto* turn = new QShortcut(keys, this);
+        turn->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(turn, &QShortcut::activated, this, [this, step = step] {
+            tabs_->setCurrentIndex((tabs_->currentIndex() + step + tabs_->count()) %
+                                   tabs_->count());
+        });
+    }
 }
 
 void PlanPanel::Change(const Edit& edit) {

@@ -63,6 +63,7 @@ class PlanPanel : public QWidget {
     void ConnectLooks();
     void ConnectPaint();
     void ConnectMaker();
+    void ConnectTabs();
     void Change(const Edit& edit);
     void ChangePaper();
     void ChangeCanvas();
