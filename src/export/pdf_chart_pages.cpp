@@ -42,6 +42,37 @@ struct Row {
     std::string Heading;
 };
 
+// Neighbors in a row as in A2\u20135, of the tiles that are in the list or of those that are not.
+QString PageRuns(const std::vector<PageTile>& tiles, const std::vector<std::string>& list,
+                 bool listed) {
+    const auto wanted = [&](std::size_t i) {
+        return i < tiles.size() &&
+               (std::ranges::find(list, tiles[i].Name()) != list.end()) == listed;
+    };
+    QStringList runs;
+    for (std::size_t i = 0; i < tiles.size(); ++i) {
+        if (!wanted(i)) {
+            continue;
+        }
+        const std::size_t first = i;
+        while (wanted(i + 1) && tiles[i + 1].Row == tiles[first].Row) {
+            ++i;
+        }
+        const QString end = first == i ? QString() : QString("\u2013%1").arg(tiles[i].Column + 1);
+        runs << ToQt(tiles[first].Name()) + end;
+    }
+    return runs.join(' ');
+}
+
+QString PagesText(const std::vector<PageTile>& tiles, const std::vector<std::string>& list) {
+    if (list.size() == tiles.size()) {
+        return "all";
+    }
+    const QString on = PageRuns(tiles, list, true);
+    const QString but = "all but " + PageRuns(tiles, list, false);
+    return but.size() < on.size() ? but : on;
+}
+
 class ChartPage {
   public:
     ChartPage(QPainter& painter, const KitPages& kit) : painter_(painter), kit_(kit) {}
@@ -177,13 +208,17 @@ void ChartPage::WritePages(const PaintNeed& need, double top) {
     if (all == 1) {
         return;
     }
-    QStringList pages;
-    for (const std::string& page : need.Pages) {
-        pages << ToQt(page);
+    const QRectF box = MmRect(kMargin + kPagesLeft, top, Right() - kMargin - kPagesLeft, kRow);
+    const QString pages = PagesText(kit_.Plan.Pages.Tiles, need.Pages);
+    constexpr int kFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+    for (const double size : {2.6, 2.3, 2.0}) {
+        painter_.setFont(TextFont(FontMm(size)));
+        if (painter_.boundingRect(box, kFlags, pages).height() <= box.height()) {
+            painter_.drawText(box, kFlags, pages);
+            return;
+        }
     }
-    painter_.setFont(TextFont(FontMm(2.6)));
-    Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, kRow, Qt::AlignLeft,
-          need.Pages.size() == all ? "all" : pages.join(' '));
+    painter_.drawText(box, kFlags, QString("%1 of %2").arg(need.Pages.size()).arg(all));
 }
 
 void ChartPage::DrawSums(double top) {
