@@ -430,12 +430,12 @@ void TouchUpWindowTest::PhotoAndPaintingStandBesideTheStipples() {
     auto& beside = Find<QWidget>(*canvas_->window(), "BesideView");
     what.setCurrentIndex(1);
     const auto colorAt = [&](int x, int y) { return beside.grab().toImage().pixelColor(At(x, y)); };
-    QTRY_COMPARE(colorAt(2, 2), QColor(200, 0, 0));
+    QTRY_COMPARE(colorAt(6, 6), QColor(200, 0, 0));
     QTest::keyClick(canvas_, Qt::Key_F);
     QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(2, 2));
-    QCOMPARE(colorAt(2, 2), QColor(200, 0, 0));
+    QCOMPARE(colorAt(6, 6), QColor(200, 0, 0));
     what.setCurrentIndex(2);
-    QTRY_COMPARE_WITH_TIMEOUT(colorAt(2, 2), QColor(0, 200, 0), 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(colorAt(6, 6), QColor(0, 200, 0), 20000);
     QVERIFY2(State().EditStipples != State().Stipples, "the kit itself waits for Accept");
 }
 
