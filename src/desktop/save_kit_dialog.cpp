@@ -14,7 +14,7 @@ SaveKitDialog::SaveKitDialog(const ViewContext& context, QWidget* parent)
     title_->setMinimumWidth(320);
     title_->setToolTip(tr("Names the kit's file in Kits, and all that is made of the kit"));
     QPushButton* save = MakeButton("SaveKitAs", tr("&Save"), [this] {
-        Context().Form.Kits().SaveAs_Click(title_->text().toStdString());
+        Context().Form.SaveKitAs_Titled(title_->text().toStdString());
     });
     save->setDefault(true);
     QPushButton* cancel = MakeButton("CancelSaveKit", tr("Cancel"),

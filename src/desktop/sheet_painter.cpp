@@ -2,7 +2,9 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <cmath>
 #include <cstddef>
+#include <utility>
 
 #include "desktop/text.h"
 #include "export/qt_image.h"
@@ -82,7 +84,9 @@ void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPla
         painter.setOpacity(1);
     }
     if (look.Symbols && !look.PhotoOnly && place.Edge >= kSmallestForSymbols) {
-        PaintSymbols(painter, cells, place);
+        // Stipples of whole pixels are drawn with their symbols, which is faster than blending.
+        const bool opaque = look.PhotoPercent == 0 && place.Edge == std::floor(place.Edge);
+        PaintSymbols(painter, cells, place, opaque);
     }
     if (look.GridLines && place.Edge >= kSmallestForGrid) {
         PaintGrid(painter, cells, place);
@@ -127,9 +131,13 @@ void SheetPainter::PaintGrid(QPainter& painter, const CellRect& cells,
     }
 }
 
-void SheetPainter::PaintSymbols(QPainter& painter, const CellRect& cells, const SheetPlace& place) {
+void SheetPainter::PaintSymbols(QPainter& painter, const CellRect& cells, const SheetPlace& place,
+                                bool opaque) {
     const int edge = static_cast<int>(place.Edge);
     const qreal ratio = painter.device()->devicePixelRatioF();
+    if (std::exchange(glyphsOpaque_, opaque) != opaque) {
+        glyphs_.Clear();
+    }
     for (int y = cells.Top; y <= cells.Bottom; ++y) {
         for (int x = cells.Left; x <= cells.Right; ++x) {
             const int paint = At(paints_, (y - 1) * Across() + x - 1);
@@ -151,7 +159,7 @@ const QPixmap& SheetPainter::Glyph(int paint, int edge, qreal ratio) {
         const TouchUpPaint& look = palette_[paint];
         glyph = QPixmap(QSize(edge, edge) * ratio);
         glyph.setDevicePixelRatio(ratio);
-        glyph.fill(Qt::transparent);
+        glyph.fill(glyphsOpaque_ ? ToQColor(look.Swatch) : QColor(Qt::transparent));
         QPainter painter(&glyph);
         QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
         font.setPixelSize(std::max(8, edge * 3 / 4));

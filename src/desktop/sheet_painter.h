@@ -49,7 +49,8 @@ class SheetPainter {
   private:
     void TakePalette(const TouchUpControls& shown);
     void PaintGrid(QPainter& painter, const CellRect& cells, const SheetPlace& place) const;
-    void PaintSymbols(QPainter& painter, const CellRect& cells, const SheetPlace& place);
+    void PaintSymbols(QPainter& painter, const CellRect& cells, const SheetPlace& place,
+                      bool opaque);
     [[nodiscard]] const QPixmap& Glyph(int paint, int edge, qreal ratio);
 
     QImage cells_;
@@ -59,6 +60,7 @@ class SheetPainter {
     int stippleSize_ = 1;
     OneBased<QPixmap> glyphs_;
     int glyphEdge_ = 0;
+    bool glyphsOpaque_ = false;
 };
 
 }  // namespace vendrel

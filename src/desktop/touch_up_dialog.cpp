@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTabWidget>
@@ -23,6 +24,16 @@ constexpr int kFiguresPause = 200;    // milliseconds
 constexpr int kRecoveryPause = 1000;  // milliseconds
 constexpr int kSideWidth = 330;
 constexpr Qt::Key kPhotoKey = Qt::Key_P;
+
+// On a low screen a panel scrolls, rather than that the window reaches beyond it.
+QScrollArea* Scrolling(QWidget* panel) {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(panel);
+    return area;
+}
 
 }  // namespace
 
@@ -46,8 +57,8 @@ TouchUpDialog::TouchUpDialog(const ViewContext& context, QWidget* parent)
       load_(EditorButton<QPushButton>("LoadIt", tr("Loa&d"), tr("Load the saved stipples"), Work(),
                                       &TouchUpForm::LoadIt_Click)),
       save_(EditorButton<QPushButton>("SaveIt", tr("&Save"),
-                                      tr("Save the stipples (Ctrl+Shift+S); Ctrl+S saves the kit"),
-                                      Work(), &TouchUpForm::SaveIt_Click)),
+                                      tr("Save the kit (Ctrl+S); Ctrl+Shift+S saves the stipples"),
+                                      Work(), &TouchUpForm::SaveKit_Click)),
       accept_(EditorButton<QPushButton>("Accept", tr("&Accept"),
                                         tr("Take the touched-up stipples into the kit and close"),
                                         Work(), &TouchUpForm::Accept_Click)),
@@ -102,9 +113,9 @@ QWidget* TouchUpDialog::MakeSide() {
     tabs->setAccessibleName(tr("Panels"));
     tabs->setDocumentMode(true);
     tabs->addTab(paints_, tr("Paints"));
-    tabs->addTab(view_, tr("View"));
-    tabs->addTab(areas_, tr("Areas"));
-    tabs->addTab(selection_, tr("Selection"));
+    tabs->addTab(Scrolling(view_), tr("View"));
+    tabs->addTab(Scrolling(areas_), tr("Areas"));
+    tabs->addTab(Scrolling(selection_), tr("Selection"));
     tabs->addTab(history_, tr("History"));
     auto* side = new QSplitter(Qt::Vertical);
     side->setFixedWidth(kSideWidth);

@@ -37,6 +37,54 @@ Lines SidesBetween(const CellRect& shown, const SheetPlace& place, Differ differ
     return lines;
 }
 
+enum class Side { None, Light, Dark };  // dark between two dark paints
+
+struct AreaSides {
+    Lines Light;
+    Lines Dark;
+};
+
+// Sides in one line are one line: a whole view has too many to be drawn one by one.
+template <class SideAt, class LineOf>
+void AddRuns(AreaSides& sides, int count, SideAt sideAt, LineOf lineOf) {
+    int from = 0;
+    for (int i = 1; i <= count; ++i) {
+        if (i < count && sideAt(i) == sideAt(from)) {
+            continue;
+        }
+        if (const Side side = sideAt(from); side != Side::None) {
+            (side == Side::Dark ? sides.Dark : sides.Light).append(lineOf(from, i));
+        }
+        from = i;
+    }
+}
+
+// `paints` are those of `shown` and one stipple more on all sides.
+AreaSides SidesOfAreas(const Grid<int>& paints, const OneBased<char>& dark, const CellRect& shown,
+                       const SheetPlace& place) {
+    const auto sideOf = [&dark](int one, int other) {
+        const auto isDark = [&dark](int paint) { return dark.Holds(paint) && dark[paint] != 0; };
+        return one == other ? Side::None : isDark(one) && isDark(other) ? Side::Dark : Side::Light;
+    };
+    const auto left = [&](int x) { return place.RectOf(CellPos{shown.Left + x, 1}).left(); };
+    const auto top = [&](int y) { return place.RectOf(CellPos{1, shown.Top + y}).top(); };
+    const int across = paints.Across() - 2;
+    const int down = paints.Down() - 2;
+    AreaSides sides;
+    for (int x = 0; x <= across; ++x) {
+        AddRuns(
+            sides, down, [&](int y) { return sideOf(paints(x + 1, y + 2), paints(x + 2, y + 2)); },
+            [&](int from, int to) { return QLine(left(x), top(from), left(x), top(to)); });
+    }
+    for (int y = 0; y <= down; ++y) {
+        AddRuns(
+            sides, across,
+            [&](int x) { return sideOf(paints(x + 2, y + 1), paints(x + 2, y + 2)); },
+            [&](int from, int to) { return QLine(left(from), top(y), left(to), top(y)); });
+    }
+    return sides;
+}
+
 // White dashes over black show on every paint.
 void DrawTwoToned(QPainter& painter, const Lines& lines) {
     painter.setPen(QPen(Qt::black, 1));
@@ -128,16 +176,21 @@ void TouchUpOverlays::PaintEdits(QPainter& painter, const CellRect& shown,
     painter.drawLines(OutlineOf(shown, place, isEdited));
 }
 
-Grid<int> TouchUpOverlays::PaintsShown() const {
+Grid<int> TouchUpOverlays::PaintsAround(const CellRect& shown) const {
     const EditSheet& sheet = form_.Sheet();
-    Grid<int> paints(sheet.Across(), sheet.Down());
-    for (int y = 1; y <= sheet.Down(); ++y) {
-        for (int x = 1; x <= sheet.Across(); ++x) {
-            paints(x, y) = sheet.PaintAt({x, y});
+    Grid<int> paints(shown.Right - shown.Left + 3, shown.Bottom - shown.Top + 3);
+    const CellPos off{shown.Left - 2, shown.Top - 2};
+    for (int y = 1; y <= paints.Down(); ++y) {
+        for (int x = 1; x <= paints.Across(); ++x) {
+            const CellPos at{x + off.X, y + off.Y};
+            paints(x, y) = sheet.Holds(at) ? sheet.PaintAt(at) : 0;
         }
     }
     for (const CellChange& change : form_.Areas().Changes()) {
-        paints(change.X, change.Y) = change.To;
+        if (IsShown({change.X, change.Y},
+                    {shown.Left - 1, shown.Top - 1, shown.Right + 1, shown.Bottom + 1})) {
+            paints(change.X - off.X, change.Y - off.Y) = change.To;
+        }
     }
     return paints;
 }
@@ -174,21 +227,16 @@ void TouchUpOverlays::PaintHard(QPainter& painter, const CellRect& shown,
 
 void TouchUpOverlays::PaintOutlines(QPainter& painter, const CellRect& shown,
                                     const SheetPlace& place) const {
-    const Grid<int> paints = PaintsShown();
-    const auto paintAt = [&paints](CellPos at) {
-        return paints.Holds(at.X, at.Y) ? paints(at.X, at.Y) : 0;
-    };
     // Black would not show between dark paints.
-    const auto isDark = [&](CellPos at) {
-        return qGray(PaintColorOf(paintAt(at)).rgb()) < kDarkGray;
-    };
-    for (const bool dark : {false, true}) {
-        const Lines lines = SidesBetween(shown, place, [&](CellPos one, CellPos other) {
-            return paintAt(one) != paintAt(other) && (isDark(one) && isDark(other)) == dark;
-        });
-        painter.setPen(QPen(dark ? QColor(Qt::lightGray) : QColor(Qt::black), 1));
-        painter.drawLines(lines);
+    OneBased<char> dark;
+    for (int i = 1; i <= form_.Controls().Palette.Count(); ++i) {
+        dark.Add(qGray(PaintColorOf(i).rgb()) < kDarkGray ? 1 : 0);
     }
+    const AreaSides sides = SidesOfAreas(PaintsAround(shown), dark, shown, place);
+    painter.setPen(QPen(QColor(Qt::black), 1));
+    painter.drawLines(sides.Light);
+    painter.setPen(QPen(QColor(Qt::lightGray), 1));
+    painter.drawLines(sides.Dark);
 }
 
 void TouchUpOverlays::PaintFloating(QPainter& painter, const CellRect& shown,

@@ -42,8 +42,9 @@ class TouchUpOverlays {
     [[nodiscard]] std::vector<CellPos> BrushCells(CellPos at) const;
     [[nodiscard]] QColor PaintColorOf(int paint) const;
     void PaintEdits(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
-    /// As they would be once the areas were merged, while that is shown.
-    [[nodiscard]] Grid<int> PaintsShown() const;
+    /// The paints of `shown` and one stipple more on all sides, as they would be once the areas
+    /// were merged, while that is shown.
+    [[nodiscard]] Grid<int> PaintsAround(const CellRect& shown) const;
     void PaintMergeBorders(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintMerge(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;
     void PaintHard(QPainter& painter, const CellRect& shown, const SheetPlace& place) const;

@@ -1,8 +1,8 @@
 #include "desktop/touch_up_tool_bar.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <utility>
@@ -69,50 +69,78 @@ TouchUpToolBar::TouchUpToolBar(EditorWork work, QWidget* parent)
       round_(EditorButton("BrushRound", tr("Round"), tr("Round brush (Q)"), work_,
                           &TouchUpForm::BrushShape_Click)),
       zoom_(new ValueLabel("Zoom", tr("Zoom"))) {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3);
-    AddTools(*row);
-    row->addSpacing(12);
-    row->addWidget(Undo);
-    row->addWidget(Redo);
-    row->addStretch(1);
-    zoom_->setMinimumWidth(zoom_->fontMetrics().horizontalAdvance(QStringLiteral("24.0 pixels ")));
-    zoom_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    for (QWidget* widget : {static_cast<QWidget*>(zoom_), static_cast<QWidget*>(ZoomOut),
-                            static_cast<QWidget*>(ZoomIn), static_cast<QWidget*>(Fit),
-                            static_cast<QWidget*>(ActualSize)}) {
-        row->addWidget(widget);
+    rows_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
+    rows_->setContentsMargins(0, 0, 0, 0);
+    for (QHBoxLayout*& half : halves_) {
+        half = new QHBoxLayout;
+        half->setSpacing(3);
+        rows_->addLayout(half);
     }
+    rows_->setStretch(1, 1);
+    AddTools();
+    AddSteps();
+    AddZoom();
 }
 
-void TouchUpToolBar::AddTools(QHBoxLayout& row) {
-    row.addWidget(new QLabel(tr("Brush")));
+void TouchUpToolBar::AddTools() {
+    halves_[0]->addWidget(new QLabel(tr("Brush")));
+    halves_[1]->addWidget(new QLabel(tr("Select")));
     for (std::size_t i = 0; i < kTools.size(); ++i) {
         tools_.push_back(
             EditorButton<QToolButton>(kTools[i].Name, tr(kTools[i].Caption), tr(kTools[i].Hint)));
         tools_[i]->setCheckable(true);
         connect(tools_[i], &QToolButton::clicked, this, [this, i] { Use(i); });
         if (kTools[i].Tool == TouchUpTool::Fill) {
-            AddBrush(row);
-            row.addSpacing(12);
-        } else if (kTools[i].Tool == TouchUpTool::Box) {
-            row.addSpacing(12);
-            row.addWidget(new QLabel(tr("Select")));
+            AddBrush();
         }
-        row.addWidget(tools_[i]);
+        halves_[kTools[i].Tool >= TouchUpTool::Box ? 1 : 0]->addWidget(tools_[i]);
     }
 }
 
-void TouchUpToolBar::AddBrush(QHBoxLayout& row) {
+// As wide as the usual steps' names, so that nothing moves with each of them.
+void TouchUpToolBar::AddSteps() {
+    halves_[0]->addSpacing(8);
+    for (QToolButton* button : {Undo, Redo}) {
+        button->setMinimumWidth(
+            button->fontMetrics().horizontalAdvance(QStringLiteral("Undo Clean Up")) + 12);
+        halves_[0]->addWidget(button);
+    }
+    halves_[0]->addStretch(1);
+}
+
+void TouchUpToolBar::AddZoom() {
+    zoom_->setMinimumWidth(zoom_->fontMetrics().horizontalAdvance(QStringLiteral("24.0 pixels ")));
+    zoom_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    halves_[1]->addStretch(1);
+    for (QWidget* widget : {static_cast<QWidget*>(zoom_), static_cast<QWidget*>(ZoomOut),
+                            static_cast<QWidget*>(ZoomIn), static_cast<QWidget*>(Fit),
+                            static_cast<QWidget*>(ActualSize)}) {
+        halves_[1]->addWidget(widget);
+    }
+}
+
+QSize TouchUpToolBar::minimumSizeHint() const {
+    return {std::max(halves_[0]->minimumSize().width(), halves_[1]->minimumSize().width()),
+            rows_->minimumSize().height()};
+}
+
+// One row where there is room, else two.
+void TouchUpToolBar::resizeEvent(QResizeEvent* event) {
+    const int needed = halves_[0]->sizeHint().width() + halves_[1]->sizeHint().width() + 12;
+    rows_->setDirection(width() >= needed ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    QWidget::resizeEvent(event);
+}
+
+void TouchUpToolBar::AddBrush() {
     size_->setRange(1, kLargestBrush);
     size_->setToolTip(tr("Brush size ([ and ])"));
     size_->setFocusPolicy(Qt::ClickFocus);
     connect(size_, &QSpinBox::valueChanged, this,
             [this](int size) { work_([size](TouchUpForm& form) { form.BrushSize_Click(size); }); });
     round_->setCheckable(true);
-    row.addWidget(size_);
-    row.addWidget(round_);
+    halves_[0]->addWidget(size_);
+    halves_[0]->addWidget(round_);
+    halves_[0]->addSpacing(8);
 }
 
 void TouchUpToolBar::Use(std::size_t tool) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QSpinBox>
+#include <array>
 #include <vector>
 
 #include "desktop/touch_up_work.h"
@@ -19,6 +21,7 @@ class TouchUpToolBar : public QWidget {
     void ShowZoom(double edge);
     /// A tool's key was pressed.
     void Take(const char* tool);
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
     QToolButton* Undo;
     QToolButton* Redo;
@@ -27,9 +30,14 @@ class TouchUpToolBar : public QWidget {
     QToolButton* Fit;
     QToolButton* ActualSize;
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
-    void AddTools(class QHBoxLayout& row);
-    void AddBrush(QHBoxLayout& row);
+    void AddTools();
+    void AddBrush();
+    void AddSteps();
+    void AddZoom();
     void Use(std::size_t tool);
 
     EditorWork work_;
@@ -37,6 +45,8 @@ class TouchUpToolBar : public QWidget {
     QSpinBox* size_;
     QToolButton* round_;
     ValueLabel* zoom_;
+    QBoxLayout* rows_ = nullptr;
+    std::array<QHBoxLayout*, 2> halves_{};
 };
 
 }  // namespace vendrel

@@ -142,14 +142,14 @@ bool KitDesk::Save(const EditSheet& sheet, const KitEdits& edits) {
     return true;
 }
 
-void KitDesk::SaveAs_Click(const std::string& title) {
+bool KitDesk::SaveAs_Click(const std::string& title) {
     if (!MayNameKit(title)) {
         throw Error("A kit cannot be named \"" + title +
                     "\". Choose a name without slashes, dots and control characters.");
     }
     const fs::path file = KitPath(place_.Folder, title);
     if (!MayWriteTo(file)) {
-        return;
+        return false;
     }
     const std::string before = std::exchange(place_.State->PictureName, title);
     try {
@@ -160,6 +160,7 @@ void KitDesk::SaveAs_Click(const std::string& title) {
     }
     place_.Screen.SetCaption("Vendrel -" + title);
     place_.Screen.CloseForm(FormId::SaveKit);
+    return true;
 }
 
 void KitDesk::TitleCancel_Click() {

@@ -44,8 +44,9 @@ class KitDesk : public KitKeeper {
     // The window that asks for the title.
     [[nodiscard]] const std::string& Title() const { return place_.State->PictureName; }
     /// Saves the kit under a title of its own, which names all that is made of it from now on, and
-    /// closes the window. Throws Error for a title that files cannot have, FileError.
-    void SaveAs_Click(const std::string& title);
+    /// closes the window; false when it was told not to. Throws Error for a title that files cannot
+    /// have, FileError.
+    bool SaveAs_Click(const std::string& title);
     void TitleCancel_Click();
 
     /// The file of the kit in hand; empty while it has none.

@@ -184,6 +184,12 @@ void MainForm::SaveKitAs_Click() {
     place_.Screen.OpenForm(FormId::SaveKit);
 }
 
+void MainForm::SaveKitAs_Titled(const std::string& title) {
+    if (kits_.SaveAs_Click(title)) {
+        Saved(kits_.File());
+    }
+}
+
 void MainForm::CropOrTurn_Click() {
     if (!place_.State->PictureLoaded) {
         place_.Screen.ShowMessage("No Photo Loaded", "Choose a photo first: Picture, Load Photo.");

@@ -39,6 +39,8 @@ class MainForm {
     void OpenKit_Click();
     void SaveKit_Click();
     void SaveKitAs_Click();
+    /// The window for it has a title. Throws Error, FileError.
+    void SaveKitAs_Titled(const std::string& title);
     void CropOrTurn_Click();
     void LoadStipples_Click();
     void SaveStipples_Click();

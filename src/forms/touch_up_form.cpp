@@ -248,14 +248,20 @@ void TouchUpForm::SaveIt_Click() {
 }
 
 void TouchUpForm::SaveKit_Click() {
+    (void)SaveToKit();
+}
+
+bool TouchUpForm::SaveToKit() {
     controls_.Status.clear();
     Touched(selection_->PutDown());
-    if (editor_->SaveBy([this](const EditSheet& sheet, const KitEdits& edits) {
-            return kits_ != nullptr && kits_->Save(sheet, edits);
-        })) {
+    const bool saved = editor_->SaveBy([this](const EditSheet& sheet, const KitEdits& edits) {
+        return kits_ != nullptr && kits_->Save(sheet, edits);
+    });
+    if (saved) {
         controls_.Status = "Saved " + kits_->File().filename().string();
     }
     Follow();
+    return saved;
 }
 
 void TouchUpForm::Accept_Click() {
@@ -330,7 +336,7 @@ bool TouchUpForm::MayClose() {
             Touched(editor_->DigOut());
             Follow();
         }
-        SaveIt_Click();
+        return kits_ != nullptr ? SaveToKit() : (SaveIt_Click(), true);
     }
     return answer != SaveAnswer::Cancel;
 }

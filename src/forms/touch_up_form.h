@@ -238,6 +238,8 @@ class TouchUpForm {
     void ListKept();
     void TellReport(const TidyReport& report);
     [[nodiscard]] bool MayClose();
+    /// False when the painter would rather not.
+    [[nodiscard]] bool SaveToKit();
     /// Closes the window; the kit was given another grid, or not.
     void Close(bool given);
     /// Goes on with the same paint in hand, wherever the palette has it afterwards.

@@ -233,6 +233,8 @@ BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
             FollowExchange(shown, before[change.From], before[change.To]);
         } else if (after == nullptr) {
             Follow(done[i]);
+        } else if (done[i].Intent == EditIntent::Paint) {
+            Follow(std::get<SheetContents>(done[i].What), *after);
         }
     }
     const PaintIndex index(sheet.Paints());
@@ -245,6 +247,23 @@ BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
 void BaseView::Follow(const EditStep& step) {
     for (const CellChange& change : std::get<Changes>(step.What)) {
         edited_(change.X, change.Y) = step.Intent == EditIntent::Erase ? 0 : 1;
+    }
+}
+
+// Paints that only took other places were not painted with.
+void BaseView::Follow(const SheetContents& before, const SheetContents& after) {
+    const PaintIndex index(before.FoundColors);
+    OneBased<int> places;
+    for (const PaintColor& paint : after.FoundColors) {
+        places.Add(index.Find(paint));
+    }
+    const Grid<StippleCell>& was = before.EditStipples;
+    for (int y = 1; y <= was.Down(); ++y) {
+        for (int x = 1; x <= was.Across(); ++x) {
+            if (was(x, y).ColorIndex != Entry(places, after.EditStipples(x, y).ColorIndex)) {
+                edited_(x, y) = 1;
+            }
+        }
     }
 }
 

@@ -35,6 +35,7 @@ class BaseView {
 
   private:
     void Follow(const EditStep& step);
+    void Follow(const SheetContents& before, const SheetContents& after);
 
     ValueGrid edited_;
     Grid<StippleCell> cells_;

@@ -54,7 +54,7 @@ class TouchUpWindowTest : public QObject {
     void BrushRepaintsWithoutGapsAndIsUndone();
     void FillAndReplaceFollowTheirKeys();
     void RightClickPicksThePaint();
-    void SaveWritesTheFileAndFreesTheCancelFromItsQuestion();
+    void SavingTheKitFreesTheCancelFromItsQuestion();
     void WheelZoomsAtThePointer();
     void SpaceDragsWhereverTheKeyboardIs();
     void ZoomingAfterALonerIsFoundShowsIt();
@@ -159,7 +159,7 @@ void TouchUpWindowTest::RightClickPicksThePaint() {
     QCOMPARE(Rows().indexOfTopLevelItem(Rows().currentItem()), 0);
 }
 
-void TouchUpWindowTest::SaveWritesTheFileAndFreesTheCancelFromItsQuestion() {
+void TouchUpWindowTest::SavingTheKitFreesTheCancelFromItsQuestion() {
     QVERIFY(!Button("LoadIt").isEnabled());
     Drag(At(1, 1), At(3, 1));
     {
@@ -170,9 +170,12 @@ void TouchUpWindowTest::SaveWritesTheFileAndFreesTheCancelFromItsQuestion() {
     QVERIFY(canvas_->isVisible());
     canvas_->window()->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(canvas_->window()));
+    const std::filesystem::path stipples = *files_ / "Saved Stipples/halves-Easy.stp";
     QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_S));
-    QVERIFY(std::filesystem::exists(*files_ / "Saved Stipples/halves-Easy.stp"));
-    QVERIFY(Button("LoadIt").isEnabled());
+    QVERIFY(std::filesystem::exists(*files_ / "Kits/halves.kit"));
+    QVERIFY(!std::filesystem::exists(stipples) && !Button("LoadIt").isEnabled());
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    QVERIFY(std::filesystem::exists(stipples) && Button("LoadIt").isEnabled());
     Button("Cancel").click();
     QVERIFY(!canvas_->isVisible());
     QVERIFY(desktop_->Window().findChild<QAction*>(QStringLiteral("LoadStipples"))->isEnabled());
@@ -427,12 +430,12 @@ void TouchUpWindowTest::PhotoAndPaintingStandBesideTheStipples() {
     auto& beside = Find<QWidget>(*canvas_->window(), "BesideView");
     what.setCurrentIndex(1);
     const auto colorAt = [&](int x, int y) { return beside.grab().toImage().pixelColor(At(x, y)); };
-    QTRY_COMPARE(colorAt(2, 2), QColor(200, 0, 0));
+    QTRY_COMPARE(colorAt(6, 6), QColor(200, 0, 0));
     QTest::keyClick(canvas_, Qt::Key_F);
     QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(2, 2));
-    QCOMPARE(colorAt(2, 2), QColor(200, 0, 0));
+    QCOMPARE(colorAt(6, 6), QColor(200, 0, 0));
     what.setCurrentIndex(2);
-    QTRY_COMPARE_WITH_TIMEOUT(colorAt(2, 2), QColor(0, 200, 0), 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(colorAt(6, 6), QColor(0, 200, 0), 20000);
     QVERIFY2(State().EditStipples != State().Stipples, "the kit itself waits for Accept");
 }
 

@@ -120,7 +120,8 @@ TEST_F(KitDeskTest, SavesUnderATitleAndNeverOverAnotherKitUnasked) {
     EXPECT_EQ(studio_.Files.Read("Kits/four.kit"), "somebody else's");
     form_.Click(SaveKitAs);
     EXPECT_THAT(studio_.Screen.OpenForms, Contains(FormId::SaveKit));
-    desk_.SaveAs_Click("For Ann");
+    form_.SaveKitAs_Titled("For Ann");
+    EXPECT_THAT(form_.StatusHint(), HasSubstr("For Ann.kit"));
     EXPECT_THAT(studio_.Screen.OpenForms, IsEmpty());
     EXPECT_EQ(ReadKitFile(Kit("For Ann")).Title, "For Ann");
     EXPECT_EQ(studio_.State.PictureName, "For Ann");
@@ -160,12 +161,11 @@ TEST_F(KitDeskTest, IsSavedFromTheEditorWithTheEditsOfTheSession) {
     editor.PaintList_Click(other);
     editor.PointerDown({2, 2});
     editor.PointerUp();
-    editor.SaveKit_Click();
-    EXPECT_EQ(editor.Controls().Status, "Saved four.kit");
-    EXPECT_FALSE(editor.Controls().Unsaved);
+    studio_.Screen.SaveAnswers = {SaveAnswer::Save};
+    editor.Cancel_Click();  // what was saved goes into the kit
+    EXPECT_FALSE(editor.Open());
     EXPECT_FALSE(fs::exists(studio_.Files / "Saved Stipples"));
-    editor.Cancel_Click();  // asks nothing: what was saved goes into the kit
-    EXPECT_THAT(studio_.Screen.Questions, IsEmpty());
+    EXPECT_THAT(studio_.Screen.Questions, SizeIs(1));
     EXPECT_FALSE(desk_.Unsaved());
     const KitFile kit = ReadKitFile(Kit("four"));
     EXPECT_EQ(kit.Stipples(2, 2).ColorIndex, other);

@@ -536,6 +536,7 @@ TEST(Recovery, OfALivingEditorIsNotOfferedToASecondOne) {
     ASSERT_THAT(Listed(place), ElementsAre("Lady Easy*")) << "its own, after its crash";
     again.Restore(ListKeptWork(place)[0]);
     EXPECT_EQ(second.Edited(), (Rows{"11", "11"}));
+    EXPECT_TRUE(again.IsEdited({2, 1}) && !again.IsEdited({1, 1})) << "only what differs";
     again.SaveIt_Click();
     again.SettleRecovery();
     EXPECT_EQ(std::distance(fs::directory_iterator(first.Files / "Saved Stipples"), {}), 1);
