@@ -7,7 +7,7 @@
 namespace vendrel {
 namespace {
 
-constexpr int kSide = 8;  // pixels of a square
+constexpr int kFinderSquare = 8;  // pixels of a square
 
 constexpr std::uint64_t BitOf(std::uint8_t paint) {
     return std::uint64_t{1} << paint;
@@ -17,7 +17,7 @@ constexpr std::uint64_t BitOf(std::uint8_t paint) {
 
 PaintFinder::PaintFinder(const PaintedRegions& regions)
     : paints_(regions.Ids.Across(), regions.Ids.Down()),
-      squares_(paints_.Across() / kSide, paints_.Down() / kSide) {
+      squares_(paints_.Across() / kFinderSquare, paints_.Down() / kFinderSquare) {
     std::vector<std::uint8_t> paintOf;
     for (const Region& region : regions.List) {
         paintOf.push_back(static_cast<std::uint8_t>(region.Value));
@@ -25,10 +25,10 @@ PaintFinder::PaintFinder(const PaintedRegions& regions)
     for (int y = 0; y <= paints_.Down(); ++y) {
         const RowView<const int> ids = regions.Ids.Row(y);
         const RowView<std::uint8_t> paints = paints_.Row(y);
-        const RowView<Paints> squares = squares_.Row(y / kSide);
+        const RowView<Paints> squares = squares_.Row(y / kFinderSquare);
         for (int x = 0; x < ids.Count(); ++x) {
             paints[x] = paintOf[static_cast<std::size_t>(ids[x])];
-            squares[x / kSide] |= BitOf(paints[x]);
+            squares[x / kFinderSquare] |= BitOf(paints[x]);
         }
     }
 }
@@ -43,15 +43,15 @@ std::vector<int> PaintFinder::Within(const PlanRect& part) const {
     const Span rows = span(part.Top, part.Bottom, paints_.Down());
     // The squares that lie in it as a whole, and the pixels around them.
     const auto whole = [](Span pixels) -> Span {
-        const int first = (pixels.First + kSide - 1) / kSide;
-        return {first, std::max(first, pixels.End / kSide)};
+        const int first = (pixels.First + kFinderSquare - 1) / kFinderSquare;
+        return {first, std::max(first, pixels.End / kFinderSquare)};
     };
     const Span across = whole(columns);
     const Span down = whole(rows);
-    const int top = std::min(down.First * kSide, rows.End);
-    const int bottom = std::max(top, std::min(down.End * kSide, rows.End));
-    const int left = std::min(across.First * kSide, columns.End);
-    const int right = std::max(left, std::min(across.End * kSide, columns.End));
+    const int top = std::min(down.First * kFinderSquare, rows.End);
+    const int bottom = std::max(top, std::min(down.End * kFinderSquare, rows.End));
+    const int left = std::min(across.First * kFinderSquare, columns.End);
+    const int right = std::max(left, std::min(across.End * kFinderSquare, columns.End));
     Paints found = InPixels(columns, {rows.First, top}) | InPixels(columns, {bottom, rows.End}) |
                    InPixels({columns.First, left}, {top, bottom}) |
                    InPixels({right, columns.End}, {top, bottom});
