@@ -87,7 +87,9 @@ void SetupMenuItems(Menu& menu, int stage) {
     }
     menu[ChangeToStipples].Enabled = stage == 2;
     menu[PaintItNow].Enabled = stage == 3;
-    Enable(menu, {ColorPickerSelect, MakeItPaintable, SaveStipples, SaveKit, SaveKitAs}, stage == 3 || stage == 4);
+    Enable(menu, {ColorPickerSelect, MakeItPaintable, SaveStipples}, stage == 3 || stage == 4);
+    // A setting that waits for its stipples is no reason to lose a kit.
+    Enable(menu, {SaveKit, SaveKitAs}, stage >= 2 && stage <= 4);
     menu[PrintMenu].Enabled = stage == 4;
 }
 

@@ -74,7 +74,8 @@ bool PrepareFolders(const ProgramFolder& program) {
         CopyShippedPaintList(program);
     }
     CreateFolder(program, "Results");
-    for (const char* folder : {"Data", "Results", "Pictures", "Saved Stipples", "templates", "Kits"}) {
+    for (const char* folder :
+         {"Data", "Results", "Pictures", "Saved Stipples", "templates", "Kits"}) {
         RemoveLeftovers(program.Path(folder));
     }
     SettleKits(program);
