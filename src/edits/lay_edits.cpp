@@ -7,6 +7,7 @@
 #include "edits/paint_index.h"
 #include "edits/place_edits.h"
 #include "eye/seen_difference.h"
+#include "shell/paint_id.h"
 #include "shell/stipple_grid.h"
 
 namespace vendrel {
@@ -145,8 +146,7 @@ class EditLaying {
         OneBased<int> standIns(all_.Count());
         for (const int paint : wishes_) {
             const int place = place_[paint];
-            standIns[paint] +=
-                place > 0 && PaintIndex({all_[paint]}).Find(laid_.Paints[place]) == 0 ? 1 : 0;
+            standIns[paint] += place > 0 && !SamePaint(all_[paint], laid_.Paints[place]) ? 1 : 0;
         }
         report.Edits = static_cast<int>(layer_.Cells.size() + exchanges_.size());
         report.Kept = report.Edits;
@@ -193,12 +193,18 @@ class EditLaying {
 
 }  // namespace
 
-int StandInByEye(const PaintList& paints, const PaintColor& wanted) {
+int StandInByEye(const PaintList& paints, const PaintColor& wanted, int skip) {
     const Lab lab = LabOf(ColorOf(wanted));
-    const auto nearest = std::ranges::min_element(paints, {}, [&lab](const PaintColor& paint) {
-        return Ciede2000(lab, LabOf(ColorOf(paint)));
-    });
-    return static_cast<int>(nearest - paints.begin()) + 1;
+    int nearest = 0;
+    double least = 0;
+    for (int i = 1; i <= paints.Count(); ++i) {
+        const double difference = Ciede2000(lab, LabOf(ColorOf(paints[i])));
+        if (i != skip && (nearest == 0 || difference < least)) {
+            nearest = i;
+            least = difference;
+        }
+    }
+    return nearest;
 }
 
 std::string Sentence(const LayReport& report) {

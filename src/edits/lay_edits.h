@@ -26,8 +26,9 @@ struct LayReport {
 /// when there was none.
 [[nodiscard]] std::string Sentence(const LayReport& report);
 
-/// The paint that looks most like `wanted`, from 1; of those alike the first.
-[[nodiscard]] int StandInByEye(const PaintList& paints, const PaintColor& wanted);
+/// The paint that looks most like `wanted`, from 1; of those alike the first. `skip` is left out, 0
+/// for none. 0 when no paint is left.
+[[nodiscard]] int StandInByEye(const PaintList& paints, const PaintColor& wanted, int skip = 0);
 
 /// A grid as converted.
 struct ConvertedGrid {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "paints/next_best.h"
+#include "shell/paint_id.h"
 #include "shell/workplace.h"
 
 namespace vendrel {

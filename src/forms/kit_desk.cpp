@@ -26,18 +26,6 @@ constexpr std::size_t kMostRecent = 9;  // what a digit chooses
 
 const NoPhotoDecoder kNoDecoder;
 
-bool SamePaintsInOrder(const PaintList& a, const PaintList& b) {
-    return std::ranges::equal(a, b, [](const PaintColor& one, const PaintColor& other) {
-        return IdOf(one) == IdOf(other) && ColorOf(one) == ColorOf(other);
-    });
-}
-
-bool SamePicture(const Grid<StippleCell>& a, const Grid<StippleCell>& b) {
-    return a.Across() == b.Across() && a.Down() == b.Down() &&
-           std::ranges::equal(a.All(), b.All(), {}, &StippleCell::ColorIndex,
-                              &StippleCell::ColorIndex);
-}
-
 // A layer without edits may know of a grid.
 bool SameEdits(const EditLayer& a, const EditLayer& b) {
     return a == b || (a.Empty() && b.Empty());
@@ -102,8 +90,7 @@ bool KitDesk::IsAsSaved() const {
     return state.PictureName == kit.Title && SameSettings(state.Chosen, kit.Chosen) &&
            state.FinalColors == kit.FinalColors && print_.Settings() == kit.Print &&
            state.Protected == kit.Protected && SameEdits(state.Edits, kit.Layer.Edits) &&
-           SamePaintsInOrder(state.PaintColors, kit.Paints) &&
-           SamePicture(state.Stipples, kit.Stipples);
+           SamePaints(state.PaintColors, kit.Paints) && SameStipples(state.Stipples, kit.Stipples);
 }
 
 bool KitDesk::Unsaved() const {

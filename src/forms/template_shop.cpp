@@ -11,6 +11,7 @@
 #include "paints/restore.h"
 #include "paints/template_file.h"
 #include "paints/template_library.h"
+#include "shell/paint_id.h"
 #include "shell/scratch_place.h"
 #include "support/disk.h"
 #include "support/error.h"

@@ -162,13 +162,7 @@ CellRect TouchUpSelection::PutDown() {
     drag_ = Drag::None;
     const FloatingPatch floating = *std::exchange(floating_, std::nullopt);
     const char* name = !Any() ? "Paste" : floating.Source.Empty() ? "Copy" : "Move";
-    PaintList fresh;
-    for (const PaintColor& paint : floating.Patch.Paints) {
-        if (FindPaint(editor_.Sheet().Paints(), paint) == 0 &&
-            editor_.Sheet().PaintCount() + fresh.Count() < kMostPaints) {
-            fresh.Add(paint);
-        }
-    }
+    const PaintList fresh = MissingPaints(editor_.Sheet().Paints(), floating.Patch);
     CellRect dirty;
     if (!fresh.Empty()) {
         editor_.ChangePalette("Add Paints", EditIntent::Paint, WithPaints(editor_.Sheet(), fresh));

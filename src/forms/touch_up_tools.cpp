@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "edits/lay_edits.h"
+#include "edits/paint_index.h"
 #include "forms/touch_up_form.h"
 #include "shell/paint_id.h"
 
@@ -149,8 +151,8 @@ void TouchUpForm::KeepPaintInHand(const std::function<void()>& step) {
     step();
     const PaintList& paints = Sheet().Paints();
     const auto follow = [&paints](int& at, const PaintColor& paint) {
-        if (!paints.Holds(at) || IdOf(paints[at]) != IdOf(paint)) {
-            at = std::max(1, FindPaint(paints, paint));
+        if (!paints.Holds(at) || !SamePaint(paints[at], paint)) {
+            at = std::max(1, PaintIndex(paints).Find(paint));
         }
     };
     follow(controls_.Brush.Paint, inHand);
@@ -289,7 +291,7 @@ void TouchUpForm::ChangePalette(const char* name, EditIntent intent, SheetConten
 }
 
 void TouchUpForm::AddPaint_Click(const PaintColor& paint) {
-    if (controls_.AddEnabled && FindPaint(Sheet().Paints(), paint) == 0) {
+    if (controls_.AddEnabled && PaintIndex(Sheet().Paints()).Find(paint) == 0) {
         ChangePalette("Add Paint", EditIntent::Paint, WithPaints(Sheet(), {paint}));
         PaintList_Click(Sheet().PaintCount());
     }
@@ -301,10 +303,9 @@ void TouchUpForm::RemovePaint_Click() {
     }
     const int paint = controls_.Brush.Paint;
     const PaintColor removed = Sheet().Paints()[paint];
-    const PaintColor heir =
-        Sheet().Paints()[NearestByEye(Sheet().Paints(), Sheet().Paints()[paint], paint)];
+    const PaintColor heir = Sheet().Paints()[StandInByEye(Sheet().Paints(), removed, paint)];
     ChangePalette("Remove Paint", EditIntent::Exchange, WithoutPaint(Sheet(), paint));
-    PaintList_Click(FindPaint(Sheet().Paints(), heir));
+    PaintList_Click(PaintIndex(Sheet().Paints()).Find(heir));
     controls_.Status =
         removed.PaintName + " is left out; its stipples have " + heir.PaintName + " now.";
 }

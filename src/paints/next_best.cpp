@@ -12,11 +12,6 @@ double PaintDifference(const PaintColor& a, const PaintColor& b) {
     return std::hypot(a.Red - b.Red, a.Green - b.Green, a.Blue - b.Blue);
 }
 
-bool SamePaint(const PaintColor& a, const PaintColor& b) {
-    const PaintId id = IdOf(a);
-    return id == IdOf(b) && (id.Named() || ColorOf(a) == ColorOf(b));
-}
-
 std::vector<NextBestPaint> FindNextBest(const PaintColor& wanted,
                                         std::span<const PaintColor> candidates,
                                         const PaintList& taken, int count) {

@@ -17,9 +17,6 @@ struct NextBestPaint {
 /// The distance of two paints' colours, 0 to 441.7.
 [[nodiscard]] double PaintDifference(const PaintColor& a, const PaintColor& b);
 
-/// True when two entries are the same paint: one identity, and one colour where they have no name.
-[[nodiscard]] bool SamePaint(const PaintColor& a, const PaintColor& b);
-
 /// The `count` paints of `candidates` nearest to `wanted`, nearest first, equally near ones in
 /// the order of the candidates. Paints of `taken` are left out, also those that only share their
 /// colour with one of them: two paints of one colour would become one. Of candidates with one

@@ -26,4 +26,10 @@ struct PaintId {
     return {ToLower(paint.Mfg), ToLower(paint.PaintName), ToLower(paint.PaintCode)};
 }
 
+/// True when two entries are the same paint: one identity, and one color where they have no name.
+[[nodiscard]] inline bool SamePaint(const PaintColor& a, const PaintColor& b) {
+    const PaintId id = IdOf(a);
+    return id == IdOf(b) && (id.Named() || ColorOf(a) == ColorOf(b));
+}
+
 }  // namespace vendrel

@@ -1,5 +1,6 @@
 #include "shell/stipple_grid.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vendrel {
@@ -19,6 +20,12 @@ ValueGrid PaintsOf(const StippleGrid& grid) {
         }
     }
     return paints;
+}
+
+bool SameStipples(const Grid<StippleCell>& a, const Grid<StippleCell>& b) {
+    return a.Across() == b.Across() && a.Down() == b.Down() &&
+           std::ranges::equal(a.All(), b.All(), {}, &StippleCell::ColorIndex,
+                              &StippleCell::ColorIndex);
 }
 
 OneBased<int> CountStipples(const Grid<StippleCell>& cells, int across, int down, int paintCount) {

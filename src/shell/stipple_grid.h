@@ -26,6 +26,10 @@ void SetGrid(StippleGrid& grid, Grid<StippleCell> cells);
 /// The paint of every stipple, both from 0.
 [[nodiscard]] ValueGrid PaintsOf(const StippleGrid& grid);
 
+/// Whether both are of one size and show the same. Painting deals the area numbers out anew, so
+/// they may differ.
+[[nodiscard]] bool SameStipples(const Grid<StippleCell>& a, const Grid<StippleCell>& b);
+
 /// Stipples of every paint 1..paintCount in columns 1..across of rows 1..down.
 [[nodiscard]] OneBased<int> CountStipples(const Grid<StippleCell>& cells, int across, int down,
                                           int paintCount);

@@ -5,6 +5,8 @@
 #include <deque>
 #include <string>
 
+#include "edits/lay_edits.h"
+#include "edits/paint_index.h"
 #include "support/error.h"
 #include "support/field_reader.h"
 #include "touchup/palette_steps.h"
@@ -14,7 +16,6 @@ namespace {
 
 constexpr std::string_view kFirstField = "Vendrel stipples";
 constexpr int kLargestSide = 32767;
-constexpr int kMostStipples = 4'000'000;
 
 // The file would not give a double quote back, and no paint set has one.
 std::string Quoted(std::string text) {
@@ -81,17 +82,24 @@ CellSet CellsOf(const CellPatch& patch, CellPos corner, const EditSheet& sheet) 
 }
 
 OneBased<int> PaintsIn(const PaintList& paints, const CellPatch& patch) {
+    const PaintIndex index(paints);
     OneBased<int> found(patch.Paints.Count());
     for (int i = 1; i <= found.Count(); ++i) {
-        const int same = FindPaint(paints, patch.Paints[i]);
-        found[i] = same != 0 ? same : NearestByEye(paints, patch.Paints[i]);
+        const int same = index.Find(patch.Paints[i]);
+        found[i] = same != 0 ? same : StandInByEye(paints, patch.Paints[i]);
     }
     return found;
 }
 
-int CountMissing(const PaintList& paints, const CellPatch& patch) {
-    return static_cast<int>(std::ranges::count_if(
-        patch.Paints, [&](const PaintColor& paint) { return FindPaint(paints, paint) == 0; }));
+PaintList MissingPaints(const PaintList& paints, const CellPatch& patch) {
+    const PaintIndex index(paints);
+    PaintList missing;
+    for (const PaintColor& paint : patch.Paints) {
+        if (index.Find(paint) == 0 && paints.Count() + missing.Count() < kMostPaints) {
+            missing.Add(paint);
+        }
+    }
+    return missing;
 }
 
 void PlacePatch(EditPen& pen, const CellPatch& patch, CellPos corner) {
@@ -158,8 +166,9 @@ CellPatch ReadPatch(std::string_view text) {
     }
     const int across = reader.ReadInt("columns", 1, kLargestSide);
     const int down = reader.ReadInt("rows", 1, kLargestSide);
-    if (down > kMostStipples / across) {
-        throw FormatError(reader.File(), reader.Line(), "it has too many stipples. Copy fewer.");
+    if (static_cast<std::size_t>(down) > text.size() / static_cast<std::size_t>(across)) {
+        throw FormatError(reader.File(), reader.Line(),
+                          "it holds fewer stipples than it says. Copy them again.");
     }
     const int count = reader.ReadInt("paints", 1, kLargestSide);
     CellPatch patch;

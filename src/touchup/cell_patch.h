@@ -28,8 +28,8 @@ enum class MirrorWay { LeftRight, UpsideDown };
 /// Per paint of the patch that of the list: of the same identity, else the one that looks most like
 /// it.
 [[nodiscard]] OneBased<int> PaintsIn(const PaintList& paints, const CellPatch& patch);
-/// How many paints of the patch a list lacks.
-[[nodiscard]] int CountMissing(const PaintList& paints, const CellPatch& patch);
+/// The paints of the patch that a list lacks, as many as a kit has room for.
+[[nodiscard]] PaintList MissingPaints(const PaintList& paints, const CellPatch& patch);
 
 /// Puts the patch down with its corner there.
 void PlacePatch(EditPen& pen, const CellPatch& patch, CellPos corner);

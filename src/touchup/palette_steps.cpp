@@ -1,11 +1,6 @@
 #include "touchup/palette_steps.h"
 
-#include <algorithm>
-#include <utility>
-
-#include "eye/lab.h"
-#include "eye/seen_difference.h"
-#include "shell/paint_id.h"
+#include "edits/lay_edits.h"
 
 namespace vendrel {
 namespace {
@@ -21,25 +16,6 @@ void Renumber(SheetContents& sheet, const OneBased<int>& newOf) {
 
 }  // namespace
 
-int FindPaint(const PaintList& paints, const PaintColor& wanted) {
-    const auto found = std::ranges::find(paints, IdOf(wanted), IdOf);
-    return found == paints.end() ? 0 : static_cast<int>(found - paints.begin()) + 1;
-}
-
-int NearestByEye(const PaintList& paints, const PaintColor& wanted, int skip) {
-    const Lab color = LabOf(ColorOf(wanted));
-    int nearest = 0;
-    double least = 0;
-    for (int i = 1; i <= paints.Count(); ++i) {
-        const double difference = Ciede2000(color, LabOf(ColorOf(paints[i])));
-        if (i != skip && (nearest == 0 || difference < least)) {
-            nearest = i;
-            least = difference;
-        }
-    }
-    return nearest;
-}
-
 SheetContents WithPaints(const EditSheet& sheet, const PaintList& paints) {
     SheetContents more = sheet.Copy();
     for (const PaintColor& paint : paints) {
@@ -53,7 +29,7 @@ SheetContents WithPaints(const EditSheet& sheet, const PaintList& paints) {
 SheetContents WithoutPaint(const EditSheet& sheet, int paint) {
     SheetContents fewer = sheet.Copy();
     PaintList& paints = fewer.FoundColors;
-    const int heir = NearestByEye(paints, paints[paint], paint);
+    const int heir = StandInByEye(paints, paints[paint], paint);
     OneBased<int> newOf(paints.Count());
     for (int old = 1; old <= paints.Count(); ++old) {
         const int kept = old == paint ? heir : old;

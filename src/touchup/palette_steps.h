@@ -7,12 +7,6 @@ namespace vendrel {
 /// No kit has more paints than symbols that tell them apart.
 inline constexpr int kMostPaints = 50;
 
-/// The paint of that identity, 0 when the list has none. The first of several stands.
-[[nodiscard]] int FindPaint(const PaintList& paints, const PaintColor& wanted);
-/// The paint that looks most like `wanted`, the first of equals; `skip` is left out, 0 for none. 0
-/// when no paint is left.
-[[nodiscard]] int NearestByEye(const PaintList& paints, const PaintColor& wanted, int skip = 0);
-
 // The sheet with another palette, its stipples following. The sheet must be without flaw.
 
 /// With more paints at the end.

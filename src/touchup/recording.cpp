@@ -10,6 +10,7 @@
 #include "edits/layer_recorder.h"
 #include "edits/paint_index.h"
 #include "edits/place_edits.h"
+#include "shell/paint_id.h"
 
 namespace vendrel {
 namespace {
@@ -190,7 +191,7 @@ class Recording {
 
 void FollowExchange(PaintList& shown, const PaintColor& from, const PaintColor& to) {
     for (PaintColor& paint : shown) {
-        if (PaintIndex({from}).Find(paint) > 0) {
+        if (SamePaint(from, paint)) {
             paint = to;
         }
     }
@@ -215,7 +216,7 @@ BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
     PaintList shown = atOpening.BasePaints;
     for (PaintColor& paint : shown) {
         for (const PaintExchange& exchange : atOpening.Edits.Exchanges) {
-            if (PaintIndex({exchange.From}).Find(paint) > 0) {
+            if (SamePaint(exchange.From, paint)) {
                 paint = exchange.To;
                 break;
             }

@@ -32,12 +32,10 @@ void DrawStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush) 
 }
 
 void EraseStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush,
-                 const Grid<int>& base) {
+                 const BaseView& base) {
     ForLine(from, to, [&](CellPos spot) {
         for (const CellPos& at : CellsUnder(brush, spot)) {
-            if (base.Holds(at.X, at.Y)) {
-                pen.Paint(at, base(at.X, at.Y));
-            }
+            pen.Paint(at, base.PaintAt(at));
         }
     });
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "touchup/edit_pen.h"
+#include "touchup/recording.h"
 
 namespace vendrel {
 
@@ -48,10 +49,9 @@ void ForLine(CellPos from, CellPos to, Visit visit) {
 /// no gaps.
 void DrawStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush);
 
-/// The same with the paint that each stipple has in `base`, which is as large as the sheet; 0 there
-/// leaves one alone.
+/// The same with the paint that each stipple has in the base; those outside it are left alone.
 void EraseStroke(EditPen& pen, CellPos from, CellPos to, const EditBrush& brush,
-                 const Grid<int>& base);
+                 const BaseView& base);
 
 /// Repaints the area of one paint that holds `at`, linked through sides and corners.
 void FillArea(EditPen& pen, CellPos at, int paint);

@@ -77,7 +77,7 @@ CellRect TouchUp::BeginStroke(CellPos at, EditBrush brush) {
 CellRect TouchUp::BeginErasing(CellPos at, EditBrush brush) {
     EndStroke();
     brush_ = brush;
-    erasing_ = PaintsOfBase();
+    erasing_ = true;
     strokeAt_ = at;
     drawing_ = true;
     return StrokeTo(at);
@@ -85,9 +85,7 @@ CellRect TouchUp::BeginErasing(CellPos at, EditBrush brush) {
 
 AreaMerge TouchUp::PreviewAreaMerge(int smallest) const {
     AreaMerge plan = PlanAreaMerge(sheet_, smallest);
-    std::erase_if(plan.Changes, [this](const CellChange& change) {
-        return !pen_.MayPaint({change.X, change.Y});
-    });
+    LeaveOutWhatMayNotBePainted(plan.Changes);
     return plan;
 }
 
@@ -99,14 +97,10 @@ CellRect TouchUp::MergeAreas(int smallest) {
     });
 }
 
-Grid<int> TouchUp::PaintsOfBase() const {
-    Grid<int> paints(sheet_.Across(), sheet_.Down());
-    for (int y = 1; y <= paints.Down(); ++y) {
-        for (int x = 1; x <= paints.Across(); ++x) {
-            paints(x, y) = BasePaintAt({x, y});
-        }
-    }
-    return paints;
+void TouchUp::LeaveOutWhatMayNotBePainted(std::vector<CellChange>& changes) const {
+    std::erase_if(changes, [this](const CellChange& change) {
+        return !pen_.MayPaint({change.X, change.Y});
+    });
 }
 
 CellRect TouchUp::StrokeTo(CellPos at) {
@@ -114,7 +108,7 @@ CellRect TouchUp::StrokeTo(CellPos at) {
         return {};
     }
     if (erasing_) {
-        EraseStroke(pen_, strokeAt_, at, brush_, *erasing_);
+        EraseStroke(pen_, strokeAt_, at, brush_, Base());
     } else {
         DrawStroke(pen_, strokeAt_, at, brush_);
     }
@@ -129,7 +123,7 @@ CellRect TouchUp::StrokeTo(CellPos at) {
 void TouchUp::EndStroke() {
     drawing_ = false;
     PushStroke(StrokeName(), erasing_ ? EditIntent::Erase : EditIntent::Paint);
-    erasing_.reset();
+    erasing_ = false;
 }
 
 CellRect TouchUp::Edit(const std::string& name, EditIntent intent,
@@ -210,9 +204,7 @@ void TouchUp::LowerCleanLevel() {
 
 CleanUpPreview TouchUp::PreviewCleanUp() const {
     std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
-    std::erase_if(changes, [this](const CellChange& change) {
-        return !pen_.MayPaint({change.X, change.Y});
-    });
+    LeaveOutWhatMayNotBePainted(changes);
     return {static_cast<int>(changes.size()), CountAreasAfter(sheet_, changes)};
 }
 

@@ -53,8 +53,6 @@ class TouchUp {
                   const std::function<void(EditPen&)>& work);
     /// A step to another palette, its stipples following.
     void ChangePalette(const std::string& name, EditIntent intent, SheetContents sheet);
-    /// The paint that every stipple has without the edits of its own.
-    [[nodiscard]] Grid<int> PaintsOfBase() const;
     /// From here on all tools leave the stipples outside alone; no set lifts that.
     void KeepWithin(std::shared_ptr<const CellSet> cells);
 
@@ -141,6 +139,7 @@ class TouchUp {
 
   private:
     static constexpr const char* kBrushName = "Brush";
+    void LeaveOutWhatMayNotBePainted(std::vector<CellChange>& changes) const;
     [[nodiscard]] std::string StrokeName() const { return erasing_ ? kEraseName : kBrushName; }
 
     void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
@@ -173,7 +172,7 @@ class TouchUp {
     EditHistory history_;
     RecoveryTimer timer_;
     EditBrush brush_;
-    std::optional<Grid<int>> erasing_;  // to these paints
+    bool erasing_ = false;  // the stroke gives the base back
     CellPos strokeAt_;
     bool drawing_ = false;
     int savedId_ = -1;  // state of the history that the saved grid holds, also after a load

@@ -20,20 +20,6 @@ SavedGrid GridOf(const WorkState& state) {
             state.FinalColors};
 }
 
-bool SameStipples(const Grid<StippleCell>& a, const Grid<StippleCell>& b) {
-    // Painting deals the area numbers out anew.
-    return a.Across() == b.Across() && a.Down() == b.Down() &&
-           std::ranges::equal(a.All(), b.All(), {}, &StippleCell::ColorIndex,
-                              &StippleCell::ColorIndex);
-}
-
-// Counts are left out: they follow from the stipples.
-bool SamePaints(const PaintList& a, const PaintList& b) {
-    return std::ranges::equal(a, b, [](const PaintColor& one, const PaintColor& other) {
-        return IdOf(one) == IdOf(other) && ColorOf(one) == ColorOf(other);
-    });
-}
-
 // A file that cannot be read to its end holds something else.
 bool HoldsTheKit(const std::filesystem::path& path, const WorkState& state) {
     try {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "edits/lay_edits.h"
 #include "sheets.h"
 #include "support/error.h"
 #include "touchup/cell_patch.h"
@@ -175,9 +176,9 @@ TEST(Patch, TakesTheNearestPaintWhereAKitLacksIts) {
     KitBench bench({"12"}, 2);
     const TouchUp editor(bench.Place);
     CellPatch patch = CutPatch(editor.Sheet(), CellsLike(editor.Sheet(), {2, 1}));
-    EXPECT_EQ(CountMissing(editor.Sheet().Paints(), patch), 0);
+    EXPECT_EQ(MissingPaints(editor.Sheet().Paints(), patch).Count(), 0);
     patch.Paints[1].PaintName = "Another";
-    EXPECT_EQ(CountMissing(editor.Sheet().Paints(), patch), 1);
+    EXPECT_EQ(MissingPaints(editor.Sheet().Paints(), patch).Count(), 1);
     EXPECT_EQ(PaintsIn(editor.Sheet().Paints(), patch)[1], 2) << "by its color";
     const std::string text = PatchText(patch);
     for (const std::string& broken :
@@ -204,7 +205,7 @@ TEST(PaletteSteps, AddRemoveAndMovePaintsWithTheirStipples) {
     editor.ChangePalette("Sort Paints", EditIntent::Paint, WithPaintMoved(editor.Sheet(), 3, 1));
     EXPECT_EQ(names(), "3,1,2,X,");
     EXPECT_EQ(bench.Edited(), (Rows{"231", "111"}));
-    const int heir = NearestByEye(bench.State.FoundColors, bench.State.FoundColors[1], 1);
+    const int heir = StandInByEye(bench.State.FoundColors, bench.State.FoundColors[1], 1);
     const std::string heirName = bench.State.FoundColors[heir].PaintName;
     editor.ChangePalette("Remove Paint", EditIntent::Exchange, WithoutPaint(editor.Sheet(), 1));
     EXPECT_EQ(names(), "1,2,X,");
