@@ -153,7 +153,7 @@ SeenTable::SeenTable(std::span<const Color> colors, std::span<const Color> paint
       paints_(paints.size()),
       seen_(colors.size() * paints.size()) {
     const PaintLists lists(paints);
-    InParts(colors_, [&](Part part) {
+    InParts(colors_, [&](Slice part) {
         for (auto i = static_cast<std::size_t>(part.First); i < static_cast<std::size_t>(part.End);
              ++i) {
             const Lab lab = LabOf(colors[i]);

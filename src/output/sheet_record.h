@@ -40,6 +40,24 @@ class SheetRecord {
         ++now_;
     }
 
+    /// One row of the dots, and then the symbols, of a record of the same picture that came after
+    /// this one.
+    void JoinRow(int y, const SheetRecord& later) {
+        const auto own = dots_.Row(y);
+        const auto others = later.dots_.Row(y);
+        for (int x = 0; x <= dots_.Across(); ++x) {
+            own[x] = others[x] == 0 ? own[x] : others[x] + now_ - 1;
+        }
+    }
+    void JoinSymbols(const SheetRecord& later) {
+        symbols_.insert(symbols_.end(), later.symbols_.begin(), later.symbols_.end());
+        now_ += later.now_ - 1;
+        Counts.Areas += later.Counts.Areas;
+        Counts.AreasWithoutSymbol += later.Counts.AreasWithoutSymbol;
+        Counts.Symbols += later.Counts.Symbols;
+        Counts.SymbolsAstray += later.Counts.SymbolsAstray;
+    }
+
     [[nodiscard]] int Width() const { return dots_.Across(); }
     [[nodiscard]] int Height() const { return dots_.Down(); }
     /// The symbols in the order in which they were stamped.

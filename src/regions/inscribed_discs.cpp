@@ -171,7 +171,7 @@ std::vector<InscribedDisc> FindLargestDiscs(const Regions& regions) {
     const Lattice lattice(regions.Ids);
     const int rows = lattice.Height() - 2;
     std::array<DiscsInRows, kMostParts> parts;
-    InParts(rows, [&](Part part) {
+    InParts(rows, [&](Slice part) {
         At(parts, part.Index) = DiscsInRows(regions, lattice, part.First + 1, part.End + 1);
     });
     for (int i = 1; i < kMostParts; ++i) {

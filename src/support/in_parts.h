@@ -7,7 +7,7 @@
 namespace vendrel {
 
 /// One of the parts that make up 0..count-1, in order.
-struct Part {
+struct Slice {
     int Index = 0;
     int First = 0;
     int End = 0;  // the first behind
@@ -24,7 +24,7 @@ void InParts(int count, const Work& work) {
     const int cores = static_cast<int>(std::thread::hardware_concurrency());
     const int parts = std::clamp(std::min(cores, count / kWorthAThread), 1, kMostParts);
     const auto part = [=](int index) {
-        return Part{index, count * index / parts, count * (index + 1) / parts};
+        return Slice{index, count * index / parts, count * (index + 1) / parts};
     };
     std::vector<std::jthread> others;
     for (int index = 1; index < parts; ++index) {
