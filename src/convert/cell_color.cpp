@@ -6,6 +6,7 @@
 #include <span>
 
 #include "paints/color_match.h"
+#include "support/in_parts.h"
 #include "support/rounding.h"
 
 namespace vendrel {
@@ -39,14 +40,14 @@ Channels AverageColor(const Surface& photo, int left, int top, int size) {
 }
 
 std::vector<Color> StippleColors(const Surface& photo, CellPos grid, int size, Sampling method) {
-    std::vector<Color> colors;
-    colors.reserve(static_cast<std::size_t>(grid.X) * static_cast<std::size_t>(grid.Y));
-    for (int j = 0; j < grid.Y; ++j) {
-        for (int i = 0; i < grid.X; ++i) {
-            const Channels c = StippleColor(photo, {1 + i * size, 1 + j * size}, size, method);
-            colors.push_back(Rgb(c.Red, c.Green, c.Blue));
+    std::vector<Color> colors(static_cast<std::size_t>(grid.X) * static_cast<std::size_t>(grid.Y));
+    InParts(grid.X * grid.Y, [&](Slice part) {
+        for (int n = part.First; n < part.End; ++n) {
+            const CellPos corner{1 + n % grid.X * size, 1 + n / grid.X * size};
+            const Channels c = StippleColor(photo, corner, size, method);
+            colors[static_cast<std::size_t>(n)] = Rgb(c.Red, c.Green, c.Blue);
         }
-    }
+    });
     return colors;
 }
 

@@ -77,26 +77,40 @@ void SizeGrid(Workplace& place) {
     state.PaintableKit = false;
 }
 
-void FillBlock(Surface& picture, const StippleCell& cell, int half) {
-    picture.FillRect(cell.X - half, cell.Y - half, cell.X + half, cell.Y + half, kBlack);
+// Sampled before the first stipple is drawn over the photo.
+std::vector<Color> SampleStipples(const Surface& photo, const WorkState& state) {
+    return StippleColors(photo, {state.CellsAcross, state.CellsDown}, state.StippleSize,
+                         state.Chosen.Sample);
 }
 
-void ConvertRow(Workplace& place, FoundPaints& found, int j) {
+template <class T>
+std::span<const T> RowOf(const std::vector<T>& cells, const WorkState& state, int j) {
+    const auto across = static_cast<std::size_t>(state.CellsAcross);
+    return std::span(cells).subspan(static_cast<std::size_t>(j - 1) * across, across);
+}
+
+// Puts row j of the stipples into its place and clears the picture below it.
+void LayOutRow(Surface& picture, WorkState& state, int j) {
+    const int size = state.StippleSize;
+    const int top = 1 + (j - 1) * size;
+    picture.FillRect(1, top, 1 + state.CellsAcross * size, top + 2 * state.HalfStipple, kBlack);
+    for (int i = 1; i <= state.CellsAcross; ++i) {
+        StippleCell& cell = state.Stipples(i, j);
+        cell.X = 1 + (i - 1) * size + state.HalfStipple;
+        cell.Y = top + state.HalfStipple;
+    }
+}
+
+void ConvertRow(Workplace& place, FoundPaints& found, std::span<const Color> colors, int j) {
     WorkState& state = place.State;
     const Easel easel = EaselOf(place);
-    const Surface& photo = easel.Picture;
     const bool watched = place.Screen.Watched();
-    const int size = state.StippleSize;
-    const int half = state.HalfStipple;
-    const int top = 1 + (j - 1) * size;
+    LayOutRow(easel.Picture, state, j);
     for (int i = 1; i <= state.CellsAcross; ++i) {
-        const int left = 1 + (i - 1) * size;
-        const Channels color = StippleColor(photo, {left, top}, size, state.Chosen.Sample);
         StippleCell& cell = state.Stipples(i, j);
+        Channels color;
+        GetRgb(colors[static_cast<std::size_t>(i - 1)], color.Red, color.Green, color.Blue);
         cell.ColorIndex = found.Match(color);
-        cell.X = left + half;
-        cell.Y = top + half;
-        FillBlock(easel.Picture, cell, half);
         if (watched) {
             DrawTempStipple(easel, state, cell.X, cell.Y, cell.ColorIndex);
         }
@@ -126,8 +140,9 @@ void CheckPaints(Workplace& place) {
 Matched ApplyPlainly(Workplace& place) {
     WorkState& state = place.State;
     FoundPaints found(state, state, place.Screen);
+    const std::vector<Color> colors = SampleStipples(place.Frames->WorkFrame.Picture, state);
     for (int j = 1; j <= state.CellsDown; ++j) {
-        ConvertRow(place, found, j);
+        ConvertRow(place, found, RowOf(colors, state, j), j);
         EndRow(place.Screen, j, state.CellsDown);
     }
     state.StipplesMade = true;
@@ -143,12 +158,10 @@ Matched ApplyPlainly(Workplace& place) {
 void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
     WorkState& state = place.State;
     const Easel easel = EaselOf(place);
+    LayOutRow(easel.Picture, state, j);
     for (int i = 1; i <= state.CellsAcross; ++i) {
         StippleCell& cell = state.Stipples(i, j);
         cell.ColorIndex = paints[static_cast<std::size_t>(i - 1)];
-        cell.X = 1 + (i - 1) * state.StippleSize + state.HalfStipple;
-        cell.Y = 1 + (j - 1) * state.StippleSize + state.HalfStipple;
-        FillBlock(easel.Picture, cell, state.HalfStipple);
         if (place.Screen.Watched()) {
             DrawColorStipple(easel, state, i, j, ColorOf(state.PaintColors[cell.ColorIndex]));
         }
@@ -159,17 +172,12 @@ void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
 // shown afterwards.
 Matched ApplyByEye(Workplace& place) {
     WorkState& state = place.State;
-    const std::vector<Color> stipples =
-        StippleColors(place.Frames->WorkFrame.Picture, {state.CellsAcross, state.CellsDown},
-                      state.StippleSize, state.Chosen.Sample);
+    const std::vector<Color> stipples = SampleStipples(place.Frames->WorkFrame.Picture, state);
     EyeMatch match = MatchByEye(stipples, state.PaintColors,
                                 state.KeepAllColors ? state.PaintCount : state.FinalColors);
     SetPalette(state, std::move(match.Palette));
-    const auto across = static_cast<std::size_t>(state.CellsAcross);
     for (int j = 1; j <= state.CellsDown; ++j) {
-        PlaceRow(place,
-                 std::span(match.Paints).subspan(static_cast<std::size_t>(j - 1) * across, across),
-                 j);
+        PlaceRow(place, RowOf(match.Paints, state, j), j);
         EndRow(place.Screen, j, state.CellsDown);
     }
     state.StipplesMade = true;
