@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "eye/lab.h"
@@ -29,21 +30,35 @@ std::vector<float> BellCurve(double sigma) {
     return weights;
 }
 
+// Adds to each sum what lies at its place and `apart` behind.
+void AddBothSides(std::span<const float> wide, std::size_t apart, float weight,
+                  std::span<float> sums) {
+    for (std::size_t x = 0; x < sums.size(); ++x) {
+        sums[x] += weight * (wide[x] + wide[x + apart]);
+    }
+}
+
 // Blurs along rows and hands the rows back as columns, so that twice does both ways.
 Plane BlurredAndTurned(const Plane& plane, int width, int height,
                        const std::vector<float>& weights) {
-    const int reach = static_cast<int>(weights.size()) - 1;
+    const std::size_t reach = weights.size() - 1;
+    const auto across = static_cast<std::size_t>(width);
     Plane turned(plane.size());
+    Plane wide(across + 2 * reach);  // the row between copies of its ends
+    Plane sums(across);
     for (int y = 0; y < height; ++y) {
-        const float* const row = plane.data() + static_cast<std::ptrdiff_t>(y) * width;
-        for (int x = 0; x < width; ++x) {
-            float sum = row[x] * weights[0];
-            for (int i = 1; i <= reach; ++i) {
-                sum += weights[static_cast<std::size_t>(i)] *
-                       (row[std::max(x - i, 0)] + row[std::min(x + i, width - 1)]);
-            }
-            turned[static_cast<std::size_t>(x) * static_cast<std::size_t>(height) +
-                   static_cast<std::size_t>(y)] = sum;
+        const auto row = std::span(plane).subspan(static_cast<std::size_t>(y) * across, across);
+        std::ranges::fill(wide, row.front());
+        std::ranges::copy(row, wide.begin() + static_cast<std::ptrdiff_t>(reach));
+        std::fill_n(wide.rbegin(), reach, row.back());
+        for (std::size_t x = 0; x < across; ++x) {
+            sums[x] = row[x] * weights[0];
+        }
+        for (std::size_t i = 1; i <= reach; ++i) {
+            AddBothSides(std::span(wide).subspan(reach - i), 2 * i, weights[i], sums);
+        }
+        for (std::size_t x = 0; x < across; ++x) {
+            turned[x * static_cast<std::size_t>(height) + static_cast<std::size_t>(y)] = sums[x];
         }
     }
     return turned;
@@ -63,18 +78,37 @@ Plane BlurredLight(const Surface& picture, int (*channel)(Color),
     return BlurredAndTurned(plane, picture.Height(), picture.Width(), weights);
 }
 
-// The level whose light is nearest.
-int LevelOf(float light) {
-    static const std::array<float, 255> kBetween = [] {
-        std::array<float, 255> between{};
+// Levels by their light.
+class Levels {
+  public:
+    Levels() {
         for (int i = 0; i < 255; ++i) {
-            between.at(static_cast<std::size_t>(i)) =
+            between_.at(static_cast<std::size_t>(i)) =
                 static_cast<float>((LightOf(i) + LightOf(i + 1)) / 2);
         }
-        return between;
-    }();
-    return static_cast<int>(std::ranges::upper_bound(kBetween, light) - kBetween.begin());
-}
+        for (std::size_t step = 0; step < lowest_.size(); ++step) {
+            const float light = static_cast<float>(step) / kSteps;
+            lowest_.at(step) =
+                static_cast<int>(std::ranges::upper_bound(between_, light) - between_.begin());
+        }
+    }
+
+    /// The one whose light is nearest.
+    [[nodiscard]] int NearestTo(float light) const {
+        const auto step = static_cast<std::size_t>(std::clamp(light, 0.0F, 1.0F) * kSteps);
+        int level = lowest_[step];
+        while (level < 255 && between_[static_cast<std::size_t>(level)] <= light) {
+            ++level;
+        }
+        return level;
+    }
+
+  private:
+    static constexpr int kSteps = 4096;
+
+    std::array<float, 255> between_{};
+    std::array<int, kSteps + 1> lowest_{};  // of a step of light
+};
 
 }  // namespace
 
@@ -86,11 +120,14 @@ Surface Blurred(const Surface& picture, double sigma) {
     const Plane red = BlurredLight(picture, RedOf, weights);
     const Plane green = BlurredLight(picture, GreenOf, weights);
     const Plane blue = BlurredLight(picture, BlueOf, weights);
+    static const Levels kLevels;
     Surface blurred(picture.Width(), picture.Height());
     std::size_t at = 0;
     for (int y = 0; y < picture.Height(); ++y) {
         for (int x = 0; x < picture.Width(); ++x, ++at) {
-            blurred.Set(x, y, Rgb(LevelOf(red[at]), LevelOf(green[at]), LevelOf(blue[at])));
+            blurred.Set(x, y,
+                        Rgb(kLevels.NearestTo(red[at]), kLevels.NearestTo(green[at]),
+                            kLevels.NearestTo(blue[at])));
         }
     }
     return blurred;

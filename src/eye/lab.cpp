@@ -48,7 +48,7 @@ Lab LabOf(Color color) {
 }
 
 double ChromaOf(const Lab& lab) {
-    return std::hypot(lab.A, lab.B);
+    return std::sqrt(lab.A * lab.A + lab.B * lab.B);
 }
 
 }  // namespace vendrel

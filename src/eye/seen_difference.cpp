@@ -16,8 +16,10 @@ double HueOf(double a, double b) {
 }
 
 double SeventhPowerShare(double chroma) {
-    const double power = std::pow(chroma, 7);
-    return std::sqrt(power / (power + std::pow(25.0, 7)));
+    constexpr double kPowerOf25 = 6103515625;
+    const double square = chroma * chroma;
+    const double power = square * square * square * chroma;
+    return std::sqrt(power / (power + kPowerOf25));
 }
 
 // Lightness, chroma and hue with reds stretched where chroma is low.
@@ -29,7 +31,7 @@ struct Lch {
 
 Lch Stretched(const Lab& lab, double stretch) {
     const double a = lab.A * stretch;
-    return {lab.L, std::hypot(a, lab.B), HueOf(a, lab.B)};
+    return {lab.L, std::sqrt(a * a + lab.B * lab.B), HueOf(a, lab.B)};
 }
 
 double MeanHue(const Lch& one, const Lch& other) {
@@ -52,9 +54,41 @@ double HueStep(const Lch& one, const Lch& other) {
     return 2 * std::sqrt(one.C * other.C) * std::sin(step / 2 * kDegree);
 }
 
+// A direction, as its cosine and sine.
+struct Angle {
+    double Cos;
+    double Sin;
+
+    explicit Angle(double degrees)
+        : Cos(std::cos(degrees * kDegree)), Sin(std::sin(degrees * kDegree)) {}
+    Angle(double cosine, double sine) : Cos(cosine), Sin(sine) {}
+
+    friend Angle operator+(const Angle& a, const Angle& b) {
+        return {a.Cos * b.Cos - a.Sin * b.Sin, a.Sin * b.Cos + a.Cos * b.Sin};
+    }
+};
+
+// 1 - 0.17 cos(h - 30) + 0.24 cos(2 h) + 0.32 cos(3 h + 6) - 0.20 cos(4 h - 63). Photos are
+// compared pixel by pixel, and cosines are most of what that costs: one is reckoned, the others
+// added up.
 double HueWeight(double hue) {
-    return 1 - 0.17 * std::cos((hue - 30) * kDegree) + 0.24 * std::cos(2 * hue * kDegree) +
-           0.32 * std::cos((3 * hue + 6) * kDegree) - 0.20 * std::cos((4 * hue - 63) * kDegree);
+    static const Angle kBack30(-30);
+    static const Angle kOn6(6);
+    static const Angle kBack63(-63);
+    const Angle once(hue);
+    const Angle twice = once + once;
+    return 1 - 0.17 * (once + kBack30).Cos + 0.24 * twice.Cos + 0.32 * (twice + once + kOn6).Cos -
+           0.20 * (twice + twice + kBack63).Cos;
+}
+
+// How far blues of that chroma are turned towards each other; next to nothing elsewhere.
+double BlueTurn(double hue, double chroma) {
+    constexpr double kFarFromBlue = 40;  // e to the power of that is beyond a double's digits
+    const double blueness = (hue - 275) / 25;
+    const double square = blueness * blueness;
+    return square > kFarFromBlue
+               ? 0
+               : 2 * SeventhPowerShare(chroma) * std::sin(60 * std::exp(-square) * kDegree);
 }
 
 }  // namespace
@@ -70,11 +104,8 @@ double Ciede2000(const Lab& one, const Lab& other) {
                                                           std::sqrt(20 + lightness * lightness));
     const double byChroma = (to.C - from.C) / (1 + 0.045 * chroma);
     const double byHue = HueStep(from, to) / (1 + 0.015 * chroma * HueWeight(hue));
-    const double blueness = (hue - 275) / 25;
-    const double turn =
-        2 * SeventhPowerShare(chroma) * std::sin(60 * std::exp(-blueness * blueness) * kDegree);
     return std::sqrt(byLightness * byLightness + byChroma * byChroma + byHue * byHue -
-                     turn * byChroma * byHue);
+                     BlueTurn(hue, chroma) * byChroma * byHue);
 }
 
 double SeenDifference(const Lab& stipple, const Lab& paint) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <future>
 #include <vector>
 
 #include "eye/blur.h"
@@ -40,6 +41,10 @@ std::vector<Color> PixelsOf(const Surface& picture) {
         pixels.insert(pixels.end(), row.begin(), row.end());
     }
     return pixels;
+}
+
+double DifferenceAtArmsLength(const Surface& photo, const Surface& painting, double sigma) {
+    return MeanDifference(PixelsOf(Blurred(photo, sigma)), PixelsOf(Blurred(painting, sigma)));
 }
 
 std::size_t ClassOf(double mm2) {
@@ -82,8 +87,10 @@ SeenFigures CompareWithPhoto(const Workplace& place) {
     const Surface& painting = place.Frames->WorkFrame.Picture;
     const Surface& photo = place.Frames->CaptureFrame.Picture;
     const double sigma = CanvasScale(place.State->Chosen, painting.Width()).Pixels(kBlurMm);
-    return {MeanDifference(PixelsOf(photo), PixelsOf(painting)),
-            MeanDifference(PixelsOf(Blurred(photo, sigma)), PixelsOf(Blurred(painting, sigma)))};
+    auto fromAfar = std::async(std::launch::async,
+                               [&] { return DifferenceAtArmsLength(photo, painting, sigma); });
+    const double near = MeanDifference(PixelsOf(photo), PixelsOf(painting));
+    return {near, fromAfar.get()};
 }
 
 }  // namespace vendrel
