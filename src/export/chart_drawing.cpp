@@ -73,10 +73,9 @@ void DrawRow(QPainter& painter, const ColorChart& chart, const ChartRow& row, do
     painter.fillRect(QRectF(kMargin, top - 1, kChartWidth - 2 * kMargin, 2), kRule);
     const QRectF swatch = CellOf(kSwatch, top, height).adjusted(0, pad, 0, -pad);
     painter.setPen(QPen(kFaint, 2));  // a pale paint needs an edge on white paper
-    painter.setBrush(ToQt(row.Swatch));
     painter.drawRect(swatch.adjusted(1, 1, -1, -1));
-    painter.setBrush(Qt::NoBrush);
     painter.setPen(Qt::black);
+    chart.FillSwatch(row.Swatch, swatch);
     chart.DrawSymbol(painter, row.Symbol, CellOf(kSymbol, top, height).adjusted(0, pad, 0, -pad));
     const int size = static_cast<int>(std::min(height * 0.62, 46.0));
     const QRectF label = CellOf(kPaint, top, height);
