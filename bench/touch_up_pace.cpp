@@ -34,6 +34,7 @@ class Pace {
         const double start = Now();
         work();
         took_.push_back(Now() - start);
+        if (took_.back() > 12) { std::printf("#%zu of %p %.1f\n", took_.size(), (void*)this, took_.back()); }
     }
     void Print(const char* what) {
         std::ranges::sort(took_);
@@ -91,6 +92,7 @@ void Measure(TouchUpCanvas& canvas, const char* what) {
     Pace pans;
     Pace panEnds;
     auto* editor = canvas.window();
+    QApplication::processEvents();
     for (int i = 0; i < 8; ++i) {
         editor->findChild<QTreeWidget*>(QStringLiteral("Palette"))
             ->setCurrentItem(

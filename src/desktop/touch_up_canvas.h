@@ -88,10 +88,12 @@ class TouchUpCanvas : public QAbstractScrollArea {
     void PointTo(std::optional<CellPos> at);
     void MoveCursor(int dx, int dy);
     void PanBy(QPoint way);
+    void ScrollTo(QPoint to);
     void ShowPanPointer();
     [[nodiscard]] bool MovesBy(QKeyEvent& event);
     [[nodiscard]] QRect CursorRect() const;
     [[nodiscard]] QRegion MarkedRegion() const;
+    void PaintPart(QPainter& painter, const QRect& exposed);
     void PaintMarks(QPainter& painter, const CellRect& shown) const;
     void PaintPointer(QPainter& painter) const;
 
@@ -109,6 +111,8 @@ class TouchUpCanvas : public QAbstractScrollArea {
     Qt::MouseButton button_ = Qt::LeftButton;  // that drags
     bool spaceHeld_ = false;
     QPoint panFrom_;
+    bool scrollsBoth_ = false;
+    QPoint scrolled_;  // pixels not moved by yet
     int wheel_ = 0;  // eighths of a degree not used up yet
     std::optional<CellPos> pointer_;
     CellPos cursor_{1, 1};  // where the keyboard stands
