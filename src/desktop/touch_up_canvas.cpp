@@ -15,8 +15,9 @@ namespace {
 constexpr std::array kEdges = {1.0,  2.0,  3.0,  4.0,  5.0,  6.0,  8.0,  10.0, 12.0,
                                14.0, 16.0, 20.0, 24.0, 28.0, 32.0, 40.0, 48.0, 64.0};
 constexpr int kWheelStep = 120;
-constexpr int kMostParts = 8;      // of what is drawn anew, each by itself
-constexpr int kSmallestRing = 18;  // pixels: found at a glance whatever the zoom
+constexpr int kMostParts = 8;            // of what is drawn anew, each by itself
+constexpr std::size_t kMostMarks = 100;  // more are drawn faster with all between them
+constexpr int kSmallestRing = 18;        // pixels: found at a glance whatever the zoom
 
 double EdgeAbove(double edge) {
     return *std::upper_bound(kEdges.begin(), kEdges.end() - 1, edge + 0.01);
@@ -352,7 +353,7 @@ void TouchUpCanvas::Blink(bool on) {
     viewport()->update(before | MarkedRegion());
 }
 
-// Marks that touch are joined, as a region wants them.
+// Marks that touch are joined, as a region wants them. Many are everywhere.
 QRegion TouchUpCanvas::MarkedRegion() const {
     const CellRect shown = place_.CellsIn(viewport()->rect(), sheet_.Bounds());
     std::vector<QRect> rects;
@@ -370,6 +371,9 @@ QRegion TouchUpCanvas::MarkedRegion() const {
         }
     }
     QRegion region;
+    if (rects.size() > kMostMarks) {
+        return place_.RectOf(shown);
+    }
     region.setRects(rects.data(), static_cast<int>(rects.size()));
     return region;
 }
@@ -394,25 +398,16 @@ void TouchUpCanvas::paintEvent(QPaintEvent* event) {
 void TouchUpCanvas::PaintPart(QPainter& painter, const QRect& exposed) {
     painter.fillRect(exposed, palette().color(QPalette::Mid));
     sheet_.Paint(painter, exposed, place_, look_);
-    if (form_.Open() && !look_.PhotoOnly) {
+    const CellRect shown = place_.CellsIn(exposed.adjusted(-2, -2, 2, 2), sheet_.Bounds());
+    if (form_.Open() && !look_.PhotoOnly && !shown.Empty()) {
         painter.save();
         painter.setClipRect(place_.RectOf(sheet_.Bounds()).adjusted(-1, -1, 1, 1),
                             Qt::IntersectClip);
-        overlays_.Paint(painter, place_.CellsIn(exposed.adjusted(-2, -2, 2, 2), sheet_.Bounds()),
-                        place_);
+        overlays_.Paint(painter, shown, place_);
         painter.restore();
     }
     if (blinkOn_ && !look_.PhotoOnly) {
-        PaintMarks(painter, place_.CellsIn(exposed, sheet_.Bounds()));
-    }
-}
-
-void TouchUpCanvas::PaintMarks(QPainter& painter, const CellRect& shown) const {
-    for (const CellPos& cell : marked_) {
-        if (cell.X >= shown.Left && cell.X <= shown.Right && cell.Y >= shown.Top &&
-            cell.Y <= shown.Bottom) {
-            painter.fillRect(place_.RectOf(cell), kMarkColor);
-        }
+        FillRuns(painter, marked_, shown, place_, kMarkColor);
     }
 }
 

@@ -94,7 +94,6 @@ class TouchUpCanvas : public QAbstractScrollArea {
     [[nodiscard]] QRect CursorRect() const;
     [[nodiscard]] QRegion MarkedRegion() const;
     void PaintPart(QPainter& painter, const QRect& exposed);
-    void PaintMarks(QPainter& painter, const CellRect& shown) const;
     void PaintPointer(QPainter& painter) const;
 
     TouchUpForm& form_;
