@@ -47,6 +47,7 @@ class PlayedSteps {
         palette_ = &after->second.FoundColors;
         return &after->second;
     }
+    /// At the steps asked for until now; stays where it is.
     [[nodiscard]] const PaintList& Palette() const { return *palette_; }
 
   private:
@@ -90,7 +91,7 @@ class Recording {
             return std::move(recorded_);  // edits of another grid stay as they were made
         }
         for (std::size_t i = 0; i < done_.size(); ++i) {
-            const PaintList before = steps_.Palette();
+            const PaintList& before = steps_.Palette();
             if (const SheetContents* after = steps_.Next(i)) {
                 Replace(done_[i], before, *after);
             } else {
@@ -223,17 +224,17 @@ BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
         }
     }
     for (std::size_t i = 0; i < done.size(); ++i) {
-        const PaintList before = steps.Palette();
+        const PaintList& before = steps.Palette();
         const SheetContents* after = steps.Next(i);
         if (after != nullptr && done[i].Intent == EditIntent::NewBase) {
             cells_ = after->EditStipples;
             edited_ = ValueGrid(cells_.Across(), cells_.Down());
             shown = after->FoundColors;
-        } else if (after == nullptr && done[i].Intent == EditIntent::Exchange) {
+        } else if (Continue(done[i])) {
+            continue;
+        } else if (after == nullptr) {
             const CellChange& change = std::get<Changes>(done[i].What).front();
             FollowExchange(shown, before[change.From], before[change.To]);
-        } else if (after == nullptr) {
-            Follow(done[i]);
         } else if (done[i].Intent == EditIntent::Paint) {
             Follow(std::get<SheetContents>(done[i].What), *after);
         }
@@ -245,10 +246,15 @@ BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
     }
 }
 
-void BaseView::Follow(const EditStep& step) {
-    for (const CellChange& change : std::get<Changes>(step.What)) {
+bool BaseView::Continue(const EditStep& step) {
+    const auto* changes = std::get_if<Changes>(&step.What);
+    if (changes == nullptr || step.Intent == EditIntent::Exchange) {
+        return false;
+    }
+    for (const CellChange& change : *changes) {
         edited_(change.X, change.Y) = step.Intent == EditIntent::Erase ? 0 : 1;
     }
+    return true;
 }
 
 // Paints that only took other places were not painted with.

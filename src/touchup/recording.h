@@ -26,6 +26,8 @@ class BaseView {
     BaseView() = default;
     BaseView(const KitEdits& atOpening, std::span<const EditStep> done, const EditSheet& sheet);
 
+    /// Goes on with one step more; false, with nothing done, where all must be looked at anew.
+    [[nodiscard]] bool Continue(const EditStep& step);
     /// The sheet's paint for a stipple; 0 outside the base.
     [[nodiscard]] int PaintAt(CellPos at) const;
     /// Whether an edit of its own lies over a stipple.
@@ -34,7 +36,6 @@ class BaseView {
     }
 
   private:
-    void Follow(const EditStep& step);
     void Follow(const SheetContents& before, const SheetContents& after);
 
     ValueGrid edited_;

@@ -165,9 +165,15 @@ CellRect TouchUp::Replace(int from, int to) {
     return Edit("Replace Paint", intent, [&](EditPen& pen) { ReplacePaint(pen, from, to); });
 }
 
+// Step by step, so that a stroke late in the evening takes no longer than the first.
 const BaseView& TouchUp::Base() const {
-    if (std::exchange(baseId_, history_.StateId()) != history_.StateId()) {
-        base_ = BaseView(atOpening_, history_.DoneSteps(), sheet_);
+    const int before = std::exchange(baseId_, history_.StateId());
+    if (before != baseId_) {
+        const std::span<const EditStep> done = history_.DoneSteps();
+        const int last = done.size() > 1 ? done[done.size() - 2].Id : 0;
+        if (before != last || done.empty() || !base_.Continue(done.back())) {
+            base_ = BaseView(atOpening_, done, sheet_);
+        }
     }
     return base_;
 }
