@@ -20,6 +20,10 @@ struct RecordedEdits {
 [[nodiscard]] RecordedEdits RecordEdits(const KitEdits& atOpening, std::span<const EditStep> done,
                                         const EditSheet& sheet);
 
+/// The same without the moments, and at any time: what a stroke drew until now is painted by hand.
+[[nodiscard]] KitEdits EditsUntilNow(const KitEdits& atOpening, std::span<const EditStep> done,
+                                     const EditSheet& sheet);
+
 /// The base as the sheet would show it without the edits of single stipples.
 class BaseView {
   public:
@@ -37,9 +41,12 @@ class BaseView {
 
   private:
     void Follow(const SheetContents& before, const SheetContents& after);
+    void Take(const EditLayer& layer);
 
     ValueGrid edited_;
     Grid<StippleCell> cells_;
+    PaintList paints_;  // of the base
+    PaintList shown_;   // for each of them, as exchanges have it
     OneBased<int> shownAs_;
 };
 
