@@ -112,7 +112,7 @@ class TouchUpCanvas : public QAbstractScrollArea {
     QPoint panFrom_;
     bool scrollsBoth_ = false;
     QPoint scrolled_;  // pixels not moved by yet
-    int wheel_ = 0;  // eighths of a degree not used up yet
+    int wheel_ = 0;    // eighths of a degree not used up yet
     std::optional<CellPos> pointer_;
     CellPos cursor_{1, 1};  // where the keyboard stands
     bool cursorShown_ = false;
