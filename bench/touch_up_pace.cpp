@@ -3,12 +3,13 @@
 //
 //   QT_QPA_PLATFORM=offscreen trial_touch_up [PHOTO.bmp]
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSlider>
 #include <QSpinBox>
 #include <QTreeWidget>
 #include <algorithm>
@@ -91,10 +92,12 @@ void Measure(TouchUpCanvas& canvas, const char* what) {
     Pace pans;
     Pace panEnds;
     auto* editor = canvas.window();
+    QApplication::processEvents();
     for (int i = 0; i < 8; ++i) {
         editor->findChild<QTreeWidget*>(QStringLiteral("Palette"))
             ->setCurrentItem(
                 editor->findChild<QTreeWidget*>(QStringLiteral("Palette"))->topLevelItem(i));
+        QApplication::processEvents();
         hand.Stroke(Qt::LeftButton, moves, ends);
         hand.Stroke(Qt::MiddleButton, pans, panEnds);
     }
@@ -103,6 +106,25 @@ void Measure(TouchUpCanvas& canvas, const char* what) {
     ends.Print("  a stroke's begin and end");
     pans.Print("  a move of the picture");
 }
+
+/// What the editor shows, by the buttons clicked for it since the one before.
+struct Shown {
+    const char* What;
+    const char* Buttons = "";
+    double Edge = 0;
+    int Photo = 0;
+};
+constexpr Shown kShown[] = {
+    {"whole, largest brush"},
+    {"whole, edits", "ShowEdits"},
+    {"whole, edits and outlines", "Outlines"},
+    {"grid, symbols, edits and outlines", "GridLines Symbols", 12},
+    {"the same, one paint alone", "Alone", 12},
+    {"the same, hard areas and merging shown", "MarkHard MergePreview", 12},
+    {"the same, the photo over it", "", 12, 40},
+    {"the same, blinking", "BlinkPaint BlinkLoners", 12},
+    {"the same, larger", "Alone", 32},
+};
 
 void Run(const fs::path& photo, const fs::path& folder) {
     fs::create_directories(folder / "Pictures");
@@ -129,18 +151,20 @@ void Run(const fs::path& photo, const fs::path& folder) {
     std::printf("%d x %d stipples, a view of %d x %d pixels\n", sheet.Across(), sheet.Down(),
                 canvas.viewport()->width(), canvas.viewport()->height());
     canvas.window()->findChild<QSpinBox*>(QStringLiteral("BrushSize"))->setValue(kLargestBrush);
-    Measure(canvas, "whole, largest brush");
-    for (const char* check : {"GridLines", "Symbols", "Outlines"}) {
-        canvas.window()->findChild<QCheckBox*>(QString::fromLatin1(check))->click();
+    for (const Shown& shown : kShown) {
+        for (const QString& button :
+             QString::fromLatin1(shown.Buttons).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            canvas.window()->findChild<QAbstractButton*>(button)->click();
+        }
+        canvas.window()
+            ->findChild<QSlider*>(QStringLiteral("PhotoStrength"))
+            ->setValue(shown.Photo);
+        canvas.Fit();
+        while (canvas.Edge() < shown.Edge) {
+            canvas.ZoomIn();
+        }
+        Measure(canvas, shown.What);
     }
-    while (canvas.Edge() < 12) {
-        canvas.ZoomIn();
-    }
-    Measure(canvas, "grid, symbols and outlines");
-    for (const char* check : {"MarkHard", "MergePreview"}) {
-        canvas.window()->findChild<QCheckBox*>(QString::fromLatin1(check))->click();
-    }
-    Measure(canvas, "the same, hard areas and merging shown");
     canvas.window()->findChild<QPushButton*>(QStringLiteral("Accept"))->click();
 }
 

@@ -3,6 +3,8 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
 
 #include "desktop/paint_items.h"
 #include "desktop/text.h"
@@ -12,6 +14,8 @@ namespace vendrel {
 namespace {
 
 enum Column { kSymbol, kName, kCount };
+
+constexpr int kFigureMargin = 12;  // pixels
 
 }  // namespace
 
@@ -23,9 +27,8 @@ PaintRows::PaintRows(QWidget* parent) : QTreeWidget(parent) {
     setAllColumnsShowFocus(true);
     setTextElideMode(Qt::ElideRight);
     header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(kSymbol, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(QHeaderView::Fixed);
     header()->setSectionResizeMode(kName, QHeaderView::Stretch);
-    header()->setSectionResizeMode(kCount, QHeaderView::ResizeToContents);
     headerItem()->setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* row) {
         if (row != nullptr) {
@@ -49,21 +52,34 @@ void PaintRows::Follow(const TouchUpControls& shown) {
             shown_[i].Count = -1;
             auto* row = new QTreeWidgetItem;
             row->setFlags(row->flags() & ~Qt::ItemIsDropEnabled);
+            row->setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);
             addTopLevelItem(row);
         }
     }
     rows_ = shown.Rows;
     setDragDropMode(shown.Order == PaintOrder::Symbol ? InternalMove : NoDragDrop);
+    bool looks = false;
     for (int i = 1; i <= count; ++i) {
         const int paint = At(rows_, i - 1);
-        if (shown.Palette[paint] != shown_[i]) {
-            shown_[i] = shown.Palette[paint];
-            ShowRow(*topLevelItem(i - 1), shown_[i]);
-        }
+        looks = ShowRow(i, shown.Palette[paint]) || looks;
         if (paint == shown.Brush.Paint && topLevelItem(i - 1) != currentItem()) {
             setCurrentItem(topLevelItem(i - 1));
         }
     }
+    if (looks) {
+        FitColumns();
+    }
+}
+
+// Not by the header itself: it would measure all rows with each of a stroke's figures.
+void PaintRows::FitColumns() {
+    resizeColumnToContents(kSymbol);
+    int stipples = 0;
+    for (int i = 1; i <= shown_.Count(); ++i) {
+        stipples += shown_[i].Count;
+    }
+    const int figure = fontMetrics().horizontalAdvance(QString::number(stipples)) + kFigureMargin;
+    header()->resizeSection(kCount, std::max(figure, header()->sectionSizeHint(kCount)));
 }
 
 // The rows follow the palette, which follows the step.
@@ -85,17 +101,29 @@ void PaintRows::dropEvent(QDropEvent* event) {
     }
 }
 
-void PaintRows::ShowRow(QTreeWidgetItem& row, const TouchUpPaint& paint) {
-    const QPalette::ColorGroup group = paint.Count > 0 ? QPalette::Active : QPalette::Disabled;
-    for (const Column column : {kSymbol, kName, kCount}) {
-        row.setForeground(column, palette().brush(group, QPalette::Text));
+// True where more than a figure changed.
+bool PaintRows::ShowRow(int at, const TouchUpPaint& paint) {
+    const TouchUpPaint before = std::exchange(shown_[at], paint);
+    QTreeWidgetItem& row = *topLevelItem(at - 1);
+    if (before.Count != paint.Count) {
+        row.setText(kCount, QString::number(paint.Count));
+    }
+    const bool used = paint.Count > 0;
+    if (before.Count < 0 || (before.Count > 0) != used) {
+        for (const Column column : {kSymbol, kName, kCount}) {
+            row.setForeground(column, palette().brush(used ? QPalette::Active : QPalette::Disabled,
+                                                      QPalette::Text));
+        }
+    }
+    if (before.Count >= 0 && before.Swatch == paint.Swatch && before.Symbol == paint.Symbol &&
+        before.Label == paint.Label) {
+        return false;
     }
     row.setIcon(kSymbol, SwatchIcon(paint.Swatch));
     row.setText(kSymbol, Text(paint.Symbol));
     row.setText(kName, Text(paint.Name));
     row.setToolTip(kName, Text(paint.Label));
-    row.setText(kCount, QString::number(paint.Count));
-    row.setTextAlignment(kCount, Qt::AlignRight | Qt::AlignVCenter);
+    return true;
 }
 
 }  // namespace vendrel

@@ -27,7 +27,8 @@ class PaintRows : public QTreeWidget {
 
   private:
     [[nodiscard]] int PaintOf(QTreeWidgetItem* row) const;
-    void ShowRow(QTreeWidgetItem& row, const TouchUpPaint& paint);
+    void FitColumns();
+    [[nodiscard]] bool ShowRow(int at, const TouchUpPaint& paint);
 
     OneBased<TouchUpPaint> shown_;  // by row
     std::vector<int> rows_;

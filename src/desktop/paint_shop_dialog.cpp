@@ -98,7 +98,15 @@ void PaintShopDialog::Connect() {
 
 void PaintShopDialog::Load() {
     form_.PaintPalette_Resize(paintPalette_->width(), paintPalette_->height());
+    Context().Form.Kits().LendPalette(true);
     form_.Form_Load();
+}
+
+void PaintShopDialog::hideEvent(QHideEvent* event) {
+    if (!event->spontaneous()) {  // as when it is made small
+        Context().Form.Kits().LendPalette(false);
+    }
+    FormDialog::hideEvent(event);
 }
 
 void PaintShopDialog::Mirror() {

@@ -24,6 +24,7 @@ class PaintShopDialog : public FormDialog {
 
   protected:
     void Dismiss() override { form_.QueryUnload(); }
+    void hideEvent(QHideEvent* event) override;
 
   private:
     [[nodiscard]] QWidget* MakeModes();

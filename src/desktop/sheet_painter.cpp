@@ -73,7 +73,10 @@ void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPla
     const QRect shown = place.RectOf(cells);
     painter.save();
     painter.setClipRect(shown, Qt::IntersectClip);
-    if (!look.PhotoOnly) {
+    const bool symbols = look.Symbols && !look.PhotoOnly && place.Edge >= kSmallestForSymbols;
+    // Stipples of whole pixels are drawn with their symbols, which is faster than blending.
+    const bool opaque = symbols && look.PhotoPercent == 0 && place.Edge == std::floor(place.Edge);
+    if (!look.PhotoOnly && !opaque) {
         // The whole, cut by the clip: parts drawn by themselves would leave seams at zooms between
         // whole pixels.
         painter.drawImage(QRectF(place.Corner, QSizeF(cells_.size()) * place.Edge), cells_);
@@ -83,9 +86,7 @@ void SheetPainter::Paint(QPainter& painter, const QRect& exposed, const SheetPla
         PaintPicture(painter, photo_, place);
         painter.setOpacity(1);
     }
-    if (look.Symbols && !look.PhotoOnly && place.Edge >= kSmallestForSymbols) {
-        // Stipples of whole pixels are drawn with their symbols, which is faster than blending.
-        const bool opaque = look.PhotoPercent == 0 && place.Edge == std::floor(place.Edge);
+    if (symbols) {
         PaintSymbols(painter, cells, place, opaque);
     }
     if (look.GridLines && place.Edge >= kSmallestForGrid) {
@@ -119,14 +120,13 @@ void SheetPainter::PaintGrid(QPainter& painter, const CellRect& cells,
         if (shift > 0 && place.Edge < 2 * kSmallestForGrid) {
             return;  // two lines would leave too little of the stipple
         }
-        painter.setPen(color);
         for (int x = cells.Left; x <= cells.Right; ++x) {
             const int left = place.RectOf(CellPos{x, cells.Top}).left() + shift;
-            painter.drawLine(left, all.top(), left, all.bottom());
+            painter.fillRect(left, all.top(), 1, all.height(), color);
         }
         for (int y = cells.Top; y <= cells.Bottom; ++y) {
             const int top = place.RectOf(CellPos{cells.Left, y}).top() + shift;
-            painter.drawLine(all.left(), top, all.right(), top);
+            painter.fillRect(all.left(), top, all.width(), 1, color);
         }
     }
 }
@@ -144,6 +144,8 @@ void SheetPainter::PaintSymbols(QPainter& painter, const CellRect& cells, const 
             if (paint > 0) {
                 painter.drawPixmap(place.RectOf(CellPos{x, y}).topLeft(),
                                    Glyph(paint, edge, ratio));
+            } else if (opaque) {
+                painter.fillRect(place.RectOf(CellPos{x, y}), ToQColor(palette_[0].Swatch));
             }
         }
     }

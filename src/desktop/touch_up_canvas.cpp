@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace vendrel {
 namespace {
@@ -14,7 +15,9 @@ namespace {
 constexpr std::array kEdges = {1.0,  2.0,  3.0,  4.0,  5.0,  6.0,  8.0,  10.0, 12.0,
                                14.0, 16.0, 20.0, 24.0, 28.0, 32.0, 40.0, 48.0, 64.0};
 constexpr int kWheelStep = 120;
-constexpr int kSmallestRing = 18;  // pixels: found at a glance whatever the zoom
+constexpr int kMostParts = 8;            // of what is drawn anew, each by itself
+constexpr std::size_t kMostMarks = 100;  // more are drawn faster with all between them
+constexpr int kSmallestRing = 18;        // pixels: found at a glance whatever the zoom
 
 double EdgeAbove(double edge) {
     return *std::upper_bound(kEdges.begin(), kEdges.end() - 1, edge + 0.01);
@@ -91,9 +94,7 @@ void TouchUpCanvas::ShowActualSize() {
 }
 
 void TouchUpCanvas::CenterOn(CellPos at) {
-    const QPoint off = MiddleOf(at) - viewport()->rect().center();
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + off.x());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + off.y());
+    PanBy(viewport()->rect().center() - MiddleOf(at));
 }
 
 CellRect TouchUpCanvas::Shown() const {
@@ -125,8 +126,7 @@ void TouchUpCanvas::ZoomTo(double edge, QPointF around) {
     const QPointF spot = (around - place_.Corner) / place_.Edge;
     place_.Edge = edge;
     Place();
-    horizontalScrollBar()->setValue(qRound(spot.x() * edge - around.x()));
-    verticalScrollBar()->setValue(qRound(spot.y() * edge - around.y()));
+    ScrollTo({qRound(spot.x() * edge - around.x()), qRound(spot.y() * edge - around.y())});
     emit Zoomed();
 }
 
@@ -157,9 +157,23 @@ void TouchUpCanvas::resizeEvent(QResizeEvent* /*event*/) {
     emit Zoomed();
 }
 
+// Both ways at once: each by itself would move all that shows.
+void TouchUpCanvas::ScrollTo(QPoint to) {
+    scrollsBoth_ = true;
+    horizontalScrollBar()->setValue(to.x());
+    verticalScrollBar()->setValue(to.y());
+    scrollsBoth_ = false;
+    scrollContentsBy(0, 0);
+}
+
 void TouchUpCanvas::scrollContentsBy(int dx, int dy) {
-    place_.Corner += QPoint(dx, dy);
-    viewport()->scroll(dx, dy);
+    scrolled_ += QPoint(dx, dy);
+    if (scrollsBoth_ || scrolled_.isNull()) {
+        return;
+    }
+    const QPoint way = std::exchange(scrolled_, QPoint());
+    place_.Corner += way;
+    viewport()->scroll(way.x(), way.y());
     emit Moved();
 }
 
@@ -172,10 +186,7 @@ void TouchUpCanvas::GoTo(CellPos at) {
     const QRect around = CursorRect().adjusted(-60, -60, 60, 60);
     const QRect room = viewport()->rect();
     if (!room.contains(around)) {
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + around.center().x() -
-                                        room.center().x());
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + around.center().y() -
-                                      room.center().y());
+        PanBy(room.center() - around.center());
     }
     viewport()->update(CursorRect());
 }
@@ -206,8 +217,7 @@ void TouchUpCanvas::PointTo(std::optional<CellPos> at) {
 }
 
 void TouchUpCanvas::PanBy(QPoint way) {
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - way.x());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() - way.y());
+    ScrollTo(QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value()) - way);
 }
 
 void TouchUpCanvas::HoldSpace(bool held) {
@@ -343,7 +353,7 @@ void TouchUpCanvas::Blink(bool on) {
     viewport()->update(before | MarkedRegion());
 }
 
-// Marks that touch are joined, as a region wants them.
+// Marks that touch are joined, as a region wants them. Many are everywhere.
 QRegion TouchUpCanvas::MarkedRegion() const {
     const CellRect shown = place_.CellsIn(viewport()->rect(), sheet_.Bounds());
     std::vector<QRect> rects;
@@ -361,35 +371,43 @@ QRegion TouchUpCanvas::MarkedRegion() const {
         }
     }
     QRegion region;
+    if (rects.size() > kMostMarks) {
+        return place_.RectOf(shown);
+    }
     region.setRects(rects.data(), static_cast<int>(rects.size()));
     return region;
 }
 
+// Part by part: what a pan along both axes exposes, and a stroke with the brush that left it
+// behind, lie within a rectangle that is nearly all of the view.
 void TouchUpCanvas::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
-    const QRect exposed = event->rect();
-    painter.fillRect(exposed, palette().color(QPalette::Mid));
-    sheet_.Paint(painter, exposed, place_, look_);
-    if (form_.Open() && !look_.PhotoOnly) {
-        painter.save();
-        painter.setClipRect(place_.RectOf(sheet_.Bounds()).adjusted(-1, -1, 1, 1),
-                            Qt::IntersectClip);
-        overlays_.Paint(painter, place_.CellsIn(exposed.adjusted(-2, -2, 2, 2), sheet_.Bounds()),
-                        place_);
-        painter.restore();
-    }
-    if (blinkOn_ && !look_.PhotoOnly) {
-        PaintMarks(painter, place_.CellsIn(exposed, sheet_.Bounds()));
+    const QRegion& exposed = event->region();
+    if (exposed.rectCount() > kMostParts) {
+        PaintPart(painter, exposed.boundingRect());
+    } else {
+        for (const QRect& part : exposed) {
+            painter.setClipRect(part);
+            PaintPart(painter, part);
+        }
+        painter.setClipping(false);
     }
     PaintPointer(painter);
 }
 
-void TouchUpCanvas::PaintMarks(QPainter& painter, const CellRect& shown) const {
-    for (const CellPos& cell : marked_) {
-        if (cell.X >= shown.Left && cell.X <= shown.Right && cell.Y >= shown.Top &&
-            cell.Y <= shown.Bottom) {
-            painter.fillRect(place_.RectOf(cell), kMarkColor);
-        }
+void TouchUpCanvas::PaintPart(QPainter& painter, const QRect& exposed) {
+    painter.fillRect(exposed, palette().color(QPalette::Mid));
+    sheet_.Paint(painter, exposed, place_, look_);
+    const CellRect shown = place_.CellsIn(exposed.adjusted(-2, -2, 2, 2), sheet_.Bounds());
+    if (form_.Open() && !look_.PhotoOnly && !shown.Empty()) {
+        painter.save();
+        painter.setClipRect(place_.RectOf(sheet_.Bounds()).adjusted(-1, -1, 1, 1),
+                            Qt::IntersectClip);
+        overlays_.Paint(painter, shown, place_);
+        painter.restore();
+    }
+    if (blinkOn_ && !look_.PhotoOnly) {
+        FillRuns(painter, marked_, shown, place_, kMarkColor);
     }
 }
 

@@ -88,11 +88,12 @@ class TouchUpCanvas : public QAbstractScrollArea {
     void PointTo(std::optional<CellPos> at);
     void MoveCursor(int dx, int dy);
     void PanBy(QPoint way);
+    void ScrollTo(QPoint to);
     void ShowPanPointer();
     [[nodiscard]] bool MovesBy(QKeyEvent& event);
     [[nodiscard]] QRect CursorRect() const;
     [[nodiscard]] QRegion MarkedRegion() const;
-    void PaintMarks(QPainter& painter, const CellRect& shown) const;
+    void PaintPart(QPainter& painter, const QRect& exposed);
     void PaintPointer(QPainter& painter) const;
 
     TouchUpForm& form_;
@@ -109,7 +110,9 @@ class TouchUpCanvas : public QAbstractScrollArea {
     Qt::MouseButton button_ = Qt::LeftButton;  // that drags
     bool spaceHeld_ = false;
     QPoint panFrom_;
-    int wheel_ = 0;  // eighths of a degree not used up yet
+    bool scrollsBoth_ = false;
+    QPoint scrolled_;  // pixels not moved by yet
+    int wheel_ = 0;    // eighths of a degree not used up yet
     std::optional<CellPos> pointer_;
     CellPos cursor_{1, 1};  // where the keyboard stands
     bool cursorShown_ = false;

@@ -22,6 +22,7 @@ namespace {
 constexpr int kBlinkPause = 400;      // milliseconds
 constexpr int kFiguresPause = 200;    // milliseconds
 constexpr int kRecoveryPause = 1000;  // milliseconds
+constexpr int kMostWaits = 4;         // of the recovery for a stroke's end
 constexpr int kSideWidth = 330;
 constexpr Qt::Key kPhotoKey = Qt::Key_P;
 
@@ -173,6 +174,7 @@ void TouchUpDialog::Connect() {
     connect(tools_->ZoomOut, &QToolButton::clicked, canvas_, &TouchUpCanvas::ZoomOut);
     connect(tools_->Fit, &QToolButton::clicked, canvas_, &TouchUpCanvas::Fit);
     connect(tools_->ActualSize, &QToolButton::clicked, canvas_, &TouchUpCanvas::ShowActualSize);
+    connect(tools_, &TouchUpToolBar::Sized, canvas_, qOverload<>(&TouchUpCanvas::setFocus));
     connect(view_, &TouchUpViewPanel::BesideChosen, this, &TouchUpDialog::ShowBeside);
     connect(painting_, &PaintingJob::Painted, beside_, &BesideView::SetPainting);
     const std::pair<QKeySequence, QAbstractButton*> keys[] = {
@@ -216,6 +218,9 @@ void TouchUpDialog::ConnectCanvas() {
 void TouchUpDialog::ConnectTimers() {
     blink_.setInterval(kBlinkPause);
     connect(&blink_, &QTimer::timeout, this, [this] {
+        if (canvas_->HandIsDown()) {
+            return;  // marks everywhere would stop it
+        }
         blinkOn_ = !blinkOn_;
         canvas_->Blink(blinkOn_);
     });
@@ -233,7 +238,9 @@ void TouchUpDialog::ConnectTimers() {
     });
     recovery_.setInterval(kRecoveryPause);
     connect(&recovery_, &QTimer::timeout, this, [this] {
-        if (Ready()) {
+        const bool waits = canvas_->HandIsDown() && ++recoveryWaits_ < kMostWaits;
+        if (Ready() && !waits) {
+            recoveryWaits_ = 0;
             form_.KeepRecovery(std::chrono::steady_clock::now());
             MirrorStatus();
         }

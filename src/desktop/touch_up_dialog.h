@@ -84,6 +84,7 @@ class TouchUpDialog : public FormDialog {
     QTimer figures_;
     QTimer recovery_;
     bool blinkOn_ = false;
+    int recoveryWaits_ = 0;
     CellPos pointedAt_;  // {0, 0} for no stipple
 };
 

@@ -16,27 +16,6 @@ bool IsShown(CellPos at, const CellRect& shown) {
     return at.X >= shown.Left && at.X <= shown.Right && at.Y >= shown.Top && at.Y <= shown.Bottom;
 }
 
-// The sides between stipples that `differ(one, other)`; one further on all sides, for the edge of
-// what is shown may be such a side.
-template <class Differ>
-Lines SidesBetween(const CellRect& shown, const SheetPlace& place, Differ differ) {
-    Lines lines;
-    for (int y = shown.Top - 1; y <= shown.Bottom; ++y) {
-        for (int x = shown.Left - 1; x <= shown.Right; ++x) {
-            const QRect rect = place.RectOf(CellPos{x, y});
-            const int right = rect.right() + 1;
-            const int bottom = rect.bottom() + 1;
-            if (y >= shown.Top && differ(CellPos{x, y}, CellPos{x + 1, y})) {
-                lines.append({right, rect.top(), right, bottom});
-            }
-            if (x >= shown.Left && differ(CellPos{x, y}, CellPos{x, y + 1})) {
-                lines.append({rect.left(), bottom, right, bottom});
-            }
-        }
-    }
-    return lines;
-}
-
 enum class Side { None, Light, Dark };  // dark between two dark paints
 
 struct AreaSides {
@@ -46,41 +25,46 @@ struct AreaSides {
 
 // Sides in one line are one line: a whole view has too many to be drawn one by one.
 template <class SideAt, class LineOf>
-void AddRuns(AreaSides& sides, int count, SideAt sideAt, LineOf lineOf) {
-    int from = 0;
-    for (int i = 1; i <= count; ++i) {
-        if (i < count && sideAt(i) == sideAt(from)) {
+void AddRuns(AreaSides& sides, const int first, const int last, SideAt sideAt, LineOf lineOf) {
+    int from = first;
+    Side side = first <= last ? sideAt(first) : Side::None;
+    for (int i = first + 1; i <= last + 1; ++i) {
+        const Side next = i <= last ? sideAt(i) : Side::None;
+        if (i <= last && next == side) {
             continue;
         }
-        if (const Side side = sideAt(from); side != Side::None) {
+        if (side != Side::None) {
             (side == Side::Dark ? sides.Dark : sides.Light).append(lineOf(from, i));
         }
         from = i;
+        side = next;
     }
 }
 
-// `paints` are those of `shown` and one stipple more on all sides.
-AreaSides SidesOfAreas(const Grid<int>& paints, const OneBased<char>& dark, const CellRect& shown,
-                       const SheetPlace& place) {
-    const auto sideOf = [&dark](int one, int other) {
-        const auto isDark = [&dark](int paint) { return dark.Holds(paint) && dark[paint] != 0; };
-        return one == other ? Side::None : isDark(one) && isDark(other) ? Side::Dark : Side::Light;
-    };
-    const auto left = [&](int x) { return place.RectOf(CellPos{shown.Left + x, 1}).left(); };
-    const auto top = [&](int y) { return place.RectOf(CellPos{1, shown.Top + y}).top(); };
-    const int across = paints.Across() - 2;
-    const int down = paints.Down() - 2;
+// What `between(one, other)` says of the stipples' sides; of those at the edge of what is shown,
+// too.
+template <class Between>
+AreaSides SidesBetween(const CellRect& shown, const SheetPlace& place, Between between) {
+    const auto left = [&](int x) { return place.RectOf(CellPos{x, 1}).left(); };
+    const auto top = [&](int y) { return place.RectOf(CellPos{1, y}).top(); };
     AreaSides sides;
-    for (int x = 0; x <= across; ++x) {
+    for (int x = shown.Left - 1; x <= shown.Right; ++x) {
+        const int at = left(x + 1);
         AddRuns(
-            sides, down, [&](int y) { return sideOf(paints(x + 1, y + 2), paints(x + 2, y + 2)); },
-            [&](int from, int to) { return QLine(left(x), top(from), left(x), top(to)); });
+            sides, shown.Top, shown.Bottom,
+            [&](int y) {
+                return between(CellPos{x, y}, CellPos{x + 1, y});
+            },
+            [&](int from, int end) { return QLine(at, top(from), at, top(end)); });
     }
-    for (int y = 0; y <= down; ++y) {
+    for (int y = shown.Top - 1; y <= shown.Bottom; ++y) {
+        const int at = top(y + 1);
         AddRuns(
-            sides, across,
-            [&](int x) { return sideOf(paints(x + 2, y + 1), paints(x + 2, y + 2)); },
-            [&](int from, int to) { return QLine(left(from), top(y), left(to), top(y)); });
+            sides, shown.Left, shown.Right,
+            [&](int x) {
+                return between(CellPos{x, y}, CellPos{x, y + 1});
+            },
+            [&](int from, int end) { return QLine(left(from), at, left(end), at); });
     }
     return sides;
 }
@@ -98,29 +82,31 @@ void DrawTwoToned(QPainter& painter, const Lines& lines) {
 template <class Has>
 Lines OutlineOf(const CellRect& shown, const SheetPlace& place, Has has) {
     return SidesBetween(shown, place,
-                        [&has](CellPos one, CellPos other) { return has(one) != has(other); });
+                        [&has](CellPos one, CellPos other) {
+                            return has(one) != has(other) ? Side::Light : Side::None;
+                        })
+        .Light;
 }
 
-// Stipples side by side as one rectangle.
-template <class Fill>
-void ForRuns(const std::vector<CellPos>& cells, const CellRect& shown, Fill fill) {
+}  // namespace
+
+void FillRuns(QPainter& painter, const std::vector<CellPos>& cells, const CellRect& shown,
+              const SheetPlace& place, const QBrush& brush) {
     CellRect run;
     for (const CellPos& at : cells) {
         if (!IsShown(at, shown)) {
             continue;
         }
         if (!run.Empty() && (run.Top != at.Y || run.Right + 1 != at.X)) {
-            fill(run);
+            painter.fillRect(place.RectOf(run), brush);
             run = {};
         }
         run.Include(at);
     }
     if (!run.Empty()) {
-        fill(run);
+        painter.fillRect(place.RectOf(run), brush);
     }
 }
-
-}  // namespace
 
 QColor TouchUpOverlays::PaintColorOf(int paint) const {
     const OneBased<TouchUpPaint>& palette = form_.Controls().Palette;
@@ -165,13 +151,15 @@ void TouchUpOverlays::PaintEdits(QPainter& painter, const CellRect& shown,
     QColor tint = kMarkColor;
     tint.setAlpha(kTint);
     const auto isEdited = [this](CellPos at) { return form_.IsEdited(at); };
+    std::vector<CellPos> edited;
     for (int y = shown.Top; y <= shown.Bottom; ++y) {
         for (int x = shown.Left; x <= shown.Right; ++x) {
             if (isEdited({x, y})) {
-                painter.fillRect(place.RectOf(CellPos{x, y}), tint);
+                edited.push_back({x, y});
             }
         }
     }
+    FillRuns(painter, edited, shown, place, tint);
     painter.setPen(QPen(kMarkColor, 1));
     painter.drawLines(OutlineOf(shown, place, isEdited));
 }
@@ -221,8 +209,7 @@ void TouchUpOverlays::PaintMergeBorders(QPainter& painter, const CellRect& shown
 void TouchUpOverlays::PaintHard(QPainter& painter, const CellRect& shown,
                                 const SheetPlace& place) const {
     const QBrush hatch(kMarkColor, place.Edge < 6 ? Qt::Dense4Pattern : Qt::BDiagPattern);
-    ForRuns(form_.Areas().Hard(), shown,
-            [&](const CellRect& run) { painter.fillRect(place.RectOf(run), hatch); });
+    FillRuns(painter, form_.Areas().Hard(), shown, place, hatch);
 }
 
 void TouchUpOverlays::PaintOutlines(QPainter& painter, const CellRect& shown,
@@ -232,7 +219,16 @@ void TouchUpOverlays::PaintOutlines(QPainter& painter, const CellRect& shown,
     for (int i = 1; i <= form_.Controls().Palette.Count(); ++i) {
         dark.Add(qGray(PaintColorOf(i).rgb()) < kDarkGray ? 1 : 0);
     }
-    const AreaSides sides = SidesOfAreas(PaintsAround(shown), dark, shown, place);
+    const Grid<int> paints = PaintsAround(shown);
+    const auto paintAt = [&](CellPos at) {
+        return paints(at.X - shown.Left + 2, at.Y - shown.Top + 2);
+    };
+    const auto isDark = [&dark](int paint) { return dark.Holds(paint) && dark[paint] != 0; };
+    const AreaSides sides = SidesBetween(shown, place, [&](CellPos one, CellPos other) {
+        const int a = paintAt(one);
+        const int b = paintAt(other);
+        return a == b ? Side::None : isDark(a) && isDark(b) ? Side::Dark : Side::Light;
+    });
     painter.setPen(QPen(QColor(Qt::black), 1));
     painter.drawLines(sides.Light);
     painter.setPen(QPen(QColor(Qt::lightGray), 1));
@@ -246,8 +242,7 @@ void TouchUpOverlays::PaintFloating(QPainter& painter, const CellRect& shown,
         return;
     }
     const QBrush hole(Qt::gray, Qt::DiagCrossPattern);
-    ForRuns(floating->Source.Cells(), shown,
-            [&](const CellRect& run) { painter.fillRect(place.RectOf(run), hole); });
+    FillRuns(painter, floating->Source.Cells(), shown, place, hole);
     const CellPatch& patch = floating->Patch;
     const auto paintAt = [&](CellPos at) {
         const int x = at.X - floating->Corner.X + 1;

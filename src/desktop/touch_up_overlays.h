@@ -24,6 +24,10 @@ struct OverlayState {
     bool operator==(const OverlayState&) const = default;
 };
 
+/// Fills those of the stipples that show; row-major ones side by side at once.
+void FillRuns(QPainter& painter, const std::vector<CellPos>& cells, const CellRect& shown,
+              const SheetPlace& place, const QBrush& brush);
+
 /// What the editor shows over the stipples: areas and what merging them would change, the
 /// selection and what floats, the brush.
 class TouchUpOverlays {

@@ -1,6 +1,7 @@
 #include "desktop/touch_up_tool_bar.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <array>
@@ -137,6 +138,14 @@ void TouchUpToolBar::AddBrush() {
     size_->setFocusPolicy(Qt::ClickFocus);
     connect(size_, &QSpinBox::valueChanged, this,
             [this](int size) { work_([size](TouchUpForm& form) { form.BrushSize_Click(size); }); });
+    // With the keyboard it would keep the keys of tools for itself; while a number is typed it may.
+    const auto* const typed = size_->findChild<QLineEdit*>();
+    connect(typed, &QLineEdit::returnPressed, this, &TouchUpToolBar::Sized);
+    connect(size_, &QSpinBox::valueChanged, this, [this, typed] {
+        if (!typed->isModified()) {
+            emit Sized();
+        }
+    });
     round_->setCheckable(true);
     halves_[0]->addWidget(size_);
     halves_[0]->addWidget(round_);

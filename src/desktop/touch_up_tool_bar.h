@@ -30,6 +30,10 @@ class TouchUpToolBar : public QWidget {
     QToolButton* Fit;
     QToolButton* ActualSize;
 
+  signals:
+    /// The brush has its size; the keyboard is the picture's again.
+    void Sized();
+
   protected:
     void resizeEvent(QResizeEvent* event) override;
 

@@ -33,7 +33,7 @@ void ForgetEdits(KitEdits& edits, EditPast& past) {
 }
 
 std::shared_ptr<const KitEdits> BaseOf(const KitEdits& edits) {
-    return std::make_shared<KitEdits>(KitEdits{edits.BasePaints, edits.Base, {}});
+    return std::make_shared<KitEdits>(KitEdits{edits.BasePaints, edits.Base, {}, edits.Converted});
 }
 
 void AddMoment(EditPast& past, EditMoment moment) {
@@ -59,6 +59,7 @@ LayReport LayOnBase(const KitEdits& edits, Palette& palette, StippleGrid& grid,
 
 void LayOverConversion(WorkState& state) {
     KeepBase(state, state, state);
+    state.Converted = true;
     state.LaidOn.clear();
     if (!state.Edits.Empty()) {
         state.LaidOn =

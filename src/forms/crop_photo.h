@@ -52,6 +52,8 @@ class CropPhoto {
     [[nodiscard]] const CropPhotoControls& Controls() const { return controls_; }
     /// What part of the photo was kept last.
     [[nodiscard]] const PicturePart& KeptPart() const { return keptPart_; }
+    /// The same in pixels of the photo as it was turned.
+    [[nodiscard]] const CropRect& KeptRect() const { return controls_.Frame; }
 
   private:
     [[nodiscard]] int Step() const;

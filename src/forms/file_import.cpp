@@ -11,6 +11,7 @@
 #include "intake/keep_picture.h"
 #include "intake/photo_intake.h"
 #include "intake/photo_names.h"
+#include "kitfile/kit_photo.h"
 #include "kitfile/kit_places.h"
 #include "paints/restore.h"
 #include "shell/menu.h"
@@ -175,7 +176,15 @@ void FileImport::OpenCrop(const fs::path& photo, CropPhoto::Kept kept) {
     if (incoming.HasOwnColors()) {
         MentionColors(place_.State, place_.Screen, photo);
     }
-    crop_.Open(ReadAnyPhoto(place_.Screen, incoming), incoming.Stem(), std::move(kept));
+    crop_.Open(ReadAnyPhoto(place_.Screen, incoming), incoming.Stem(),
+               [this, of = photo.filename().string(), kept](const std::string& file) {
+                   NoteCrop(file, of);
+                   kept(file);
+               });
+}
+
+void FileImport::NoteCrop(const std::string& pictureFile, const std::string& of) {
+    crops_[pictureFile] = {of, crop_.KeptPart().QuartersRight, crop_.KeptRect()};
 }
 
 void FileImport::ChooseCrop(const std::string& pictureFile) {
@@ -202,8 +211,12 @@ std::string FileImport::TakeIn(const fs::path& photo, PhotoFit way) {
 }
 
 std::string FileImport::Cropped(const std::string& pictureFile, PhotoFit way) {
-    return CropInPictures(place_.Folder, pictureFile, TargetOf(place_.Screen, place_.State),
-                          PartOf(way));
+    const CropTarget target = TargetOf(place_.Screen, place_.State);
+    std::string file = CropInPictures(place_.Folder, pictureFile, target, PartOf(way));
+    if (file != pictureFile) {
+        crops_[file] = CropOf(place_.Folder.Path("Pictures/" + pictureFile), target, PartOf(way));
+    }
+    return file;
 }
 
 // One that no part of would fit is refused where it is taken.
@@ -233,7 +246,10 @@ void FileImport::TakePhoto(const fs::path& photo) {
             lastWay_ = way;
             TakeAndLoad([&] { return TakeIn(photo, way); }, way);
         },
-        [this](const std::string& file) { LoadCrop(file); });
+        [this, of = photo.filename().string()](const std::string& file) {
+            NoteCrop(file, of);
+            LoadCrop(file);
+        });
 }
 
 void FileImport::TakePicture(const Surface& picture) {
@@ -321,7 +337,8 @@ void FileImport::Load(PhotoFit way, const PicturePart* part) {
         throw;
     }
     if (kits_ != nullptr) {
-        kits_->Close();
+        const auto crop = crops_.find(state.PictureFile);
+        kits_->CloseFor(crop == crops_.end() ? std::nullopt : std::optional(crop->second));
     }
     KeepEditsOf(part);
     CheckSavedStipples(place_);

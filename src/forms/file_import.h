@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -93,6 +94,8 @@ class FileImport {
     [[nodiscard]] bool MustAsk(BitmapSize photo) const;
     void OpenCrop(const std::filesystem::path& photo, CropPhoto::Kept kept);
     [[nodiscard]] std::string TakeIn(const std::filesystem::path& photo, PhotoFit way);
+    /// The crop window cut the picture from that photo.
+    void NoteCrop(const std::string& pictureFile, const std::string& of);
     [[nodiscard]] std::string Cropped(const std::string& pictureFile, PhotoFit way);
     /// `part`: of the photo at work, whose edits go along; none for another photo.
     void TakeAndLoad(const Take& take, PhotoFit way, const PicturePart* part = nullptr);
@@ -107,6 +110,7 @@ class FileImport {
     Workplace& place_;
     const PhotoDecoder& decoder_;
     KitDesk* kits_ = nullptr;
+    std::map<std::string, KitCrop> crops_;  // how photos of this session were cut, by their files
     CropPhoto crop_;
     FitPhoto asking_;
     FitChoice fit_;

@@ -1,6 +1,5 @@
 #include "forms/kit_desk.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "convert/picture_name.h"
@@ -10,7 +9,6 @@
 #include "kitfile/take_kit.h"
 #include "shell/busy_pointer.h"
 #include "shell/menu.h"
-#include "shell/paint_id.h"
 #include "storage/load_stipples.h"
 #include "support/disk.h"
 #include "support/error.h"
@@ -81,16 +79,18 @@ void KitDesk::TakeUp(KitFile kit, const fs::path& photo) {
     print_.Restore(kit.Print);
     kit.Photo.File = photo.filename().string();
     file_ = pendingFile_;
+    crop_ = kit.Crop;
     saved_ = std::move(kit);
 }
 
 bool KitDesk::IsAsSaved() const {
     const WorkState& state = place_.State;
     const KitFile& kit = *saved_;
-    return state.PictureName == kit.Title && SameSettings(state.Chosen, kit.Chosen) &&
-           state.FinalColors == kit.FinalColors && print_.Settings() == kit.Print &&
-           state.Protected == kit.Protected && SameEdits(state.Edits, kit.Layer.Edits) &&
-           SamePaints(state.PaintColors, kit.Paints) && SameStipples(state.Stipples, kit.Stipples);
+    const bool samePaints = paletteIsLent_ || (state.FinalColors == kit.FinalColors &&
+                                               SamePaints(state.PaintColors, kit.Paints));
+    return state.PictureName == kit.Title && SameSettings(state.Chosen, kit.Chosen) && samePaints &&
+           print_.Settings() == kit.Print && state.Protected == kit.Protected &&
+           SameEdits(state.Edits, kit.Layer.Edits) && SameStipples(state.Stipples, kit.Stipples);
 }
 
 bool KitDesk::Unsaved() const {
@@ -164,8 +164,15 @@ void KitDesk::WriteTo(const fs::path& file) {
 }
 
 KitFile KitDesk::KitInHand() const {
-    return KitOf(place_, saved_ ? saved_->Photo : KitPhotoOf(place_.State->PicturePath),
-                 print_.Settings(), saved_ ? &*saved_ : nullptr);
+    KitFile kit = KitOf(place_, saved_ ? saved_->Photo : KitPhotoOf(place_.State->PicturePath),
+                        print_.Settings(), saved_ ? &*saved_ : nullptr);
+    kit.Crop = crop_;
+    return kit;
+}
+
+void KitDesk::CloseFor(std::optional<KitCrop> crop) {
+    Close();
+    crop_ = std::move(crop);
 }
 
 void KitDesk::Keep(const fs::path& file, KitFile kit) {

@@ -25,6 +25,12 @@ class KitDesk : public KitKeeper {
     /// changed. Throws FileError, FormatError, with everything as it was.
     void Open(const std::filesystem::path& file);
 
+    /// The paint shop shows its own palette in the place of the kit's, or has given it back.
+    void LendPalette(bool lent) { paletteIsLent_ = lent; }
+
+    /// Another photo is taken up, cut from a larger one or not, which its kits record.
+    void CloseFor(std::optional<KitCrop> crop);
+
     // The window that asks for the photo.
     /// A sentence on what became of it.
     [[nodiscard]] const std::string& PhotoProblem() const { return problem_; }
@@ -68,6 +74,8 @@ class KitDesk : public KitKeeper {
     Workplace& place_;
     const PhotoDecoder& decoder_;
     PlanChoice& print_;
+    bool paletteIsLent_ = false;
+    std::optional<KitCrop> crop_;   // of the photo at hand, where it is known
     std::optional<KitFile> saved_;  // the kit in hand as its file has it
     std::filesystem::path file_;
     std::optional<KitFile> pending_;  // waits for its photo

@@ -203,13 +203,17 @@ void MakePaintable::CancelButton_Click() {
 
 std::vector<std::string> MakePaintable::FigureLines() const {
     const KitFigures& figures = preview_->Figures();
+    const WorkState& state = preview_->State();
+    const int joined = state.Edits.Empty() ? 0 : state.PaintCount - state.FinalColors;
+    const std::string ofEdits =
+        joined > 0 ? " (" + std::to_string(joined) + " more for your edits)" : "";
     return {
         std::to_string(figures.Areas) + " areas, before " + std::to_string(areasBefore_),
         "Smallest " + Decimals(figures.SmallestMm2, 1) + " mm\u00B2, narrowest part " +
             Decimals(figures.NarrowestMm, 1) + " mm",
         std::to_string(figures.BySize[0]) + " areas under 9 mm\u00B2, " +
             std::to_string(figures.BySize[0] + figures.BySize[1]) + " under 25 mm\u00B2",
-        std::to_string(preview_->State().PaintCount) + " paints, mean seen difference " +
+        std::to_string(state.PaintCount) + " paints" + ofEdits + ", mean seen difference " +
             Decimals(preview_->SeenDifference(), 2),
         "About " + Decimals(figures.Hours, 0) + " hours: 20 s an area and 1 min per 10 cm\u00B2"};
 }

@@ -122,7 +122,9 @@ void TouchUpForm::RestoreKept_Click() {
     KeepPaintInHand([this] { Touched(editor_->Restore(At(kept_, controls_.Kept.Row))); });
     ListKept();
     controls_.Kept.Shown = false;
-    controls_.Status = "The kept work is back. Undo takes it away again.";
+    const std::string& report = editor_->RestoreReport();
+    controls_.Status = "The kept work is back" + (report.empty() ? "" : ": " + report) +
+                       ". Undo takes it away again.";
     Follow();
 }
 

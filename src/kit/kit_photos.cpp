@@ -8,6 +8,7 @@
 #include "convert/picture_name.h"
 #include "intake/photo_intake.h"
 #include "intake/photo_names.h"
+#include "kitfile/kit_photo.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 
@@ -27,12 +28,6 @@ std::string LongestEnding(const ProgramFolder& folder, std::string_view difficul
         }
     }
     return longest;
-}
-
-KitCrop CropOf(const ProgramFolder& folder, const std::string& picture, const CropTarget& target,
-               CropPart part) {
-    const BitmapSize size = ReadBitmapSize(folder.Path("Pictures/" + picture));
-    return {picture, 0, part == CropPart::Top ? CropTop(size, target) : CropCentre(size, target)};
 }
 
 }  // namespace
@@ -61,7 +56,7 @@ TakenPhoto KitPhotos::TakeIn(Workplace& place, const KitOptions& options,
     if (picture == taken) {
         return {std::move(picture), {}};
     }
-    return {std::move(picture), CropOf(place.Folder, taken, target, part)};
+    return {std::move(picture), CropOf(place.Folder.Path("Pictures/" + taken), target, part)};
 }
 
 std::string KitPhotos::Decode(Ui& screen, const ProgramFolder& folder, IncomingPhoto& photo) {

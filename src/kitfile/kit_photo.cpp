@@ -61,6 +61,12 @@ KitPhoto KitPhotoOf(const fs::path& bitmap) {
     return {bitmap.filename().string(), summer.Hex(), file.Size()};
 }
 
+KitCrop CropOf(const fs::path& bitmap, const CropTarget& target, CropPart part) {
+    const BitmapSize size = ReadBitmapSize(bitmap);
+    return {bitmap.filename().string(), 0,
+            part == CropPart::Top ? CropTop(size, target) : CropCentre(size, target)};
+}
+
 FoundPhoto FindKitPhoto(const ProgramFolder& folder, const KitPhoto& photo) {
     FoundPhoto found{folder.DataFile("Pictures/" + photo.File), {}};
     const std::string lead = "The kit's photo " + Shown(found.File);

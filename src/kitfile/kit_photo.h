@@ -17,6 +17,11 @@ namespace vendrel {
 /// A bitmap as a kit remembers it. Throws FileError, FormatError.
 [[nodiscard]] KitPhoto KitPhotoOf(const std::filesystem::path& bitmap);
 
+/// How a part is cut from a bitmap by its shape alone; not of CropPart::Whole. Throws FileError,
+/// FormatError.
+[[nodiscard]] KitCrop CropOf(const std::filesystem::path& bitmap, const CropTarget& target,
+                             CropPart part);
+
 /// Where the photo of a kit is.
 struct FoundPhoto {
     std::filesystem::path File;

@@ -82,6 +82,7 @@ void TakeGrid(WorkState& state, const KitFile& kit) {
     state.Protected = kit.Protected;
     static_cast<EditPast&>(state) = {};  // its steps are of another kit
     static_cast<KitEdits&>(state) = kit.Layer;
+    state.Converted = true;  // or will be, as soon as a setting changes
     static_cast<EditPast&>(state) = {};
 }
 

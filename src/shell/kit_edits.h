@@ -49,6 +49,7 @@ struct KitEdits {
     PaintList BasePaints;
     Grid<StippleCell> Base;
     EditLayer Edits;
+    bool Converted = false;  // from the photo: the base is made anew when the kit is
 };
 
 }  // namespace vendrel

@@ -55,19 +55,32 @@ void TellOtherShape(Ui& screen, const StippleGrid& grid, const std::filesystem::
                            ". The kit is made in that shape.");
 }
 
-}  // namespace
-
-LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips) {
-    const std::string text = ReadTextFile(path);
-    StippleFileReader reader(text, path);
+LoadedGrid ReadAllCells(StippleFileReader& reader, const std::filesystem::path& path,
+                        int stippleTwips) {
     const CellPos shape{reader.Header().Across, reader.Header().Down};
-    LoadedGrid loaded{reader.Header(), reader.ReadPalette(), {}};
+    LoadedGrid loaded{reader.Header(), reader.ReadPalette(), {}, {}};
     reader.RequireCells();
     RequireSides(path, shape, stippleTwips);
     loaded.Cells = {shape.X, shape.Y};
     for (int y = 1; y <= shape.Y; ++y) {
         reader.ReadRow(loaded.Cells, y, shape.X);
     }
+    return loaded;
+}
+
+}  // namespace
+
+LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips) {
+    const std::string text = ReadTextFile(path);
+    StippleFileReader reader(text, path);
+    return ReadAllCells(reader, path, stippleTwips);
+}
+
+LoadedGrid ReadGridAndEdits(const std::filesystem::path& path, int stippleTwips) {
+    const std::string text = ReadTextFile(path);
+    StippleFileReader reader(text, path);
+    LoadedGrid loaded = ReadAllCells(reader, path, stippleTwips);
+    loaded.Edits = reader.ReadEdits();
     return loaded;
 }
 

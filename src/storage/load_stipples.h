@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 
 #include "shell/workplace.h"
 #include "storage/stipple_file.h"
@@ -12,11 +13,15 @@ struct LoadedGrid {
     StippleHeader Header;
     PaintList Palette;
     Grid<StippleCell> Cells;
+    std::optional<EditLayer> Edits;  // not asked for by all
 };
 
-/// Reads all of it. Throws FileError, and FormatError when stipples are missing or more than a
-/// sheet of stipples of that size can have.
+/// Reads all of it but the edits. Throws FileError, and FormatError when stipples are missing or
+/// more than a sheet of stipples of that size can have.
 [[nodiscard]] LoadedGrid ReadGrid(const std::filesystem::path& path, int stippleTwips);
+
+/// The same with the edits, where there are any.
+[[nodiscard]] LoadedGrid ReadGridAndEdits(const std::filesystem::path& path, int stippleTwips);
 
 /// Gives the loaded photo that many stipples; true when it had another shape until now. Its grid
 /// must follow. Throws FileError and FormatError when the photo cannot be read anew; it is then as

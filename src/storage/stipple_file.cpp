@@ -17,6 +17,9 @@ namespace {
 // Room for a cell's line at its longest: four numbers of up to six characters and their marks.
 constexpr std::size_t kCellLine = 32;
 
+constexpr std::string_view kEditsWord = "Edits";
+constexpr int kMostASide = 1024;  // stipples, more than any photo has at any difficulty
+
 void AppendNumber(std::string& out, int value) {
     char digits[16];
     out.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
@@ -75,6 +78,28 @@ void AppendRow(std::string& out, RowView<const StippleCell> row) {
     out.resize(static_cast<std::size_t>(at - out.data()));
 }
 
+// Each edit on a line, and each paint of an exchange.
+void AppendEdits(std::string& out, const EditLayer& layer) {
+    AppendText(out, kEditsWord);
+    out += ',';
+    AppendNumbers(out, {layer.Across, layer.Down, layer.Paints.Count(),
+                        static_cast<int>(layer.Cells.size())});
+    AppendNumber(out, static_cast<int>(layer.Exchanges.size()));
+    out += "\r\n";
+    for (const PaintColor& paint : layer.Paints) {
+        AppendPaint(out, paint, 0);
+    }
+    for (const StippleEdit& edit : layer.Cells) {
+        AppendNumbers(out, {edit.At.X, edit.At.Y, edit.Wish == StippleWish::Neighbors ? 1 : 0});
+        AppendNumber(out, edit.Paint);
+        out += "\r\n";
+    }
+    for (const PaintExchange& exchange : layer.Exchanges) {
+        AppendPaint(out, exchange.From, 0);
+        AppendPaint(out, exchange.To, 0);
+    }
+}
+
 }  // namespace
 
 std::filesystem::path StippleFilePath(const ProgramFolder& folder, const LoadedPhoto& photo,
@@ -107,6 +132,9 @@ std::string FormatStippleFile(const SavedGrid& saved) {
     }
     for (int y = 1; y <= saved.Down; ++y) {
         AppendRow(out, saved.Cells.Row(y).First(saved.Across + 1).From(1));
+    }
+    if (saved.Edits != nullptr) {
+        AppendEdits(out, *saved.Edits);
     }
     return out;
 }
@@ -190,6 +218,45 @@ void StippleFileReader::ReadRow(Grid<StippleCell>& cells, int y, int across) {
         cell.Y = fields_.ReadInt("a stipple's pixel row", 0, kMaxCounter);
         EndRecord();
     }
+}
+
+std::optional<EditLayer> StippleFileReader::ReadEdits() {
+    if (fields_.LinesLeft().Last == 0 || fields_.ReadText("the edits") != kEditsWord) {
+        return std::nullopt;
+    }
+    recordLine_ = fields_.Line();
+    EditLayer layer;
+    layer.Across = fields_.ReadInt("the edits' stipples across", 0, kMostASide);
+    layer.Down = fields_.ReadInt("the edits' stipples down", 0, kMostASide);
+    const int paints = fields_.ReadInt("the number of the edits' paints", 0, kMaxCounter);
+    const int cells = fields_.ReadInt("the number of edits", 0, layer.Across * layer.Down);
+    const int exchanges = fields_.ReadInt("the number of exchanged paints", 0, kMaxCounter);
+    EndRecord();
+    for (int i = 1; i <= paints; ++i) {
+        layer.Paints.Add(ReadPaint());
+    }
+    for (int i = 1; i <= cells; ++i) {
+        layer.Cells.push_back(ReadEdit(layer));
+    }
+    for (int i = 1; i <= exchanges; ++i) {
+        const PaintColor from = ReadPaint();
+        layer.Exchanges.push_back({from, ReadPaint()});
+    }
+    return layer;
+}
+
+StippleEdit StippleFileReader::ReadEdit(const EditLayer& layer) {
+    const CellPos before = layer.Cells.empty() ? CellPos{0, 1} : layer.Cells.back().At;
+    const int x = ReadFirst("an edit's column", 1, layer.Across);
+    const int y = fields_.ReadInt("an edit's row", before.Y, layer.Down);
+    const bool joined = fields_.ReadInt("an edit's kind", 0, 1) == 1;
+    const int paint = fields_.ReadInt("an edit's paint", joined ? 0 : 1, layer.Paints.Count());
+    EndRecord();
+    if (y == before.Y && x <= before.X) {
+        throw FormatError(fields_.File(), recordLine_,
+                          "this edit comes before or on the one above. Correct this line.");
+    }
+    return {{x, y}, joined ? StippleWish::Neighbors : StippleWish::Paint, paint};
 }
 
 }  // namespace vendrel

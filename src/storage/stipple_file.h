@@ -1,10 +1,12 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "shell/kit_edits.h"
 #include "shell/loaded_photo.h"
 #include "shell/records.h"
 #include "shell/work_settings.h"
@@ -35,6 +37,7 @@ struct SavedGrid {
     int Across = 0;
     int Down = 0;
     int FinalColors = 50;
+    const EditLayer* Edits = nullptr;  // follow behind the stipples, where most readers do not look
 };
 
 /// The bytes of the file. The paints' CellCount is counted afresh from the cells.
@@ -68,10 +71,13 @@ class StippleFileReader {
     void RequireCells() const;
     /// Columns 1..across of row y of `cells`, which must hold them.
     void ReadRow(Grid<StippleCell>& cells, int y, int across);
+    /// After all rows: the edits that made the grid what it is; nothing where the file ends there.
+    [[nodiscard]] std::optional<EditLayer> ReadEdits();
 
   private:
     [[nodiscard]] int ReadFirst(const char* what, int min, int max);
     void EndRecord() const;
+    [[nodiscard]] StippleEdit ReadEdit(const EditLayer& layer);
 
     FieldReader fields_;
     StippleHeader header_;

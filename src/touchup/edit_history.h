@@ -1,10 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <span>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "shell/kit_edits.h"
 #include "touchup/edit_pen.h"
 
 namespace vendrel {
@@ -16,6 +18,7 @@ enum class EditIntent {
     Exchange,   // another paint wherever there is the one
     Erase,      // what the conversion gave these places
     NewBase,    // a grid to go on from as if converted so
+    Layer,      // the edits of its layer in place of all until then
 };
 
 /// One step that can be taken back: the stipples it repainted, or, for a load, the copies as they
@@ -24,6 +27,7 @@ struct EditStep {
     std::string Name;
     std::variant<std::vector<CellChange>, SheetContents> What;
     EditIntent Intent = EditIntent::Paint;
+    std::shared_ptr<const EditLayer> Layer{};
     int Id = 0;  // given by the history; no two steps of a session share one
 };
 

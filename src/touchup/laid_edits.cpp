@@ -43,6 +43,7 @@ void GoBetweenBases(KitEdits& edits, const KitEdits* from, const KitEdits* to) {
         edits.BasePaints == from->BasePaints) {
         edits.Base = to->Base;
         edits.BasePaints = to->BasePaints;
+        edits.Converted = to->Converted;
     }
 }
 

@@ -47,6 +47,7 @@ class PlayedSteps {
         palette_ = &after->second.FoundColors;
         return &after->second;
     }
+    /// At the steps asked for until now; stays where it is.
     [[nodiscard]] const PaintList& Palette() const { return *palette_; }
 
   private:
@@ -86,11 +87,24 @@ class Recording {
     }
 
     RecordedEdits Record() {
-        if (done_.empty()) {
-            return std::move(recorded_);  // edits of another grid stay as they were made
+        if (!done_.empty()) {  // else edits of another grid stay as they were made
+            Play();
+            Settle();
         }
+        return std::move(recorded_);
+    }
+
+    KitEdits RecordLayer() {
+        keepsMoments_ = false;
+        Play();
+        Settle();
+        return std::move(recorded_.Edits);
+    }
+
+  private:
+    void Play() {
         for (std::size_t i = 0; i < done_.size(); ++i) {
-            const PaintList before = steps_.Palette();
+            const PaintList& before = steps_.Palette();
             if (const SheetContents* after = steps_.Next(i)) {
                 Replace(done_[i], before, *after);
             } else {
@@ -104,16 +118,17 @@ class Recording {
                 Put(done_[i], cells);
             }
         }
+    }
+
+    void Settle() {
         recorder_->Settle(sheet_.Paints(), sheet_.Cells());
         KitEdits& edits = recorded_.Edits;
         edits.Edits = recorder_->Layer();
         if (!recorded_.Moments.empty()) {
             recorded_.Moments.back().After = std::make_shared<EditLayer>(edits.Edits);
         }
-        return std::move(recorded_);
     }
 
-  private:
     void Begin() {
         const KitEdits& edits = recorded_.Edits;
         recorder_.emplace(ConvertedGrid{edits.BasePaints, edits.Base}, edits.Edits);
@@ -134,6 +149,12 @@ class Recording {
             recorded_.Edits = {after.FoundColors, after.EditStipples, {}};
             recorded_.NewBase = true;
             Begin();
+            return;
+        }
+        if (step.Intent == EditIntent::Layer) {
+            const KitEdits& edits = recorded_.Edits;
+            recorder_.emplace(ConvertedGrid{edits.BasePaints, edits.Base}, *step.Layer);
+            AddMoment(step);
             return;
         }
         const OneBased<int> old = NumbersOf(before);
@@ -166,6 +187,13 @@ class Recording {
                                                                       : StippleWish::Paint);
             }
         }
+        AddMoment(step);
+    }
+
+    void AddMoment(const EditStep& step) {
+        if (!keepsMoments_) {
+            return;
+        }
         auto after = std::make_shared<EditLayer>(recorder_->Layer());
         recorded_.Moments.push_back({step.Name, last_, after, {}, {}});
         last_ = std::move(after);
@@ -187,6 +215,7 @@ class Recording {
     RecordedEdits recorded_;
     std::optional<LayerRecorder> recorder_;
     std::shared_ptr<const EditLayer> last_;
+    bool keepsMoments_ = true;
 };
 
 void FollowExchange(PaintList& shown, const PaintColor& from, const PaintColor& to) {
@@ -204,50 +233,65 @@ RecordedEdits RecordEdits(const KitEdits& atOpening, std::span<const EditStep> d
     return Recording(atOpening, done, sheet).Record();
 }
 
+KitEdits EditsUntilNow(const KitEdits& atOpening, std::span<const EditStep> done,
+                       const EditSheet& sheet) {
+    return Recording(atOpening, done, sheet).RecordLayer();
+}
+
 BaseView::BaseView(const KitEdits& atOpening, std::span<const EditStep> done,
                    const EditSheet& sheet)
-    : edited_(atOpening.Base.Across(), atOpening.Base.Down()), cells_(atOpening.Base) {
-    const EditLayer layer =
-        EditsByShare(atOpening.Edits, atOpening.Base.Across(), atOpening.Base.Down());
-    for (const StippleEdit& edit : layer.Cells) {
-        edited_(edit.At.X, edit.At.Y) = 1;
-    }
+    : cells_(atOpening.Base), paints_(atOpening.BasePaints) {
+    Take(atOpening.Edits);
     PlayedSteps steps(done, sheet);
-    PaintList shown = atOpening.BasePaints;
-    for (PaintColor& paint : shown) {
-        for (const PaintExchange& exchange : atOpening.Edits.Exchanges) {
-            if (SamePaint(exchange.From, paint)) {
-                paint = exchange.To;
-                break;
-            }
-        }
-    }
     for (std::size_t i = 0; i < done.size(); ++i) {
-        const PaintList before = steps.Palette();
+        const PaintList& before = steps.Palette();
         const SheetContents* after = steps.Next(i);
         if (after != nullptr && done[i].Intent == EditIntent::NewBase) {
             cells_ = after->EditStipples;
-            edited_ = ValueGrid(cells_.Across(), cells_.Down());
-            shown = after->FoundColors;
-        } else if (after == nullptr && done[i].Intent == EditIntent::Exchange) {
-            const CellChange& change = std::get<Changes>(done[i].What).front();
-            FollowExchange(shown, before[change.From], before[change.To]);
+            paints_ = after->FoundColors;
+            Take({});
+        } else if (after != nullptr && done[i].Intent == EditIntent::Layer) {
+            Take(*done[i].Layer);
+        } else if (Continue(done[i])) {
+            continue;
         } else if (after == nullptr) {
-            Follow(done[i]);
+            const CellChange& change = std::get<Changes>(done[i].What).front();
+            FollowExchange(shown_, before[change.From], before[change.To]);
         } else if (done[i].Intent == EditIntent::Paint) {
             Follow(std::get<SheetContents>(done[i].What), *after);
         }
     }
     const PaintIndex index(sheet.Paints());
-    for (const PaintColor& paint : shown) {
+    for (const PaintColor& paint : shown_) {
         const int known = index.Find(paint);
         shownAs_.Add(known > 0 ? known : StandInByEye(sheet.Paints(), paint));
     }
 }
 
-void BaseView::Follow(const EditStep& step) {
-    for (const CellChange& change : std::get<Changes>(step.What)) {
+bool BaseView::Continue(const EditStep& step) {
+    const auto* changes = std::get_if<Changes>(&step.What);
+    if (changes == nullptr || step.Intent == EditIntent::Exchange) {
+        return false;
+    }
+    for (const CellChange& change : *changes) {
         edited_(change.X, change.Y) = step.Intent == EditIntent::Erase ? 0 : 1;
+    }
+    return true;
+}
+
+void BaseView::Take(const EditLayer& layer) {
+    edited_ = ValueGrid(cells_.Across(), cells_.Down());
+    for (const StippleEdit& edit : EditsByShare(layer, cells_.Across(), cells_.Down()).Cells) {
+        edited_(edit.At.X, edit.At.Y) = 1;
+    }
+    shown_ = paints_;
+    for (PaintColor& paint : shown_) {
+        const auto exchange = std::ranges::find_if(
+            layer.Exchanges,
+            [&paint](const PaintExchange& known) { return SamePaint(known.From, paint); });
+        if (exchange != layer.Exchanges.end()) {
+            paint = exchange->To;
+        }
     }
 }
 

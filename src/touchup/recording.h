@@ -20,12 +20,18 @@ struct RecordedEdits {
 [[nodiscard]] RecordedEdits RecordEdits(const KitEdits& atOpening, std::span<const EditStep> done,
                                         const EditSheet& sheet);
 
+/// The same without the moments, and at any time: what a stroke drew until now is painted by hand.
+[[nodiscard]] KitEdits EditsUntilNow(const KitEdits& atOpening, std::span<const EditStep> done,
+                                     const EditSheet& sheet);
+
 /// The base as the sheet would show it without the edits of single stipples.
 class BaseView {
   public:
     BaseView() = default;
     BaseView(const KitEdits& atOpening, std::span<const EditStep> done, const EditSheet& sheet);
 
+    /// Goes on with one step more; false, with nothing done, where all must be looked at anew.
+    [[nodiscard]] bool Continue(const EditStep& step);
     /// The sheet's paint for a stipple; 0 outside the base.
     [[nodiscard]] int PaintAt(CellPos at) const;
     /// Whether an edit of its own lies over a stipple.
@@ -34,11 +40,13 @@ class BaseView {
     }
 
   private:
-    void Follow(const EditStep& step);
     void Follow(const SheetContents& before, const SheetContents& after);
+    void Take(const EditLayer& layer);
 
     ValueGrid edited_;
     Grid<StippleCell> cells_;
+    PaintList paints_;  // of the base
+    PaintList shown_;   // for each of them, as exchanges have it
     OneBased<int> shownAs_;
 };
 

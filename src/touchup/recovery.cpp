@@ -67,7 +67,7 @@ void WriteRecoveryOfGrid(Workplace& place) {
     WorkState& state = place.State;
     const fs::path file = HoldRecovery(state, StippleFilePath(place.Folder, state, state));
     WriteStippleFile(file, {state.PaintColors, state.Stipples, state.CellsAcross, state.CellsDown,
-                            state.FinalColors});
+                            state.FinalColors, state.Converted ? &state.Edits : nullptr});
 }
 
 void RemoveRecovery(const UnsavedWork& unsaved) {

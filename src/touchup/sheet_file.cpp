@@ -48,9 +48,10 @@ void ReadIntoSheet(StippleFileReader& reader, EditSheet& sheet) {
     }
 }
 
-void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors) {
-    WriteStippleFile(path,
-                     {sheet.Paints(), sheet.Cells(), sheet.Across(), sheet.Down(), finalColors});
+void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors,
+                const EditLayer* edits) {
+    WriteStippleFile(
+        path, {sheet.Paints(), sheet.Cells(), sheet.Across(), sheet.Down(), finalColors, edits});
 }
 
 }  // namespace vendrel

@@ -16,7 +16,9 @@ void RequireFit(std::string_view text, const std::filesystem::path& path, const 
 /// then.
 void ReadIntoSheet(StippleFileReader& reader, EditSheet& sheet);
 
-/// Replaces `path` whole or not at all with FoundColors and EditStipples. Throws FileError.
-void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors);
+/// Replaces `path` whole or not at all with FoundColors and EditStipples, and with the edits that
+/// made them where there are any. Throws FileError.
+void WriteSheet(const std::filesystem::path& path, const EditSheet& sheet, int finalColors,
+                const EditLayer* edits = nullptr);
 
 }  // namespace vendrel

@@ -11,6 +11,7 @@
 #include "support/text_file.h"
 #include "touchup/acceptance.h"
 #include "touchup/clean_up.h"
+#include "touchup/restoring.h"
 #include "touchup/sheet_file.h"
 #include "touchup/unsaved_work.h"
 
@@ -165,9 +166,15 @@ CellRect TouchUp::Replace(int from, int to) {
     return Edit("Replace Paint", intent, [&](EditPen& pen) { ReplacePaint(pen, from, to); });
 }
 
+// Step by step, so that a stroke late in the evening takes no longer than the first.
 const BaseView& TouchUp::Base() const {
-    if (std::exchange(baseId_, history_.StateId()) != history_.StateId()) {
-        base_ = BaseView(atOpening_, history_.DoneSteps(), sheet_);
+    const int before = std::exchange(baseId_, history_.StateId());
+    if (before != baseId_) {
+        const std::span<const EditStep> done = history_.DoneSteps();
+        const int last = done.size() > 1 ? done[done.size() - 2].Id : 0;
+        if (before != last || done.empty() || !base_.Continue(done.back())) {
+            base_ = BaseView(atOpening_, done, sheet_);
+        }
     }
     return base_;
 }
@@ -320,13 +327,14 @@ CellRect TouchUp::LoadIt_Click() {
     return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
 }
 
-void TouchUp::PushReplacement(std::string name, EditIntent intent) {
+void TouchUp::PushReplacement(std::string name, EditIntent intent,
+                              std::shared_ptr<const EditLayer> layer) {
     // What a broken file leaves cannot be kept, so the work until here is kept first.
     if (timer_.Pending()) {
         WriteRecovery();
     }
     const bool buries = !IsSaved();
-    history_.Push({std::move(name), sheet_.Copy(), intent});
+    history_.Push({std::move(name), sheet_.Copy(), intent, std::move(layer)});
     replacements_.push_back({history_.StateId(), buries, nullptr});
     timer_.NoteChange();
 }
@@ -407,20 +415,16 @@ bool TouchUp::GiveSavedToKit() {
 CellRect TouchUp::Restore(const KeptWork& work) {
     EndStroke();
     const auto held = HoldKept(work);
-    const int stippleTwips = place_.State->StippleSize * place_.Screen.Screen().Twips.X;
-    LoadedGrid kept = ReadGrid(work.File, stippleTwips);
-    const StippleHeader& header = kept.Header;
-    SheetContents found{std::move(kept.Palette),
-                        {},
-                        std::move(kept.Cells),
-                        {header.PaintCount, header.Across, header.Down},
-                        header.FinalColors};
+    WorkState& state = place_.State;
+    LoadedGrid kept =
+        ReadGridAndEdits(work.File, state.StippleSize * place_.Screen.Screen().Twips.X);
+    RestoredWork restored = RestoreOver(EditsUntilNow(atOpening_, history_.DoneSteps(), sheet_),
+                                        std::move(kept), state.FinalColors);
+    restoreReport_ = std::move(restored.Report);
     const CellRect before = sheet_.Bounds();
-    // What differs from the conversion was painted, and lasts as such.
-    const bool fits = header.Across == sheet_.Across() && header.Down == sheet_.Down();
-    PushReplacement("Restore", fits ? EditIntent::Paint : EditIntent::NewBase);
+    PushReplacement("Restore", restored.Intent, std::move(restored.Layer));
     replacements_.back().Restored = held;
-    sheet_.Exchange(found);
+    sheet_.Exchange(restored.Contents);
     sheet_.Recount();
     ShowFinalColors();
     return {1, 1, std::max(before.Right, sheet_.Across()), std::max(before.Bottom, sheet_.Down())};
@@ -450,7 +454,9 @@ void TouchUp::KeepRecoveryNow() {
 
 void TouchUp::WriteRecovery() {
     if (sheet_.Flaw().empty()) {
-        WriteSheet(HoldRecovery(place_.State, GridFile()), sheet_, place_.State->FinalColors);
+        const KitEdits edits = EditsUntilNow(atOpening_, history_.DoneSteps(), sheet_);
+        WriteSheet(HoldRecovery(place_.State, GridFile()), sheet_, place_.State->FinalColors,
+                   edits.Converted ? &edits.Edits : nullptr);
         timer_.NoteKept();
     }
 }

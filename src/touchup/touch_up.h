@@ -128,9 +128,12 @@ class TouchUp {
     /// and removes the recovery file when nothing unsaved is left. Throws FileError.
     void SettleRecovery();
 
-    /// Brings kept work back in its own shape, as one step. Its file goes when what came of it is
+    /// Brings kept work back, as one step: its edits over the present base, or, where it has none,
+    /// its grid in its own shape. Its file goes when what came of it is
     /// saved or accepted. Throws Error, with nothing changed, when the file is broken or in use.
     CellRect Restore(const KeptWork& work);
+    /// What became of the edits restored last, where other settings have made the base since.
+    [[nodiscard]] const std::string& RestoreReport() const { return restoreReport_; }
     /// To be called about once a second: keeps the recovery file close behind the edits. Throws
     /// FileError.
     void KeepRecovery(EditTime now);
@@ -144,7 +147,8 @@ class TouchUp {
 
     void PushStroke(std::string name, EditIntent intent = EditIntent::Paint);
     const BaseView& Base() const;
-    void PushReplacement(std::string name, EditIntent intent);
+    void PushReplacement(std::string name, EditIntent intent,
+                         std::shared_ptr<const EditLayer> layer = nullptr);
     CellRect AfterStep(CellRect dirty);
     void ShowFinalColors();
     void WriteRecovery();
@@ -185,6 +189,7 @@ class TouchUp {
     };
     std::optional<Saved> saved_;
     std::vector<Replacement> replacements_;
+    std::string restoreReport_;
     PaintList foundAtOpening_;
     int finalAtOpening_ = 0;
     int wantedAtOpening_ = 0;  // final paints checked in the menu

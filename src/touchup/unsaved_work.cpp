@@ -1,12 +1,10 @@
 #include "touchup/unsaved_work.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 
 #include "convert/stipple_conversion.h"
 #include "shell/menu.h"
-#include "shell/paint_id.h"
 #include "storage/stipple_file.h"
 #include "support/error.h"
 #include "support/text_file.h"

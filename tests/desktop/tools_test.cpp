@@ -172,6 +172,10 @@ void ToolsTest::AKitSavedUnderANameKeepsIt() {
     QVERIFY(std::filesystem::exists(studio_->Files / "Results/Lady 2 Easy Painting.BMP"));
     QVERIFY(!std::filesystem::exists(studio_->Files / "Results/PBNLady Easy Painting.BMP"));
     QCOMPARE(desktop_->Place().State->PictureName, std::string("Lady 2"));
+    QVERIFY(Choose(main, "SaveKit") && Choose(main, "StartupPaintShop"));
+    QVERIFY2(!main.isWindowModified(), "the shop shows paints of its own");
+    QApplication::activeModalWidget()->close();
+    QVERIFY(!main.isWindowModified());
     QVERIFY(LoadFirstPhoto(main));
     QCOMPARE(desktop_->Place().State->PictureName, std::string("PBNLady"));
 }

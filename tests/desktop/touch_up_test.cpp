@@ -2,12 +2,16 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPaintEvent>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -59,6 +63,7 @@ class TouchUpWindowTest : public QObject {
     void SpaceDragsWhereverTheKeyboardIs();
     void ZoomingAfterALonerIsFoundShowsIt();
     void ValuesAreReadOut();
+    void EveryWidgetHasANameAndAKeyOfItsOwn();
     void StrokesRepaintOnlyWhatTheyTouch();
     void ClosingTheProgramWithAcceptedWorkAsks();
     void KeptWorkIsRestoredOrThrownAway();
@@ -236,6 +241,36 @@ void TouchUpWindowTest::ValuesAreReadOut() {
     }
 }
 
+void TouchUpWindowTest::EveryWidgetHasANameAndAKeyOfItsOwn() {
+    QWidget& window = *canvas_->window();
+    for (const QWidget* part : window.findChildren<QWidget*>()) {
+        const bool ofQt = part->objectName().startsWith(QLatin1String("qt_"));
+        if (part->focusPolicy() != Qt::NoFocus && !ofQt) {
+            auto* read = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(part));
+            QVERIFY2(!read->text(QAccessible::Name).isEmpty(),
+                     qPrintable(part->metaObject()->className() + (" " + part->objectName())));
+        }
+    }
+    auto& panels = Find<QTabWidget>(window, "Panels");
+    for (int panel = 0; panel < panels.count(); ++panel) {
+        panels.setCurrentIndex(panel);
+        QStringList keys;
+        for (const auto* button : window.findChildren<QAbstractButton*>()) {
+            keys << (button->isVisible() ? button->shortcut().toString() : QString());
+        }
+        for (const auto* label : window.findChildren<QLabel*>()) {
+            const bool leads = label->isVisible() && label->buddy() != nullptr;
+            keys << (leads ? QKeySequence::mnemonic(label->text()).toString() : QString());
+        }
+        keys.removeAll(QString());
+        QCOMPARE(keys.removeDuplicates(), 0);
+    }
+    auto& size = Find<QSpinBox>(window, "BrushSize");
+    size.setFocus();
+    QTest::keyClick(&size, Qt::Key_Up);
+    QVERIFY2(canvas_->hasFocus(), "else it has the keys of tools");
+}
+
 void TouchUpWindowTest::StrokesRepaintOnlyWhatTheyTouch() {
     struct Watch : QObject {
         QRegion Painted;
@@ -359,6 +394,15 @@ void TouchUpWindowTest::SelectionsAreMovedCopiedMirroredAndPasted() {
     QCOMPARE(State().EditStipples, State().Stipples);
     QTest::keyClick(canvas_, Qt::Key_Escape);
     QVERIFY(canvas_->isVisible());
+    QTest::keyClick(canvas_, Qt::Key_L);
+    QTest::mousePress(picture, Qt::LeftButton, {}, At(2, 2));
+    for (const auto& [x, y] : {std::pair(8, 2), {8, 8}, {2, 8}}) {
+        QTest::mouseMove(picture, At(x, y));
+    }
+    QTest::mouseRelease(picture, Qt::LeftButton, {}, At(2, 3));
+    QTest::keyClick(canvas_, Qt::Key_F, Qt::ShiftModifier);
+    QVERIFY(PaintAt(5, 5) == 2 && PaintAt(10, 5) == 1 && PaintAt(5, 10) == 1);
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
     QTest::keyClick(canvas_, Qt::Key_W);
     QTest::mouseClick(picture, Qt::LeftButton, {}, At(2, 2));
     QTest::keyClick(canvas_, Qt::Key_F, Qt::ShiftModifier);
@@ -395,6 +439,15 @@ void TouchUpWindowTest::PaintsStandAloneAndMoveAndGo() {
     QCOMPARE(colorAt(2, 2), QColor(200, 0, 0));
     QTest::keyClick(canvas_, Qt::Key_Up, Qt::AltModifier);
     QCOMPARE(PaintAt(1, 1), 2);
+    QCOMPARE(Rows().topLevelItem(0)->text(1), QStringLiteral("Green"));
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    const QRect first = Rows().visualItemRect(Rows().topLevelItem(0));
+    QMimeData row;
+    QDropEvent drop(first.center(), Qt::MoveAction, &row, Qt::LeftButton, {});
+    struct Opened : PaintRows {
+        using PaintRows::dropEvent;
+    };
+    (Rows().*&Opened::dropEvent)(&drop);
     QCOMPARE(Rows().topLevelItem(0)->text(1), QStringLiteral("Green"));
     QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
     Find<QPushButton>(window, "RemovePaint").click();

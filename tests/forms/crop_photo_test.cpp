@@ -173,6 +173,17 @@ TEST_F(CropPhotoTest, ADroppedPhotoIsCroppedOrTurnedBeforeOrAfterItIsTaken) {
     crop_.OKButton_Click();
     EXPECT_EQ(studio_.State.PictureName, "four crop");
     EXPECT_EQ(studio_.Frames.WorkFrame.Picture.Get(0, 0), FourQuarters(8, 8).Get(7, 0));
+    const CropRect cut = Frame();
+    form_.Click(MenuId::ChangeToStipples);
+    form_.Click(MenuId::SaveKit);
+    form_.TakePhoto(studio_.Files / "Pictures/aunt.JPG");
+    chooser_.Asking().OKButton_Click();
+    form_.TakePhoto(studio_.Files / "Kits/four crop.kit");
+    form_.Kits().SaveAs_Click("again");
+    for (const char* title : {"four crop", "again"}) {
+        const KitFile kit = ReadKitFile(studio_.Files / ("Kits/" + std::string(title) + ".kit"));
+        EXPECT_EQ(kit.Crop, (KitCrop{"four.bmp", 3, cut})) << title;
+    }
 }
 
 TEST_F(CropPhotoTest, OkKeepsTheCropAndChoosesIt) {
