@@ -10,7 +10,7 @@
 namespace vendrel {
 
 /// Repaints stipples of the sheet at once and remembers which, so that the edit can be taken back.
-/// Touching a stipple that has the paint already, or lies outside, does nothing.
+/// Touching a stipple that has the paint already, or lies outside, changes nothing.
 class EditPen {
   public:
     explicit EditPen(EditSheet& sheet) : sheet_(&sheet) {}
@@ -26,7 +26,10 @@ class EditPen {
 
     [[nodiscard]] EditSheet& Sheet() const { return *sheet_; }
     [[nodiscard]] bool Drew() const { return !changes_.empty(); }
-    [[nodiscard]] std::vector<CellChange> TakeChanges() { return std::exchange(changes_, {}); }
+    [[nodiscard]] std::vector<CellChange> TakeChanges();
+    /// Together with the stipples that had their paint already: the painter wants it there, too.
+    /// Nothing when all of them had.
+    [[nodiscard]] std::vector<CellChange> TakeTouched();
     /// What changed since the last call.
     [[nodiscard]] CellRect TakeDirty() { return std::exchange(dirty_, {}); }
 
@@ -34,6 +37,8 @@ class EditPen {
     EditSheet* sheet_;
     std::shared_ptr<const CellSet> within_;
     std::vector<CellChange> changes_;
+    std::vector<CellChange> kept_;  // to the paint they had, each stipple once
+    CellSet touched_;
     CellRect dirty_;
 };
 

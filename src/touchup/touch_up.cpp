@@ -150,8 +150,10 @@ void TouchUp::KeepWithin(std::shared_ptr<const CellSet> cells) {
 }
 
 void TouchUp::PushStroke(std::string name, EditIntent intent) {
-    if (pen_.Drew()) {
-        history_.Push({std::move(name), pen_.TakeChanges(), intent});
+    std::vector<CellChange> changes =
+        intent == EditIntent::Paint ? pen_.TakeTouched() : pen_.TakeChanges();
+    if (!changes.empty()) {
+        history_.Push({std::move(name), std::move(changes), intent});
         timer_.NoteChange();
     }
 }

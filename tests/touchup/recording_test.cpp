@@ -188,6 +188,13 @@ TEST(Recording, KeepsWhatWasMeantOverAnotherConversion) {
              e.Fill({1, 1}, 4);
          },
          {"42223"}},
+        {"painted across what had the paint already",
+         [](TouchUp& e) {
+             e.BeginStroke({2, 1}, {.Paint = 3});
+             e.StrokeTo({4, 1});
+             e.EndStroke();
+         },
+         {"23333"}},
         {"replaced, then painted over and replaced again",
          [](TouchUp& e) {
              e.Replace(3, 5);
