@@ -14,8 +14,10 @@ endif()
 if(VENDREL_HARDEN AND NOT VENDREL_SANITIZE)
     target_compile_definitions(vendrel_settings INTERFACE
         $<$<CONFIG:Release>:_FORTIFY_SOURCE=3;_GLIBCXX_ASSERTIONS>)
+    # No -fPIE: Qt's libraries need -fPIC of those who use them, and the other programs are
+    # independent of their place without being told.
     target_compile_options(vendrel_settings INTERFACE
-        $<$<CONFIG:Release>:-fPIE;-fstack-protector-strong;-fstack-clash-protection>)
+        $<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection>)
     target_link_options(vendrel_settings INTERFACE $<$<CONFIG:Release>:-pie;LINKER:-z,relro,-z,now>)
 endif()
 # Neither packages nor sentences tell in which folder the program was built.

@@ -50,7 +50,7 @@ try() {
     [ $status -le 1 ] || fault "ended with $status: $(cat "$work/said")"
     if [ $status -ne 0 ]; then
         refused=$((refused + 1))
-        grep -q '/run[/:].*: .*\. *.*\.$' "$work/said" || fault "no sentence: $(cat "$work/said")"
+        grep -q '^vendrel: /.*: .*\. .*\.$' "$work/said" || fault "no sentence: $(cat "$work/said")"
         case $error in
         ENOSPC) grep -q 'room' "$work/said" ;;
         EDQUOT) grep -q 'allowed' "$work/said" ;;
@@ -58,7 +58,7 @@ try() {
         ENAMETOOLONG) grep -q 'shorter' "$work/said" ;;
         esac || fault "no advice: $(cat "$work/said")"
     fi
-    "$program" kit "no such photo" --folder "$folder" --quiet >/dev/null 2>&1
+    "$program" kit "no such photo" --folder "$folder" --quiet --outputs painting >/dev/null 2>&1
     sums "$folder" >"$work/sums"
     cmp -s "$work/sums" "$work/sums.new $start" || { [ $status -ne 0 ] && cmp -s "$work/sums" "$work/sums.old $start"; } ||
         fault "status $status, and neither the old kit nor the new one"
