@@ -1,4 +1,4 @@
-# One place for what every target shares: warnings, sanitizers, include root.
+# One place for what every target shares: warnings, guards, sanitizers, include root.
 
 add_library(vendrel_settings INTERFACE)
 target_include_directories(vendrel_settings INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -11,10 +11,25 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     # GCC 12 sees overlapping copies in "text" + std::string where there are none.
     target_compile_options(vendrel_settings INTERFACE -Wno-restrict)
 endif()
+if(VENDREL_HARDEN AND NOT VENDREL_SANITIZE)
+    target_compile_definitions(vendrel_settings INTERFACE
+        $<$<CONFIG:Release>:_FORTIFY_SOURCE=3;_GLIBCXX_ASSERTIONS>)
+    # No -fPIE: Qt's libraries need -fPIC of those who use them, and the other programs are
+    # independent of their place without being told.
+    target_compile_options(vendrel_settings INTERFACE
+        $<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection>)
+    target_link_options(vendrel_settings INTERFACE $<$<CONFIG:Release>:-pie;LINKER:-z,relro,-z,now>)
+endif()
+# Neither packages nor sentences tell in which folder the program was built.
+target_compile_options(vendrel_settings INTERFACE
+    $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.;-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>)
 if(VENDREL_SANITIZE)
     target_compile_options(vendrel_settings INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(vendrel_settings INTERFACE -fsanitize=address,undefined)
+endif()
+if(VENDREL_FUZZ)
+    target_compile_options(vendrel_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # vendrel_library(NAME SOURCES file... [DEPENDS target...])

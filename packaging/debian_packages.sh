@@ -1,14 +1,15 @@
 # Sourced by ./run and ./check.
+source "${BASH_SOURCE[0]%/*}/progress.sh"
 
-# What the program is built from and runs with.
-build_packages=(
-    g++ cmake ninja-build libcli11-dev nlohmann-json3-dev nettle-dev zlib1g-dev
-    qt6-base-dev qt6-image-formats-plugins libheif-dev fonts-liberation
-)
+# What the program is built from and runs with: its core, and what fonts, photo decoders and windows
+# need.
+core_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev nettle-dev zlib1g-dev)
+window_packages=(qt6-base-dev qt6-image-formats-plugins libheif-dev fonts-liberation)
+build_packages=("${core_packages[@]}" "${window_packages[@]}")
 
 # install_missing PACKAGE...
-# Installs those of the Debian packages that are not there yet, through sudo unless root. Says in
-# one line what it installs and nothing else, unless that fails.
+# Installs those of the Debian packages that are not there yet, through sudo unless root, and shows
+# how far that is; says what to do where it may not.
 
 install_missing() {
     command -v dpkg-query >/dev/null || return 0
@@ -22,7 +23,8 @@ install_missing() {
     local as_root=()
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null; then
-            echo "These packages are missing; install them as root: ${missing[*]}" >&2
+            echo "Some packages are missing. Have an administrator run this, then try again:" >&2
+            echo "    apt-get install --no-install-recommends ${missing[*]}" >&2
             return 1
         fi
         as_root=(sudo)
@@ -30,10 +32,13 @@ install_missing() {
     echo "Installing ${missing[*]} ..." >&2
     local log
     log=$(mktemp)
+    # sudo hands on no streams but the first three: what apt-get prints goes to the third.
     if ! "${as_root[@]}" apt-get -q update >"$log" 2>&1 </dev/null ||
-        ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y \
-            --no-install-recommends -o DPkg::Lock::Timeout=120 "${missing[@]}" \
-            >>"$log" 2>&1 </dev/null; then
+        ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            sh -c 'exec apt-get "$@" 3>&1 >&2' apt-get -q install -y \
+            --no-install-recommends -o DPkg::Lock::Timeout=120 -o APT::Status-Fd=3 \
+            -o Dpkg::Use-Pty=0 "${missing[@]}" 2>>"$log" </dev/null |
+        percents_of_apt | show_progress "Installing"; then
         tail -n 20 "$log" >&2
         rm -f "$log"
         echo "The packages above could not be installed. Check the network and try again." >&2

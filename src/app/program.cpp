@@ -32,7 +32,7 @@ fs::path ShippedFolder() {
             return installed;
         }
     }
-    return VENDREL_SOURCE_DIR;
+    return (OwnFolder() / VENDREL_SOURCE_WAY).lexically_normal();
 }
 
 }  // namespace

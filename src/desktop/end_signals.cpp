@@ -17,7 +17,7 @@ static_assert(std::atomic<int>::is_always_lock_free);
 
 void NoteWish(int signal) {
     const std::uint64_t one = 1;
-    static_cast<void>(write(wishes, &one, sizeof one));
+    [[maybe_unused]] const ssize_t written = write(wishes, &one, sizeof one);
     std::signal(signal, SIG_DFL);
 }
 

@@ -70,7 +70,8 @@ class KitRun {
         std::error_code unreadable;
         if (!std::filesystem::is_directory(options_.Folder, unreadable)) {
             throw FileError(options_.Folder, "is no folder and cannot become one (" +
-                                                 failure.message() + "). Name another.");
+                                                 failure.message() + "). " +
+                                                 AdviceOn(failure, "Name another."));
         }
     }
 

@@ -12,6 +12,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr std::uintmax_t kLargestList = std::uintmax_t{1024} * 1024;  // ours have some kilobytes
+
 std::string TextOf(const Json& json) {
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
@@ -52,8 +54,11 @@ std::string FormatKitList(const KitList& list, const KitPaths& paths) {
 }
 
 std::optional<KitList> ReadKitList(const std::filesystem::path& file) {
+    std::error_code unreadable;
+    const bool plausible = std::filesystem::is_regular_file(file, unreadable) &&
+                           std::filesystem::file_size(file, unreadable) <= kLargestList;
     std::ifstream stream(file, std::ios::binary);
-    const Json json = stream ? Json::parse(stream, nullptr, false) : Json();
+    const Json json = plausible && stream ? Json::parse(stream, nullptr, false) : Json();
     const std::string mark = TextIn(json, "mark");
     if (mark.empty() || !json.contains("files") || !json["files"].is_array()) {
         return std::nullopt;

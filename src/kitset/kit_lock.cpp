@@ -21,12 +21,13 @@ int OpenFolder(const std::filesystem::path& folder) {
         if (file >= 0) {
             return file;
         }
-        if (failure || errno != ENOENT) {
-            throw FileError(
-                folder, "cannot be created (" +
-                            (failure ? failure : std::error_code(errno, std::generic_category()))
-                                .message() +
-                            "). Check that you may write to the folder above.");
+        if (!failure && errno != ENOENT) {
+            failure = {errno, std::generic_category()};
+        }
+        if (failure) {
+            throw FileError(folder,
+                            "cannot be created (" + failure.message() + "). " +
+                                AdviceOn(failure, "Check that you may write to the folder above."));
         }
     }
 }

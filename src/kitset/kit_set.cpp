@@ -87,8 +87,8 @@ Target KitSet::Waiting(const Output& output) {
     std::error_code failure;
     fs::create_directories(target.File.parent_path(), failure);
     if (failure) {
-        throw FileError(target.Place, "its folder cannot be created (" + failure.message() +
-                                          "). Check that you may write there.");
+        throw FileError(target.Place, "its folder cannot be created (" + failure.message() + "). " +
+                                          AdviceOn(failure, "Check that you may write there."));
     }
     return target;
 }
@@ -122,8 +122,8 @@ std::vector<std::string> KitSet::Commit() {
     waiting_ = false;
     if (const std::error_code failure = TakePlaces(paths_)) {
         throw FileError(paths_.List(), "cannot be replaced (" + failure.message() +
-                                           "). Check that you may write there; the next start "
-                                           "goes on with this kit.");
+                                           "). The next start goes on with this kit. " +
+                                           AdviceOn(failure, "Check that you may write there."));
     }
     RemoveWaiting(paths_);
     return notes;

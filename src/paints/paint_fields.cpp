@@ -19,14 +19,16 @@ constexpr std::size_t kMostNamed = 3;
 
 PaintList ReadCounted(FieldReader& in) {
     const int count = in.ReadInt("the number of paints", 0, kMaxCounter);
-    PaintList paints(count);
-    for (PaintColor& paint : paints) {
+    PaintList paints;  // grows with the rows: the count is only a claim
+    for (int i = 1; i <= count; ++i) {
+        PaintColor paint;
         paint.Red = in.ReadInt("a paint's red", 0, 255);
         paint.Green = in.ReadInt("a paint's green", 0, 255);
         paint.Blue = in.ReadInt("a paint's blue", 0, 255);
         paint.Mfg = in.ReadText("a paint's set");
         paint.PaintCode = in.ReadText("a paint's code");
         paint.PaintName = in.ReadText("a paint's name");
+        paints.Add(std::move(paint));
     }
     return paints;
 }

@@ -50,8 +50,8 @@ void MakeFolder(const fs::path& folder) {
     std::error_code failure;
     fs::create_directories(folder, failure);
     if (failure) {
-        throw FileError(folder, "cannot be created: " + failure.message() +
-                                    ". Check the folder's permissions.");
+        throw FileError(folder, "cannot be created (" + failure.message() + "). " +
+                                    AdviceOn(failure, "Check the folder's permissions."));
     }
 }
 

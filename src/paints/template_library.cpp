@@ -90,8 +90,8 @@ void RenameTemplate(PaintChoice& choice, const ProgramFolder& folder, std::strin
         failure = SyncFolder(file.parent_path());
     }
     if (failure) {
-        throw FileError(file, "cannot be renamed (" + failure.message() +
-                                  "). Check that you may write in its folder.");
+        throw FileError(file, "cannot be renamed (" + failure.message() + "). " +
+                                  AdviceOn(failure, "Check that you may write in its folder."));
     }
     for (std::string* used : {&choice.SelectedTemplate, &choice.LastTemplate}) {
         if (*used == from) {

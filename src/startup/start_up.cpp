@@ -31,8 +31,9 @@ bool CreateFolder(const ProgramFolder& program, std::string_view name) {
     std::error_code failure;
     fs::create_directories(folder, failure);
     if (failure) {
-        throw FileError(folder, "cannot be created (" + failure.message() +
-                                    "). Start the program in a folder you may write to.");
+        throw FileError(folder,
+                        "cannot be created (" + failure.message() + "). " +
+                            AdviceOn(failure, "Start the program in a folder you may write to."));
     }
     return true;
 }

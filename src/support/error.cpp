@@ -1,5 +1,6 @@
 #include "support/error.h"
 
+#include <cerrno>
 #include <new>
 #include <system_error>
 
@@ -7,6 +8,26 @@ namespace vendrel {
 
 std::string Shown(const std::filesystem::path& file) {
     return file.lexically_normal().string();
+}
+
+std::string AdviceOn(const std::error_code& failure, const std::string& otherwise) {
+    if (failure == std::errc::no_space_on_device) {
+        return "There is no room on its disk: remove something there, or work in a folder on "
+               "another "
+               "one.";
+    }
+    if (failure == std::error_code(EDQUOT, std::generic_category())) {
+        return "Your files fill all that you are allowed on its disk: remove some of them, or ask "
+               "for "
+               "more.";
+    }
+    if (failure == std::errc::read_only_file_system) {
+        return "Its disk cannot be written to: work in a folder on another one.";
+    }
+    if (failure == std::errc::filename_too_long) {
+        return "Choose a shorter name, or a folder nearer to the top.";
+    }
+    return otherwise;
 }
 
 FileError::FileError(const std::filesystem::path& file, const std::string& problem)
@@ -30,7 +51,8 @@ std::string SentenceOf(const std::exception& failure, const std::string& subject
     if (const auto* disk = dynamic_cast<const std::filesystem::filesystem_error*>(&failure)) {
         const std::filesystem::path& file = disk->path1();
         return (file.empty() ? lead : Shown(file) + ": ") + "cannot be used (" +
-               disk->code().message() + "). Check its name, and that you may read and write there.";
+               disk->code().message() + "). " +
+               AdviceOn(disk->code(), "Check its name, and that you may read and write there.");
     }
     return lead + "the program failed (" + failure.what() +
            "). Nothing was written half; please tell its makers what you did.";

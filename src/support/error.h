@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace vendrel {
 
@@ -14,6 +15,11 @@ namespace vendrel {
 
 /// A file's path as sentences name it: "Results/x.BMP" rather than "./Results/x.BMP".
 [[nodiscard]] std::string Shown(const std::filesystem::path& file);
+
+/// What to do about a disk that refused to write: full, read-only, beyond what the user may keep
+/// there and a name too long have a sentence of their own, everything else is answered with
+/// `otherwise`.
+[[nodiscard]] std::string AdviceOn(const std::error_code& failure, const std::string& otherwise);
 
 /// A failure with a sentence for the user: what went wrong and what to do.
 class Error : public std::runtime_error {

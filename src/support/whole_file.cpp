@@ -22,8 +22,8 @@ namespace fs = std::filesystem;
 
 constexpr mode_t kNewFile = 0666;  // less what the user's umask takes
 
-std::string Reason(int error) {
-    return std::error_code(error, std::generic_category()).message();
+std::error_code LastFailure() {
+    return {errno, std::generic_category()};
 }
 
 // Before the work instead of after it: a file without a name learns only at its end that the one
@@ -82,8 +82,8 @@ WholeFile::WholeFile(const Target& target, Lasting lasting)
     std::error_code failure;
     fs::create_directories(Folder(), failure);
     if (failure) {
-        throw FileError(place_, "its folder cannot be created (" + failure.message() +
-                                    "). Check that you may write there.");
+        throw FileError(place_, "its folder cannot be created (" + failure.message() + "). " +
+                                    AdviceOn(failure, "Check that you may write there."));
     }
     RequireNameFits(place_, Folder());
     if (fs::is_directory(target_, failure)) {
@@ -135,15 +135,17 @@ fs::path WholeFile::Way() const {
 }
 
 void WholeFile::Fail() const {
-    throw FileError(place_, "cannot be written (" + Reason(errno) +
-                                "). The file was left as it was; check the disk's free space and "
-                                "that you may write there.");
+    const std::error_code failure = LastFailure();
+    throw FileError(place_, "cannot be written (" + failure.message() +
+                                "). The file was left as it was. " +
+                                AdviceOn(failure, "Check that you may write there, and the disk."));
 }
 
 void WholeFile::FailToReplace() const {
-    throw FileError(place_,
-                    "cannot be replaced (" + Reason(errno) +
-                        "). The new contents were not kept; check that you may write there.");
+    const std::error_code failure = LastFailure();
+    throw FileError(place_, "cannot be replaced (" + failure.message() +
+                                "). The new contents were not kept. " +
+                                AdviceOn(failure, "Check that you may write there."));
 }
 
 void WholeFile::Write(std::string_view text) {

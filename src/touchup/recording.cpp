@@ -4,7 +4,6 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 #include "edits/layer_recorder.h"
@@ -61,9 +60,9 @@ class PlayedSteps {
             return;
         }
         const auto& changes = std::get<Changes>(done_[i].What);
-        for (const CellChange& change : std::views::reverse(changes)) {
+        std::for_each(changes.rbegin(), changes.rend(), [&contents](const CellChange& change) {
             contents.EditStipples(change.X, change.Y).ColorIndex = change.From;
-        }
+        });
     }
 
     std::span<const EditStep> done_;

@@ -11,13 +11,16 @@ photo=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 name=$(basename "${photo%%.*}")
+keep=--save-kit
 
-# make PAINTS [COMMAND]...: writes the kit of so many paints over whatever stands there.
+# make PAINTS [COMMAND]...: writes the kit of so many paints over whatever stands there, and keeps it
+# under its own title where no kit has that.
 make() {
     local paints=$1
     shift
+    rm -f "$work"/Kits/*
     "$@" "$program" kit "$photo" --folder "$work" --final-paints "$paints" --quiet --replace-grid \
-        --outputs sheet,reference,painting,grid
+        $keep --outputs sheet,reference,painting,grid
 }
 
 # settle: a start that writes no kit of this name. It fails, as there is no such photo.
@@ -33,16 +36,22 @@ fault() {
     [ "$(grep -c '"sha256"' "$list")" = 4 ] || echo "files missing from the list"
     (cd "$work/Results" && sed -n 's/.*"sha256":"\([^"]*\)","file":"\([^"]*\)".*/\1  \2/p' \
         "$list" | sha256sum --quiet -c >/dev/null 2>&1) || echo "sums differ"
+    local kit
+    for kit in "$work"/Kits/.* "$work"/Kits/*; do
+        [ ! -f "$kit" ] || cmp -s "$kit" "$work/kit 16" || cmp -s "$kit" "$work/kit 50" || echo "half of $kit"
+    done
 }
 
 make 16
+mv "$work/Kits/$name.kit" "$work/kit 16"
 start=$(date +%s%N)
 make 50
 took=$((($(date +%s%N) - start) / 1000))
+cp "$work/Kits/$name.kit" "$work/kit 50"
 faults=0
 killed=0
 count=$3
-[ "$3" = --pairs ] && count=$4
+if [ "$3" = --pairs ]; then count=$4 keep=; fi
 for ((run = 1; run <= count; ++run)); do
     if [ "$3" = --pairs ]; then
         make 16 & first=$!
