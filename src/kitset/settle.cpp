@@ -38,6 +38,19 @@ std::error_code TakePlace(const KitPaths& paths, const Output& output) {
     return SyncFolders(file.parent_path(), FolderAbove(file.parent_path()));
 }
 
+// By this folder the next start knows that something waits: it goes last, and stays when one of the
+// others could not be removed.
+void RemoveEmptyFolder(const KitPaths& paths) {
+    std::error_code ignored;
+    const bool others = std::ranges::any_of(AllOutputs(), [&](const Output& output) {
+        const fs::path folder = paths.Waiting(output).parent_path();
+        return folder != paths.WaitingFolder() && fs::exists(folder, ignored);
+    });
+    if (!others) {
+        fs::remove(paths.WaitingFolder(), ignored);
+    }
+}
+
 std::optional<KitName> KitWaitingIn(const std::string& name) {
     const std::size_t gap = name.rfind(' ');
     if (!name.starts_with(kWaitingStart) || gap < kWaitingStart.size()) {
@@ -82,8 +95,7 @@ void ClearWaiting(const KitPaths& paths) {
 
 void RemoveWaiting(const KitPaths& paths) {
     ClearWaiting(paths);
-    std::error_code ignored;
-    fs::remove(paths.WaitingFolder(), ignored);
+    RemoveEmptyFolder(paths);
 }
 
 void SettleKit(const KitPaths& paths) {
@@ -110,8 +122,7 @@ void SettleKits(const ProgramFolder& folder) {
         const KitPaths paths(folder, std::move(kit));
         if (const auto lock = KitLock::Try(paths.WaitingFolder())) {
             SettleKit(paths);
-            std::error_code notEmpty;
-            fs::remove(paths.WaitingFolder(), notEmpty);
+            RemoveEmptyFolder(paths);
         }
     }
 }

@@ -5,12 +5,24 @@
 #include <utility>
 
 #include "support/disk.h"
+#include "support/error.h"
 #include "support/letter_case.h"
 
 namespace vendrel {
 namespace {
 
 namespace fs = std::filesystem;
+
+// A folder that fails only now is not one without the file: the program would go on with other
+// paints than the painter chose.
+void RequireListed(const fs::path& folder, const std::error_code& failure) {
+    if (failure == std::errc::io_error || failure == std::errc::too_many_files_open ||
+        failure == std::errc::too_many_files_open_in_system ||
+        failure == std::errc::not_enough_memory) {
+        throw FileError(folder, "cannot be listed (" + failure.message() +
+                                    "). Check the disk and close other programs, then try again.");
+    }
+}
 
 // Of several spellings the alphabetically first, so that every run takes the same one.
 fs::path FindPart(const fs::path& folder, const std::string& part) {
@@ -19,7 +31,9 @@ fs::path FindPart(const fs::path& folder, const std::string& part) {
         return folder / part;
     }
     std::string best;
-    for (const auto& entry : EntriesOf(folder, failure)) {
+    const auto entries = EntriesOf(folder, failure);
+    RequireListed(folder, failure);
+    for (const auto& entry : entries) {
         const std::string name = entry.path().filename().string();
         if (SameIgnoringCase(name, part) && (best.empty() || name < best)) {
             best = name;

@@ -6,7 +6,8 @@
 namespace vendrel {
 
 /// `relative` ("Data/paintlist.txt") under `folder`, each part as it is spelled on disk whatever
-/// the case of its letters; parts that do not exist keep the given spelling.
+/// the case of its letters; parts that do not exist keep the given spelling. Throws FileError when
+/// a folder cannot be listed just now, which must not pass for one without the file.
 [[nodiscard]] std::filesystem::path FindIgnoringCase(const std::filesystem::path& folder,
                                                      std::string_view relative);
 
