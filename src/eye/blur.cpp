@@ -79,9 +79,9 @@ Plane BlurredLight(const Surface& picture, int (*channel)(Color),
 }
 
 // Levels by their light.
-class Levels {
+class LightLevels {
   public:
-    Levels() {
+    LightLevels() {
         for (int i = 0; i < 255; ++i) {
             between_.at(static_cast<std::size_t>(i)) =
                 static_cast<float>((LightOf(i) + LightOf(i + 1)) / 2);
@@ -120,7 +120,7 @@ Surface Blurred(const Surface& picture, double sigma) {
     const Plane red = BlurredLight(picture, RedOf, weights);
     const Plane green = BlurredLight(picture, GreenOf, weights);
     const Plane blue = BlurredLight(picture, BlueOf, weights);
-    static const Levels kLevels;
+    static const LightLevels kLevels;
     Surface blurred(picture.Width(), picture.Height());
     std::size_t at = 0;
     for (int y = 0; y < picture.Height(); ++y) {
