@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QPushButton>
@@ -16,114 +15,34 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QWheelEvent>
-#include <filesystem>
-#include <memory>
 
-#include "convert/bitmap_writer.h"
-#include "desktop/paint_rows.h"
-#include "desktop/studio.h"
-#include "desktop/touch_up_canvas.h"
+#include "desktop/touch_up_bench.h"
 
 namespace vendrel::test {
-namespace {
-
-// Answers questions as long as it lives.
-class Answer {
-  public:
-    explicit Answer(QMessageBox::StandardButton button) {
-        QObject::connect(&timer_, &QTimer::timeout, [this, button] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                ++Asked;
-                box->button(button)->click();
-            }
-        });
-        timer_.start(5);
-    }
-    int Asked = 0;
-
-  private:
-    QTimer timer_;
-};
-
-}  // namespace
-
-// The editor as a hand on mouse and keyboard meets it, on a photo of two halves.
-class TouchUpWindowTest : public QObject {
+// The editor as a hand on mouse and keyboard meets it.
+class TouchUpWindowTest : public QObject, private TouchUpBench {
     Q_OBJECT
 
   private slots:
     void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
-    void init();
-    void cleanup();
+    void init() { Open(); }
+    void cleanup() { Close(); }
     void BrushRepaintsWithoutGapsAndIsUndone();
     void FillAndReplaceFollowTheirKeys();
     void RightClickPicksThePaint();
-    void SavingTheKitFreesTheCancelFromItsQuestion();
     void WheelZoomsAtThePointer();
     void SpaceDragsWhereverTheKeyboardIs();
     void ZoomingAfterALonerIsFoundShowsIt();
     void ValuesAreReadOut();
     void EveryWidgetHasANameAndAKeyOfItsOwn();
     void StrokesRepaintOnlyWhatTheyTouch();
-    void ClosingTheProgramWithAcceptedWorkAsks();
-    void KeptWorkIsRestoredOrThrownAway();
     void PressesWithKeysPickEraseAndDrawLines();
     void SelectionsAreMovedCopiedMirroredAndPasted();
     void AreasAreOutlinedMarkedAndMerged();
     void PaintsStandAloneAndMoveAndGo();
     void HistoryGoesToAnyStep();
     void PhotoAndPaintingStandBesideTheStipples();
-    void AnEditorThatCannotOpenDoesNothingButClose();
-    void TheEndOfTheSessionKeepsOpenWorkOrIsRefused();
-
-  private:
-    [[nodiscard]] WorkState& State() { return desktop_->Place().State; }
-    [[nodiscard]] int PaintAt(int x, int y) { return State().EditStipples(x, y).ColorIndex; }
-    [[nodiscard]] QPoint At(int x, int y) const { return canvas_->MiddleOf({x, y}); }
-    [[nodiscard]] QPushButton& Button(const char* name) {
-        return Find<QPushButton>(*canvas_->window(), name);
-    }
-    [[nodiscard]] PaintRows& Rows() { return Find<PaintRows>(*canvas_->window(), "Palette"); }
-    [[nodiscard]] QString UndoText() {
-        return Find<QToolButton>(*canvas_->window(), "Undo").text();
-    }
-    void ChoosePaint(int paint) { Rows().setCurrentItem(Rows().topLevelItem(paint - 1)); }
-    void Drag(QPoint from, QPoint to) {
-        QTest::mousePress(canvas_->viewport(), Qt::LeftButton, {}, from);
-        QTest::mouseMove(canvas_->viewport(), to);
-        QTest::mouseRelease(canvas_->viewport(), Qt::LeftButton, {}, to);
-    }
-
-    std::unique_ptr<TempFolder> files_;
-    std::unique_ptr<Desktop> desktop_;
-    TouchUpCanvas* canvas_ = nullptr;
 };
-
-void TouchUpWindowTest::init() {
-    files_ = std::make_unique<TempFolder>();
-    files_->Write("Data/studiopaint.csv",
-                  "2\r\n200,0,0,Reds,R1,Red\r\n0,200,0,Greens,G1,Green\r\n");
-    files_->Write("Data/paintlist.txt", "Reds\r\nGreens\r\n");
-    Surface photo(64, 48, Rgb(200, 0, 0));
-    photo.FillRect(32, 0, 64, 48, Rgb(0, 200, 0));
-    WriteBitmap(*files_ / "Pictures/halves.bmp", photo);
-    WriteBitmap(*files_ / "Data/PBNLady.bmp", photo);
-    desktop_ = std::make_unique<Desktop>(ProgramFolder(files_->Path(), VENDREL_SOURCE_DIR));
-    QVERIFY(!desktop_->Start());
-    desktop_->Place().State->Chosen.WatchItPaint = false;
-    MainWindow& window = desktop_->Window();
-    QVERIFY(LoadFirstPhoto(window) && Choose(window, "ChangeToStipples"));
-    QVERIFY(Choose(window, "ColorPickerSelect"));
-    canvas_ = &Find<TouchUpCanvas>(window, "Canvas");
-    QVERIFY(QTest::qWaitForWindowExposed(canvas_->window()));
-    ChoosePaint(2);
-}
-
-void TouchUpWindowTest::cleanup() {
-    canvas_ = nullptr;
-    desktop_.reset();
-    files_.reset();
-}
 
 void TouchUpWindowTest::BrushRepaintsWithoutGapsAndIsUndone() {
     QCOMPARE(PaintAt(2, 2), 1);
@@ -162,28 +81,6 @@ void TouchUpWindowTest::FillAndReplaceFollowTheirKeys() {
 void TouchUpWindowTest::RightClickPicksThePaint() {
     QTest::mouseClick(canvas_->viewport(), Qt::RightButton, {}, At(1, 1));
     QCOMPARE(Rows().indexOfTopLevelItem(Rows().currentItem()), 0);
-}
-
-void TouchUpWindowTest::SavingTheKitFreesTheCancelFromItsQuestion() {
-    QVERIFY(!Button("LoadIt").isEnabled());
-    Drag(At(1, 1), At(3, 1));
-    {
-        const Answer stay(QMessageBox::Cancel);
-        Button("Cancel").click();
-        QCOMPARE(stay.Asked, 1);
-    }
-    QVERIFY(canvas_->isVisible());
-    canvas_->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(canvas_->window()));
-    const std::filesystem::path stipples = *files_ / "Saved Stipples/halves-Easy.stp";
-    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_S));
-    QVERIFY(std::filesystem::exists(*files_ / "Kits/halves.kit"));
-    QVERIFY(!std::filesystem::exists(stipples) && !Button("LoadIt").isEnabled());
-    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    QVERIFY(std::filesystem::exists(stipples) && Button("LoadIt").isEnabled());
-    Button("Cancel").click();
-    QVERIFY(!canvas_->isVisible());
-    QVERIFY(desktop_->Window().findChild<QAction*>(QStringLiteral("LoadStipples"))->isEnabled());
 }
 
 void TouchUpWindowTest::WheelZoomsAtThePointer() {
@@ -291,60 +188,6 @@ void TouchUpWindowTest::StrokesRepaintOnlyWhatTheyTouch() {
     QVERIFY2(touched.contains(watch.Painted.boundingRect()), "more was painted than was touched");
     canvas_->viewport()->removeEventFilter(&watch);
     QTest::mouseRelease(canvas_->viewport(), Qt::LeftButton, {}, At(4, 2));
-}
-
-void TouchUpWindowTest::ClosingTheProgramWithAcceptedWorkAsks() {
-    MainWindow& window = desktop_->Window();
-    Drag(At(1, 1), At(3, 1));
-    Button("Accept").click();
-    QVERIFY(State().HasUnsavedWork);
-    QVERIFY(std::filesystem::exists(*files_ / "Saved Stipples/halves-Easy.recovery.stp"));
-    {
-        const Answer stay(QMessageBox::Cancel);
-        QVERIFY(!window.close());
-        QVERIFY(Choose(window, "EndItAll"));
-        QCOMPARE(stay.Asked, 2);
-    }
-    QVERIFY(window.isVisible() && window.isWindowModified());
-    const Answer discard(QMessageBox::Discard);
-    QVERIFY(window.close());
-    QCOMPARE(discard.Asked, 1);
-}
-
-void TouchUpWindowTest::KeptWorkIsRestoredOrThrownAway() {
-    QTest::mouseClick(canvas_->viewport(), Qt::LeftButton, {}, At(2, 2));
-    static_cast<FormDialog*>(canvas_->window())->KeepWork();
-    const std::filesystem::path crashed = *files_ / "Saved Stipples/halves-Easy.recovery.stp";
-    std::filesystem::copy(crashed, *files_ / "Saved Stipples/halves-Easy.recovery-2.stp");
-    std::filesystem::copy(crashed, *files_ / "Saved Stipples/dog-Medium.recovery.stp");
-    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
-    QTest::keyClick(canvas_, Qt::Key_Escape);
-    QVERIFY(Choose(desktop_->Window(), "ColorPickerSelect"));
-    QWidget& kept = *QApplication::activeModalWidget();
-    auto& list = Find<QTreeWidget>(kept, "KeptList");
-    auto& restore = Find<QPushButton>(kept, "Restore");
-    canvas_ = &Find<TouchUpCanvas>(desktop_->Window(), "Canvas");
-    QCOMPARE(list.topLevelItemCount(), 2);
-    const int dog = list.topLevelItem(0)->text(1) == "dog" ? 0 : 1;
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                      list.visualItemRect(list.topLevelItem(dog)).center());
-    QVERIFY(!restore.isEnabled());
-    QVERIFY(Find<QLabel>(kept, "KeptHint").accessibleName().contains("photo dog at Medium"));
-    QVERIFY(QTest::qWaitForWindowActive(&kept));
-    QTimer::singleShot(0, &kept, [] {
-        auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        QVERIFY(question != nullptr && question->text().contains("dog (Medium)"));
-        QTest::mouseClick(question->button(QMessageBox::Yes), Qt::LeftButton);
-    });
-    QTest::keyClick(&list, Qt::Key_Delete);
-    QCOMPARE(list.topLevelItemCount(), 1);
-    QTest::keyClick(&kept, Qt::Key_Escape);
-    QVERIFY(!kept.isVisible());
-    QTest::mouseClick(&Button("KeptWork"), Qt::LeftButton);
-    QTest::mouseClick(&restore, Qt::LeftButton);
-    QVERIFY(!kept.isVisible());
-    QCOMPARE(PaintAt(2, 2), 2);
-    QCOMPARE(UndoText(), QStringLiteral("Undo Restore"));
 }
 
 void TouchUpWindowTest::PressesWithKeysPickEraseAndDrawLines() {
@@ -490,50 +333,6 @@ void TouchUpWindowTest::PhotoAndPaintingStandBesideTheStipples() {
     what.setCurrentIndex(2);
     QTRY_COMPARE_WITH_TIMEOUT(colorAt(6, 6), QColor(0, 200, 0), 20000);
     QVERIFY2(State().EditStipples != State().Stipples, "the kit itself waits for Accept");
-}
-
-void TouchUpWindowTest::AnEditorThatCannotOpenDoesNothingButClose() {
-    MainWindow& window = desktop_->Window();
-    Button("Cancel").click();
-    State().Stipples = {};
-    {
-        NextMessage message;
-        QVERIFY(Choose(window, "ColorPickerSelect"));
-        QVERIFY2(message.Text.contains(QStringLiteral("no stipples")), qPrintable(message.Text));
-    }
-    canvas_ = &Find<TouchUpCanvas>(window, "Canvas");
-    QVERIFY(canvas_->isVisible());
-    emit canvas_->Pressed({1, 1});
-    emit canvas_->Dragged({1, 1});
-    emit canvas_->Released();
-    emit canvas_->Picked({1, 1});
-    emit Rows().Chosen(1);
-    Button("NextLoner").click();
-    QTest::keyClick(canvas_->window(), Qt::Key_Escape);
-    QVERIFY(!canvas_->isVisible());
-}
-
-void TouchUpWindowTest::TheEndOfTheSessionKeepsOpenWorkOrIsRefused() {
-    using enum MainWindow::Questions;
-    namespace fs = std::filesystem;
-    MainWindow& window = desktop_->Window();
-    const fs::path kept = *files_ / "Saved Stipples/halves-Easy.recovery.stp";
-    QVERIFY(window.MayEndSession(Allowed));
-    QVERIFY2(!fs::exists(kept), "nothing was changed");
-    for (const auto questions : {Forbidden, Allowed}) {
-        Drag(At(1, 1), At(3, 1));
-        QVERIFY(window.MayEndSession(questions));
-        QVERIFY(fs::exists(kept));
-        fs::remove(kept);
-        QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
-    }
-    Drag(At(1, 1), At(3, 1));
-    fs::remove_all(kept.parent_path());
-    files_->Write("Saved Stipples", "no folder");
-    NextMessage message;
-    QVERIFY(!window.MayEndSession(Allowed));
-    QVERIFY(!message.Text.isEmpty());
-    QVERIFY(!window.MayEndSession(Forbidden));
 }
 
 }  // namespace vendrel::test
