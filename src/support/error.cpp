@@ -12,14 +12,12 @@ std::string Shown(const std::filesystem::path& file) {
 
 std::string AdviceOn(const std::error_code& failure, const std::string& otherwise) {
     if (failure == std::errc::no_space_on_device) {
-        return "There is no room on its disk: remove something there, or work in a folder on "
-               "another "
-               "one.";
+        return "There is no room on its disk: remove something there, or work in a folder "
+               "elsewhere.";
     }
     if (failure == std::error_code(EDQUOT, std::generic_category())) {
-        return "Your files fill all that you are allowed on its disk: remove some of them, or ask "
-               "for "
-               "more.";
+        return "Your files fill all that you are allowed on its disk: remove some of them, or "
+               "ask for more.";
     }
     if (failure == std::errc::read_only_file_system) {
         return "Its disk cannot be written to: work in a folder on another one.";
