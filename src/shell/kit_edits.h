@@ -8,6 +8,9 @@
 
 namespace vendrel {
 
+/// Sides that a sheet can have at the smallest stipples.
+inline constexpr int kMostStipplesASide = 546;
+
 /// What the painter wants of a stipple.
 enum class StippleWish {
     Paint,      // this paint, wherever the conversion would put another

@@ -18,7 +18,6 @@ namespace {
 constexpr std::size_t kCellLine = 32;
 
 constexpr std::string_view kEditsWord = "Edits";
-constexpr int kMostASide = 1024;  // stipples, more than any photo has at any difficulty
 
 void AppendNumber(std::string& out, int value) {
     char digits[16];
@@ -226,8 +225,8 @@ std::optional<EditLayer> StippleFileReader::ReadEdits() {
     }
     recordLine_ = fields_.Line();
     EditLayer layer;
-    layer.Across = fields_.ReadInt("the edits' stipples across", 0, kMostASide);
-    layer.Down = fields_.ReadInt("the edits' stipples down", 0, kMostASide);
+    layer.Across = fields_.ReadInt("the edits' stipples across", 0, kMostStipplesASide);
+    layer.Down = fields_.ReadInt("the edits' stipples down", 0, kMostStipplesASide);
     const int paints = fields_.ReadInt("the number of the edits' paints", 0, kMaxCounter);
     const int cells = fields_.ReadInt("the number of edits", 0, layer.Across * layer.Down);
     const int exchanges = fields_.ReadInt("the number of exchanged paints", 0, kMaxCounter);
