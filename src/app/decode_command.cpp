@@ -81,11 +81,12 @@ PhotoBytes MapPhoto() {
     return {static_cast<const std::uint8_t*>(start), size};
 }
 
+// All pages at once: taken one by one as they are painted on, they cost as much as the painting.
 std::span<Color> MapPixels(BitmapSize size) {
     const std::size_t count =
         static_cast<std::size_t>(size.Width) * static_cast<std::size_t>(size.Height);
-    void* const start =
-        mmap(nullptr, count * sizeof(Color), PROT_READ | PROT_WRITE, MAP_SHARED, kPixels, 0);
+    void* const start = mmap(nullptr, count * sizeof(Color), PROT_READ | PROT_WRITE,
+                             MAP_SHARED | MAP_POPULATE, kPixels, 0);
     if (start == MAP_FAILED) {
         throw std::bad_alloc();
     }

@@ -24,7 +24,7 @@ class BitmapStream {
   public:
     /// A watcher reads blocks while the next ones are drawn: none may change before so many,
     /// itself included, have been written.
-    static constexpr std::size_t kBlocksInHand = 16;
+    static constexpr std::size_t kBlocksInHand = 4;
 
     BitmapStream(const Target& target, int width, int height, PrintScale scale = kSheetScale,
                  Lasting lasting = Lasting::Remade);

@@ -43,9 +43,10 @@ class UprightOrder {
           stepX_(IndexOf(stored, turn, 1, 0) - origin_),
           stepY_(IndexOf(stored, turn, 0, 1) - origin_) {}
 
-    [[nodiscard]] std::size_t At(int x, int y) const {
-        return static_cast<std::size_t>(origin_ + stepX_ * x + stepY_ * y);
-    }
+    /// Where the first pixel of row y goes.
+    [[nodiscard]] std::ptrdiff_t Row(int y) const { return origin_ + stepY_ * y; }
+    /// From there to the next one.
+    [[nodiscard]] std::ptrdiff_t Step() const { return stepX_; }
 
   private:
     static std::ptrdiff_t IndexOf(BitmapSize stored, QImageIOHandler::Transformations turn, int x,
@@ -73,9 +74,6 @@ QImage Strip(const QImage& image, int top, int rows) {
 }
 
 Color MeanOf(const Surface& picture, int left, int top, int side) {
-    if (side == 1) {
-        return picture.Get(left, top);
-    }
     int red = 0;
     int green = 0;
     int blue = 0;
@@ -90,6 +88,13 @@ Color MeanOf(const Surface& picture, int left, int top, int side) {
     return Rgb((red + count / 2) / count, (green + count / 2) / count, (blue + count / 2) / count);
 }
 
+void PlaceRow(RowView<const Color> row, Color* to, std::ptrdiff_t step) {
+    for (const Color color : row) {
+        *to = color;
+        to += step;
+    }
+}
+
 // Strip by strip: a second whole copy of a large picture in other colors would not fit.
 void Deliver(const QImage& image, int divisor, BitmapSize size, const UprightOrder& order,
              std::span<Color> pixels) {
@@ -99,8 +104,13 @@ void Deliver(const QImage& image, int divisor, BitmapSize size, const UprightOrd
         const Surface strip = ToSurface(Strip(image, first * divisor, rows * divisor));
         const int last = std::min(first + rows, size.Height);
         for (int y = first; y < last; ++y) {
+            Color* const to = pixels.data() + order.Row(y);
+            if (divisor == 1) {
+                PlaceRow(strip.Row(y - first), to, order.Step());
+                continue;
+            }
             for (int x = 0; x < size.Width; ++x) {
-                pixels[order.At(x, y)] = MeanOf(strip, x * divisor, (y - first) * divisor, divisor);
+                to[order.Step() * x] = MeanOf(strip, x * divisor, (y - first) * divisor, divisor);
             }
         }
     }

@@ -62,10 +62,11 @@ int OnWhite(int channel, int alpha) {
 }
 
 Color OpaqueColor(QRgb pixel) {
+    return Rgb(qRed(pixel), qGreen(pixel), qBlue(pixel));
+}
+
+Color ColorOnWhite(QRgb pixel) {
     const int alpha = qAlpha(pixel);
-    if (alpha == 255) {
-        return Rgb(qRed(pixel), qGreen(pixel), qBlue(pixel));
-    }
     return Rgb(OnWhite(qRed(pixel), alpha), OnWhite(qGreen(pixel), alpha),
                OnWhite(qBlue(pixel), alpha));
 }
@@ -75,12 +76,12 @@ Color OpaqueColor(QRgb pixel) {
 Surface ToSurface(QImage image) {
     image = InSrgb(std::move(image));
     image.convertTo(PlainFormat(image));
+    const bool transparent = image.hasAlphaChannel();
     Surface surface(image.width(), image.height());
     for (int y = 0; y < image.height(); ++y) {
-        const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (Color& to : surface.Row(y)) {
-            to = OpaqueColor(*from++);
-        }
+        const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        std::ranges::transform(from, from + image.width(), surface.Row(y).begin(),
+                               transparent ? ColorOnWhite : OpaqueColor);
     }
     return surface;
 }

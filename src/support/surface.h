@@ -29,11 +29,11 @@ class Surface {
     }
 
     [[nodiscard]] Color Get(int x, int y) const {
-        return Holds(x, y) ? pixels_[At(x, y)] : kNoColor;
+        return Holds(x, y) ? pixels_.data()[At(x, y)] : kNoColor;
     }
     void Set(int x, int y, Color color) {
         if (Holds(x, y)) {
-            pixels_[At(x, y)] = color;
+            pixels_.data()[At(x, y)] = color;
         }
     }
 
