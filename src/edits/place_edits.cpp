@@ -29,7 +29,7 @@ int CellOf(double share, int cells) {
 
 }  // namespace
 
-EditLayer EditsOfPart(const EditLayer& layer, const PicturePart& part, int across, int down) {
+EditLayer EditsOfPart(const EditLayer& layer, const LayerPart& part, int across, int down) {
     EditLayer placed{across, down, layer.Paints, {}, layer.Exchanges};
     Grid<const StippleEdit*> edits(layer.Across, layer.Down);
     for (const StippleEdit& edit : layer.Cells) {

@@ -5,7 +5,7 @@
 namespace vendrel {
 
 /// A part of a picture, in shares of its sides, after the picture was turned.
-struct PicturePart {
+struct LayerPart {
     double Left = 0;
     double Top = 0;
     double Width = 1;
@@ -15,7 +15,7 @@ struct PicturePart {
 
 /// The edits on a grid of another size over a part of the same picture: a stipple is edited when
 /// its center lies in one that was.
-[[nodiscard]] EditLayer EditsOfPart(const EditLayer& layer, const PicturePart& part, int across,
+[[nodiscard]] EditLayer EditsOfPart(const EditLayer& layer, const LayerPart& part, int across,
                                     int down);
 
 /// The same over the whole picture.

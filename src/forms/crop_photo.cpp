@@ -53,7 +53,7 @@ std::string Sides(int width, int height) {
     return std::to_string(width) + " x " + std::to_string(height);
 }
 
-PicturePart PartIn(const CropFrame& frame) {
+LayerPart PartIn(const CropFrame& frame) {
     const CropRect& rect = frame.Rect();
     const double width = frame.Photo().Width;
     const double height = frame.Photo().Height;

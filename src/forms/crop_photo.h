@@ -51,7 +51,7 @@ class CropPhoto {
 
     [[nodiscard]] const CropPhotoControls& Controls() const { return controls_; }
     /// What part of the photo was kept last.
-    [[nodiscard]] const PicturePart& KeptPart() const { return keptPart_; }
+    [[nodiscard]] const LayerPart& KeptPart() const { return keptPart_; }
     /// The same in pixels of the photo as it was turned.
     [[nodiscard]] const CropRect& KeptRect() const { return controls_.Frame; }
 
@@ -68,7 +68,7 @@ class CropPhoto {
     Surface small_;  // not turned
     std::string name_;
     Kept kept_;
-    PicturePart keptPart_;
+    LayerPart keptPart_;
     std::optional<CropFrame> frame_;
     CropGrip held_ = CropGrip::None;
     int holdX_ = 0;  // from the frame's corner that is held, its top left one for the inside

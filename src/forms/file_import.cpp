@@ -281,7 +281,7 @@ void FileImport::LoadCrop(const std::string& pictureFile) {
     TakeAndLoad([&] { return pictureFile; }, PhotoFit::Keep);
 }
 
-void FileImport::TakeAndLoad(const Take& take, PhotoFit way, const PicturePart* part) {
+void FileImport::TakeAndLoad(const Take& take, PhotoFit way, const LayerPart* part) {
     GridReplacement replacement(place_, kits_);
     if (replacement.Allowed()) {
         const std::string file = take();
@@ -323,7 +323,7 @@ void FileImport::OKButton_Click() {
     }
 }
 
-void FileImport::Load(PhotoFit way, const PicturePart* part) {
+void FileImport::Load(PhotoFit way, const LayerPart* part) {
     WorkState& state = place_.State;
     const std::string path = state.PicturePath;
     const bool hadGrid = state.StipplesMade || state.CellsAcross > 0;
@@ -348,7 +348,7 @@ void FileImport::Load(PhotoFit way, const PicturePart* part) {
     }
 }
 
-void FileImport::KeepEditsOf(const PicturePart* part) {
+void FileImport::KeepEditsOf(const LayerPart* part) {
     WorkState& state = place_.State;
     EditLayer edits = std::move(state.Edits);
     ForgetEdits(state, state);

@@ -98,9 +98,9 @@ class FileImport {
     void NoteCrop(const std::string& pictureFile, const std::string& of);
     [[nodiscard]] std::string Cropped(const std::string& pictureFile, PhotoFit way);
     /// `part`: of the photo at work, whose edits go along; none for another photo.
-    void TakeAndLoad(const Take& take, PhotoFit way, const PicturePart* part = nullptr);
-    void Load(PhotoFit way, const PicturePart* part = nullptr);
-    void KeepEditsOf(const PicturePart* part);
+    void TakeAndLoad(const Take& take, PhotoFit way, const LayerPart* part = nullptr);
+    void Load(PhotoFit way, const LayerPart* part = nullptr);
+    void KeepEditsOf(const LayerPart* part);
     void LoadCrop(const std::string& pictureFile);
     void PutBack();
 

@@ -218,7 +218,7 @@ TEST(LayEdits, LaysEachEditOnTheGridThatTheConversionGives) {
 
 TEST(PlaceEdits, KeepsTheirPlaceInThePictureOnOtherGridsAndParts) {
     const Rows edits{"A...", ".B..", "...."};
-    const auto placed = [&](const PicturePart& part, int across, int down) {
+    const auto placed = [&](const LayerPart& part, int across, int down) {
         const PaintList dot = Letters(".");
         const Grid<StippleCell> base =
             GridOfLetters(Rows(static_cast<std::size_t>(down),
