@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "edits/lay_order.h"
 #include "edits/neighbor_wishes.h"
 #include "edits/paint_index.h"
 #include "edits/place_edits.h"
@@ -30,6 +31,9 @@ class EditLaying {
         Report();
         if (terms_.Exchanged == ExchangedPaints::Leave) {
             DropExchanged();
+        }
+        if (!layer_.Order.Empty()) {
+            PutInOrder();
         }
         for (StippleCell& cell : laid_.Cells.All()) {
             cell.ColorIndex = place_[cell.ColorIndex];
@@ -176,6 +180,17 @@ class EditLaying {
                     place = place == gone ? 0 : place - (place > gone ? 1 : 0);
                 }
             }
+        }
+    }
+
+    void PutInOrder() {
+        const OneBased<int> newOf = PlacesByOrder(laid_.Paints, layer_);
+        const PaintList before = laid_.Paints;
+        for (int old = 1; old <= before.Count(); ++old) {
+            laid_.Paints[newOf[old]] = before[old];
+        }
+        for (int& place : place_) {
+            place = newOf[place];
         }
     }
 

@@ -46,7 +46,7 @@ struct LayTerms {
 
 /// The grid with the edits over it.
 struct LaidEdits {
-    PaintList Paints;  // those of the base in their places, then those that joined
+    PaintList Paints;  // the base's in their places, then those that joined; or by the order
     Grid<StippleCell> Cells;
     LayReport Report;
 };

@@ -15,7 +15,7 @@ constexpr int kMostLooks = 4;
 }  // namespace
 
 LayerRecorder::LayerRecorder(const ConvertedGrid& base, const EditLayer& layer)
-    : base_(base), wanted_(base.Cells.Across(), base.Cells.Down()) {
+    : base_(base), wanted_(base.Cells.Across(), base.Cells.Down()), order_(layer.Order) {
     for (const PaintColor& paint : base.Paints) {
         basePaints_.Add(NumberOf(paint));
     }
@@ -79,8 +79,22 @@ void LayerRecorder::ExchangeBase(int from, int to) {
     }
 }
 
+void LayerRecorder::Order(const PaintList& paints) {
+    const PaintList before = std::exchange(order_, {});
+    PaintIndex known;
+    for (const PaintList* list : {&paints, &before}) {
+        for (const PaintColor& paint : *list) {
+            if (known.Find(paint) == 0) {
+                known.Add(paint);
+                order_.Add(paint);
+                order_.Last().CellCount = 0;
+            }
+        }
+    }
+}
+
 EditLayer LayerRecorder::Layer() const {
-    EditLayer layer{wanted_.Across(), wanted_.Down(), {}, {}, {}};
+    EditLayer layer{wanted_.Across(), wanted_.Down(), {}, {}, {}, order_};
     OneBased<int> kept(paints_.Count());
     for (int y = 1; y <= layer.Down; ++y) {
         for (int x = 1; x <= layer.Across; ++x) {
@@ -112,6 +126,24 @@ void LayerRecorder::Settle(const PaintList& paints, const Grid<StippleCell>& cel
         }
     }
     for (int look = 0; look < kMostLooks && PinDifferences(paints, cells); ++look) {
+    }
+    if (!order_.Empty()) {
+        SettleOrder(paints);
+    }
+}
+
+// An order that gives what is shown stays as it was made: it may know more paints than are here.
+void LayerRecorder::SettleOrder(const PaintList& paints) {
+    const LaidEdits laid = LayEdits(base_, Layer());
+    const PaintIndex shown(paints);
+    int last = 0;
+    for (const PaintColor& paint : laid.Paints) {
+        const int place = shown.Find(paint);
+        if (place > 0 && place < last) {
+            Order(paints);
+            return;
+        }
+        last = std::max(last, place);
     }
 }
 

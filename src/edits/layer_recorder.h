@@ -24,10 +24,14 @@ class LayerRecorder {
     /// conversion gives `from` will, too.
     void Exchange(int from, int to, std::span<const CellPos> cells);
 
+    /// The paints stand in this order from now on. Those of an order before that are missing here
+    /// come behind, should they come again.
+    void Order(const PaintList& paints);
+
     [[nodiscard]] EditLayer Layer() const;
 
     /// Makes sure that the layer gives exactly these stipples over the base: what differs is pinned
-    /// down as painted by hand.
+    /// down as painted by hand. Where there is an order, it becomes that of `paints`.
     void Settle(const PaintList& paints, const Grid<StippleCell>& cells);
 
   private:
@@ -37,6 +41,7 @@ class LayerRecorder {
     };
 
     void ExchangeBase(int from, int to);
+    void SettleOrder(const PaintList& paints);
     bool PinDifferences(const PaintList& paints, const Grid<StippleCell>& cells);
 
     ConvertedGrid base_;
@@ -45,6 +50,7 @@ class LayerRecorder {
     OneBased<int> basePaints_;  // by their numbers here
     Grid<Wanted> wanted_;
     std::vector<std::pair<int, int>> exchanges_;
+    PaintList order_;
 };
 
 }  // namespace vendrel

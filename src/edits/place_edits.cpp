@@ -30,7 +30,7 @@ int CellOf(double share, int cells) {
 }  // namespace
 
 EditLayer EditsOfPart(const EditLayer& layer, const LayerPart& part, int across, int down) {
-    EditLayer placed{across, down, layer.Paints, {}, layer.Exchanges};
+    EditLayer placed{across, down, layer.Paints, {}, layer.Exchanges, layer.Order};
     Grid<const StippleEdit*> edits(layer.Across, layer.Down);
     for (const StippleEdit& edit : layer.Cells) {
         edits(edit.At.X, edit.At.Y) = &edit;

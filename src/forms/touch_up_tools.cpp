@@ -312,7 +312,7 @@ void TouchUpForm::RemovePaint_Click() {
 
 void TouchUpForm::MovePaint_Click(int from, int to) {
     if (Sheet().HoldsPaint(from) && Sheet().HoldsPaint(to) && from != to) {
-        ChangePalette("Sort Paints", EditIntent::Paint, WithPaintMoved(Sheet(), from, to));
+        ChangePalette("Sort Paints", EditIntent::Order, WithPaintMoved(Sheet(), from, to));
     }
 }
 

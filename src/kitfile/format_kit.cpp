@@ -143,12 +143,16 @@ class KitWriter {
                 PlaceOfPaint("edits.exchanges/both", from),
                 {{"from", Paint("edits.exchanges", from)}, {"to", Paint("edits.exchanges", to)}}));
         }
-        return With("edits", {{"across", edits.Across},
-                              {"down", edits.Down},
-                              {"paints", Paints("edits.paints", edits.Paints)},
-                              {"painted", Runs("edits.painted", StippleWish::Paint)},
-                              {"joined", Runs("edits.joined", StippleWish::Neighbors)},
-                              {"exchanges", std::move(exchanges)}});
+        KitJson json = {{"across", edits.Across},
+                        {"down", edits.Down},
+                        {"paints", Paints("edits.paints", edits.Paints)},
+                        {"painted", Runs("edits.painted", StippleWish::Paint)},
+                        {"joined", Runs("edits.joined", StippleWish::Neighbors)},
+                        {"exchanges", std::move(exchanges)}};
+        if (!edits.Order.Empty()) {
+            json["order"] = Paints("edits.order", edits.Order);
+        }
+        return With("edits", std::move(json));
     }
 
     // A row of the grid an entry; neighbors of one paint are one run.

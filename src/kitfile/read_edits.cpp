@@ -86,6 +86,9 @@ EditLayer ReadEditLayer(ObjectReader edits) {
                                    ReadKitPaint(edits.Text(), reader.Member("to"), place)});
         reader.KeepUnknown(PlaceOfPaint(place + "/both", layer.Exchanges.back().From));
     }
+    if (edits.Has("order")) {
+        layer.Order = ReadKitPaints(edits, "order");
+    }
     edits.KeepUnknown();
     return layer;
 }

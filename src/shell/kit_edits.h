@@ -35,15 +35,17 @@ struct PaintExchange {
 };
 
 /// A painter's edits over a converted grid, in terms that outlast its palette. Laid on: first the
-/// exchanges, each on the paints of the conversion alone (none follows another), then the stipples.
+/// exchanges, each on the paints of the conversion alone (none follows another), then the stipples,
+/// and last the paints are put in the painter's order.
 struct EditLayer {
     int Across = 0;  // the grid that places are counted on; another one takes them by share
     int Down = 0;
     PaintList Paints;                      // that Cells name; by identity (PaintId) in any palette
     std::vector<StippleEdit> Cells;        // row-major, one for a stipple at most
     std::vector<PaintExchange> Exchanges;  // one for a paint at most
+    PaintList Order = {};                  // of symbols by hand; empty as the conversion has it
 
-    [[nodiscard]] bool Empty() const { return Cells.empty() && Exchanges.empty(); }
+    [[nodiscard]] bool Empty() const { return Cells.empty() && Exchanges.empty() && Order.Empty(); }
     bool operator==(const EditLayer&) const = default;
 };
 

@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t kCellLine = 32;
 
 constexpr std::string_view kEditsWord = "Edits";
+constexpr std::string_view kOrderWord = "Order";
 
 void AppendNumber(std::string& out, int value) {
     char digits[16];
@@ -96,6 +97,15 @@ void AppendEdits(std::string& out, const EditLayer& layer) {
     for (const PaintExchange& exchange : layer.Exchanges) {
         AppendPaint(out, exchange.From, 0);
         AppendPaint(out, exchange.To, 0);
+    }
+    if (!layer.Order.Empty()) {
+        AppendText(out, kOrderWord);
+        out += ',';
+        AppendNumber(out, layer.Order.Count());
+        out += "\r\n";
+        for (const PaintColor& paint : layer.Order) {
+            AppendPaint(out, paint, 0);
+        }
     }
 }
 
@@ -241,7 +251,20 @@ std::optional<EditLayer> StippleFileReader::ReadEdits() {
         const PaintColor from = ReadPaint();
         layer.Exchanges.push_back({from, ReadPaint()});
     }
+    ReadOrder(layer);
     return layer;
+}
+
+void StippleFileReader::ReadOrder(EditLayer& layer) {
+    if (fields_.LinesLeft().Last == 0 || fields_.ReadText("the paints' order") != kOrderWord) {
+        return;
+    }
+    recordLine_ = fields_.Line();
+    const int paints = fields_.ReadInt("the number of paints in order", 0, kMaxCounter);
+    EndRecord();
+    for (int i = 1; i <= paints; ++i) {
+        layer.Order.Add(ReadPaint());
+    }
 }
 
 StippleEdit StippleFileReader::ReadEdit(const EditLayer& layer) {

@@ -78,6 +78,7 @@ class StippleFileReader {
     [[nodiscard]] int ReadFirst(const char* what, int min, int max);
     void EndRecord() const;
     [[nodiscard]] StippleEdit ReadEdit(const EditLayer& layer);
+    void ReadOrder(EditLayer& layer);
 
     FieldReader fields_;
     StippleHeader header_;

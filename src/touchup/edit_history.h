@@ -17,6 +17,7 @@ enum class EditIntent {
     Neighbors,  // what lies around these places
     Exchange,   // another paint wherever there is the one
     Erase,      // what the conversion gave these places
+    Order,      // the paints in this order
     NewBase,    // a grid to go on from as if converted so
     Layer,      // the edits of its layer in place of all until then
 };

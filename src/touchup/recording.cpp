@@ -156,6 +156,9 @@ class Recording {
             AddMoment(step);
             return;
         }
+        if (step.Intent == EditIntent::Order) {
+            recorder_->Order(after.FoundColors);
+        }
         const OneBased<int> old = NumbersOf(before);
         const OneBased<int> now = NumbersOf(after.FoundColors);
         const Grid<StippleCell>& was = std::get<SheetContents>(step.What).EditStipples;

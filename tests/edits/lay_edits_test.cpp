@@ -91,6 +91,7 @@ struct LayCase {
     Rows Laid;
     std::string LaidPalette;
     std::string Said;
+    std::string Order = {};
 };
 
 TEST(LayEdits, LaysEachEditOnTheGridThatTheConversionGives) {
@@ -204,12 +205,46 @@ TEST(LayEdits, LaysEachEditOnTheGridThatTheConversionGives) {
          {"AB"},
          "AB",
          "All 2 edits kept"},
+        {"the order by hand", "ABC", {"ABC"}, {"..."}, {}, {}, {"ABC"}, "CAB", "", "CAB"},
+        {"each in its place, a stranger between",
+         "XABC",
+         {"XABC"},
+         {"...."},
+         {},
+         {},
+         {"XABC"},
+         "CBXA",
+         "",
+         "CBDA"},
+        {"closed up for want of room", "XAC", {"XAC"}, {"..."}, {}, {}, {"XAC"}, "XCA", "", "EDCA"},
+        {"what joins, in its place",
+         "AB",
+         {"ABA"},
+         {"..D"},
+         {},
+         {},
+         {"ABD"},
+         "DBA",
+         "1 edit kept",
+         "DBA"},
+        {"the one exchanged stands for the other",
+         "AB",
+         {"AB"},
+         {".."},
+         {"AZ"},
+         {},
+         {"ZB"},
+         "BZ",
+         "1 edit kept",
+         "BA"},
     };
     for (const LayCase& one : cases) {
         SCOPED_TRACE(one.Name);
         const PaintList paints = Letters(one.Palette);
         const Grid<StippleCell> base = GridOfLetters(one.Base, paints);
-        const LaidEdits laid = LayEdits({paints, base}, Layer(one.Edits, one.Exchanges), one.Terms);
+        EditLayer layer = Layer(one.Edits, one.Exchanges);
+        layer.Order = Letters(one.Order);
+        const LaidEdits laid = LayEdits({paints, base}, layer, one.Terms);
         EXPECT_EQ(LettersOf(laid), one.Laid);
         EXPECT_EQ(NamesOf(laid.Paints), one.LaidPalette);
         EXPECT_EQ(Sentence(laid.Report), one.Said);

@@ -82,7 +82,8 @@ KitFile OddKit() {
                         {{2, 1}, StippleWish::Paint, 1},
                         {{3, 1}, StippleWish::Neighbors, 0},
                         {{1, 2}, StippleWish::Paint, 2}},
-                       {{Paint(3, "Sky"), Paint(2, "Sea")}}};
+                       {{Paint(3, "Sky"), Paint(2, "Sea")}},
+                       {Paint(2, "Sea"), Paint(3, "Sky")}};
     return kit;
 }
 

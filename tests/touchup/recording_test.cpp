@@ -6,6 +6,7 @@
 #include <random>
 
 #include "edits/lay_edits.h"
+#include "edits/paint_index.h"
 #include "sheets.h"
 #include "touchup/laid_edits.h"
 #include "touchup/touch_up.h"
@@ -28,6 +29,15 @@ Rows NamesOn(const PaintList& paints, const Grid<StippleCell>& cells) {
 Rows Laid(const KitEdits& edits) {
     const LaidEdits laid = LayEdits({edits.BasePaints, edits.Base}, edits.Edits);
     return NamesOn(laid.Paints, laid.Cells);
+}
+
+// The paints that both lists have, as the first one has them.
+std::string Common(const PaintList& paints, const PaintList& other) {
+    std::string names;
+    for (const PaintColor& paint : paints) {
+        names += PaintIndex(other).Find(paint) > 0 ? paint.PaintName.substr(5) : "";
+    }
+    return names;
 }
 
 // As a plain painter has it: what lies under each stipple, and what was put over it.
@@ -89,8 +99,10 @@ void EditSomehow(TouchUp& editor, WorkState& state, std::mt19937& random) {
             }
         },
         [&] {
-            editor.ChangePalette("Sort Paints", EditIntent::Paint,
-                                 WithPaintMoved(editor.Sheet(), 1, editor.Sheet().PaintCount()));
+            const int last = editor.Sheet().PaintCount();
+            editor.ChangePalette(
+                "Sort Paints", EditIntent::Order,
+                WithPaintMoved(editor.Sheet(), 1 + upTo(static_cast<unsigned>(last)), last));
         },
         [&] {
             editor.BeginStroke(
@@ -118,6 +130,12 @@ TEST(Recording, GivesExactlyTheSheetOverItsBaseAfterAnySession) {
             const Rows shown = NamesOn(bench.State.PaintColors, bench.State.Stipples);
             ASSERT_EQ(Laid(bench.State), shown);
             ASSERT_EQ(NamesOn(bench.State.BasePaints, bench.State.Base), base);
+            if (!bench.State.Edits.Order.Empty()) {
+                const PaintList paints =
+                    LayEdits({bench.State.BasePaints, bench.State.Base}, bench.State.Edits).Paints;
+                ASSERT_EQ(Common(paints, bench.State.PaintColors),
+                          Common(bench.State.PaintColors, paints));
+            }
         }
         for (std::size_t step = 1; step < bench.State.Moments.size(); ++step) {
             ASSERT_EQ(*bench.State.Moments[step].Before, *bench.State.Moments[step - 1].After);

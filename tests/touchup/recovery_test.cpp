@@ -133,19 +133,21 @@ TEST(Recovery, LaysItsEditsOverWhatOtherSettingsGive) {
     struct Case {
         Rows Base;
         int Paints;
-        Rows Restored;  // the last paint is the one that was painted with
+        Rows Restored;  // the paint that was painted with stands first, by hand
         const char* Report;
     };
     for (const Case& test :
-         {Case{{"11222", "11222"}, 3, {"31333", "11333"}, ""},
-          {{"11112", "11112"}, 2, {"21112", "11112"}, "All 2 edits kept"},
-          {{"1111", "1111", "1111"}, 1, {"2111", "1111", "1111"}, "1 edit kept"}}) {
+         {Case{{"11222", "11222"}, 3, {"12111", "22111"}, ""},
+          {{"11112", "11112"}, 2, {"12221", "22221"}, "All 2 edits kept"},
+          {{"1111", "1111", "1111"}, 1, {"1222", "2222", "2222"}, "1 edit kept"}}) {
         KitBench bench({"11222", "11222"}, 3);
         LayOverConversion(bench.State);
         {
             TouchUp crashed(bench.Place);
             crashed.Replace(2, 3);
             crashed.BeginStroke({1, 1}, {1, 3});
+            crashed.ChangePalette("Sort Paints", EditIntent::Order,
+                                  WithPaintMoved(crashed.Sheet(), 3, 1));
             crashed.KeepRecovery(At(1));
             bench.State.Recovery.reset();
         }
