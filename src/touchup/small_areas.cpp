@@ -73,6 +73,14 @@ AreaMerge PlanAreaMerge(const EditSheet& sheet, int smallest) {
     return plan;
 }
 
+int CountPrintedAfter(const EditSheet& sheet, const std::vector<CellChange>& changes) {
+    ValueGrid paints = PaintsOf(sheet);
+    for (const CellChange& change : changes) {
+        paints(change.X - 1, change.Y - 1) = change.To;
+    }
+    return FindRegions(paints).Count();
+}
+
 int StipplesOfMm2(double mm2, double mmPerStipple) {
     return static_cast<int>(std::ceil(mm2 / (mmPerStipple * mmPerStipple) - 1e-9));
 }

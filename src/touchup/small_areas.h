@@ -41,6 +41,8 @@ struct AreaMerge {
     int AreasLeft = 0;
 };
 [[nodiscard]] AreaMerge PlanAreaMerge(const EditSheet& sheet, int smallest);
+/// The printed areas once these changes are made.
+[[nodiscard]] int CountPrintedAfter(const EditSheet& sheet, const std::vector<CellChange>& changes);
 
 /// The fewest stipples, each `mmPerStipple` wide, that are no smaller than that.
 [[nodiscard]] int StipplesOfMm2(double mm2, double mmPerStipple);

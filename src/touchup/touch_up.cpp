@@ -86,7 +86,10 @@ CellRect TouchUp::BeginErasing(CellPos at, EditBrush brush) {
 
 AreaMerge TouchUp::PreviewAreaMerge(int smallest) const {
     AreaMerge plan = PlanAreaMerge(sheet_, smallest);
-    LeaveOutWhatMayNotBePainted(plan.Changes);
+    if (pen_.KeepsWithin()) {
+        LeaveOutWhatMayNotBePainted(plan.Changes);
+        plan.AreasLeft = CountPrintedAfter(sheet_, plan.Changes);
+    }
     return plan;
 }
 

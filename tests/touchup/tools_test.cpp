@@ -89,6 +89,12 @@ TEST(SmallAreas, MergeByTheirLongestBorderAndHardOnesAreFound) {
         editor.MergeAreas(test.Smallest);
         EXPECT_EQ(bench.Edited(), test.Merged) << test.Smallest;
     }
+    KitBench kept(before);
+    TouchUp within(kept.Place);
+    CellSet corner(5, 4);
+    corner.Add({2, 2});
+    within.KeepWithin(std::make_shared<CellSet>(corner));
+    EXPECT_EQ(within.PreviewAreaMerge(2).AreasLeft, 4) << "the last one is not selected";
     KitBench bench({"11112", "11112", "33442", "33442"});
     const TouchUp editor(bench.Place);
     const HardAreas small = FindHardAreas(editor.Sheet(), {5, 0});
