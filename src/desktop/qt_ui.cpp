@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QThread>
 #include <QUrl>
 #include <algorithm>
@@ -61,9 +62,15 @@ bool QtUi::Ask(std::string_view title, std::string_view question) {
 
 SaveAnswer QtUi::AskToSave(std::string_view title, std::string_view question) {
     host_.Mirror();
-    switch (QMessageBox::question(MessageParent(), Text(title), Text(question),
-                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-                                  QMessageBox::Save)) {
+    QMessageBox box(QMessageBox::Question, Text(title), Text(question),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                    MessageParent());
+    box.setDefaultButton(QMessageBox::Save);
+    // Some desktops give these buttons no letters to press.
+    box.button(QMessageBox::Save)->setText(QObject::tr("&Save"));
+    box.button(QMessageBox::Discard)->setText(QObject::tr("&Discard"));
+    box.button(QMessageBox::Cancel)->setText(QObject::tr("&Cancel"));
+    switch (box.exec()) {
         case QMessageBox::Save:
             return SaveAnswer::Save;
         case QMessageBox::Discard:

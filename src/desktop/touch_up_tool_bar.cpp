@@ -33,10 +33,10 @@ constexpr std::array<ToolLook, 10> kTools = {{
      TouchUpTool::Box},
     {"Lasso", "Lasso", "Select by a line around (L); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::Lasso},
-    {"SamePaint", "Paint",
+    {"SamePaint", "Same Paint",
      "Select all stipples of one paint (W); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::SamePaint},
-    {"SameArea", "Area", "Select an area (Shift+W); Shift adds, Ctrl+Shift takes away",
+    {"SameArea", "Same Area", "Select an area (Shift+W); Shift adds, Ctrl+Shift takes away",
      TouchUpTool::SameArea},
     {"Move", "Move", "Move the selection (M); with Shift a copy of it", TouchUpTool::Move},
 }};
@@ -110,7 +110,8 @@ void TouchUpToolBar::AddSteps() {
 }
 
 void TouchUpToolBar::AddZoom() {
-    zoom_->setMinimumWidth(zoom_->fontMetrics().horizontalAdvance(QStringLiteral("24.0 pixels ")));
+    zoom_->setMinimumWidth(
+        zoom_->fontMetrics().horizontalAdvance(QStringLiteral("24.0 pixels a stipple ")));
     zoom_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     halves_[1]->addStretch(1);
     for (QWidget* widget : {static_cast<QWidget*>(zoom_), static_cast<QWidget*>(ZoomOut),
@@ -186,8 +187,9 @@ void TouchUpToolBar::Mirror(const TouchUpControls& shown) {
 }
 
 void TouchUpToolBar::ShowZoom(double edge) {
-    zoom_->Show(edge == static_cast<int>(edge) ? tr("%1 pixels").arg(static_cast<int>(edge))
-                                               : tr("%1 pixels").arg(edge, 0, 'f', 1));
+    zoom_->Show(edge == static_cast<int>(edge)
+                    ? tr("%1 pixels a stipple").arg(static_cast<int>(edge))
+                    : tr("%1 pixels a stipple").arg(edge, 0, 'f', 1));
 }
 
 }  // namespace vendrel
