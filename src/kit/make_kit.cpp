@@ -129,9 +129,11 @@ void FillBrushFigures(const Workplace& place, const KitOptions& options, KitRepo
     if (report.Paintable && report.Figures.BelowLimits > 0) {
         report.Notes.push_back(
             std::to_string(report.Figures.BelowLimits) + " of " +
-            std::to_string(report.Figures.Areas) +
-            " areas are below the limits, since the saved grid was taken as it is; without "
-            "--from-grid none would be.");
+            std::to_string(report.Figures.Areas) + " areas are below the limits, since " +
+            (options.FromGrid
+                 ? "the saved grid was taken as it is; without --from-grid none would be."
+                 : "touch-ups are kept as they were painted; Merge in the editor's "
+                   "Areas joins small ones."));
     } else if (IsHardToPaint(report.Figures)) {
         report.Notes.push_back(
             std::to_string(report.Figures.BelowLimits) + " of " +
