@@ -43,17 +43,20 @@ OneBased<int> PlacesByOrder(const PaintList& paints, const EditLayer& layer) {
     OneBased<int> taken(paints.Count());
     const std::vector<RankedPaint> ranked = InOrder(paints, layer);
     int last = paints.Count() - static_cast<int>(ranked.size());
+    int place = 0;
     for (const RankedPaint& paint : ranked) {
-        placeOf[paint.Paint] = std::min(paint.Place, ++last);
-        taken[placeOf[paint.Paint]] = 1;
+        // Files may have two paints replace one, which then have one place.
+        place = std::max(place + 1, std::min(paint.Place, ++last));
+        placeOf[paint.Paint] = place;
+        taken[place] = 1;
     }
     int free = 1;
-    for (int& place : placeOf) {
-        if (place == 0) {
+    for (int& open : placeOf) {
+        if (open == 0) {
             while (taken[free] != 0) {
                 ++free;
             }
-            place = free++;
+            open = free++;
         }
     }
     return placeOf;

@@ -237,6 +237,16 @@ TEST(LayEdits, LaysEachEditOnTheGridThatTheConversionGives) {
          "BZ",
          "1 edit kept",
          "BA"},
+        {"a damaged file's two for one",
+         "ABC",
+         {"ABC"},
+         {"Z.Y"},
+         {"AZ", "AY"},
+         {50, leave},
+         {"ZBY"},
+         "BZYC",
+         "All 4 edits kept",
+         "BA"},
     };
     for (const LayCase& one : cases) {
         SCOPED_TRACE(one.Name);
