@@ -155,6 +155,21 @@ void ZoomView::paintEvent(QPaintEvent* event) {
     } else {
         PaintCrisp(painter, event->rect());
     }
+    // Who goes by the mouse looks at the picture alone.
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void ZoomView::focusInEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void ZoomView::focusOutEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
 }
 
 void ZoomView::PaintSmaller(QPainter& painter) {
