@@ -162,7 +162,25 @@ class KitRun {
 
 }  // namespace
 
+void RequireSettings(const KitOptions& options, const Surroundings& around) {
+    if (!options.Like.empty()) {
+        return RequireSettings(OptionsLike(options), around);
+    }
+    const ProgramFolder folder(options.Folder, around.Shipped);
+    TerminalUi screen(around.Err, Chatter::None, options.Screen, around.StopAsked);
+    WorkState state;
+    Surfaces frames;
+    Menu menu;
+    Workplace place{state, frames, menu, screen, folder};
+    PrepareSettings(place);
+    PreparePaints(place);
+    ApplySettings(place, options);
+}
+
 bool RunKit(const KitOptions& options, const Surroundings& around) {
+    if (!options.Like.empty()) {
+        return RunKit(OptionsLike(options), around);
+    }
     KitRun run(options, around);
     bool allMade = true;
     for (const std::string& photo : options.Photos) {
