@@ -12,6 +12,7 @@
 #include "batch/verify_orders.h"
 #include "kit/printable.h"
 #include "support/decimals.h"
+#include "support/error.h"
 #include "support/whole_file.h"
 
 namespace vendrel {
@@ -132,6 +133,12 @@ int Run(const BatchOptions& options, const Surroundings& around) {
     }
     OrderList list = ReadOrders(options.Orders);
     CheckOrders(list, options, around);
+    if (!options.Quiet) {
+        for (const std::string& column : list.Unused) {
+            around.Err << "vendrel: " << Shown(options.Orders) << ": the column "
+                       << Printable(column) << " is no setting of a kit.\n";
+        }
+    }
     if (!list.Faults.empty()) {
         return Complain(SentencesOf(list.Faults, options.Orders), around);
     }

@@ -7,13 +7,13 @@
 #include "batch/kit_worker.h"
 #include "batch/read_orders.h"
 #include "batch/report_page.h"
-#include "batch/worker_pool.h"
 #include "kitset/sha256.h"
 #include "shell/ui.h"
 #include "support/disk.h"
 #include "support/error.h"
 #include "support/held_file.h"
 #include "support/whole_file.h"
+#include "support/worker_pool.h"
 
 namespace vendrel {
 namespace {

@@ -66,7 +66,7 @@ std::vector<std::string> KitWords(const Order& order, const std::vector<std::str
     std::vector<std::string> words = {"kit"};
     words.insert(words.end(), settings.begin(), settings.end());
     words.insert(words.end(), {"--folder=" + folder.string(), "--save-kit", "--replace-grid",
-                               "--json", "--quiet", "--", order.Photo.string()});
+                               "--json", "--no-compare", "--quiet", "--", order.Photo.string()});
     return words;
 }
 

@@ -6,7 +6,7 @@
 
 #include "batch/manifest.h"
 #include "batch/order.h"
-#include "batch/worker_pool.h"
+#include "support/worker_pool.h"
 
 namespace vendrel {
 

@@ -37,7 +37,8 @@ class OrderReader {
         const CsvRow& heading = table_.Rows.front();
         for (const std::string& name : heading.Fields) {
             columns_.push_back(ColumnOf(name));
-            if (columns_.back().Kind == ColumnKind::Text && !name.empty() && name != "note") {
+            if (columns_.back().Kind == ColumnKind::Text && !name.empty() &&
+                !SameIgnoringCase(name, "note")) {
                 list_.Unused.push_back(name);
             }
         }

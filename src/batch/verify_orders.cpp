@@ -5,10 +5,10 @@
 #include "batch/batch_progress.h"
 #include "batch/batch_run.h"
 #include "batch/kit_worker.h"
-#include "batch/worker_pool.h"
 #include "kitset/sha256.h"
 #include "shell/ui.h"
 #include "support/disk.h"
+#include "support/worker_pool.h"
 
 namespace vendrel {
 namespace {

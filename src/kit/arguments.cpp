@@ -197,6 +197,15 @@ void AddRunOptions(CLI::App& app, KitOptions& kit) {
               kit.ReplaceGrid);
     AddSwitch(app, {"--figures", "", "compares the painting with the photo"}, kit.Figures);
     AddSwitch(app, {"--json", "", "prints one JSON object per photo"}, kit.Json);
+    app.add_flag_callback(
+           "--no-compare", [&kit] { kit.Compared = false; },
+           "leaves the comparison with the photo out of it")
+        ->disable_flag_override();
+    AddValue(app, {"--jobs", "N", "makes so many kits side by side (1)"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Jobs = static_cast<int>(
+                     ToNumber(option, value, {"", 1, 256, "a whole number from 1 to 256"}));
+             });
     AddSwitch(app, {"--quiet", "", "prints nothing but errors"}, kit.Quiet);
 }
 

@@ -43,7 +43,9 @@ struct KitOptions {
     bool SaveKit = false;  // as a file to be opened or made again
     bool ReplaceGrid = false;
     bool FromGrid = false;
+    int Jobs = 1;          // so many photos side by side
     bool Figures = false;  // compared with the photo, which takes a while
+    bool Compared = true;  // the same with Json
     bool Json = false;
     bool Quiet = false;
 };

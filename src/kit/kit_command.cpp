@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "kit/kit_jobs.h"
 #include "kit/kit_keeping.h"
 #include "kit/kit_photos.h"
 #include "kit/kit_report.h"
@@ -180,6 +181,10 @@ void RequireSettings(const KitOptions& options, const Surroundings& around) {
 bool RunKit(const KitOptions& options, const Surroundings& around) {
     if (!options.Like.empty()) {
         return RunKit(OptionsLike(options), around);
+    }
+    if (options.Jobs > 1 && options.Photos.size() > 1) {
+        RequireSettings(options, around);
+        return RunKitsSideBySide(options, around);
     }
     KitRun run(options, around);
     bool allMade = true;

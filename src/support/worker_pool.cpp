@@ -1,4 +1,4 @@
-#include "batch/worker_pool.h"
+#include "support/worker_pool.h"
 
 #include <fcntl.h>
 #include <poll.h>
