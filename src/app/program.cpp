@@ -7,6 +7,7 @@
 #include <iostream>
 #include <system_error>
 
+#include "batch/batch_command.h"
 #include "kit/command_line.h"
 
 namespace vendrel {
@@ -50,7 +51,8 @@ std::vector<std::string_view> WordsOf(int argc, char** argv) {
 int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
     // A file beyond the allowed size is a failed write, which the painter gets told of.
     std::signal(SIGXFSZ, SIG_IGN);
-    if (!words.empty() && words.front() == "kit") {
+    const bool batch = !words.empty() && words.front() == "batch";
+    if (batch || (!words.empty() && words.front() == "kit")) {
         std::signal(SIGINT, AskToStop);
         std::signal(SIGTERM, AskToStop);
         // What nohup has switched off stays off.
@@ -65,6 +67,7 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
         .ErrIsTerminal = isatty(STDERR_FILENO) != 0,
         .Shipped = shipped,
         .Version = VENDREL_VERSION,
+        .Program = OwnFolder() / "vendrel",
         .Decoder = parts.Decoder,
         .MakeSymbols = parts.MakeSymbols,
         .MakeExporter = parts.MakeExporter,
@@ -77,7 +80,7 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
             return parts.OpenWindow(ProgramFolder(folder, shipped), file);
         };
     }
-    return RunCommandLine(words, around);
+    return batch ? RunBatch(words.subspan(1), around) : RunCommandLine(words, around);
 }
 
 }  // namespace vendrel

@@ -1,5 +1,6 @@
 #include "eye/lab.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -45,6 +46,25 @@ Lab LabOf(Color color) {
     const double fy = Compressed(y);
     const double fz = Compressed(z);
     return {116 * fy - 16, 500 * (fx - fy), 200 * (fy - fz)};
+}
+
+Color ColorOfLab(const Lab& lab) {
+    const auto share = [](double f) {
+        const double cube = f * f * f;
+        return cube > 216.0 / 24389 ? cube : (116 * f - 16) * 27 / 24389;
+    };
+    const double fy = (lab.L + 16) / 116;
+    const double x = 0.95047 * share(fy + lab.A / 500);
+    const double y = share(fy);
+    const double z = 1.08883 * share(fy - lab.B / 200);
+    const auto level = [](double light) {
+        const double shown =
+            light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
+        return static_cast<int>(std::lround(std::clamp(shown, 0.0, 1.0) * 255));
+    };
+    return Rgb(level(3.2404542 * x - 1.5371385 * y - 0.4985314 * z),
+               level(-0.9692660 * x + 1.8760108 * y + 0.0415560 * z),
+               level(0.0556434 * x - 0.2040259 * y + 1.0572252 * z));
 }
 
 double ChromaOf(const Lab& lab) {

@@ -17,6 +17,9 @@ struct Lab {
 /// Of a packed sRGB color.
 [[nodiscard]] Lab LabOf(Color color);
 
+/// The nearest sRGB color that a screen can show.
+[[nodiscard]] Color ColorOfLab(const Lab& lab);
+
 /// How far a color is from gray.
 [[nodiscard]] double ChromaOf(const Lab& lab);
 

@@ -22,6 +22,8 @@ constexpr std::string_view kHelp =
   vendrel --documents    opens it in the folder Vendrel of your documents
   vendrel FILE           opens a kit or a photo in it
   vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
+  vendrel batch ORDERS   makes the kits of a list of orders or of a folder;
+                         "vendrel batch --help" says how
   vendrel symbols [--folder DIR]
                          draws the symbols anew into Data/Symbols.txt
   vendrel --help         shows this text
@@ -185,6 +187,8 @@ void AddRunOptions(CLI::App& app, KitOptions& kit) {
     AddSwitch(app,
               {"--save-kit", "", "keeps the kit as a file in Kits, to be opened or made again"},
               kit.SaveKit);
+    AddText(app, {"--like", "KIT", "takes the settings of a kit file where nothing else is said"},
+            kit.Like);
     AddText(app, {"--photo", "FILE", "is the photo of a kit file, where it is not in Pictures"},
             kit.KitPhoto);
     AddSwitch(app, {"--from-grid", "", "takes the saved grid instead of converting the photo"},
@@ -193,6 +197,15 @@ void AddRunOptions(CLI::App& app, KitOptions& kit) {
               kit.ReplaceGrid);
     AddSwitch(app, {"--figures", "", "compares the painting with the photo"}, kit.Figures);
     AddSwitch(app, {"--json", "", "prints one JSON object per photo"}, kit.Json);
+    app.add_flag_callback(
+           "--no-compare", [&kit] { kit.Compared = false; },
+           "leaves the comparison with the photo out of it")
+        ->disable_flag_override();
+    AddValue(app, {"--jobs", "N", "makes so many kits side by side (1)"},
+             [&kit](const std::string& option, const std::string& value) {
+                 kit.Jobs = static_cast<int>(
+                     ToNumber(option, value, {"", 1, 256, "a whole number from 1 to 256"}));
+             });
     AddSwitch(app, {"--quiet", "", "prints nothing but errors"}, kit.Quiet);
 }
 
@@ -382,6 +395,25 @@ KitOptions OptionsOver(const KitOptions& given, std::shared_ptr<const KitFile> k
     base.Screen = base.From->Board;
     const std::vector<std::string_view> words(given.Words.begin(), given.Words.end());
     return ParseKit(words, std::move(base)).Kit;
+}
+
+KitOptions OptionsLike(const KitOptions& given) {
+    const KitFile kit = ReadKitFile(given.Like);
+    KitOptions base;
+    base.Chosen = kit.Chosen;
+    base.Chosen.FinalPaints =
+        kit.Chosen.FinalPaints == 0 ? kit.FinalColors : kit.Chosen.FinalPaints;
+    base.Plan = kit.Print;
+    base.Screen = kit.Board;
+    if (given.Sets.empty() && !given.Template) {
+        base.Sets = kit.Source.Sets;
+        base.Template =
+            kit.Source.Template.empty() ? std::nullopt : std::optional(kit.Source.Template);
+    }
+    const std::vector<std::string_view> words(given.Words.begin(), given.Words.end());
+    KitOptions options = ParseKit(words, std::move(base)).Kit;
+    options.Like.clear();
+    return options;
 }
 
 std::string_view HelpText() {

@@ -34,7 +34,8 @@ struct KitOptions {
     bool MatchByEye = false;        // unless asked for otherwise
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
-    std::string Title;  // names the files in place of the photo's name
+    std::filesystem::path Like;  // a kit file whose settings hold where the words say nothing
+    std::string Title;           // names the files in place of the photo's name
     ScreenSize Screen = kDrawingBoard;
     KitOutputs Outputs;
     PlanSettings Plan;  // of the PDF; its canvas is that of the settings where they need one
@@ -42,7 +43,9 @@ struct KitOptions {
     bool SaveKit = false;  // as a file to be opened or made again
     bool ReplaceGrid = false;
     bool FromGrid = false;
+    int Jobs = 1;          // so many photos side by side
     bool Figures = false;  // compared with the photo, which takes a while
+    bool Compared = true;  // the same with Json
     bool Json = false;
     bool Quiet = false;
 };
@@ -62,6 +65,9 @@ struct Arguments {
 
 /// The same options over the settings of a kit file, which hold where the words say nothing else.
 [[nodiscard]] KitOptions OptionsOver(const KitOptions& given, std::shared_ptr<const KitFile> kit);
+
+/// The same over the settings of the kit named by Like, which gives nothing else.
+[[nodiscard]] KitOptions OptionsLike(const KitOptions& given);
 
 [[nodiscard]] std::string_view HelpText();
 [[nodiscard]] std::string KitHelpText();

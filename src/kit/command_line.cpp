@@ -85,9 +85,9 @@ void Complain(const Surroundings& around, const std::exception& failure) {
 
 }  // namespace
 
-int RunCommandLine(std::span<const std::string_view> words, const Surroundings& around) {
+int RunToTheEdge(const Surroundings& around, const std::function<int()>& command) {
     try {
-        const int status = Run(ParseArguments(words), around);
+        const int status = command();
         RequireTold(around);
         return status;
     } catch (const Stop&) {
@@ -100,6 +100,10 @@ int RunCommandLine(std::span<const std::string_view> words, const Surroundings& 
         Complain(around, error);
         return kFailed;
     }
+}
+
+int RunCommandLine(std::span<const std::string_view> words, const Surroundings& around) {
+    return RunToTheEdge(around, [&] { return Run(ParseArguments(words), around); });
 }
 
 }  // namespace vendrel

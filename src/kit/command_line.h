@@ -22,6 +22,7 @@ struct Surroundings {
     bool ErrIsTerminal = false;
     std::filesystem::path Shipped = {};  // holds the Data and Pictures that ship
     std::string_view Version = {};
+    std::filesystem::path Program = {};  // to be run for a kit in a process of its own
     /// Reads photos that are no plain bitmaps; null where the build cannot.
     const PhotoDecoder* Decoder = nullptr;
     /// Draws the symbols anew into a folder and names the file; empty where there are no fonts.
@@ -37,6 +38,10 @@ struct Surroundings {
     /// Set when the program should end: the work stops at the next stipple.
     const std::atomic<bool>* StopAsked = nullptr;
 };
+
+/// Runs a command. Every failure ends here, as a sentence on Err. Answers the exit status as
+/// RunCommandLine does, or what the command answers.
+[[nodiscard]] int RunToTheEdge(const Surroundings& around, const std::function<int()>& command);
 
 /// Does what the words behind the program's name say. Every failure ends here, as a sentence on
 /// Err. Answers the exit status: 0 done, 1 a photo or data file failed, 2 wrong usage, 130 stopped.

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "kit/kit_jobs.h"
 #include "kit/kit_keeping.h"
 #include "kit/kit_photos.h"
 #include "kit/kit_report.h"
@@ -162,7 +163,29 @@ class KitRun {
 
 }  // namespace
 
+void RequireSettings(const KitOptions& options, const Surroundings& around) {
+    if (!options.Like.empty()) {
+        return RequireSettings(OptionsLike(options), around);
+    }
+    const ProgramFolder folder(options.Folder, around.Shipped);
+    TerminalUi screen(around.Err, Chatter::None, options.Screen, around.StopAsked);
+    WorkState state;
+    Surfaces frames;
+    Menu menu;
+    Workplace place{state, frames, menu, screen, folder};
+    PrepareSettings(place);
+    PreparePaints(place);
+    ApplySettings(place, options);
+}
+
 bool RunKit(const KitOptions& options, const Surroundings& around) {
+    if (!options.Like.empty()) {
+        return RunKit(OptionsLike(options), around);
+    }
+    if (options.Jobs > 1 && options.Photos.size() > 1) {
+        RequireSettings(options, around);
+        return RunKitsSideBySide(options, around);
+    }
     KitRun run(options, around);
     bool allMade = true;
     for (const std::string& photo : options.Photos) {

@@ -10,4 +10,8 @@ namespace vendrel {
 /// made. Throws Error when the data files or the settings rule out every kit.
 [[nodiscard]] bool RunKit(const KitOptions& options, const Surroundings& around);
 
+/// Whether the paints and data that the settings name are there, without making anything. Throws
+/// Error, UsageError.
+void RequireSettings(const KitOptions& options, const Surroundings& around);
+
 }  // namespace vendrel

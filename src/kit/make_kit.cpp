@@ -123,7 +123,7 @@ void FillBrushFigures(const Workplace& place, const KitOptions& options, KitRepo
     if (report.Paintable) {
         report.Areas = report.Figures.Areas;
     }
-    if (options.Json || options.Figures) {
+    if ((options.Json && options.Compared) || options.Figures) {
         report.Seen = CompareWithPhoto(place);
     }
     if (report.Paintable && report.Figures.BelowLimits > 0) {

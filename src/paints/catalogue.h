@@ -7,8 +7,10 @@
 
 namespace vendrel {
 
-/// Reads Data/studiopaint.csv into MasterColors, in file order. Throws FileError or FormatError
-/// and then leaves the catalogue as it was.
+/// Reads Data/studiopaint.csv into MasterColors, in file order, and behind it every other catalogue
+/// of the same layout in Data/catalogues, by name: of a paint that several have the first stands,
+/// and one that cannot be read is warned of and left out. For studiopaint.csv it throws FileError
+/// or FormatError and then leaves the catalogue as it was.
 void LoadMasterColors(Catalogue& catalogue, GivenWarnings& given, Ui& screen,
                       const ProgramFolder& folder);
 

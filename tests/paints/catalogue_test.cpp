@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "paints/foreign_catalogue.h"
 #include "paints/paints.h"
 #include "shell/paint_id.h"
 #include "support/error.h"
@@ -73,6 +74,56 @@ TEST(Catalogue, ShipsWithPaintsThatCanAllBeToldApart) {
     }
     EXPECT_EQ(ids.size(), 507U);
     EXPECT_TRUE(bench.Screen.Messages.empty());
+}
+
+TEST(Catalogue, IsJoinedByTheOthersInItsFolder) {
+    test::Bench bench;
+    bench.Files.Write("Data/studiopaint.csv", "1\n1,2,3,Oils,PY43,Ochre\n");
+    bench.Files.Write("Data/catalogues/b.csv", "1\n7,8,9,Inks,,Sepia\n");
+    bench.Files.Write("Data/catalogues/A.CSV", "2\n4,5,6,oils,py43,OCHRE\n4,5,6,Inks,,Black\n");
+    bench.Files.Write("Data/catalogues/broken.csv", "1\n1,256,3,a,b,c\n");
+    LoadMasterColors(bench.State, bench.State, bench.Screen, bench.Program);
+    std::string names;
+    for (const PaintColor& paint : bench.State.MasterColors) {
+        names += paint.PaintName + ";";
+    }
+    EXPECT_EQ(names, "Ochre;Black;Sepia;");
+    ASSERT_EQ(bench.Screen.Messages.size(), 1U);
+    EXPECT_THAT(bench.Screen.Messages[0].second, testing::HasSubstr("broken.csv, line 2"));
+}
+
+TEST(ForeignCatalogue, TakesTheRowsThatCanBeReadAndNamesTheOthers) {
+    struct Case {
+        const char* Text;
+        const char* Columns;  // null: guessed
+        const char* Paints;
+        const char* Fault;  // null: none
+    };
+    for (const Case& each :
+         {Case{"Name,Hex\nRed,#C80A14\nBlue,#12\n", nullptr, "Set Red 200,10,20;", "line 3"},
+          Case{"Brand;Name;L;a;b\nInks;Lawn;87,735;-86,183;83,179\n", nullptr, "Inks Lawn 0,255,0;",
+               nullptr},
+          Case{"#0000FF,Sky\n#00FF00,\n", nullptr, "Set Sky 0,0,255;", "line 2: names no paint"},
+          Case{"what,r,g,b\nRed,1,2,3\nRed,3,2,1\n", "name=what,red=2,green=3,blue=4",
+               "Set Red 1,2,3;", "line 3: lists a paint again"},
+          Case{"7,Red,1.5,2,3\n8,Blue,1,2,3\n", "code=1,name=2,red=3,green=4,blue=5",
+               "Set Blue 1,2,3;", "line 1: has no color"}}) {
+        const CsvTable table = ParseCsv(each.Text, "more.csv");
+        const auto read = ReadForeignCatalogue(
+            table,
+            each.Columns == nullptr ? GuessColumns(table) : ColumnsNamed(each.Columns, table),
+            "Set", "more.csv");
+        std::string paints;
+        for (const PaintColor& paint : read.Paints) {
+            paints += paint.Mfg + " " + paint.PaintName + " " + std::to_string(paint.Red) + "," +
+                      std::to_string(paint.Green) + "," + std::to_string(paint.Blue) + ";";
+        }
+        EXPECT_EQ(paints, each.Paints) << each.Text;
+        ASSERT_EQ(read.Faults.size(), each.Fault == nullptr ? 0U : 1U) << each.Text;
+        if (each.Fault != nullptr) {
+            EXPECT_THAT(read.Faults[0], testing::HasSubstr(each.Fault));
+        }
+    }
 }
 
 TEST(Catalogue, MakesASetOfEveryNameAndOneOfEveryNamelessPaint) {

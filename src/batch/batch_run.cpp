@@ -1,0 +1,232 @@
+#include "batch/batch_run.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "batch/batch_progress.h"
+#include "batch/kit_worker.h"
+#include "batch/read_orders.h"
+#include "batch/report_page.h"
+#include "kitset/sha256.h"
+#include "shell/ui.h"
+#include "support/disk.h"
+#include "support/error.h"
+#include "support/held_file.h"
+#include "support/whole_file.h"
+#include "support/worker_pool.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kLook = 100;  // milliseconds between two looks at whether to stop
+
+bool IsThere(const ManifestEntry::File& file, const fs::path& root) {
+    std::error_code missing;
+    return fs::file_size(root / file.Place, missing) == file.Bytes && !missing;
+}
+
+// What the painter has put into an order's folder, or touched up there, is not the batch's to take.
+void RequireUntouched(const ManifestEntry& known, const BatchPlaces& places) {
+    for (const auto& entry : EntriesOf(places.Of(known.Order) / "Kits")) {
+        const fs::path place = entry.path().lexically_relative(places.Root());
+        const auto made = std::ranges::find(known.Files, place, &ManifestEntry::File::Place);
+        if (made == known.Files.end() || made->Sum != SumOfFile(entry.path())) {
+            throw FileError(entry.path(),
+                            "was touched up since it was made, and the order has changed. Move "
+                            "the order's folder away, then run the batch again.");
+        }
+    }
+}
+
+class OrdersRun {
+  public:
+    OrdersRun(const OrderList& list, const BatchOptions& options, const Surroundings& around)
+        : options_(options),
+          around_(around),
+          places_(options.Folder, options.Part),
+          held_(Hold()),
+          manifest_(ReadManifest(places_.Lines())),
+          plan_(PlanOrders(list, options, manifest_, around.Version)),
+          lines_(places_.Lines()),
+          progress_(around.Err, around.ErrIsTerminal, options.Quiet, CountToMake()) {}
+
+    BatchOutcome Run() {
+        const std::size_t jobs =
+            static_cast<std::size_t>(options_.Jobs > 0 ? options_.Jobs : UsualJobs());
+        auto next = plan_.begin();
+        while (next != plan_.end() || pool_.Running() > 0) {
+            while (next != plan_.end() && pool_.Running() < jobs) {
+                Begin(*next++);
+            }
+            for (const WorkerResult& result : pool_.Await(kLook)) {
+                End(result);
+            }
+            progress_.Show();
+            if (around_.StopAsked != nullptr && *around_.StopAsked) {
+                throw Stop{};
+            }
+        }
+        outcome_.Seconds = progress_.Pace().Seconds;
+        WriteWholeFile(places_.Whole(), FormatManifest(OfThisList(), around_.Version));
+        WriteReport();
+        return outcome_;
+    }
+
+  private:
+    std::shared_ptr<const HeldFile> Hold() const {
+        std::error_code failure;
+        fs::create_directories(places_.Orders(), failure);
+        if (failure) {
+            throw FileError(places_.Orders(),
+                            "cannot be created (" + failure.message() + "). " +
+                                AdviceOn(failure, "Start in a folder you may write to."));
+        }
+        auto held = HeldFile::Hold(places_.Lines());
+        if (!held) {
+            throw FileError(places_.Lines(),
+                            "another Vendrel is making these orders. Wait until it is done.");
+        }
+        return held;
+    }
+
+    [[nodiscard]] bool IsMade(const PlannedOrder& order) const {
+        return order.Need == OrderNeed::Nothing ||
+               (order.Need == OrderNeed::Failed && !options_.RetryFailed);
+    }
+
+    [[nodiscard]] std::size_t CountToMake() const {
+        return static_cast<std::size_t>(std::ranges::count_if(
+            plan_, [this](const PlannedOrder& order) { return !IsMade(order); }));
+    }
+
+    void Begin(const PlannedOrder& order) {
+        if (IsMade(order)) {
+            ++(order.Need == OrderNeed::Nothing ? outcome_.Kept : outcome_.Failed);
+            if (order.Need == OrderNeed::Failed) {
+                around_.Err << "vendrel: order " << order.What->Id
+                            << " failed before: " << manifest_.at(order.What->Id).Sentence
+                            << " (--retry-failed tries again)" << std::endl;
+            }
+            return;
+        }
+        try {
+            Start(order);
+        } catch (const Error& error) {  // of this order's folder or photo; the others go on
+            ManifestEntry entry{.Order = order.What->Id,
+                                .Inputs = order.Inputs,
+                                .Photo = order.What->Photo.string()};
+            entry.Sentence = error.what();
+            Note(std::move(entry));
+        }
+    }
+
+    void Start(const PlannedOrder& order) {
+        if (!order.Unreadable.empty()) {
+            throw Error(order.Unreadable);
+        }
+        const fs::path folder = places_.Of(order.What->Id);
+        if (order.Need == OrderNeed::Anew) {
+            RequireUntouched(manifest_.at(order.What->Id), places_);
+            fs::remove_all(folder);
+        }
+        CopyData(options_.Folder, folder);
+        pool_.Start({static_cast<std::size_t>(&order - plan_.data()), around_.Program,
+                     KitWords(*order.What, order.Words, folder)});
+    }
+
+    void End(const WorkerResult& result) {
+        const PlannedOrder& order = plan_[result.Index];
+        ManifestEntry entry = EntryOf(*order.What, result, places_.Root());
+        entry.Inputs = order.Inputs;
+        Note(std::move(entry));
+    }
+
+    void Note(ManifestEntry entry) {
+        lines_.Add(entry);
+        ++(entry.Done ? outcome_.Made : outcome_.Failed);
+        progress_.Ended(entry.Order, entry.Sentence);
+        if (options_.Json) {
+            around_.Out << FormatEntry(entry) << std::endl;
+        }
+        manifest_.insert_or_assign(entry.Order, std::move(entry));
+    }
+
+    [[nodiscard]] Manifest OfThisList() const {
+        Manifest own;
+        for (const PlannedOrder& order : plan_) {
+            if (const auto known = manifest_.find(order.What->Id); known != manifest_.end()) {
+                own.insert(*known);
+            }
+        }
+        return own;
+    }
+
+    void WriteReport() const {
+        std::vector<ReportedOrder> orders;
+        for (const PlannedOrder& order : plan_) {
+            if (const auto known = manifest_.find(order.What->Id); known != manifest_.end()) {
+                orders.push_back({order.What, &known->second});
+            }
+        }
+        WriteWholeFile(places_.Report(), ReportPage(orders, places_));
+    }
+
+    const BatchOptions& options_;
+    const Surroundings& around_;
+    BatchPlaces places_;
+    std::shared_ptr<const HeldFile> held_;
+    Manifest manifest_;
+    std::vector<PlannedOrder> plan_;
+    ManifestWriter lines_;
+    BatchProgress progress_;
+    WorkerPool pool_;
+    BatchOutcome outcome_;
+};
+
+}  // namespace
+
+OrderNeed NeedOf(const ManifestEntry* known, const std::string& inputs, const fs::path& root) {
+    if (known == nullptr) {
+        return OrderNeed::Making;
+    }
+    if (known->Inputs != inputs) {
+        return known->Done ? OrderNeed::Anew : OrderNeed::Making;
+    }
+    if (!known->Done) {
+        return OrderNeed::Failed;
+    }
+    const bool all = std::ranges::all_of(
+        known->Files, [&](const ManifestEntry::File& file) { return IsThere(file, root); });
+    return all ? OrderNeed::Nothing : OrderNeed::Making;
+}
+
+std::vector<PlannedOrder> PlanOrders(const OrderList& list, const BatchOptions& options,
+                                     const Manifest& known, std::string_view version) {
+    std::vector<PlannedOrder> plan;
+    for (std::size_t i = 0; i < list.Orders.size(); ++i) {
+        if (options.Part && !options.Part->Has(i)) {
+            continue;
+        }
+        const Order& order = list.Orders[i];
+        PlannedOrder planned{&order, WordsOver(options.Words, order)};
+        try {
+            planned.Inputs = InputsOf(order, planned.Words, options.Folder, version);
+        } catch (const FileError& error) {  // this order's alone
+            planned.Unreadable = error.what();
+        }
+        const auto entry = known.find(order.Id);
+        planned.Need =
+            NeedOf(entry == known.end() ? nullptr : &entry->second, planned.Inputs, options.Folder);
+        plan.push_back(std::move(planned));
+    }
+    return plan;
+}
+
+BatchOutcome RunOrders(const OrderList& list, const BatchOptions& options,
+                       const Surroundings& around) {
+    return OrdersRun(list, options, around).Run();
+}
+
+}  // namespace vendrel

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "batch/batch_options.h"
+#include "batch/manifest.h"
+#include "batch/order.h"
+#include "batch/order_folder.h"
+#include "kit/command_line.h"
+
+namespace vendrel {
+
+/// What an order needs.
+enum class OrderNeed {
+    Nothing,  // made as it is asked for, and its files are there
+    Making,   // never made, or files are missing
+    Anew,     // made from another photo, with other settings, or by another version
+    Failed    // failed as it is asked for; made again only when asked to
+};
+[[nodiscard]] OrderNeed NeedOf(const ManifestEntry* known, const std::string& inputs,
+                               const std::filesystem::path& root);
+
+/// What a run comes to.
+struct BatchOutcome {
+    std::size_t Made = 0;
+    std::size_t Kept = 0;  // there already
+    std::size_t Failed = 0;
+    double Seconds = 0;
+};
+
+/// Makes what is missing or changed of the orders, side by side, each by a process of its own, and
+/// notes each in the manifest. An order that fails leaves the others alone. Throws Error when
+/// nothing can be kept, Stop when asked to.
+[[nodiscard]] BatchOutcome RunOrders(const OrderList& list, const BatchOptions& options,
+                                     const Surroundings& around);
+
+/// The settings of an order's kit, and the sum of all that it depends on.
+struct PlannedOrder {
+    const Order* What = nullptr;
+    std::vector<std::string> Words{};
+    std::string Inputs{};
+    std::string Unreadable{};  // why its photo cannot be read
+    OrderNeed Need = OrderNeed::Making;
+};
+/// Of those orders that the options' shard has.
+[[nodiscard]] std::vector<PlannedOrder> PlanOrders(const OrderList& list,
+                                                   const BatchOptions& options,
+                                                   const Manifest& known, std::string_view version);
+
+}  // namespace vendrel

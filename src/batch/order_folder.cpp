@@ -1,0 +1,88 @@
+#include "batch/order_folder.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+#include "batch/order_columns.h"
+#include "kitset/sha256.h"
+#include "support/disk.h"
+#include "support/error.h"
+#include "support/same_bytes.h"
+#include "support/text_file.h"
+#include "support/whole_file.h"
+
+namespace vendrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Of a painter's folder what a kit depends on.
+std::vector<fs::path> DataFiles(const fs::path& root) {
+    std::vector<fs::path> files;
+    for (const char* folder : {"Data", "Data/catalogues", "templates"}) {
+        for (const auto& entry : EntriesOf(root / folder)) {
+            const std::string ending = entry.path().extension().string();
+            if ((ending == ".csv" || ending == ".txt") && IsFile(entry.path())) {
+                files.push_back(fs::path(folder) / entry.path().filename());
+            }
+        }
+    }
+    std::ranges::sort(files);
+    return files;
+}
+
+void AddText(RunningSha256& sum, std::string_view text) {
+    sum.Add(std::as_bytes(std::span(text)));
+    sum.Add(std::as_bytes(std::span(std::string_view("\0", 1))));
+}
+
+}  // namespace
+
+BatchPlaces::BatchPlaces(fs::path root, const std::optional<Shard>& part)
+    : root_(std::move(root)), name_("batch") {
+    if (part) {
+        name_ += "-" + std::to_string(part->Number) + "-of-" + std::to_string(part->Of);
+    }
+}
+
+fs::path BatchPlaces::Of(const std::string& order) const {
+    return Orders() / order;
+}
+
+fs::path BatchPlaces::Report() const {
+    return Orders() / (name_ == "batch" ? "report.html" : name_ + " report.html");
+}
+
+void CopyData(const fs::path& root, const fs::path& orderFolder) {
+    for (const fs::path& file : DataFiles(root)) {
+        if (!SameBytes(root / file, orderFolder / file)) {
+            WriteWholeFile(orderFolder / file, ReadTextFile(root / file));
+        }
+    }
+}
+
+std::string InputsOf(const Order& order, const std::vector<std::string>& words,
+                     const fs::path& root, std::string_view version) {
+    RunningSha256 sum;
+    AddText(sum, version);
+    const std::string photo = SumOfFile(order.Photo);
+    if (photo.empty()) {
+        (void)OpenRegular(order.Photo);  // says why
+        throw FileError(order.Photo, "cannot be read. Check the disk and copy it again.");
+    }
+    AddText(sum, photo);
+    AddText(sum, order.Photo.filename().string());
+    for (const std::string& word : words) {
+        AddText(sum, word);
+        const bool kit = word.starts_with("--like=");
+        AddText(sum, kit ? SumOfFile(word.substr(word.find('=') + 1)) : "");
+    }
+    for (const fs::path& file : DataFiles(root)) {
+        AddText(sum, file.string());
+        AddText(sum, SumOfFile(root / file));
+    }
+    return sum.Hex();
+}
+
+}  // namespace vendrel

@@ -1,0 +1,81 @@
+#include <gmock/gmock.h>
+
+#include "batch/batch_options.h"
+#include "batch/read_orders.h"
+#include "support/error.h"
+
+namespace vendrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST(Orders, AreReadHoweverASpreadsheetWritesThem) {
+    const OrderList list = ParseOrders(
+        "Note;PHOTO;Final-Paints;Sets;Paintable;Customer\r\n"
+        "\"two;\r\nlines\";a.jpg;16;Craft|Fine;yes;Rose\r\n\r\n;b.jpg;;;no;\r\n;sub/b.jpg\r\n",
+        "orders.csv");
+    ASSERT_TRUE(list.Faults.empty());
+    EXPECT_THAT(list.Unused, ElementsAre("Customer"));
+    ASSERT_EQ(list.Orders.size(), 3U);
+    EXPECT_EQ(list.Orders[0].Id, "a");
+    EXPECT_EQ(list.Orders[0].Fields[0].second, "two;\r\nlines");
+    EXPECT_THAT(list.Orders[0].Words,
+                ElementsAre("--final-paints=16", "--sets=Craft", "--sets=Fine", "--paintable"));
+    EXPECT_EQ(list.Orders[1].Line, 5);
+    EXPECT_EQ(list.Orders[2].Id, "b-2");
+}
+
+TEST(Orders, RowsThatCannotBeMadeAreNamedByLineAndColumn) {
+    const OrderList list = ParseOrders(
+        "order,photo,paintable\n7,a.jpg,perhaps\n7,b.jpg\n../8,c.jpg\nX,\nx,d.jpg\n9,e.jpg,no,25\n",
+        "orders.csv");
+    std::string faults;
+    for (const OrderFault& fault : list.Faults) {
+        faults += std::to_string(fault.Line) + fault.Column + " ";
+    }
+    EXPECT_EQ(faults, "2paintable 3order 4order 5photo 6order 7 ");
+    for (const char* text : {"", "order,title\n1,x\n", "photo\n", "photo\n\"a"}) {
+        EXPECT_THROW((void)ParseOrders(text, "orders.csv"), FormatError) << text;
+    }
+}
+
+TEST(Orders, ARowGoesBeforeTheSettingsOfAll) {
+    Order order{.Id = "1",
+                .Photo = "a.jpg",
+                .Words = {"--template=mine"},
+                .Fields = {{"template", "mine"}, {"Paintable", "no"}}};
+    EXPECT_THAT(WordsOver({"--sets", "A", "--paintable", "--sets=B", "--gray", "40"}, order),
+                ElementsAre("--gray", "40", "--template=mine"));
+}
+
+BatchOptions Parsed(const std::vector<std::string_view>& words) {
+    return ParseBatch(words);
+}
+
+TEST(BatchOptions, LeaveTheKitsTheirOwn) {
+    const BatchOptions options = Parsed({"--difficulty", "medium", "o.csv", "--jobs=3", "--shard",
+                                         "2/4", "--folder", "shop", "--retry-failed"});
+    EXPECT_EQ(options.Orders, "o.csv");
+    EXPECT_EQ(options.Folder, "shop");
+    EXPECT_EQ(options.Jobs, 3);
+    EXPECT_TRUE(options.RetryFailed);
+    EXPECT_THAT(options.Words, ElementsAre("--difficulty", "medium", "--folder", "shop"));
+    EXPECT_TRUE(options.Part->Has(1) && options.Part->Has(5) && !options.Part->Has(2));
+    EXPECT_EQ(Parsed({"--merge"}).Task, BatchTask::Merge);
+    const std::vector<std::vector<std::string_view>> wrong = {{},
+                                                              {"a.csv", "b.csv"},
+                                                              {"a.csv", "--jobs", "0"},
+                                                              {"a.csv", "--shard", "3/2"},
+                                                              {"a.csv", "--shard"},
+                                                              {"a.csv", "--title", "x"},
+                                                              {"a.csv", "--from-grid"},
+                                                              {"a.csv", "--dry-run", "--verify"},
+                                                              {"a.csv", "--difficulty", "hard"}};
+    for (const auto& words : wrong) {
+        EXPECT_THROW((void)Parsed(words), UsageError);
+    }
+}
+
+}  // namespace
+}  // namespace vendrel
