@@ -57,7 +57,7 @@ std::string Figures(const PaintNeed& need, const PaintUse& use) {
 void WriteShoppingList(PlannedKit& kit, const Target& target) {
     const WorkState& state = kit.Place().State;
     const PlanSettings& settings = kit.Settings();
-    const PrintSymbols symbols(settings.Symbols, state.PaintCount);
+    const PrintSymbols symbols(kit.Marks());
     const PlanSketch& sketch = kit.Sketch();
     const PlanSheets sheets = LayOutSheets(sketch, settings);
     const std::vector<PaintNeed> needs =

@@ -95,23 +95,41 @@ class KitWriter {
 
     [[nodiscard]] KitJson Print() const {
         const PlanSettings& plan = kit_.Print;
-        return With("print", {{"paper", With("print.paper", {{"widthMm", plan.Sheet.Size.Width},
-                                                             {"heightMm", plan.Sheet.Size.Height},
-                                                             {"inches", plan.Sheet.Inches}})},
-                              {"canvasCm", plan.CanvasCm},
-                              {"canvas", With("print.canvas", {{"widthMm", plan.Canvas.Width},
-                                                               {"heightMm", plan.Canvas.Height}})},
-                              {"inchCanvas", plan.InchCanvas},
-                              {"bleedMm", plan.BleedMm},
-                              {"symbols", WordOf(kSymbolWords, plan.Symbols)},
-                              {"lines", WordOf(kLineWords, plan.Lines)},
-                              {"gray", plan.Gray},
-                              {"coats", plan.Use.Coats},
-                              {"cm2PerMl", plan.Use.Cm2PerMl},
-                              {"potMl", plan.Use.PotMl},
-                              {"groupBySet", plan.GroupBySet},
-                              {"maker", plan.Maker},
-                              {"logo", plan.Logo.string()}});
+        KitJson print = {{"paper", With("print.paper", {{"widthMm", plan.Sheet.Size.Width},
+                                                        {"heightMm", plan.Sheet.Size.Height},
+                                                        {"inches", plan.Sheet.Inches}})},
+                         {"canvasCm", plan.CanvasCm},
+                         {"canvas", With("print.canvas", {{"widthMm", plan.Canvas.Width},
+                                                          {"heightMm", plan.Canvas.Height}})},
+                         {"inchCanvas", plan.InchCanvas},
+                         {"bleedMm", plan.BleedMm},
+                         {"symbols", WordOf(kSymbolWords, plan.Symbols)},
+                         {"lines", WordOf(kLineWords, plan.Lines)},
+                         {"gray", plan.Gray},
+                         {"coats", plan.Use.Coats},
+                         {"cm2PerMl", plan.Use.Cm2PerMl},
+                         {"potMl", plan.Use.PotMl},
+                         {"groupBySet", plan.GroupBySet},
+                         {"maker", plan.Maker},
+                         {"logo", plan.Logo.string()}};
+        if (plan.Symbols == SymbolStyle::Mine) {
+            AddLabels(print);
+        }
+        return With("print", std::move(print));
+    }
+
+    // Of every paint, so that the plan comes out the same however the shelf changes.
+    void AddLabels(KitJson& print) const {
+        KitJson labels = KitJson::array();
+        KitJson isNew = KitJson::array();
+        for (const OwnLabel& label : LabelsFor(kit_.Print.Labels, kit_.Paints)) {
+            labels.push_back(label.Text);
+            if (label.IsNew) {
+                isNew.push_back(label.Text);
+            }
+        }
+        print["labels"] = std::move(labels);
+        print["newLabels"] = std::move(isNew);
     }
 
     [[nodiscard]] KitJson Source() const {

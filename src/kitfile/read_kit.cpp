@@ -7,6 +7,8 @@
 #include "kitfile/packed_values.h"
 #include "kitfile/read_edits.h"
 #include "kitfile/stipple_middle.h"
+#include "shelf/labels.h"
+#include "shell/paint_id.h"
 #include "shell/work_settings.h"
 #include "support/counter.h"
 #include "support/disk.h"
@@ -133,7 +135,30 @@ SizeMm ReadCanvas(ObjectReader canvas) {
     return read;
 }
 
-PlanSettings ReadPrint(ObjectReader print) {
+// One for each paint; two of them may be one paint.
+OwnLabels ReadLabels(ObjectReader& print, const PaintList& paints) {
+    const std::vector<std::string> labels = print.List("labels");
+    const std::vector<std::string> newOnes = print.List("newLabels");
+    if (labels.size() != paints.Entries().size()) {
+        print.Refuse("labels", "must have one label for each paint");
+    }
+    OwnLabels read;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const bool alike = std::ranges::any_of(
+            labels.begin(), labels.begin() + static_cast<std::ptrdiff_t>(i),
+            [&](const std::string& other) { return AreLabelsAlike(other, labels[i]); });
+        if (labels[i].empty() || LabelOf(labels[i]) != labels[i] || alike) {
+            print.Refuse(
+                "labels",
+                "must have labels of one to three capitals or digits, no two of them alike");
+        }
+        const bool isNew = std::ranges::find(newOnes, labels[i]) != newOnes.end();
+        read.emplace(IdOf(paints.Entries()[i]), OwnLabel{labels[i], isNew});
+    }
+    return read;
+}
+
+PlanSettings ReadPrint(ObjectReader print, const PaintList& paints) {
     PlanSettings plan;
     plan.Sheet = ReadPaper(print.Object("paper"));
     plan.CanvasCm = ReadUnlessZero(print, "canvasCm", {1, kLargestCanvasCm});
@@ -149,6 +174,9 @@ PlanSettings ReadPrint(ObjectReader print) {
     plan.GroupBySet = print.Flag("groupBySet");
     plan.Maker = print.Words("maker");
     plan.Logo = print.Words("logo");
+    if (plan.Symbols == SymbolStyle::Mine) {
+        plan.Labels = ReadLabels(print, paints);
+    }
     print.KeepUnknown();
     return plan;
 }
@@ -265,10 +293,10 @@ KitFile ReadWhole(ObjectReader& whole) {
     }
     kit.Board = ReadBoard(whole.Object("board"));
     ReadSettings(whole.Object("settings"), kit);
-    kit.Print = ReadPrint(whole.Object("print"));
     kit.Source = ReadSource(whole.Object("source"));
     kit.Choice = ReadKitPaints(whole, "choice");
     kit.Paints = ReadKitPaints(whole, "paints");
+    kit.Print = ReadPrint(whole.Object("print"), kit.Paints);
     kit.Layer.Edits = ReadEditLayer(whole.Object("edits"));
     ReadGrid(whole.Object("grid"), kit);
     ReadBase(whole, kit);

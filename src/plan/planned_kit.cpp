@@ -28,16 +28,20 @@ void PlannedKit::Choose(const PlanSettings& wanted) {
         onPages_.reset();
         inOnePiece_.reset();
     }
-    if (wanted.Symbols != settings_.Symbols) {
+    if (wanted.Symbols != settings_.Symbols || wanted.Labels != settings_.Labels) {
         sketch_.reset();
     }
     settings_ = wanted;
 }
 
+PaintMarks PlannedKit::Marks() const {
+    return MarksFor(settings_.Symbols, settings_.Labels, place_.State->PaintColors);
+}
+
 const PlanSketch& PlannedKit::Sketch() {
     if (!sketch_) {
-        sketch_ = SketchPlan(place_.State, place_.Frames->WorkFrame.Picture,
-                             fonts_.Aspects(settings_.Symbols, place_.State->PaintCount));
+        sketch_ =
+            SketchPlan(place_.State, place_.Frames->WorkFrame.Picture, fonts_.Aspects(Marks()));
     }
     return *sketch_;
 }

@@ -22,6 +22,8 @@ class PlannedKit {
 
     [[nodiscard]] const Workplace& Place() const { return place_; }
     [[nodiscard]] const PlanSettings& Settings() const { return settings_; }
+    /// What marks the paints.
+    [[nodiscard]] PaintMarks Marks() const;
     [[nodiscard]] const PlanSketch& Sketch();
     [[nodiscard]] const PrintPlan& OnPages();
     /// The same for drawings without pages.
