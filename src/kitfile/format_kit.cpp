@@ -40,6 +40,9 @@ class KitWriter {
         json["print"] = Print();
         json["source"] = Source();
         json["choice"] = Paints("choice", kit_.Choice);
+        if (kit_.Chosen.Buying.Asked) {
+            json["owned"] = kit_.Owned;
+        }
         json["paints"] = Paints("paints", kit_.Paints);
         json["edits"] = Edits();
         if (HasOwnBase()) {
@@ -80,17 +83,23 @@ class KitWriter {
 
     [[nodiscard]] KitJson ChosenSettings() const {
         const Settings& chosen = kit_.Chosen;
-        return With("settings", {{"difficulty", WordOf(kLevelWords, chosen.Level)},
-                                 {"finalPaints", chosen.FinalPaints},
-                                 {"mostPaints", kit_.FinalColors},
-                                 {"sample", WordOf(kSampleWords, chosen.Sample)},
-                                 {"match", WordOf(kMatchWords, chosen.Match)},
-                                 {"fit", WordOf(kFitWords, chosen.Fit)},
-                                 {"paintable", chosen.Paintable},
-                                 {"smallestMm2", chosen.Limits.SmallestMm2},
-                                 {"narrowestMm", chosen.Limits.NarrowestMm},
-                                 {"detail", chosen.Detail},
-                                 {"canvasCm", chosen.CanvasCm}});
+        KitJson settings = {{"difficulty", WordOf(kLevelWords, chosen.Level)},
+                            {"finalPaints", chosen.FinalPaints},
+                            {"mostPaints", kit_.FinalColors},
+                            {"sample", WordOf(kSampleWords, chosen.Sample)},
+                            {"match", WordOf(kMatchWords, chosen.Match)},
+                            {"fit", WordOf(kFitWords, chosen.Fit)},
+                            {"paintable", chosen.Paintable},
+                            {"smallestMm2", chosen.Limits.SmallestMm2},
+                            {"narrowestMm", chosen.Limits.NarrowestMm},
+                            {"detail", chosen.Detail},
+                            {"canvasCm", chosen.CanvasCm}};
+        if (chosen.Buying.Asked) {
+            settings["ownedFirst"] =
+                With("settings.ownedFirst",
+                     {{"worth", chosen.Buying.Worth}, {"mostToBuy", chosen.Buying.MostToBuy}});
+        }
+        return With("settings", std::move(settings));
     }
 
     [[nodiscard]] KitJson Print() const {

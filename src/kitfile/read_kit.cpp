@@ -116,6 +116,12 @@ void ReadSettings(ObjectReader settings, KitFile& kit) {
     chosen.Limits.NarrowestMm = settings.Number("narrowestMm", {0, 100});
     chosen.Detail = settings.Whole("detail", {0, kMostDetail});
     chosen.CanvasCm = ReadUnlessZero(settings, "canvasCm", {1, kLargestCanvasCm});
+    if (settings.Has("ownedFirst")) {
+        ObjectReader first = settings.Object("ownedFirst");
+        chosen.Buying = {true, first.Number("worth", {0, kLargestWorth}),
+                         first.Whole("mostToBuy", {0, kMostToBuy})};
+        first.KeepUnknown();
+    }
     settings.KeepUnknown();
 }
 
@@ -280,6 +286,18 @@ void ReadBase(ObjectReader& whole, KitFile& kit) {
     }
 }
 
+std::vector<int> ReadOwned(ObjectReader& whole, int paints) {
+    std::vector<int> owned;
+    for (const KitJson& number : whole.Array("owned")) {
+        const int paint = number.is_number_integer() ? number.get<int>() : 0;
+        if (paint < 1 || paint > paints || (!owned.empty() && paint <= owned.back())) {
+            whole.Refuse("owned", "must have numbers of the choice's paints in ascending order");
+        }
+        owned.push_back(paint);
+    }
+    return owned;
+}
+
 KitFile ReadWhole(ObjectReader& whole) {
     KitFile kit;
     kit.Program = whole.Words("program");
@@ -295,6 +313,9 @@ KitFile ReadWhole(ObjectReader& whole) {
     ReadSettings(whole.Object("settings"), kit);
     kit.Source = ReadSource(whole.Object("source"));
     kit.Choice = ReadKitPaints(whole, "choice");
+    if (kit.Chosen.Buying.Asked) {
+        kit.Owned = ReadOwned(whole, kit.Choice.Count());
+    }
     kit.Paints = ReadKitPaints(whole, "paints");
     kit.Print = ReadPrint(whole.Object("print"), kit.Paints);
     kit.Layer.Edits = ReadEditLayer(whole.Object("edits"));
