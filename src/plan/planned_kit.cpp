@@ -62,6 +62,13 @@ const PrintPlan& PlannedKit::InOnePiece() {
     return *inOnePiece_;
 }
 
+std::vector<PaintNeed> PlannedKit::Needs() {
+    const PlanSketch& sketch = Sketch();
+    const PlanSheets sheets = LayOutSheets(sketch, settings_);
+    return PaintNeeds({sketch.Regions, sketch.Paints, sheets.Pages, sheets.Scale},
+                      place_.State->PaintCount, settings_.Use);
+}
+
 PlanFigures PlannedKit::Figures() {
     return FiguresOf(Sketch(), settings_, OnPages());
 }

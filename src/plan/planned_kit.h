@@ -28,6 +28,8 @@ class PlannedKit {
     [[nodiscard]] const PrintPlan& OnPages();
     /// The same for drawings without pages.
     [[nodiscard]] const PrintPlan& InOnePiece();
+    /// What the paints are needed for, by the pages that would be printed.
+    [[nodiscard]] std::vector<PaintNeed> Needs();
     /// With the symbols as they are printed.
     [[nodiscard]] PlanFigures Figures();
     /// The same, without the symbols unless the plan is laid out already.
