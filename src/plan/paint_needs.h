@@ -29,7 +29,7 @@ struct PaintNeed {
     double Cm2 = 0;
     double Ml = 0;
     int Pots = 0;                    // 0 when their size is not known
-    std::vector<std::string> Pages;  // of the plan where it occurs
+    std::vector<std::string> Pages{};  // of the plan where it occurs
 };
 
 /// What is to be painted.
@@ -43,6 +43,9 @@ struct PaintedPages {
 /// Of every paint of a palette of so many, in its order.
 [[nodiscard]] std::vector<PaintNeed> PaintNeeds(const PaintedPages& painted, int paints,
                                                 const PaintUse& use);
+
+/// Pots of a size to buy for so much paint; 0 when their size is not known.
+[[nodiscard]] int PotsOf(double ml, double potMl);
 
 /// All of them together; no paint and no pages.
 [[nodiscard]] PaintNeed SumOf(const std::vector<PaintNeed>& needs);
