@@ -19,7 +19,7 @@ desktop-file-validate "$work"/root/usr/share/applications/*.desktop || fault "th
 for action in $(sed -n 's/^Exec=.* \(\/[^ ]*\)$/\1/p' "$work"/root/usr/share/applications/*.desktop); do
     [ -e "$work/root$action" ] || fault "the desktop entry opens $action, which the package lacks"
 done
-for command in vendrel vendrel-kit vendrel-symbols; do
+for command in vendrel vendrel-kit vendrel-batch vendrel-paints vendrel-shop vendrel-symbols; do
     page=$work/root/usr/share/man/man1/$command.1.gz
     man --warnings -E UTF-8 -l "$page" 2>&1 >/dev/null | grep . && fault "the page of $command"
     [ -s "$page" ] || fault "no page for $command"
