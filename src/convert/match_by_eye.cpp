@@ -32,11 +32,12 @@ std::vector<int> MatchAll(const SeenStipples& seen) {
 
 }  // namespace
 
-EyeMatch MatchByEye(std::span<const Color> stipples, const PaintList& allowed, int count) {
+EyeMatch MatchByEye(std::span<const Color> stipples, const PaintList& allowed, int count,
+                    const BuyTerms& terms) {
     EyeMatch match;
     const ColorBins bins = BinColors(stipples);
     const SeenTable table(bins.Colors, ColorsOf(allowed));
-    for (const int paint : ChoosePaintsByEye(table, bins.Stipples, count)) {
+    for (const int paint : ChoosePaintsByEye(table, bins.Stipples, count, terms)) {
         match.Palette.Add(allowed[paint + 1]);
     }
     match.Considered = CountNearest(table);

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "convert/seen_stipples.h"
+#include "eye/palette_by_eye.h"
 #include "shell/records.h"
 
 namespace vendrel {
@@ -19,6 +20,6 @@ struct EyeMatch {
 /// Chooses at most `count` of the allowed paints for stipples of those colors, and gives each
 /// stipple the one that differs least from it.
 [[nodiscard]] EyeMatch MatchByEye(std::span<const Color> stipples, const PaintList& allowed,
-                                  int count);
+                                  int count, const BuyTerms& terms = {});
 
 }  // namespace vendrel

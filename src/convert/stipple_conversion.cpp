@@ -13,6 +13,7 @@
 #include "edits/kit_base.h"
 #include "paints/color_match.h"
 #include "paints/nearest_paint.h"
+#include "paints/owned_paints.h"
 #include "paints/reduction.h"
 #include "paints/restore.h"
 #include "shell/busy_pointer.h"
@@ -168,13 +169,22 @@ void PlaceRow(Workplace& place, std::span<const int> paints, int j) {
     }
 }
 
+BuyTerms BuyTermsOf(const WorkState& state) {
+    const OwnedFirst& buying = state.Chosen.Buying;
+    if (!buying.Asked) {
+        return {};
+    }
+    return {WhichAreOwned(state.PaintColors, state.OwnedPaints), buying.Worth, buying.MostToBuy};
+}
+
 // Which paints suit a photo shows only in all its stipples together: they are matched first and
 // shown afterwards.
 Matched ApplyByEye(Workplace& place) {
     WorkState& state = place.State;
     const std::vector<Color> stipples = SampleStipples(place.Frames->WorkFrame.Picture, state);
-    EyeMatch match = MatchByEye(stipples, state.PaintColors,
-                                state.KeepAllColors ? state.PaintCount : state.FinalColors);
+    EyeMatch match =
+        MatchByEye(stipples, state.PaintColors,
+                   state.KeepAllColors ? state.PaintCount : state.FinalColors, BuyTermsOf(state));
     SetPalette(state, std::move(match.Palette));
     for (int j = 1; j <= state.CellsDown; ++j) {
         PlaceRow(place, RowOf(match.Paints, state, j), j);

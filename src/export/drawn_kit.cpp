@@ -71,10 +71,12 @@ std::vector<PaintNeed> NeedsOf(PlannedKit& kit) {
 }  // namespace
 
 DrawnKit::DrawnKit(PlannedKit& kit)
-    : symbols_(kit.Settings().Symbols, kit.Place().State->PaintCount),
+    : marks_(kit.Marks()),
+      symbols_(marks_),
       pages_{kit.Place(),
              kit.OnPages(),
              symbols_,
+             marks_,
              LaidOutFront(kit.Settings()),
              FrontScaleOf(kit.Settings()),
              BoxesOf(kit.OnPages()),

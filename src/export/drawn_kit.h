@@ -17,6 +17,7 @@ class DrawnKit {
     [[nodiscard]] const KitPages& Pages() const { return pages_; }
 
   private:
+    PaintMarks marks_;
     PrintSymbols symbols_;
     KitPages pages_;
 };

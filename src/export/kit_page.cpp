@@ -43,7 +43,7 @@ QByteArray FilledPage(const QByteArray& frame, Fill fill) {
 void WriteKitPage(PlannedKit& kit, const Target& target) {
     const Workplace& place = kit.Place();
     place.Screen.SetCaption("Drawing the Plan");
-    const PrintSymbols symbols(kit.Settings().Symbols, place.State->PaintCount);
+    const PrintSymbols symbols(kit.Marks());
     TakeUpPageParts();
     const QByteArray page = FilledPage(PagePart("page.html"), [&](const QByteArray& gap) {
         return gap == "title"

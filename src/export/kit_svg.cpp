@@ -189,7 +189,7 @@ void SvgPlan::DrawLeader(const PlanLabel& label, double aspect, const QString& i
 void WriteKitSvg(PlannedKit& kit, const Target& target) {
     const Workplace& place = kit.Place();
     place.Screen.SetCaption("Drawing the Plan");
-    const PrintSymbols symbols(kit.Settings().Symbols, place.State->PaintCount);
+    const PrintSymbols symbols(kit.Marks());
     QByteArray svg;
     SvgPlan(place.State, kit.InOnePiece(), symbols, svg).Draw(kit.Settings().Gray);
     SaveDrawn(place.Screen, svg, target);

@@ -10,6 +10,7 @@
 #include "output/chart_contents.h"
 #include "shell/symbol_of.h"
 #include "support/decimals.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -91,6 +92,7 @@ class ChartPage {
     void WriteFigures(const PaintNeed& need, double top, double height);
     void WritePages(const PaintNeed& need, double top);
     void DrawSwatch(const PaintNeed& need, double top);
+    void MarkNewLabel(const PaintNeed& need, double top);
     void WriteName(const PaintNeed& need, double top);
     void Rule(double at);
 
@@ -154,6 +156,17 @@ void ChartPage::DrawSwatch(const PaintNeed& need, double top) {
     painter_.setPen(Qt::black);
 }
 
+// No pot has it yet.
+void ChartPage::MarkNewLabel(const PaintNeed& need, double top) {
+    const std::vector<OwnLabel>& labels = kit_.Marks.Labels;
+    if (Holds(labels, need.Paint - 1) && At(labels, need.Paint - 1).IsNew) {
+        painter_.setFont(TextFont(FontMm(2)));
+        painter_.setPen(kFaint);
+        Write(kSymbol, top + 6, 2.4, Qt::AlignHCenter, "new");
+        painter_.setPen(Qt::black);
+    }
+}
+
 // What a painter orders by, smaller rather than cut short.
 void ChartPage::WriteName(const PaintNeed& need, double top) {
     const PaintColor& paint = ColorOfRow(need);
@@ -195,6 +208,7 @@ void ChartPage::DrawRow(const Row& row, double top) {
     kit_.Symbols.DrawInLine(painter_, SymbolOf(kit_.Place.State->PaintColors, need.Paint),
                             {Mm(kMargin + kSymbol.Left + kSymbol.Width / 2), Mm(top + kRow / 2)},
                             Mm(3.2));
+    MarkNewLabel(need, top);
     WriteName(need, top);
     painter_.setFont(TextFont(FontMm(3.2)));
     WriteFigures(need, top, kRow);

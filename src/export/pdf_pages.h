@@ -17,6 +17,7 @@ struct KitPages {
     const Workplace& Place;
     const PrintPlan& Plan;
     const PrintSymbols& Symbols;
+    const PaintMarks& Marks;            // that they draw
     SizeMm FrontPaper;                  // of cover, chart and page map, upright, as they are laid
     double FrontScale;                  // out, and how much smaller they are printed
     std::vector<PlanRect> SymbolBoxes;  // of all labels, in millimetres of the canvas

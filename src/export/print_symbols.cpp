@@ -18,6 +18,7 @@ constexpr int kMeasureSize = 1000;
 constexpr int kDrawnSize = 250;  // of letters before they are scaled: about as they come out
 constexpr double kBroadestLetter = 0.66;  // width of a symbol for its height
 constexpr double kBroadestNumber = 1.2;
+constexpr double kBroadestLabel = 1.6;
 constexpr double kBarGap = 0.07;  // under a small letter, in ems
 constexpr double kBarThickness = 0.06;
 constexpr double kSignInLine = 1.15;  // for a capital: shapes look smaller than letters
@@ -84,17 +85,20 @@ void DrawSign(QPainter& painter, const Sign& sign, QPointF centre, double height
                      painter.pen().color());
 }
 
-PrintSymbols::PrintSymbols(SymbolStyle style, int paints) {
-    const int most = std::clamp(paints, 0, kSymbolCount);
-    switch (style) {
+PrintSymbols::PrintSymbols(const PaintMarks& marks) {
+    const int most = std::clamp(marks.Paints, 0, kSymbolCount);
+    switch (marks.Style) {
         case SymbolStyle::Numbers:
             AddNumbers(most);
             break;
         case SymbolStyle::Signs:
             AddSigns(most);
             break;
+        case SymbolStyle::Mine:
+            AddLabels(marks.Labels);
+            break;
         default:
-            AddLetters(LettersFor(style, most));
+            AddLetters(LettersFor(marks.Style, most));
     }
 }
 
@@ -119,6 +123,16 @@ void PrintSymbols::AddNumbers(int paints) {
     capital_ = InkOf(QStringLiteral("8"), font_).height();
     for (int number = 1; number <= paints; ++number) {
         AddText(QString::number(number), kBroadestNumber);
+    }
+}
+
+void PrintSymbols::AddLabels(const std::vector<OwnLabel>& labels) {
+    font_ = TextFont(1);
+    capital_ = InkOf(QStringLiteral("X"), font_).height();
+    for (const OwnLabel& label : labels) {
+        if (shapes_.size() < static_cast<std::size_t>(kSymbolCount)) {
+            AddText(QString::fromStdString(label.Text), kBroadestLabel);
+        }
     }
 }
 

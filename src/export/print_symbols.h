@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "plan/paint_marks.h"
 #include "plan/signs.h"
 #include "plan/symbol_aspects.h"
-#include "plan/symbol_style.h"
 
 namespace vendrel {
 
@@ -25,13 +25,15 @@ class PrintSymbols {
   public:
     /// Those of so many paints. Needs a running QGuiApplication. Throws Error when their font is
     /// not installed.
-    PrintSymbols(SymbolStyle style, int paints);
+    explicit PrintSymbols(const PaintMarks& marks);
+    /// In a style without labels of the painter's own.
+    PrintSymbols(SymbolStyle style, int paints) : PrintSymbols(PaintMarks{style, paints}) {}
 
     /// A symbol that is not there is as narrow as nothing.
     [[nodiscard]] SymbolAspects Aspects() const;
     /// A symbol's outlines, even-odd, in a box 1 unit tall with its middle at 0.
     [[nodiscard]] QPainterPath Outline(int symbol) const;
-    /// A letter, a number or the name of a sign; empty for a symbol that is not there.
+    /// A letter, a number, a label or the name of a sign; empty for a symbol that is not there.
     [[nodiscard]] std::string NameOf(int symbol) const;
     /// Draws a symbol with the painter's pen; its box is `height` units tall, capitals fill it.
     void Draw(QPainter& painter, int symbol, QPointF centre, double height) const;
@@ -53,6 +55,7 @@ class PrintSymbols {
     };
     void AddLetters(const std::string& letters);
     void AddNumbers(int paints);
+    void AddLabels(const std::vector<OwnLabel>& labels);
     void AddSigns(int paints);
     void AddText(const QString& text, double broadest);
     static void DrawShape(QPainter& painter, const Shape& shape, const QTransform& place);

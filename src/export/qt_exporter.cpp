@@ -11,8 +11,8 @@
 
 namespace vendrel {
 
-SymbolAspects QtExporter::Aspects(SymbolStyle style, int paints) const {
-    return PrintSymbols(style, paints).Aspects();
+SymbolAspects QtExporter::Aspects(const PaintMarks& marks) const {
+    return PrintSymbols(marks).Aspects();
 }
 
 Surface QtExporter::Preview(PlannedKit& kit, int longest) const {

@@ -8,7 +8,7 @@ namespace vendrel {
 /// Writes color charts and printable kits with the toolkit's fonts.
 class QtExporter final : public Exporter {
   public:
-    [[nodiscard]] SymbolAspects Aspects(SymbolStyle style, int paints) const override;
+    [[nodiscard]] SymbolAspects Aspects(const PaintMarks& marks) const override;
     [[nodiscard]] Surface Preview(PlannedKit& kit, int longest) const override;
     void Write(OutputId output, PlannedKit& kit, const Target& target) const override;
 

@@ -1,10 +1,12 @@
 #include "eye/palette_by_eye.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace vendrel {
@@ -37,8 +39,12 @@ struct BinSum {
 // The paints chosen so far, and what each color makes of them.
 class Choice {
   public:
-    Choice(const SeenTable& table, std::span<const int> stipples)
-        : stipples_(stipples.begin(), stipples.end()),
+    Choice(const SeenTable& table, std::span<const int> stipples, const BuyTerms& terms)
+        : terms_(terms),
+          price_(std::llround(
+              terms.Worth * kSeenUnit *
+              static_cast<double>(std::accumulate(stipples.begin(), stipples.end(), Sum{0})))),
+          stipples_(stipples.begin(), stipples.end()),
           paints_(table.PaintCount()),
           seen_(At(paints_) * stipples.size()),
           isChosen_(At(paints_)),
@@ -57,7 +63,16 @@ class Choice {
     [[nodiscard]] const std::vector<int>& Chosen() const { return chosen_; }
     [[nodiscard]] bool IsChosen(int paint) const { return isChosen_[At(paint)]; }
 
-    // By how much the sum falls with one more paint.
+    [[nodiscard]] bool IsBought(int paint) const {
+        return !terms_.IsOwned.empty() && !terms_.IsOwned[At(paint)];
+    }
+    // Whether one may come for one that goes, or for none.
+    [[nodiscard]] bool MayTake(int paint, int out = -1) const {
+        const int back = out >= 0 && IsBought(out) ? 1 : 0;
+        return !IsBought(paint) || bought_ - back < terms_.MostToBuy;
+    }
+
+    // By how much the sum falls with one more paint, less what it costs to buy.
     [[nodiscard]] Sum GainOf(int paint) const {
         const Seen* const seen = SeenBy(paint);
         const int* const near = near_.data();
@@ -66,10 +81,22 @@ class Choice {
         for (std::size_t c = 0; c < stipples_.size(); ++c) {
             gain += static_cast<Sum>(std::max(near[c] - seen[c], 0)) * stipples[c];
         }
-        return gain;
+        return gain - PriceOf(paint);
+    }
+
+    // By how much the sum rises without a chosen paint, less its price.
+    [[nodiscard]] Sum LossOf(int paint) const {
+        Sum loss = 0;
+        for (std::size_t c = 0; c < stipples_.size(); ++c) {
+            if (nearest_[c] == paint) {
+                loss += static_cast<Sum>(second_[c] - near_[c]) * stipples_[c];
+            }
+        }
+        return loss - PriceOf(paint);
     }
 
     void Add(int paint) {
+        bought_ += IsBought(paint) ? 1 : 0;
         chosen_.push_back(paint);
         isChosen_[At(paint)] = true;
         for (std::size_t c = 0; c < stipples_.size(); ++c) {
@@ -78,6 +105,7 @@ class Choice {
     }
 
     void Remove(int paint) {
+        bought_ -= IsBought(paint) ? 1 : 0;
         std::erase(chosen_, paint);
         isChosen_[At(paint)] = false;
         for (std::size_t c = 0; c < stipples_.size(); ++c) {
@@ -114,7 +142,8 @@ class Choice {
         Swap best;
         for (const int out : chosen_) {
             // Colors that the new paint serves better than the one that goes are gained already.
-            if (const Sum net = gain - losses[At(out)]; net > best.Gain) {
+            const Sum net = gain - losses[At(out)] + PriceOf(out) - PriceOf(paint);
+            if (net > best.Gain && MayTake(paint, out)) {
                 best = {out, net};
             }
         }
@@ -137,6 +166,7 @@ class Choice {
     }
 
   private:
+    [[nodiscard]] Sum PriceOf(int paint) const { return IsBought(paint) ? price_ : 0; }
     [[nodiscard]] const Seen* SeenBy(int paint) const {
         return seen_.data() + At(paint) * stipples_.size();
     }
@@ -151,6 +181,9 @@ class Choice {
         }
     }
 
+    const BuyTerms& terms_;
+    Sum price_;  // of a paint that must be bought, as a sum of seen differences
+    int bought_ = 0;
     std::vector<int> stipples_;
     int paints_;
     std::vector<Seen> seen_;  // paint by paint
@@ -170,7 +203,7 @@ void ChooseGreedily(Choice& choice, int count) {
         Sum bestGain = 0;
         std::vector<int> order;
         for (int p = 0; p < choice.PaintCount(); ++p) {
-            if (!choice.IsChosen(p)) {
+            if (!choice.IsChosen(p) && choice.MayTake(p)) {
                 order.push_back(p);
             }
         }
@@ -206,6 +239,22 @@ void ExchangeWhileItHelps(Choice& choice) {
     }
 }
 
+// Bought paints that are not worth their price any more since others came; each that goes makes the
+// sum with the prices smaller, so this ends.
+void GiveBackWhatIsNotWorthIt(Choice& choice, int count) {
+    while (choice.Chosen().size() > 1) {
+        const std::vector<int> chosen = choice.Chosen();
+        const auto back = std::ranges::find_if(
+            chosen, [&](int p) { return choice.IsBought(p) && choice.LossOf(p) <= 0; });
+        if (back == chosen.end()) {
+            return;
+        }
+        choice.Remove(*back);
+        ChooseGreedily(choice, count);
+        ExchangeWhileItHelps(choice);
+    }
+}
+
 }  // namespace
 
 ColorBins BinColors(std::span<const Color> stipples) {
@@ -230,14 +279,16 @@ ColorBins BinColors(std::span<const Color> stipples) {
     return bins;
 }
 
-std::vector<int> ChoosePaintsByEye(const SeenTable& table, std::span<const int> stipples,
-                                   int count) {
-    Choice choice(table, stipples);
-    ChooseGreedily(choice, std::min(count, table.PaintCount()));
+std::vector<int> ChoosePaintsByEye(const SeenTable& table, std::span<const int> stipples, int count,
+                                   const BuyTerms& terms) {
+    Choice choice(table, stipples, terms);
+    count = std::min(count, table.PaintCount());
+    ChooseGreedily(choice, count);
     if (choice.Chosen().empty()) {
         return {};
     }
     ExchangeWhileItHelps(choice);
+    GiveBackWhatIsNotWorthIt(choice, count);
     while (choice.Chosen().size() > 1) {
         const auto [paint, needs] = choice.LeastNeeded();
         if (needs >= kHandfulOfStipples) {

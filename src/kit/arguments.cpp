@@ -24,6 +24,9 @@ constexpr std::string_view kHelp =
   vendrel kit PHOTO...   makes kits; "vendrel kit --help" lists the settings
   vendrel batch ORDERS   makes the kits of a list of orders or of a folder;
                          "vendrel batch --help" says how
+  vendrel paints         lists paints, your own and a kit's missing ones, and
+                         imports yours; "vendrel paints --help" says how
+  vendrel shop KIT...    lists what kits ask you to buy; "vendrel shop --help"
   vendrel symbols [--folder DIR]
                          draws the symbols anew into Data/Symbols.txt
   vendrel --help         shows this text
@@ -45,6 +48,14 @@ constexpr const char* kKitFoot =
     R"(Without --sets and --template the paints are those of Data/paintlist.txt.
 Pictures and pdf files go to Results, grids to "Saved Stipples"; the list of a
 kit in Results has their SHA-256 sums.)";
+
+constexpr const char* kPaintsHead =
+    R"(vendrel paints lists all paints, with the labels of those that you own.
+)";
+
+constexpr const char* kShopHead =
+    R"(vendrel shop KIT... lists the paints that kit files need beyond what you own.
+)";
 
 // What "vendrel kit --help" prints: the head, the options in two columns, the foot.
 class KitHelp : public CLI::Formatter {
@@ -112,6 +123,35 @@ void AddHelp(CLI::App& app) {
     app.add_flag_callback("-h,--help", [] { throw CLI::CallForHelp(); })->trigger_on_parse();
 }
 
+constexpr Measure kWorths{"", 0, kLargestWorth, "a number from 0 to 20, as in 0.05"};
+constexpr Measure kPaintsToBuy{"", 0, kMostToBuy, "a whole number from 0 to 50"};
+
+// What is owned goes first, matched by eye.
+template <typename Number>
+void AddBuying(CLI::App& app, const OptionText& text, const Measure& measure, KitOptions& kit,
+               Number& target) {
+    AddValue(app, text,
+             [&kit, &target, measure](const std::string& option, const std::string& value) {
+                 target = static_cast<Number>(ToNumber(option, value, measure));
+                 kit.Chosen.Buying.Asked = true;
+                 kit.BuyingNamed = true;
+                 kit.MatchByEye = true;
+             });
+}
+
+void AddOwnedOptions(CLI::App& app, KitOptions& kit) {
+    AddSwitch(app, {"--owned", "", "allows your own paints alone (see \"vendrel paints\")"},
+              kit.OwnedOnly);
+    AddBuying(
+        app,
+        {"--owned-first", "X",
+         "allows them too, and others only where they lower the\nmean seen difference by more "
+         "than X (0.05), by eye"},
+        kWorths, kit, kit.Chosen.Buying.Worth);
+    AddBuying(app, {"--buy-at-most", "N", "the same with at most N paints to buy"}, kPaintsToBuy,
+              kit, kit.Chosen.Buying.MostToBuy);
+}
+
 void AddPaintOptions(CLI::App& app, KitOptions& kit) {
     AddText(app, {"--folder", "DIR", "works in DIR instead of the folder it is started in"},
             kit.Folder);
@@ -124,6 +164,7 @@ void AddPaintOptions(CLI::App& app, KitOptions& kit) {
     AddValue(app, {"--sets", "NAME", "allows this paint set; may be repeated"},
              [&kit](const std::string&, const std::string& set) { kit.Sets.push_back(set); });
     AddText(app, {"--template", "NAME", "allows the paints of templates/NAME.csv"}, kit.Template);
+    AddOwnedOptions(app, kit);
 }
 
 void AddPictureOptions(CLI::App& app, KitOptions& kit) {
@@ -331,6 +372,17 @@ void SettleKitFiles(const KitOptions& kit) {
     }
 }
 
+void SettleOwned(const KitOptions& kit) {
+    if (kit.OwnedOnly && (kit.Template || !kit.Sets.empty() || kit.BuyingNamed)) {
+        throw UsageError(
+            "--owned allows your own paints alone. Leave out --sets, --template, --owned-first and "
+            "--buy-at-most.");
+    }
+    if (kit.Chosen.Buying.Asked && kit.Chosen.Match == Matching::Plain) {
+        throw UsageError("What is owned goes first by eye alone. Leave out --match plain.");
+    }
+}
+
 Arguments ParseKit(std::span<const std::string_view> words, KitOptions base = {}) {
     Arguments arguments{Command::Kit, std::move(base), {}, false, {}};
     KitOptions& kit = arguments.Kit;
@@ -348,6 +400,7 @@ Arguments ParseKit(std::span<const std::string_view> words, KitOptions base = {}
     if (kit.Template && !kit.Sets.empty()) {
         throw UsageError("Choose paints by --sets or by --template, not by both.");
     }
+    SettleOwned(kit);
     return arguments;
 }
 
@@ -371,12 +424,40 @@ Arguments ParseFolder(Command command, std::span<const std::string_view> words) 
     return version ? Arguments{Command::Version, {}, {}, false, {}} : arguments;
 }
 
+Arguments ParsePaints(std::span<const std::string_view> words) {
+    Arguments arguments{Command::Paints, {}, {}, false, {}};
+    CLI::App app;
+    AddPaintsOptions(app, arguments.Paints);
+    if (AsksForHelp(app, words, "vendrel paints --help")) {
+        return {Command::PaintsHelp, {}, {}, false, {}};
+    }
+    RequireOneTask(arguments.Paints);
+    return arguments;
+}
+
+Arguments ParseShop(std::span<const std::string_view> words) {
+    Arguments arguments{Command::Shop, {}, {}, false, {}};
+    CLI::App app;
+    AddShopOptions(app, arguments.Shop);
+    if (AsksForHelp(app, words, "vendrel shop --help")) {
+        return {Command::ShopHelp, {}, {}, false, {}};
+    }
+    RequireOneTask(arguments.Shop);
+    return arguments;
+}
+
 }  // namespace
 
 Arguments ParseArguments(std::span<const std::string_view> words) {
     const std::string_view command = words.empty() ? "" : words.front();
     if (command == "kit") {
         return ParseKit(words.subspan(1));
+    }
+    if (command == "paints") {
+        return ParsePaints(words.subspan(1));
+    }
+    if (command == "shop") {
+        return ParseShop(words.subspan(1));
     }
     if (command == "symbols") {
         return ParseFolder(Command::Symbols, words.subspan(1));
@@ -427,6 +508,26 @@ std::string KitHelpText() {
     app.footer(kKitFoot);
     app.formatter(std::make_shared<KitHelp>());
     AddKit(app, kit);
+    return app.help();
+}
+
+std::string PaintsHelpText() {
+    PaintsOptions paints;
+    CLI::App app(kPaintsHead);
+    app.set_help_flag();
+    app.footer("Your paints are kept in Data/mypaints.csv, other catalogues in Data/catalogues.");
+    app.formatter(std::make_shared<KitHelp>());
+    AddPaintsOptions(app, paints);
+    return app.help();
+}
+
+std::string ShopHelpText() {
+    ShopOptions shop;
+    CLI::App app(kShopHead);
+    app.set_help_flag();
+    app.footer("Paints of yours whose amount nobody measured are taken to be enough.");
+    app.formatter(std::make_shared<KitHelp>());
+    AddShopOptions(app, shop);
     return app.help();
 }
 

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "kit/shelf_options.h"
 #include "kitfile/kit_file.h"
 #include "kitset/outputs.h"
 #include "plan/plan_layout.h"
@@ -35,6 +36,8 @@ struct KitOptions {
     std::vector<std::string> Sets;  // empty: the saved selection
     std::optional<std::string> Template;
     std::filesystem::path Like;  // a kit file whose settings hold where the words say nothing
+    bool OwnedOnly = false;      // the paints of the shelf
+    bool BuyingNamed = false;    // what is owned goes first, by the shelf as it is now
     std::string Title;           // names the files in place of the photo's name
     ScreenSize Screen = kDrawingBoard;
     KitOutputs Outputs;
@@ -50,7 +53,18 @@ struct KitOptions {
     bool Quiet = false;
 };
 
-enum class Command { Window, Kit, Symbols, Help, KitHelp, Version };
+enum class Command {
+    Window,
+    Kit,
+    Paints,
+    Shop,
+    Symbols,
+    Help,
+    KitHelp,
+    PaintsHelp,
+    ShopHelp,
+    Version
+};
 
 struct Arguments {
     Command What = Command::Window;
@@ -58,6 +72,8 @@ struct Arguments {
     std::filesystem::path Folder = ".";  // for Command::Window and Command::Symbols
     bool InDocuments = false;            // for Command::Window: among the painter's documents
     std::filesystem::path File;          // for Command::Window: a kit or photo to open; or empty
+    PaintsOptions Paints = {};           // for Command::Paints
+    ShopOptions Shop = {};               // for Command::Shop
 };
 
 /// Reads the words behind the program's name. Throws UsageError with a sentence.
@@ -71,5 +87,7 @@ struct Arguments {
 
 [[nodiscard]] std::string_view HelpText();
 [[nodiscard]] std::string KitHelpText();
+[[nodiscard]] std::string PaintsHelpText();
+[[nodiscard]] std::string ShopHelpText();
 
 }  // namespace vendrel

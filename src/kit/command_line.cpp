@@ -5,6 +5,7 @@
 #include "kit/arguments.h"
 #include "kit/kit_command.h"
 #include "kit/printable.h"
+#include "kit/shelf_commands.h"
 #include "kitfile/kit_places.h"
 #include "shell/ui.h"
 #include "support/error.h"
@@ -57,6 +58,18 @@ int Run(const Arguments& arguments, const Surroundings& around) {
             return RunKit(arguments.Kit, around) ? kDone : kFailed;
         case Command::Symbols:
             return DrawSymbols(arguments.Folder, around);
+        case Command::Paints:
+            RunPaints(arguments.Paints, around);
+            return kDone;
+        case Command::Shop:
+            RunShop(arguments.Shop, around);
+            return kDone;
+        case Command::PaintsHelp:
+            around.Out << PaintsHelpText();
+            return kDone;
+        case Command::ShopHelp:
+            around.Out << ShopHelpText();
+            return kDone;
         case Command::Help:
             around.Out << HelpText();
             return kDone;

@@ -17,6 +17,7 @@
 #include "kit/terminal_ui.h"
 #include "kitfile/kit_photo.h"
 #include "kitfile/kit_places.h"
+#include "shelf/shelf_file.h"
 #include "shell/workplace.h"
 #include "startup/start_up.h"
 #include "support/error.h"
@@ -91,7 +92,7 @@ class KitRun {
         Workplace place{state, frames, menu, ui_, folder_};
         ui_.SetScreen(options_.Screen);
         KitReport report = IsKitName(word) ? MakeFromKit(place, FindKit(folder_, word))
-                                           : MakeKit(place, options_, photos_,
+                                           : MakeKit(place, WithLabels(options_), photos_,
                                                      FindPhoto(folder_, word), exporter_.get());
         report.Notes.insert(report.Notes.end(), warnings_.begin(), warnings_.end());
         for (std::string& message : ui_.TakeMessages()) {
@@ -100,9 +101,17 @@ class KitRun {
         return report;
     }
 
+    // A kit made again keeps the labels that it has.
+    [[nodiscard]] KitOptions WithLabels(KitOptions options) const {
+        if (options.Plan.Symbols == SymbolStyle::Mine && options.Plan.Labels.empty()) {
+            options.Plan.Labels = LabelsOnShelf(ReadShelf(folder_));
+        }
+        return options;
+    }
+
     KitReport MakeFromKit(Workplace& place, const std::filesystem::path& file) {
         const KitOptions options =
-            OptionsOver(options_, std::make_shared<const KitFile>(ReadKitFile(file)));
+            WithLabels(OptionsOver(options_, std::make_shared<const KitFile>(ReadKitFile(file))));
         RequireOwnTitle(options);
         ui_.SetScreen(options.Screen);
         const std::filesystem::path photo = PhotoOf(options, file);

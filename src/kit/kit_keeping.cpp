@@ -57,8 +57,8 @@ bool ChangesGrid(const KitOptions& options) {
     const KitFile& kit = *options.From;
     const bool otherBoard =
         options.Screen.Width != kit.Board.Width || options.Screen.Height != kit.Board.Height;
-    return !options.Sets.empty() || options.Template || otherBoard ||
-           GridSettings(options.Chosen) != GridSettings(kit.Chosen);
+    return !options.Sets.empty() || options.Template || options.OwnedOnly || options.BuyingNamed ||
+           otherBoard || GridSettings(options.Chosen) != GridSettings(kit.Chosen);
 }
 
 void RequireOwnTitle(const KitOptions& options) {

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "convert/settings.h"
 #include "kitfile/take_kit.h"
+#include "paints/owned_paints.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
+#include "shelf/shelf_file.h"
 #include "shell/palette.h"
 #include "support/error.h"
 
@@ -51,10 +54,28 @@ void SelectTemplate(Workplace& place, const std::string& name) {
     state.TemplateLoaded = true;
 }
 
+Shelf ShelfInCatalogue(const Workplace& place) {
+    Shelf shelf = ReadShelf(place.Folder);
+    SeeInCatalogue(shelf, place.State->MasterColors);
+    return shelf;
+}
+
+void PutOwnedFirst(Workplace& place) {
+    WorkState& state = place.State;
+    state.OwnedPaints = OwnedPaints(ShelfInCatalogue(place));
+    if (state.OwnedPaints.Empty()) {
+        RefuseEmptyShelf(place.Folder);
+    }
+    PaintList paints = state.PaintColors;
+    JoinOwned(paints, state.OwnedPaints);
+    SetPalette(state, std::move(paints));
+}
+
 // Those it was chosen from, whatever the catalogue and the template have by now.
 void TakeKitPaints(WorkState& state, const KitFile& kit) {
     TakeSource(state, state, kit.Source);
     SetPalette(state, kit.Choice);
+    state.OwnedPaints = OwnedOf(kit);
     if (kit.Chosen.FinalPaints == 0) {
         state.FinalColors = kit.FinalColors;
     }
@@ -66,12 +87,19 @@ void ApplySettings(Workplace& place, const KitOptions& options) {
     SetStippleSize(place, TraitsOf(options.Chosen.Level).StippleSize);
     place.State->Chosen = options.Chosen;
     place.State->FinalColors = options.Chosen.FinalPaints;
-    if (options.Template) {
+    if (options.OwnedOnly) {
+        const Shelf shelf = ShelfInCatalogue(place);
+        (void)WriteShelfTemplate(place.Folder, shelf);
+        SelectTemplate(place, std::string(kShelfTemplate));
+    } else if (options.Template) {
         SelectTemplate(place, *options.Template);
     } else if (!options.Sets.empty()) {
         SelectSets(place.State, options.Sets);
     } else if (options.From) {
         TakeKitPaints(place.State, *options.From);
+    }
+    if (options.BuyingNamed) {
+        PutOwnedFirst(place);
     }
 }
 

@@ -14,7 +14,8 @@ constexpr auto kSymbolStyles =
     std::to_array<Choice<SymbolStyle>>({{"letters", SymbolStyle::Letters},
                                         {"clear", SymbolStyle::Clear},
                                         {"numbers", SymbolStyle::Numbers},
-                                        {"signs", SymbolStyle::Signs}});
+                                        {"signs", SymbolStyle::Signs},
+                                        {"mine", SymbolStyle::Mine}});
 constexpr auto kLineShapes =
     std::to_array<Choice<LineShape>>({{"smooth", LineShape::Smooth}, {"steps", LineShape::Steps}});
 
@@ -68,11 +69,15 @@ void AddSizeOptions(CLI::App& app, KitOptions& kit) {
 }
 
 void AddPlanOptions(CLI::App& app, KitOptions& kit) {
-    AddChoice(app,
-              {"--symbols", "STYLE",
-               "marks the paints on the plan with letters (default: the\nsheet's), clear ones of "
-               "them, numbers or signs"},
-              kSymbolStyles, kit.Plan.Symbols);
+    AddValue(
+        app,
+        {"--symbols", "STYLE",
+         "marks the paints on the plan with letters (default: the\nsheet's), clear ones of them, "
+         "numbers, signs or mine: the\nlabels of your own paints"},
+        [&kit](const std::string& option, const std::string& value) {
+            kit.Plan.Symbols = Chosen(option, value, kSymbolStyles);
+            kit.Plan.Labels.clear();  // those of today
+        });
     AddChoice(app,
               {"--lines", "SHAPE",
                "draws the plan's borders smooth (default for paintable\nkits) or in steps (default "

@@ -40,6 +40,9 @@ class KitWriter {
         json["print"] = Print();
         json["source"] = Source();
         json["choice"] = Paints("choice", kit_.Choice);
+        if (kit_.Chosen.Buying.Asked) {
+            json["owned"] = kit_.Owned;
+        }
         json["paints"] = Paints("paints", kit_.Paints);
         json["edits"] = Edits();
         if (HasOwnBase()) {
@@ -80,38 +83,62 @@ class KitWriter {
 
     [[nodiscard]] KitJson ChosenSettings() const {
         const Settings& chosen = kit_.Chosen;
-        return With("settings", {{"difficulty", WordOf(kLevelWords, chosen.Level)},
-                                 {"finalPaints", chosen.FinalPaints},
-                                 {"mostPaints", kit_.FinalColors},
-                                 {"sample", WordOf(kSampleWords, chosen.Sample)},
-                                 {"match", WordOf(kMatchWords, chosen.Match)},
-                                 {"fit", WordOf(kFitWords, chosen.Fit)},
-                                 {"paintable", chosen.Paintable},
-                                 {"smallestMm2", chosen.Limits.SmallestMm2},
-                                 {"narrowestMm", chosen.Limits.NarrowestMm},
-                                 {"detail", chosen.Detail},
-                                 {"canvasCm", chosen.CanvasCm}});
+        KitJson settings = {{"difficulty", WordOf(kLevelWords, chosen.Level)},
+                            {"finalPaints", chosen.FinalPaints},
+                            {"mostPaints", kit_.FinalColors},
+                            {"sample", WordOf(kSampleWords, chosen.Sample)},
+                            {"match", WordOf(kMatchWords, chosen.Match)},
+                            {"fit", WordOf(kFitWords, chosen.Fit)},
+                            {"paintable", chosen.Paintable},
+                            {"smallestMm2", chosen.Limits.SmallestMm2},
+                            {"narrowestMm", chosen.Limits.NarrowestMm},
+                            {"detail", chosen.Detail},
+                            {"canvasCm", chosen.CanvasCm}};
+        if (chosen.Buying.Asked) {
+            settings["ownedFirst"] =
+                With("settings.ownedFirst",
+                     {{"worth", chosen.Buying.Worth}, {"mostToBuy", chosen.Buying.MostToBuy}});
+        }
+        return With("settings", std::move(settings));
     }
 
     [[nodiscard]] KitJson Print() const {
         const PlanSettings& plan = kit_.Print;
-        return With("print", {{"paper", With("print.paper", {{"widthMm", plan.Sheet.Size.Width},
-                                                             {"heightMm", plan.Sheet.Size.Height},
-                                                             {"inches", plan.Sheet.Inches}})},
-                              {"canvasCm", plan.CanvasCm},
-                              {"canvas", With("print.canvas", {{"widthMm", plan.Canvas.Width},
-                                                               {"heightMm", plan.Canvas.Height}})},
-                              {"inchCanvas", plan.InchCanvas},
-                              {"bleedMm", plan.BleedMm},
-                              {"symbols", WordOf(kSymbolWords, plan.Symbols)},
-                              {"lines", WordOf(kLineWords, plan.Lines)},
-                              {"gray", plan.Gray},
-                              {"coats", plan.Use.Coats},
-                              {"cm2PerMl", plan.Use.Cm2PerMl},
-                              {"potMl", plan.Use.PotMl},
-                              {"groupBySet", plan.GroupBySet},
-                              {"maker", plan.Maker},
-                              {"logo", plan.Logo.string()}});
+        KitJson print = {{"paper", With("print.paper", {{"widthMm", plan.Sheet.Size.Width},
+                                                        {"heightMm", plan.Sheet.Size.Height},
+                                                        {"inches", plan.Sheet.Inches}})},
+                         {"canvasCm", plan.CanvasCm},
+                         {"canvas", With("print.canvas", {{"widthMm", plan.Canvas.Width},
+                                                          {"heightMm", plan.Canvas.Height}})},
+                         {"inchCanvas", plan.InchCanvas},
+                         {"bleedMm", plan.BleedMm},
+                         {"symbols", WordOf(kSymbolWords, plan.Symbols)},
+                         {"lines", WordOf(kLineWords, plan.Lines)},
+                         {"gray", plan.Gray},
+                         {"coats", plan.Use.Coats},
+                         {"cm2PerMl", plan.Use.Cm2PerMl},
+                         {"potMl", plan.Use.PotMl},
+                         {"groupBySet", plan.GroupBySet},
+                         {"maker", plan.Maker},
+                         {"logo", plan.Logo.string()}};
+        if (plan.Symbols == SymbolStyle::Mine) {
+            AddLabels(print);
+        }
+        return With("print", std::move(print));
+    }
+
+    // Of every paint, so that the plan comes out the same however the shelf changes.
+    void AddLabels(KitJson& print) const {
+        KitJson labels = KitJson::array();
+        KitJson isNew = KitJson::array();
+        for (const OwnLabel& label : LabelsFor(kit_.Print.Labels, kit_.Paints)) {
+            labels.push_back(label.Text);
+            if (label.IsNew) {
+                isNew.push_back(label.Text);
+            }
+        }
+        print["labels"] = std::move(labels);
+        print["newLabels"] = std::move(isNew);
     }
 
     [[nodiscard]] KitJson Source() const {

@@ -61,8 +61,9 @@ struct KitFile {
     double SeenPerStipple = 0;
     PlanSettings Print;
     PaintSource Source;
-    PaintList Choice;  // the paints it was chosen from
-    PaintList Paints;  // the palette it got
+    PaintList Choice;        // the paints it was chosen from
+    std::vector<int> Owned;  // which of them, from 1, where what is owned goes first
+    PaintList Paints;        // the palette it got
     KitEdits Layer;
     Grid<StippleCell> Stipples;  // finished; area numbers are 0
     UnknownFields Unknown;

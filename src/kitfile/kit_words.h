@@ -32,7 +32,8 @@ inline constexpr auto kSymbolWords =
     std::to_array<KitWord<SymbolStyle>>({{"letters", SymbolStyle::Letters},
                                          {"clear", SymbolStyle::Clear},
                                          {"numbers", SymbolStyle::Numbers},
-                                         {"signs", SymbolStyle::Signs}});
+                                         {"signs", SymbolStyle::Signs},
+                                         {"mine", SymbolStyle::Mine}});
 inline constexpr auto kLineWords = std::to_array<KitWord<LineShape>>(
     {{"byKit", LineShape::ByKit}, {"smooth", LineShape::Smooth}, {"steps", LineShape::Steps}});
 

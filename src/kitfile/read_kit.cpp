@@ -7,6 +7,8 @@
 #include "kitfile/packed_values.h"
 #include "kitfile/read_edits.h"
 #include "kitfile/stipple_middle.h"
+#include "shelf/labels.h"
+#include "shell/paint_id.h"
 #include "shell/work_settings.h"
 #include "support/counter.h"
 #include "support/disk.h"
@@ -114,6 +116,12 @@ void ReadSettings(ObjectReader settings, KitFile& kit) {
     chosen.Limits.NarrowestMm = settings.Number("narrowestMm", {0, 100});
     chosen.Detail = settings.Whole("detail", {0, kMostDetail});
     chosen.CanvasCm = ReadUnlessZero(settings, "canvasCm", {1, kLargestCanvasCm});
+    if (settings.Has("ownedFirst")) {
+        ObjectReader first = settings.Object("ownedFirst");
+        chosen.Buying = {true, first.Number("worth", {0, kLargestWorth}),
+                         first.Whole("mostToBuy", {0, kMostToBuy})};
+        first.KeepUnknown();
+    }
     settings.KeepUnknown();
 }
 
@@ -133,7 +141,30 @@ SizeMm ReadCanvas(ObjectReader canvas) {
     return read;
 }
 
-PlanSettings ReadPrint(ObjectReader print) {
+// One for each paint; two of them may be one paint.
+OwnLabels ReadLabels(ObjectReader& print, const PaintList& paints) {
+    const std::vector<std::string> labels = print.List("labels");
+    const std::vector<std::string> newOnes = print.List("newLabels");
+    if (labels.size() != paints.Entries().size()) {
+        print.Refuse("labels", "must have one label for each paint");
+    }
+    OwnLabels read;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const bool alike = std::ranges::any_of(
+            labels.begin(), labels.begin() + static_cast<std::ptrdiff_t>(i),
+            [&](const std::string& other) { return AreLabelsAlike(other, labels[i]); });
+        if (labels[i].empty() || LabelOf(labels[i]) != labels[i] || alike) {
+            print.Refuse(
+                "labels",
+                "must have labels of one to three capitals or digits, no two of them alike");
+        }
+        const bool isNew = std::ranges::find(newOnes, labels[i]) != newOnes.end();
+        read.emplace(IdOf(paints.Entries()[i]), OwnLabel{labels[i], isNew});
+    }
+    return read;
+}
+
+PlanSettings ReadPrint(ObjectReader print, const PaintList& paints) {
     PlanSettings plan;
     plan.Sheet = ReadPaper(print.Object("paper"));
     plan.CanvasCm = ReadUnlessZero(print, "canvasCm", {1, kLargestCanvasCm});
@@ -149,6 +180,9 @@ PlanSettings ReadPrint(ObjectReader print) {
     plan.GroupBySet = print.Flag("groupBySet");
     plan.Maker = print.Words("maker");
     plan.Logo = print.Words("logo");
+    if (plan.Symbols == SymbolStyle::Mine) {
+        plan.Labels = ReadLabels(print, paints);
+    }
     print.KeepUnknown();
     return plan;
 }
@@ -252,6 +286,18 @@ void ReadBase(ObjectReader& whole, KitFile& kit) {
     }
 }
 
+std::vector<int> ReadOwned(ObjectReader& whole, int paints) {
+    std::vector<int> owned;
+    for (const KitJson& number : whole.Array("owned")) {
+        const int paint = number.is_number_integer() ? number.get<int>() : 0;
+        if (paint < 1 || paint > paints || (!owned.empty() && paint <= owned.back())) {
+            whole.Refuse("owned", "must have numbers of the choice's paints in ascending order");
+        }
+        owned.push_back(paint);
+    }
+    return owned;
+}
+
 KitFile ReadWhole(ObjectReader& whole) {
     KitFile kit;
     kit.Program = whole.Words("program");
@@ -265,10 +311,13 @@ KitFile ReadWhole(ObjectReader& whole) {
     }
     kit.Board = ReadBoard(whole.Object("board"));
     ReadSettings(whole.Object("settings"), kit);
-    kit.Print = ReadPrint(whole.Object("print"));
     kit.Source = ReadSource(whole.Object("source"));
     kit.Choice = ReadKitPaints(whole, "choice");
+    if (kit.Chosen.Buying.Asked) {
+        kit.Owned = ReadOwned(whole, kit.Choice.Count());
+    }
     kit.Paints = ReadKitPaints(whole, "paints");
+    kit.Print = ReadPrint(whole.Object("print"), kit.Paints);
     kit.Layer.Edits = ReadEditLayer(whole.Object("edits"));
     ReadGrid(whole.Object("grid"), kit);
     ReadBase(whole, kit);

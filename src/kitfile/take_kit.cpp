@@ -6,6 +6,7 @@
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
 #include "drawing/stipple_brush.h"
+#include "paints/owned_paints.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
 #include "shell/found_palette.h"
@@ -47,6 +48,16 @@ PaintList ChoiceOf(const Workplace& place, const PaintSource& source) {
     return paints;
 }
 
+std::vector<int> NumbersOf(const std::vector<bool>& chosen) {
+    std::vector<int> numbers;
+    for (std::size_t i = 0; i < chosen.size(); ++i) {
+        if (chosen[i]) {
+            numbers.push_back(static_cast<int>(i) + 1);
+        }
+    }
+    return numbers;
+}
+
 Photo ReadInShape(const KitFile& kit, const fs::path& file, const ScreenSize& screen) {
     auto photo = ReadPhotoInShape(file, screen, {kit.Stipples.Across(), kit.Stipples.Down()},
                                   TraitsOf(kit.Chosen.Level).StippleSize);
@@ -68,6 +79,7 @@ void TakeSettings(WorkState& state, const KitFile& kit) {
     state.Chosen = kit.Chosen;
     state.Chosen.WatchItPaint = watch;
     state.FinalColors = kit.FinalColors;
+    state.OwnedPaints = OwnedOf(kit);
     TakeSource(state, state, kit.Source);
 }
 
@@ -95,6 +107,14 @@ void DrawGrid(Workplace& place) {
 }
 
 }  // namespace
+
+PaintList OwnedOf(const KitFile& kit) {
+    PaintList owned;
+    for (const int paint : kit.Owned) {
+        owned.Add(kit.Choice[paint]);
+    }
+    return owned;
+}
 
 PaintSource SourceOf(const Catalogue& catalogue, const PaintChoice& choice) {
     const bool fromSets = choice.PaintShopLoaded ? choice.MfgSelected : !choice.TemplateMode;
@@ -144,8 +164,13 @@ KitFile KitOf(const Workplace& place, const KitPhoto& photo, const PlanSettings&
     kit.SeenPerStipple = state.PaintableKit ? state.SeenPerStipple : 0;
     kit.Print = print;
     kit.Source = SourceOf(state, state);
-    const bool sameSource = before != nullptr && before->Source == kit.Source;
+    const bool sameSource = before != nullptr && before->Source == kit.Source &&
+                            before->Chosen.Buying.Asked == kit.Chosen.Buying.Asked;
     kit.Choice = sameSource ? before->Choice : WithoutCounts(ChoiceOf(place, kit.Source));
+    if (kit.Chosen.Buying.Asked) {
+        JoinOwned(kit.Choice, WithoutCounts(state.OwnedPaints));
+        kit.Owned = NumbersOf(WhichAreOwned(kit.Choice, state.OwnedPaints));
+    }
     TakeStipples(kit, {state.PaintColors, state.Stipples, state});
     if (before != nullptr) {
         kit.Unknown = before->Unknown;

@@ -28,6 +28,9 @@ void TakeStipples(KitFile& kit, const KitStipples& stipples);
 /// The paints of new conversions come from there; sets that the catalogue lacks are left out.
 void TakeSource(Catalogue& catalogue, PaintChoice& choice, const PaintSource& source);
 
+/// The paints that go before others where the kit was chosen so.
+[[nodiscard]] PaintList OwnedOf(const KitFile& kit);
+
 /// Takes up a kit as it was finished, with its settings and the photo in that file, and draws its
 /// stipples, to be painted as if it had just been converted. Throws FileError, FormatError when the
 /// photo cannot be read; nothing has changed then.

@@ -1,9 +1,12 @@
 #include "paints/restore.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "paints/owned_paints.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
+#include "shell/palette.h"
 
 namespace vendrel {
 
@@ -20,10 +23,14 @@ void RestorePaintColors(Workplace& place) {
     }
     if (state.MfgSelected) {
         LoadColors(state, state, state);
-        return;
+    } else if (!LoadTemplateColors(place, state.SelectedTemplate)) {
+        return;  // a template without paints has told the user so and left the palette empty
     }
-    // A template without paints has told the user so and left the palette empty.
-    (void)LoadTemplateColors(place, state.SelectedTemplate);
+    if (state.Chosen.Buying.Asked) {
+        PaintList paints = state.PaintColors;
+        JoinOwned(paints, state.OwnedPaints);
+        SetPalette(state, std::move(paints));
+    }
 }
 
 }  // namespace vendrel

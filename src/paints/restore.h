@@ -10,7 +10,7 @@ namespace vendrel {
 [[nodiscard]] int SetMaxFinalColors(const Settings& chosen, int n);
 
 /// Rebuilds the palette from the paint shop's choice: the selected paint sets or the selected
-/// template. Throws when the template cannot be read.
+/// template, and what is owned where that goes first. Throws when the template cannot be read.
 void RestorePaintColors(Workplace& place);
 
 }  // namespace vendrel

@@ -15,9 +15,9 @@ class Exporter {
     Exporter& operator=(const Exporter&) = delete;
     virtual ~Exporter() = default;
 
-    /// How wide the symbols of so many paints are as the pages show them. Throws Error for a
+    /// How wide the symbols of a kit's paints are as the pages show them. Throws Error for a
     /// missing font.
-    [[nodiscard]] virtual SymbolAspects Aspects(SymbolStyle style, int paints) const = 0;
+    [[nodiscard]] virtual SymbolAspects Aspects(const PaintMarks& marks) const = 0;
 
     /// The first page of the plan as it would be printed, so many pixels at its longer side. Throws
     /// as Write.

@@ -8,12 +8,6 @@
 namespace vendrel {
 namespace {
 
-int PotsFor(double ml, const PaintUse& use) {
-    constexpr double kRounding = 1e-9;
-    return use.PotMl > 0 ? static_cast<int>(std::ceil(ml * (1 + kToSpare) / use.PotMl - kRounding))
-                         : 0;
-}
-
 std::string Short(double number) {
     return Decimals(number, number == std::floor(number) ? 0 : 1);
 }
@@ -41,9 +35,14 @@ std::vector<PaintNeed> PaintNeeds(const PaintedPages& painted, int paints, const
         PaintNeed& need = of(paint);
         need.Paint = paint;
         need.Ml = need.Cm2 * use.Coats / use.Cm2PerMl;
-        need.Pots = PotsFor(need.Ml, use);
+        need.Pots = PotsOf(need.Ml * (1 + kToSpare), use.PotMl);
     }
     return needs;
+}
+
+int PotsOf(double ml, double potMl) {
+    constexpr double kRounding = 1e-9;
+    return potMl > 0 ? static_cast<int>(std::ceil(ml / potMl - kRounding)) : 0;
 }
 
 PaintNeed SumOf(const std::vector<PaintNeed>& needs) {

@@ -44,6 +44,9 @@ struct PaintedPages {
 [[nodiscard]] std::vector<PaintNeed> PaintNeeds(const PaintedPages& painted, int paints,
                                                 const PaintUse& use);
 
+/// Pots of a size to buy for so much paint; 0 when their size is not known.
+[[nodiscard]] int PotsOf(double ml, double potMl);
+
 /// All of them together; no paint and no pages.
 [[nodiscard]] PaintNeed SumOf(const std::vector<PaintNeed>& needs);
 

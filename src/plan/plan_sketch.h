@@ -7,6 +7,7 @@
 #include "plan/inscribed_boxes.h"
 #include "plan/page_tiling.h"
 #include "plan/paint_finder.h"
+#include "plan/paint_marks.h"
 #include "plan/paint_needs.h"
 #include "plan/painted_regions.h"
 #include "plan/symbol_room.h"
@@ -35,6 +36,7 @@ struct PlanSettings {
     double BleedMm = 0;   // around it, for wrapping round a frame; where it is the paper too
     bool InchCanvas = false;  // the painter named it in inches
     SymbolStyle Symbols = SymbolStyle::Letters;
+    OwnLabels Labels = {};  // for SymbolStyle::Mine: those of the shelf
     LineShape Lines = LineShape::ByKit;
     int Gray = kUsualGray;  // kLightestGray..kDarkestGray
     PaintUse Use = {};

@@ -28,16 +28,20 @@ void PlannedKit::Choose(const PlanSettings& wanted) {
         onPages_.reset();
         inOnePiece_.reset();
     }
-    if (wanted.Symbols != settings_.Symbols) {
+    if (wanted.Symbols != settings_.Symbols || wanted.Labels != settings_.Labels) {
         sketch_.reset();
     }
     settings_ = wanted;
 }
 
+PaintMarks PlannedKit::Marks() const {
+    return MarksFor(settings_.Symbols, settings_.Labels, place_.State->PaintColors);
+}
+
 const PlanSketch& PlannedKit::Sketch() {
     if (!sketch_) {
-        sketch_ = SketchPlan(place_.State, place_.Frames->WorkFrame.Picture,
-                             fonts_.Aspects(settings_.Symbols, place_.State->PaintCount));
+        sketch_ =
+            SketchPlan(place_.State, place_.Frames->WorkFrame.Picture, fonts_.Aspects(Marks()));
     }
     return *sketch_;
 }
@@ -56,6 +60,13 @@ const PrintPlan& PlannedKit::InOnePiece() {
                                : MakePrintPlan(place_.State, Sketch(), settings_, PlanCut::Nowhere);
     }
     return *inOnePiece_;
+}
+
+std::vector<PaintNeed> PlannedKit::Needs() {
+    const PlanSketch& sketch = Sketch();
+    const PlanSheets sheets = LayOutSheets(sketch, settings_);
+    return PaintNeeds({sketch.Regions, sketch.Paints, sheets.Pages, sheets.Scale},
+                      place_.State->PaintCount, settings_.Use);
 }
 
 PlanFigures PlannedKit::Figures() {

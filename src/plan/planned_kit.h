@@ -22,10 +22,14 @@ class PlannedKit {
 
     [[nodiscard]] const Workplace& Place() const { return place_; }
     [[nodiscard]] const PlanSettings& Settings() const { return settings_; }
+    /// What marks the paints.
+    [[nodiscard]] PaintMarks Marks() const;
     [[nodiscard]] const PlanSketch& Sketch();
     [[nodiscard]] const PrintPlan& OnPages();
     /// The same for drawings without pages.
     [[nodiscard]] const PrintPlan& InOnePiece();
+    /// What the paints are needed for, by the pages that would be printed.
+    [[nodiscard]] std::vector<PaintNeed> Needs();
     /// With the symbols as they are printed.
     [[nodiscard]] PlanFigures Figures();
     /// The same, without the symbols unless the plan is laid out already.

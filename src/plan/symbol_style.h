@@ -10,7 +10,8 @@ enum class SymbolStyle {
     Letters,  // the sheet's
     Clear,    // of the sheet's those that are told apart best
     Numbers,  // 1, 2, 3 ...
-    Signs     // drawn shapes
+    Signs,    // drawn shapes
+    Mine      // the labels of the painter's own pots
 };
 
 /// The letter of each paint, from the first on: for Letters the sheet's own, for Clear as many of

@@ -380,12 +380,16 @@ Shelf SaveShelf(const ProgramFolder& folder, const Shelf& before, const Shelf& a
     return ChangeShelf(folder, [&](Shelf& shelf) { shelf = MergeShelves(shelf, before, after); });
 }
 
+void RefuseEmptyShelf(const ProgramFolder& folder) {
+    throw FileError(ShelfPath(folder),
+                    "names no paint that is left and whose color is known. Add paints with "
+                    "\"vendrel paints --import FILE\".");
+}
+
 PaintList WriteShelfTemplate(const ProgramFolder& folder, const Shelf& shelf) {
     const PaintList paints = OwnedPaints(shelf);
     if (paints.Empty()) {
-        throw FileError(ShelfPath(folder),
-                        "names no paint that is left and whose color is known. Add paints with "
-                        "\"vendrel paints --add\" or --import.");
+        RefuseEmptyShelf(folder);
     }
     WriteTemplate(TemplatePath(folder, kShelfTemplate), paints);
     return paints;

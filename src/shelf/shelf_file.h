@@ -33,6 +33,9 @@ Shelf ChangeShelf(const ProgramFolder& folder, const std::function<void(Shelf&)>
 /// The same for a window that has changed a copy: see MergeShelves.
 Shelf SaveShelf(const ProgramFolder& folder, const Shelf& before, const Shelf& after);
 
+/// Throws Error for a shelf without a paint to paint with.
+[[noreturn]] void RefuseEmptyShelf(const ProgramFolder& folder);
+
 /// The template that carries what the painter owns to the conversion.
 inline constexpr std::string_view kShelfTemplate = "My Paints (shelf)";
 /// Writes it and answers its paints. Throws Error when nothing is owned, FileError.

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "shell/records.h"
+
 namespace vendrel {
 
 /// What the paint shop keeps while it is closed: which paints the palette is restored from.
@@ -14,7 +16,8 @@ struct PaintChoice {
     bool TemplateLoaded = false;
     std::string SelectedTemplate;
     std::string LastTemplate;
-    int SwatchSize = 0;  // pixels
+    PaintList OwnedPaints;  // that go before others, see OwnedFirst
+    int SwatchSize = 0;     // pixels
 };
 
 }  // namespace vendrel

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "shell/owned_first.h"
 #include "shell/paint_limits.h"
 #include "support/print_scale.h"
 
@@ -63,6 +64,7 @@ struct Settings {
     int Detail = kUsualDetail;
     double CanvasCm = 0;            // width of the finished canvas; 0: none was named
     PhotoFit Fit = PhotoFit::Keep;  // for the photos that need it
+    OwnedFirst Buying;              // when matched by eye
 
     bool operator==(const Settings&) const = default;
 };

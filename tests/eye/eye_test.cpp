@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <random>
 #include <span>
@@ -173,6 +174,39 @@ std::int64_t SumOver(const SeenTable& table, std::span<const int> stipples,
         sum += std::int64_t{least} * stipples[static_cast<std::size_t>(c)];
     }
     return sum;
+}
+
+TEST(PaintsByEye, BuysOnlyWhatIsWorthIt) {
+    std::mt19937 random(5);
+    std::vector<Color> colors;
+    for (int i = 0; i < 120; ++i) {
+        colors.push_back(static_cast<Color>(random() & 0xFFFFFF));
+    }
+    const std::vector<int> stipples(colors.size(), 10);
+    const SeenTable table(colors, std::span(colors).first(40));
+    std::size_t before = 40;
+    for (const auto& [worth, most] :
+         {std::pair{0.0, 12}, {0.2, 12}, {0.4, 12}, {0.4, 2}, {0.4, 0}, {20.0, 12}}) {
+        BuyTerms terms{std::vector<bool>(40), worth, most};
+        std::fill_n(terms.IsOwned.begin(), 15, true);
+        const std::vector<int> chosen = ChoosePaintsByEye(table, stipples, 12, terms);
+        const std::int64_t sum = SumOver(table, stipples, chosen);
+        std::size_t bought = 0;
+        for (const int paint : chosen) {
+            if (paint < 15) {
+                continue;
+            }
+            ++bought;
+            std::vector<int> without = chosen;
+            std::erase(without, paint);
+            EXPECT_GT(SumOver(table, stipples, without) - sum,
+                      std::llround(worth * kSeenUnit * 1200));
+        }
+        EXPECT_LE(bought, static_cast<std::size_t>(most));
+        EXPECT_LE(bought, before) << worth;
+        before = bought;
+    }
+    EXPECT_EQ(before, 0U);
 }
 
 TEST(PaintsByEye, CannotBeExchangedForBetterOnes) {

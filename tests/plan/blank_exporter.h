@@ -7,7 +7,7 @@ namespace vendrel::test {
 /// An exporter without fonts or drawing; what it writes is left to the test.
 class BlankExporter : public Exporter {
   public:
-    SymbolAspects Aspects(SymbolStyle /*style*/, int /*paints*/) const override {
+    SymbolAspects Aspects(const PaintMarks& /*marks*/) const override {
         SymbolAspects aspects;
         aspects.fill(0.7);
         return aspects;
