@@ -29,7 +29,7 @@ struct PaintNeed {
     double Cm2 = 0;
     double Ml = 0;
     int Pots = 0;                    // 0 when their size is not known
-    std::vector<std::string> Pages;  // of the plan where it occurs
+    std::vector<std::string> Pages{};  // of the plan where it occurs
 };
 
 /// What is to be painted.

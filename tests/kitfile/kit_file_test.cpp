@@ -50,7 +50,8 @@ KitFile OddKit() {
                   .Limits = {9.5, 1.25},
                   .Detail = 70,
                   .CanvasCm = 40.3,
-                  .Fit = PhotoFit::CropTop};
+                  .Fit = PhotoFit::CropTop,
+                  .Buying = {true, 0.125, 3}};
     kit.FinalColors = 2;
     kit.PaintableKit = true;
     kit.SeenPerStipple = 3.0625;
@@ -59,7 +60,9 @@ KitFile OddKit() {
                  .Canvas = {400, 500},
                  .BleedMm = 20,
                  .InchCanvas = true,
-                 .Symbols = SymbolStyle::Signs,
+                 .Symbols = SymbolStyle::Mine,
+                 .Labels = {{IdOf(Paint(1, "Sand")), {"A2", false}},
+                            {IdOf(Paint(2, "Sea")), {"C", true}}},
                  .Lines = LineShape::Steps,
                  .Gray = 70,
                  .Use = {3, 40.5, 59},
@@ -68,6 +71,7 @@ KitFile OddKit() {
                  .Logo = "/home/ann/logo.png"};
     kit.Source = {{"Craft", "Oils"}, {}};
     kit.Choice = {Paint(1, "Sand"), Paint(2, "Sea"), Paint(3, "Sky")};
+    kit.Owned = {1, 3};
     kit.Paints = {Paint(1, "Sand"), Paint(2, "Sea")};
     kit.Stipples = Cells({{1, 2, 2}, {1, 1, 2}});
     kit.Stipples(2, 1).X = 77;
@@ -107,6 +111,7 @@ TEST(KitFile, GivesBackAllThatWasWritten) {
     EXPECT_EQ(read.Print, kit.Print);
     EXPECT_EQ(read.Source, kit.Source);
     EXPECT_EQ(read.Choice, kit.Choice);
+    EXPECT_EQ(read.Owned, kit.Owned);
     EXPECT_EQ(read.Paints, kit.Paints);
     EXPECT_EQ(read.Stipples, kit.Stipples);
     EXPECT_EQ(read.Layer.BasePaints, kit.Layer.BasePaints);
