@@ -4,7 +4,7 @@ source "${BASH_SOURCE[0]%/*}/progress.sh"
 # What the program is built from and runs with: its core, and what fonts, photo decoders and windows
 # need.
 core_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev nettle-dev zlib1g-dev)
-window_packages=(qt6-base-dev qt6-image-formats-plugins libheif-dev fonts-liberation)
+window_packages=(qt6-base-dev qt6-image-formats-plugins libheif-dev libqrencode-dev libqpdf-dev fonts-liberation)
 build_packages=("${core_packages[@]}" "${window_packages[@]}")
 
 # install_missing PACKAGE...

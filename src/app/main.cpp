@@ -55,5 +55,5 @@ int main(int argc, char** argv) {
         execv(studio->c_str(), argv);
     }
     const vendrel::ChildDecoder decoder(*studio);
-    return vendrel::RunProgram(words, {.Decoder = &decoder});
+    return vendrel::RunProgram(words, {.Decoder = &decoder, .Studio = *studio});
 }

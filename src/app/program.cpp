@@ -68,6 +68,7 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
         .Shipped = shipped,
         .Version = VENDREL_VERSION,
         .Program = OwnFolder() / "vendrel",
+        .Studio = parts.Studio,
         .Decoder = parts.Decoder,
         .MakeSymbols = parts.MakeSymbols,
         .MakeExporter = parts.MakeExporter,

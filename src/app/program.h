@@ -17,6 +17,7 @@ namespace vendrel {
 /// What only the half with fonts and windows can do, by itself or for the other.
 struct QtParts {
     const PhotoDecoder* Decoder = nullptr;
+    std::filesystem::path Studio = {};  // its program
     std::function<MadeSymbols(const ProgramFolder&)> MakeSymbols = {};
     std::function<std::unique_ptr<Exporter>()> MakeExporter = {};
     std::function<std::filesystem::path()> Documents = {};

@@ -2,6 +2,7 @@
 // does.
 
 #include "app/decode_command.h"
+#include "app/join_command.h"
 #include "app/program.h"
 #include "convert/child_decoder.h"
 #include "desktop/desktop.h"
@@ -12,6 +13,9 @@ int main(int argc, char** argv) {
     const auto words = vendrel::WordsOf(argc, argv);
     if (words.size() == 1 && words.front() == "--decode") {
         return vendrel::RunDecodeCommand();
+    }
+    if (words.size() > 2 && words.front() == "--join") {
+        return vendrel::RunJoinCommand(std::span(words).subspan(1));
     }
     // Not by its path, where another version may lie by now.
     const vendrel::ChildDecoder decoder("/proc/self/exe");

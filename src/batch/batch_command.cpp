@@ -5,8 +5,10 @@
 #include "batch/batch_options.h"
 #include "batch/batch_run.h"
 #include "batch/check_orders.h"
+#include "batch/kit_names.h"
 #include "batch/kit_worker.h"
 #include "batch/merge_manifests.h"
+#include "batch/print_run.h"
 #include "batch/read_orders.h"
 #include "batch/report_page.h"
 #include "batch/verify_orders.h"
@@ -111,13 +113,20 @@ int Merge(const BatchOptions& options, const Surroundings& around) {
         orders.push_back({.Id = id, .Line = 0, .Photo = entry.Photo});
         reported.push_back({&orders.back(), &entry});
     }
-    WriteWholeFile(places.Report(), ReportPage(reported, places));
+    WriteReports(reported, places, around);
     const bool all =
         std::ranges::all_of(merged, [](const auto& known) { return known.second.Done; });
     if (!options.Quiet) {
         around.Out << merged.size() << " orders in one manifest\n";
     }
     return all ? kDone : kFailed;
+}
+
+// Names and leaflets may take up any column.
+bool ReadsAllColumns(const OrderList& list, const BatchOptions& options) {
+    return !options.Names.empty() || HasLeaflet(options.Words) ||
+           std::ranges::any_of(list.Orders,
+                               [](const Order& order) { return HasLeaflet(order.Words); });
 }
 
 int Run(const BatchOptions& options, const Surroundings& around) {
@@ -131,9 +140,12 @@ int Run(const BatchOptions& options, const Surroundings& around) {
     if (options.Task == BatchTask::Verify) {
         return Verify(options, around);
     }
+    if (!options.PrintRun.empty()) {
+        RequireJoiner(around);
+    }
     OrderList list = ReadOrders(options.Orders);
     CheckOrders(list, options, around);
-    if (!options.Quiet) {
+    if (!options.Quiet && !ReadsAllColumns(list, options)) {
         for (const std::string& column : list.Unused) {
             around.Err << "vendrel: " << Shown(options.Orders) << ": the column "
                        << Printable(column) << " is no setting of a kit.\n";

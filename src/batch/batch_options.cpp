@@ -18,10 +18,15 @@ each in a folder of its own, Orders/<order>.
 ORDERS is a table as spreadsheets write it (.csv). Its first row names the columns,
 in any order; only photo must be there: order, photo, title, canvas, difficulty,
 final paints, sets (between |), template, match, fit, paintable, smallest spot,
-narrowest, detail, symbols, lines, outputs, paper, bleed, pot, maker, note.
-Photos are looked for beside the list. All rows are checked before the first kit.
+narrowest, detail, symbols, lines, outputs, paper, bleed, pot, maker, address, accent,
+logo, leaflet, note. Photos, logos and leaflets are looked for beside the list. All
+rows are checked before the first kit. Pages carry the order, and leaflets may name
+any column, as in {customer}.
 
   --jobs N         so many kits side by side (as many as processors and memory allow)
+  --names PATTERN  names the kits, as in "{order} {title} {difficulty}"; {customer} is
+                   what the column customer has
+  --print-run FILE joins the PDFs of all orders into one, in the list's order
   --dry-run        says what would be made
   --retry-failed   tries orders again that failed as they are
   --verify         looks whether the files are what was written
@@ -34,7 +39,8 @@ Photos are looked for beside the list. All rows are checked before the first kit
 
 All settings of "vendrel kit" hold for every order; a row goes before them.
 Orders/batch.jsonl has a line for each order that was made or failed. Run again, only
-what is missing or has changed is made.
+what is missing or has changed is made. Orders/paints.csv has the paints to buy for all
+of them.
 )";
 
 class BatchWords {
@@ -93,16 +99,23 @@ class BatchWords {
 
     bool TakeValue(std::string_view word) {
         const std::string_view name = word.substr(0, word.find('='));
-        if (name != "--jobs" && name != "--shard") {
+        const auto taken = std::ranges::find(kValues, name, &Value::Word);
+        if (taken == kValues.end()) {
             return false;
         }
         if (name == word && rest_.empty()) {
             throw UsageError(std::string(name) + " needs a value behind it.");
         }
         const std::string_view value = name == word ? Next() : word.substr(name.size() + 1);
-        name == "--jobs" ? TakeJobs(value) : TakeShard(value);
+        if (value.empty()) {
+            throw UsageError(std::string(name) + " needs a value that is not empty.");
+        }
+        (this->*taken->Take)(value);
         return true;
     }
+
+    void TakeNames(std::string_view value) { options_.Names = value; }
+    void TakePrintRun(std::string_view value) { options_.PrintRun = value; }
 
     static int NumberIn(std::string_view text, int most) {
         int number = 0;
@@ -149,6 +162,9 @@ class BatchWords {
         if (!kit.Title.empty()) {
             throw UsageError("--title names one kit. Put a column title into the list.");
         }
+        if (!kit.Plan.Shop.Order.empty()) {
+            throw UsageError("--order is one kit's. Put a column order into the list.");
+        }
         if (kit.FromGrid || !kit.KitPhoto.empty()) {
             throw UsageError("--from-grid and --photo are for one kit, not for a batch.");
         }
@@ -156,10 +172,36 @@ class BatchWords {
             options_.Orders = kit.Photos.front();
             options_.Words.erase(std::ranges::find(options_.Words, kit.Photos.front()));
         }
+        JoinFileWords();
+        // What is said meanwhile makes no kit another one.
+        std::erase_if(options_.Words, [](const std::string& word) {
+            return word == "--quiet" || word == "--json";
+        });
         options_.Folder = kit.Folder;
         options_.Quiet = kit.Quiet;
         options_.Json = kit.Json;
     }
+
+    // A setting that names a file is one word, so that the file can be seen to change.
+    void JoinFileWords() {
+        std::vector<std::string>& words = options_.Words;
+        for (std::size_t i = 0; i + 1 < words.size(); ++i) {
+            if (words[i] == "--like" || words[i] == "--leaflet" || words[i] == "--logo") {
+                words[i] += "=" + words[i + 1];
+                words.erase(words.begin() + static_cast<std::ptrdiff_t>(i) + 1);
+            }
+        }
+    }
+
+    struct Value {
+        std::string_view Word;
+        void (BatchWords::*Take)(std::string_view);
+    };
+    static constexpr auto kValues =
+        std::to_array<Value>({{"--jobs", &BatchWords::TakeJobs},
+                              {"--shard", &BatchWords::TakeShard},
+                              {"--names", &BatchWords::TakeNames},
+                              {"--print-run", &BatchWords::TakePrintRun}});
 
     std::span<const std::string_view> rest_;
     BatchOptions options_;

@@ -34,6 +34,8 @@ struct BatchOptions {
     std::filesystem::path Orders;        // a list or a folder of photos
     std::filesystem::path Folder = ".";  // has the folder Orders
     std::vector<std::string> Words{};    // for every kit, without what is the batch's own
+    std::string Names{};                 // a pattern for the kits' names; empty: none
+    std::filesystem::path PrintRun{};    // all PDFs in one; empty: not asked for
     int Jobs = 0;                        // 0: as many as fit
     bool RetryFailed = false;
     bool Quiet = false;

@@ -4,10 +4,14 @@
 #include <utility>
 
 #include "batch/batch_progress.h"
+#include "batch/kit_names.h"
 #include "batch/kit_worker.h"
+#include "batch/paint_totals.h"
+#include "batch/print_run.h"
 #include "batch/read_orders.h"
 #include "batch/report_page.h"
 #include "kitset/sha256.h"
+#include "shelf/shelf_file.h"
 #include "shell/ui.h"
 #include "support/disk.h"
 #include "support/error.h"
@@ -170,7 +174,10 @@ class OrdersRun {
                 orders.push_back({order.What, &known->second});
             }
         }
-        WriteWholeFile(places_.Report(), ReportPage(orders, places_));
+        WriteReports(orders, places_, around_);
+        if (!options_.PrintRun.empty()) {
+            WritePrintRun(orders, places_, options_.PrintRun, around_);
+        }
     }
 
     const BatchOptions& options_;
@@ -186,6 +193,14 @@ class OrdersRun {
 };
 
 }  // namespace
+
+void WriteReports(const std::vector<ReportedOrder>& orders, const BatchPlaces& places,
+                  const Surroundings& around) {
+    const Shelf shelf = ReadShelf(ProgramFolder(places.Root(), around.Shipped));
+    const std::vector<PaintTotal> totals = TotalPaints(orders, shelf);
+    WriteWholeFile(places.Paints(), FormatTotals(totals));
+    WriteWholeFile(places.Report(), ReportPage(orders, totals, places));
+}
 
 OrderNeed NeedOf(const ManifestEntry* known, const std::string& inputs, const fs::path& root) {
     if (known == nullptr) {
@@ -210,7 +225,7 @@ std::vector<PlannedOrder> PlanOrders(const OrderList& list, const BatchOptions& 
             continue;
         }
         const Order& order = list.Orders[i];
-        PlannedOrder planned{&order, WordsOver(options.Words, order)};
+        PlannedOrder planned{&order, WordsWithOrder(WordsOver(options.Words, order), order)};
         try {
             planned.Inputs = InputsOf(order, planned.Words, options.Folder, version);
         } catch (const FileError& error) {  // this order's alone

@@ -4,6 +4,7 @@
 #include "batch/manifest.h"
 #include "batch/order.h"
 #include "batch/order_folder.h"
+#include "batch/report_page.h"
 #include "kit/command_line.h"
 
 namespace vendrel {
@@ -31,6 +32,10 @@ struct BatchOutcome {
 /// nothing can be kept, Stop when asked to.
 [[nodiscard]] BatchOutcome RunOrders(const OrderList& list, const BatchOptions& options,
                                      const Surroundings& around);
+
+/// The page about the orders and the table of all their paints. Throws FileError, FormatError.
+void WriteReports(const std::vector<ReportedOrder>& orders, const BatchPlaces& places,
+                  const Surroundings& around);
 
 /// The settings of an order's kit, and the sum of all that it depends on.
 struct PlannedOrder {

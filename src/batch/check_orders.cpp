@@ -4,8 +4,10 @@
 #include <map>
 #include <utility>
 
+#include "batch/kit_names.h"
 #include "batch/order_columns.h"
 #include "batch/read_orders.h"
+#include "convert/picture_name.h"
 #include "kit/arguments.h"
 #include "kit/kit_command.h"
 #include "kit/photo_lookup.h"
@@ -26,8 +28,8 @@ class OrderCheck {
     void Run() {
         for (Order& order : list_.Orders) {
             FindItsPhoto(order);
-            if (FieldsAreRight(order)) {
-                CheckSettings(order);
+            if (FieldsAreRight(order) && SettingsAreRight(order)) {
+                SettleKit(order);
             }
         }
         std::ranges::stable_sort(list_.Faults, {}, &OrderFault::Line);
@@ -52,13 +54,26 @@ class OrderCheck {
     bool FieldsAreRight(const Order& order) {
         bool right = true;
         for (const auto& [heading, field] : order.Fields) {
-            const std::string sentence = WrongIn(WordsOfOne(order, ColumnOf(heading), field));
+            const OrderColumn column = ColumnOf(heading);
+            const std::vector<std::string> words = WordsOfOne(order, column, field);
+            const bool missing =
+                column.Kind == ColumnKind::File && !field.empty() && !NamesFile(order, column);
+            const std::string sentence = missing ? "there is no file " + field + ". Look for it."
+                                         : words.empty() ? ""
+                                                         : WrongIn(words);
             if (!sentence.empty()) {
                 Fault(order, heading, sentence);
                 right = false;
             }
         }
         return right;
+    }
+
+    static bool NamesFile(const Order& order, const OrderColumn& column) {
+        return std::ranges::any_of(order.Words, [&](const std::string& word) {
+            return word.starts_with(column.Option + "=") &&
+                   IsFile(word.substr(column.Option.size() + 1));
+        });
     }
 
     // Those of one field alone. A switch that is neither was found when it was read.
@@ -86,10 +101,7 @@ class OrderCheck {
         }
         std::string sentence;
         try {
-            std::vector<std::string_view> line = {"kit"};
-            line.insert(line.end(), words.begin(), words.end());
-            line.emplace_back("-");
-            KitOptions options = ParseArguments(line).Kit;
+            KitOptions options = KitOf(words);
             options.Folder = options_.Folder;
             RequireSettings(options, around_);
         } catch (const Error& error) {
@@ -98,10 +110,50 @@ class OrderCheck {
         return known_[words] = sentence;
     }
 
-    void CheckSettings(const Order& order) {
-        const std::string sentence = WrongIn(WordsOver(options_.Words, order));
+    [[nodiscard]] static KitOptions KitOf(const std::vector<std::string>& words) {
+        std::vector<std::string_view> line = {"kit"};
+        line.insert(line.end(), words.begin(), words.end());
+        line.emplace_back("-");
+        return ParseArguments(line).Kit;
+    }
+
+    bool SettingsAreRight(const Order& order) {
+        std::vector<std::string> words = WordsOver(options_.Words, order);
+        if (HasLeaflet(words)) {
+            const std::vector<std::string> fields = FieldsOf(order);
+            words.insert(words.end(), fields.begin(), fields.end());
+        }
+        const std::string sentence = WrongIn(words);
         if (!sentence.empty()) {
             Fault(order, "", sentence);
+        }
+        return sentence.empty();
+    }
+
+    // What hangs on all settings together: the kit's name, and a place in the print run.
+    void SettleKit(Order& order) {
+        if (options_.Names.empty() && options_.PrintRun.empty()) {
+            return;
+        }
+        KitOptions kit = KitOf(WordsOver(options_.Words, order));
+        if (!kit.Like.empty()) {
+            kit = OptionsLike(kit);
+        }
+        if (!options_.PrintRun.empty() && !kit.Outputs.Chosen.Has(OutputId::Pdf)) {
+            Fault(order, "outputs", "a print run needs a pdf of each order. Add pdf to it.");
+        }
+        if (options_.Names.empty()) {
+            return;
+        }
+        const std::string name =
+            KitNameOf(order, options_.Names, std::string(TraitsOf(kit.Chosen.Level).Option));
+        if (name.empty() || !MayNameKit(name)) {
+            Fault(order, "--names",
+                  "gives \"" + name +
+                      "\", which cannot name files. Leave out slashes, dots and "
+                      "control characters.");
+        } else {
+            NameKit(order, name);
         }
     }
 

@@ -65,8 +65,9 @@ std::vector<std::string> KitWords(const Order& order, const std::vector<std::str
                                   const fs::path& folder) {
     std::vector<std::string> words = {"kit"};
     words.insert(words.end(), settings.begin(), settings.end());
-    words.insert(words.end(), {"--folder=" + folder.string(), "--save-kit", "--replace-grid",
-                               "--json", "--no-compare", "--quiet", "--", order.Photo.string()});
+    words.insert(words.end(),
+                 {"--folder=" + folder.string(), "--save-kit", "--replace-grid", "--json",
+                  "--no-compare", "--needs", "--quiet", "--", order.Photo.string()});
     return words;
 }
 

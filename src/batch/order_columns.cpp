@@ -6,6 +6,7 @@
 #include "support/csv_table.h"
 #include "support/error.h"
 #include "support/letter_case.h"
+#include "support/placeholders.h"
 
 namespace vendrel {
 namespace {
@@ -41,14 +42,11 @@ constexpr auto kHeadings = std::to_array<Heading>({
     {"bleed", ColumnKind::Words, "--bleed"},
     {"pot", ColumnKind::Words, "--pot"},
     {"maker", ColumnKind::Words, "--maker"},
+    {"address", ColumnKind::Words, "--address"},
+    {"accent", ColumnKind::Words, "--accent"},
+    {"logo", ColumnKind::File, "--logo"},
+    {"leaflet", ColumnKind::File, "--leaflet"},
 });
-
-std::string Plain(std::string_view heading) {
-    std::string name = ToLower(Trimmed(heading));
-    std::ranges::replace(name, '-', ' ');
-    std::ranges::replace(name, '_', ' ');
-    return name;
-}
 
 bool IsYes(std::string_view field) {
     constexpr auto kYes = std::to_array<std::string_view>({"yes", "y", "x", "1", "true"});
@@ -78,7 +76,7 @@ std::vector<std::string> WordsOfNames(const std::string& option, std::string_vie
 }  // namespace
 
 OrderColumn ColumnOf(std::string_view heading) {
-    const auto found = std::ranges::find(kHeadings, Plain(heading), &Heading::Name);
+    const auto found = std::ranges::find(kHeadings, PlaceholderName(heading), &Heading::Name);
     return found == kHeadings.end() ? OrderColumn{}
                                     : OrderColumn{found->Kind, std::string(found->Option)};
 }
@@ -89,6 +87,7 @@ std::vector<std::string> WordsOfField(const OrderColumn& column, std::string_vie
     }
     switch (column.Kind) {
         case ColumnKind::Words:
+        case ColumnKind::File:
             return {column.Option + "=" + std::string(field)};
         case ColumnKind::Names:
             return WordsOfNames(column.Option, field);

@@ -12,6 +12,7 @@ enum class ColumnKind {
     Id,
     Photo,
     Words,   // the value of a setting of `vendrel kit`
+    File,    // the same, of a file beside the list
     Names,   // several of them between | or line ends
     Switch,  // yes or no
     Text     // the shop's own

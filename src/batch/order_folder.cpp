@@ -1,6 +1,7 @@
 #include "batch/order_folder.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 #include <utility>
 
@@ -16,6 +17,9 @@ namespace vendrel {
 namespace {
 
 namespace fs = std::filesystem;
+
+// Settings that are what their file holds.
+constexpr auto kFileOptions = std::to_array<std::string_view>({"--like=", "--leaflet=", "--logo="});
 
 // Of a painter's folder what a kit depends on.
 std::vector<fs::path> DataFiles(const fs::path& root) {
@@ -54,6 +58,10 @@ fs::path BatchPlaces::Report() const {
     return Orders() / (name_ == "batch" ? "report.html" : name_ + " report.html");
 }
 
+fs::path BatchPlaces::Paints() const {
+    return Orders() / (name_ == "batch" ? "paints.csv" : name_ + " paints.csv");
+}
+
 void CopyData(const fs::path& root, const fs::path& orderFolder) {
     for (const fs::path& file : DataFiles(root)) {
         if (!SameBytes(root / file, orderFolder / file)) {
@@ -75,8 +83,9 @@ std::string InputsOf(const Order& order, const std::vector<std::string>& words,
     AddText(sum, order.Photo.filename().string());
     for (const std::string& word : words) {
         AddText(sum, word);
-        const bool kit = word.starts_with("--like=");
-        AddText(sum, kit ? SumOfFile(word.substr(word.find('=') + 1)) : "");
+        const bool file = std::ranges::any_of(
+            kFileOptions, [&](std::string_view option) { return word.starts_with(option); });
+        AddText(sum, file ? SumOfFile(word.substr(word.find('=') + 1)) : "");
     }
     for (const fs::path& file : DataFiles(root)) {
         AddText(sum, file.string());

@@ -23,6 +23,8 @@ class BatchPlaces {
     [[nodiscard]] std::filesystem::path Lines() const { return Orders() / (name_ + ".jsonl"); }
     [[nodiscard]] std::filesystem::path Whole() const { return Orders() / (name_ + ".json"); }
     [[nodiscard]] std::filesystem::path Report() const;
+    /// "Orders/paints.csv": what to buy for all of them.
+    [[nodiscard]] std::filesystem::path Paints() const;
 
   private:
     std::filesystem::path root_;

@@ -62,7 +62,7 @@ class OrderReader {
                   "has more fields than there are columns. Put a field with a " +
                       std::string(1, table_.Separator) + " in it into quotes.");
         }
-        for (std::size_t i = 0; i < std::min(columns_.size(), row.Fields.size()); ++i) {
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
             ReadField(row, i, order);
         }
         if (order.Photo.empty()) {
@@ -73,13 +73,13 @@ class OrderReader {
     }
 
     void ReadField(const CsvRow& row, std::size_t at, Order& order) {
-        const std::string& field = row.Fields[at];
+        const std::string field(row.Field(at));
         const std::string& heading = table_.Rows.front().Fields[at];
         const OrderColumn& column = columns_[at];
+        order.Fields.emplace_back(heading, field);
         if (field.empty()) {
             return;
         }
-        order.Fields.emplace_back(heading, field);
         if (column.Kind == ColumnKind::Id) {
             order.Id = field;
         } else if (column.Kind == ColumnKind::Photo) {
@@ -89,7 +89,9 @@ class OrderReader {
             }
         }
         try {
-            for (std::string& word : WordsOfField(column, field)) {
+            const bool beside = column.Kind == ColumnKind::File && IsFile(folder_ / field);
+            const std::string value = beside ? (folder_ / field).string() : field;
+            for (std::string& word : WordsOfField(column, value)) {
                 order.Words.push_back(std::move(word));
             }
         } catch (const UsageError& error) {
@@ -194,7 +196,7 @@ std::vector<std::string> WordsOver(const std::vector<std::string>& common, const
     }
     for (const auto& [heading, field] : order.Fields) {
         const OrderColumn column = ColumnOf(heading);
-        if (column.Kind == ColumnKind::Switch) {
+        if (column.Kind == ColumnKind::Switch && !field.empty()) {
             words = WithoutOption(words, column.Option, false);
         }
     }

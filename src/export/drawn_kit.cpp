@@ -3,6 +3,9 @@
 #include <QtGui/QImageReader>
 #include <algorithm>
 
+#include "output/chart_contents.h"
+#include "shell/work_settings.h"
+#include "support/decimals.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -62,6 +65,19 @@ QImage LogoOf(const PlanSettings& settings) {
     return logo;
 }
 
+std::vector<LeafletPart> LeafletOf(PlannedKit& kit) {
+    const PlanSettings& settings = kit.Settings();
+    const WorkState& state = kit.Place().State;
+    const PlanFigures figures = kit.Figures();
+    return ReadLeaflet(settings.Shop, {.Order = settings.Shop.Order,
+                                       .Title = PrintedName(state),
+                                       .Difficulty = std::string(DifficultyWord(state)),
+                                       .Paints = std::to_string(state.PaintCount),
+                                       .Canvas = SizeText(figures.Canvas, settings.InInches()),
+                                       .Hours = Decimals(std::max(1.0, figures.Hours), 0),
+                                       .Maker = settings.Maker});
+}
+
 std::vector<PaintNeed> NeedsOf(PlannedKit& kit) {
     const PrintPlan& plan = kit.OnPages();
     return PaintNeeds({plan.Regions, plan.Paints, plan.Pages, plan.Scale},
@@ -84,6 +100,8 @@ DrawnKit::DrawnKit(PlannedKit& kit)
              kit.Settings(),
              NeedsOf(kit),
              LogoOf(kit.Settings()),
-             SmallestText(*kit.Figures().Symbols)} {}
+             SmallestText(*kit.Figures().Symbols),
+             OrderCode(kit.Settings().Shop.Order),
+             LeafletOf(kit)} {}
 
 }  // namespace vendrel

@@ -38,6 +38,13 @@ QByteArray FilledPage(const QByteArray& frame, Fill fill) {
     return page + frame.sliced(from);
 }
 
+// By its order, where there is one.
+QString TitleOf(PlannedKit& kit) {
+    const std::string& order = kit.Settings().Shop.Order;
+    const WorkState& state = kit.Place().State;
+    return PlainText((order.empty() ? "" : "Order " + order + ": ") + KitTitle(state, state));
+}
+
 }  // namespace
 
 void WriteKitPage(PlannedKit& kit, const Target& target) {
@@ -45,10 +52,10 @@ void WriteKitPage(PlannedKit& kit, const Target& target) {
     place.Screen.SetCaption("Drawing the Plan");
     const PrintSymbols symbols(kit.Marks());
     TakeUpPageParts();
+    const QString title = TitleOf(kit);
     const QByteArray page = FilledPage(PagePart("page.html"), [&](const QByteArray& gap) {
-        return gap == "title"
-                   ? PlainText(KitTitle(place.State, place.State)).toHtmlEscaped().toUtf8()
-               : gap == "data" ? PageData(place.State, kit.InOnePiece(), symbols)
+        return gap == "title"  ? title.toHtmlEscaped().toUtf8()
+               : gap == "data" ? PageData(place.State, kit.InOnePiece(), symbols, title)
                                : PagePart(QString::fromLatin1(gap));
     });
     SaveDrawn(place.Screen, page, target);

@@ -10,6 +10,7 @@
 
 #include "export/drawn_kit.h"
 #include "export/pdf_boxes.h"
+#include "export/pdf_leaflet_pages.h"
 #include "export/pdf_units.h"
 #include "export/save_drawn.h"
 #include "support/error.h"
@@ -32,6 +33,13 @@ void DrawFrontPages(QPdfWriter& writer, QPainter& painter, const KitPages& kit) 
     painter.scale(kit.FrontScale, kit.FrontScale);
     DrawCoverPage(painter, kit);
     writer.newPage();
+    if (!kit.Leaflet.empty()) {
+        const LeafletPages leaflet(kit, writer);
+        for (int page = 0; page < leaflet.Count(); ++page) {
+            leaflet.Draw(painter, page);
+            writer.newPage();
+        }
+    }
     for (int page = 0; page < CountChartPages(kit); ++page) {
         DrawChartPage(painter, kit, page);
         writer.newPage();

@@ -92,9 +92,10 @@ QJsonArray LabelsOf(const PrintPlan& plan) {
 
 }  // namespace
 
-QByteArray PageData(const WorkState& state, const PrintPlan& plan, const PrintSymbols& symbols) {
+QByteArray PageData(const WorkState& state, const PrintPlan& plan, const PrintSymbols& symbols,
+                    const QString& title) {
     const PixelGrid& pixels = plan.Regions.Ids;
-    const QJsonObject kit{{"title", PlainText(KitTitle(state, state))},
+    const QJsonObject kit{{"title", title},
                           {"mark", ToQt(KitMark(state, state, state))},
                           {"width", PageLength(pixels.Across() + 1)},
                           {"height", PageLength(pixels.Down() + 1)},

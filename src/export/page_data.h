@@ -13,6 +13,6 @@ namespace vendrel {
 /// from 1 on, negative ones run the other way. A label is its area, middle and height, and both
 /// ends of its line where it stands outside; a paint's glyph is drawn in a box 1000 units tall.
 [[nodiscard]] QByteArray PageData(const WorkState& state, const PrintPlan& plan,
-                                  const PrintSymbols& symbols);
+                                  const PrintSymbols& symbols, const QString& title);
 
 }  // namespace vendrel

@@ -94,10 +94,15 @@ void CanvasPage::DrawFoot() {
         kit_.Settings.BleedMm > 0
             ? QString(" and %1 mm of bleed on all sides").arg(kit_.Settings.BleedMm)
             : QString();
-    const double room = sheet.Width - edge_ - 4 - left - 62;
+    const double code = kit_.Code.IsNone() ? 0 : Design::kWholeCanvasEdge;
+    kit_.Code.Draw(painter_, {Mm(sheet.Width - edge_ - 4 - code), Mm(sheet.Height - code)},
+                   Mm(code));
+    painter_.setPen(Qt::black);
+    const double room = sheet.Width - edge_ - 4 - left - 62 - code;
     DrawLineOfText(painter_, MmRect(left + 62, top, room, 6), Qt::AlignLeft,
                    ToQt(SizeText(kit_.Plan.Canvas, kit_.Settings.InInches())) + bleed +
                        "  \u2022  print at 100 %  \u2022  " + ToQt(kit_.Title()) +
+                       (kit_.Code.IsNone() ? "" : "  \u2022  " + kit_.OrderLine()) +
                        ToQt(kit_.Settings.Maker.empty() ? "" : "  \u2022  " + kit_.Settings.Maker));
 }
 

@@ -112,8 +112,9 @@ void ChartPage::Rule(double at) {
 }
 
 void ChartPage::DrawHeading(int page, int pages) {
-    const double width = Right() - kMargin;
-    painter_.setPen(Qt::black);
+    const double width = Right() - kMargin - kit_.OrderCorner();
+    DrawOrderCorner(painter_, kit_);
+    painter_.setPen(kit_.Ink());
     painter_.setFont(TextFont(FontMm(7), Weight::Bold));
     DrawLineOfText(painter_, MmRect(kMargin, kMargin, width, 10), Qt::AlignLeft,
                    ToQt(kit_.Title()));
@@ -122,6 +123,9 @@ void ChartPage::DrawHeading(int page, int pages) {
     const WorkState& state = kit_.Place.State;
     QStringList facts{"Color chart", QString("%1 paints").arg(state.PaintCount),
                       "kit " + ToQt(KitMark(state, state, state))};
+    if (!kit_.Code.IsNone()) {
+        facts << kit_.OrderLine();
+    }
     if (const QString note = kit_.StyleNote(); !note.isEmpty()) {
         facts << note;
     }
@@ -145,6 +149,8 @@ void ChartPage::DrawHeading(int page, int pages) {
         Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, 5, Qt::AlignLeft, "On pages");
     }
     Rule(kTop);
+    kit_.DrawRule(painter_, Mm(kMargin), Mm(kTop - 0.3), Mm(Right() - kMargin));
+    painter_.setPen(Qt::black);
 }
 
 void ChartPage::DrawSwatch(const PaintNeed& need, double top) {

@@ -16,6 +16,10 @@ namespace {
 
 constexpr double kMargin = 15;
 constexpr double kMakerMm = 16;  // height of the maker's line on the cover
+constexpr double kNameMm = 6;    // and with an address below it
+constexpr double kAddressLineMm = 4.1;
+constexpr double kCodeMm = 19;    // of the cover's code
+constexpr double kCodeRimMm = 3;  // white around it
 const QColor kFaint(90, 90, 90);
 
 QSizeF Fitted(const Surface& picture, const QSizeF& room) {
@@ -119,7 +123,30 @@ void DrawCoverPictures(QPainter& painter, const KitPages& kit, const QRectF& roo
 }
 
 bool HasMaker(const KitPages& kit) {
-    return !kit.Settings.Maker.empty() || !kit.Logo.isNull();
+    return !kit.Settings.Maker.empty() || !kit.Logo.isNull() || !kit.Settings.Shop.Address.empty();
+}
+
+// The maker's name, and the address in smaller letters below it.
+void DrawMakerLines(QPainter& painter, const KitPages& kit, const QRectF& box) {
+    const std::vector<std::string>& address = kit.Settings.Shop.Address;
+    const double name = address.empty()              ? box.height()
+                        : kit.Settings.Maker.empty() ? 0
+                                                     : Mm(kNameMm);
+    const double height = name + Mm(kAddressLineMm) * static_cast<double>(address.size());
+    double top = box.center().y() - height / 2;
+    painter.setFont(TextFont(FontMm(4.5)));
+    painter.setPen(kFaint);
+    if (name > 0) {
+        DrawLineOfText(painter, {box.left(), top, box.width(), name}, Qt::AlignLeft,
+                       ToQt(kit.Settings.Maker));
+    }
+    top += name;
+    painter.setFont(TextFont(FontMm(3.3)));
+    for (const std::string& line : address) {
+        DrawLineOfText(painter, {box.left(), top, box.width(), Mm(kAddressLineMm)}, Qt::AlignLeft,
+                       ToQt(line));
+        top += Mm(kAddressLineMm);
+    }
 }
 
 // The logo, and the maker's name behind it.
@@ -132,10 +159,69 @@ void DrawMaker(QPainter& painter, const KitPages& kit, const QRectF& box) {
                           kit.Logo);
         left += size.width() + Mm(4);
     }
+    DrawMakerLines(painter, kit, {left, box.top(), box.right() - left, box.height()});
+}
+
+// The code, with the number before it, ends at the box's right edge. Answers what is left of the
+// box.
+QRectF DrawCoverCode(QPainter& painter, const KitPages& kit, const QRectF& box) {
+    constexpr double kNumberMm = 44;
+    if (kit.Code.IsNone()) {
+        return box;
+    }
+    const double side = Mm(kCodeMm + 2 * kCodeRimMm);
+    kit.Code.Draw(painter, {box.right() - side + Mm(kCodeRimMm), box.center().y() - side / 2},
+                  side);
+    const QRectF left = box.adjusted(0, 0, -side, 0);
+    painter.setFont(TextFont(FontMm(5), Weight::Bold));
+    painter.setPen(kit.Ink());
+    DrawLineOfText(painter, left.adjusted(left.width() - Mm(kNumberMm), 0, 0, 0), Qt::AlignRight,
+                   kit.OrderLine());
+    return left.adjusted(0, 0, -Mm(kNumberMm), 0);
+}
+
+// Whose kit it is, and whose order. Answers its height with what parts it from the pictures.
+double DrawCoverFoot(QPainter& painter, const KitPages& kit) {
+    const double lines = static_cast<double>(kit.Settings.Shop.Address.size());
+    double height = HasMaker(kit) ? std::max(kMakerMm, kNameMm + kAddressLineMm * lines) : 0;
+    if (!kit.Code.IsNone()) {
+        height = std::max(height, kCodeMm);
+    }
+    if (height == 0) {
+        return 0;
+    }
+    const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
+    const QRectF box(Mm(kMargin), Mm(kit.FrontPaper.Height - kMargin - height), width, Mm(height));
+    const QRectF left = DrawCoverCode(painter, kit, box);
+    if (HasMaker(kit)) {
+        DrawMaker(painter, kit, left);
+    }
+    constexpr double kGap = 4;
+    kit.DrawRule(painter, box.left(), box.top() - Mm(kGap), width);
+    return box.height() + Mm(kit.Settings.Shop.Accent ? 2 * kGap : kGap);
+}
+
+void DrawCoverHeading(QPainter& painter, const KitPages& kit) {
+    const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
+    // The mark has a place of its own: whatever else is cut short, it must be told from others.
+    constexpr double kMarkWidth = 40;
+    painter.setPen(kit.Ink());
+    painter.setFont(TextFont(FontMm(11), Weight::Bold));
+    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width - Mm(kMarkWidth), Mm(16)},
+                   Qt::AlignLeft, ToQt(kit.Title()));
     painter.setFont(TextFont(FontMm(4.5)));
     painter.setPen(kFaint);
-    DrawLineOfText(painter, {left, box.top(), box.right() - left, box.height()}, Qt::AlignLeft,
-                   ToQt(kit.Settings.Maker));
+    DrawLineOfText(
+        painter, {Mm(kMargin) + width - Mm(kMarkWidth), Mm(kMargin + 5.4), Mm(kMarkWidth), Mm(8)},
+        Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place.State, kit.Place.State, kit.Place.State)));
+    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
+                   KitSummary(kit));
+    painter.setFont(TextFont(FontMm(3.5)));
+    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 22.5), width, Mm(5)}, Qt::AlignLeft,
+                   kit.StyleNote());
+    if (kit.StyleNote().isEmpty()) {
+        kit.DrawRule(painter, Mm(kMargin), Mm(kMargin + 25.5), width);
+    }
 }
 
 const char* const kFirstStep =
@@ -248,46 +334,49 @@ std::string KitPages::Title() const {
     return KitTitle(Place.State, Place.State);
 }
 
+QString KitPages::OrderLine() const {
+    return Settings.Shop.Order.empty() ? QString() : "Order " + ToQt(Settings.Shop.Order);
+}
+
+QColor KitPages::Ink() const {
+    return Settings.Shop.Accent ? ToQt(*Settings.Shop.Accent) : QColor(Qt::black);
+}
+
+void KitPages::DrawRule(QPainter& painter, double left, double top, double width) const {
+    constexpr double kThick = 0.6;
+    if (Settings.Shop.Accent) {
+        painter.fillRect(QRectF(left, top, width, Mm(kThick)), Ink());
+    }
+}
+
+void DrawOrderCorner(QPainter& painter, const KitPages& kit) {
+    constexpr double kSide = 17;
+    constexpr double kRim = 2;  // of white around the code, which may reach beyond the margin
+    const double left = kit.FrontPaper.Width - kMargin - kSide + kRim;
+    kit.Code.Draw(painter, {Mm(left), Mm(kMargin - kRim)}, Mm(kSide));
+}
+
 QString KitPages::StyleNote() const {
     return Settings.Symbols == SymbolStyle::Letters ? QString() : "Symbols differ from the sheet";
 }
 
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {
+    DrawCoverHeading(painter, kit);
     const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
-    const double bottom = Mm(kit.FrontPaper.Height - kMargin);
-    // The mark has a place of its own: whatever else is cut short, it must be told from others.
-    constexpr double kMarkWidth = 40;
-    painter.setPen(Qt::black);
-    painter.setFont(TextFont(FontMm(11), Weight::Bold));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width - Mm(kMarkWidth), Mm(16)},
-                   Qt::AlignLeft, ToQt(kit.Title()));
-    painter.setFont(TextFont(FontMm(4.5)));
-    painter.setPen(kFaint);
-    DrawLineOfText(
-        painter, {Mm(kMargin) + width - Mm(kMarkWidth), Mm(kMargin + 5.4), Mm(kMarkWidth), Mm(8)},
-        Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place.State, kit.Place.State, kit.Place.State)));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
-                   KitSummary(kit));
-    painter.setFont(TextFont(FontMm(3.5)));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 22.5), width, Mm(5)}, Qt::AlignLeft,
-                   kit.StyleNote());
-    DrawMaker(painter, kit,
-              MmRect(kMargin, kit.FrontPaper.Height - kMargin - kMakerMm,
-                     kit.FrontPaper.Width - 2 * kMargin, kMakerMm));
-    const double foot = HasMaker(kit) ? Mm(kMakerMm + 4) : 0;
-
+    const double bottom = Mm(kit.FrontPaper.Height - kMargin) - DrawCoverFoot(painter, kit);
     const double top = Mm(kMargin + (kit.StyleNote().isEmpty() ? 28 : 31));
-    const QRectF room(Mm(kMargin), top, width, bottom - foot - top);
-    DrawCoverPictures(painter, kit, room);
+    DrawCoverPictures(painter, kit, {Mm(kMargin), top, width, bottom - top});
 }
 
 void DrawMapPage(QPainter& painter, const KitPages& kit) {
     const bool whole = kit.Settings.Sheet.IsCanvas();
     const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
-    painter.setPen(Qt::black);
+    DrawOrderCorner(painter, kit);
+    painter.setPen(kit.Ink());
     painter.setFont(TextFont(FontMm(7), Weight::Bold));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width, Mm(12)}, Qt::AlignLeft,
-                   whole ? "Printing the canvas" : "Putting the plan together");
+    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width - Mm(kit.OrderCorner()), Mm(12)},
+                   Qt::AlignLeft, whole ? "Printing the canvas" : "Putting the plan together");
+    kit.DrawRule(painter, Mm(kMargin), Mm(kMargin + 13), width - Mm(kit.OrderCorner()));
     const double top =
         DrawSteps(painter, whole ? StepsToStretch(kit) : StepsToGlue(kit), Mm(kMargin + 16), width);
     DrawTrueRuler(painter, kit, {Mm(kMargin), top + Mm(11)});

@@ -11,6 +11,10 @@ namespace {
 
 using Design = PlanPageDesign;
 
+// Beside a code the logo gives way to the page's name.
+constexpr double kLeastHeading = 30;
+constexpr double kWidestLogo = 31;
+
 const QColor kFrameInk(kBorderGray, kBorderGray, kBorderGray);
 
 // Where the picture stands on the page.
@@ -41,6 +45,8 @@ class PlanPage {
     [[nodiscard]] QString PageCount() const;
     void DrawHeading();
     double DrawLogo(double right, double top);
+    double DrawCode(double left, double top);
+    void DrawOrder(double left, double top, double room);
     void DrawCuts();
     void DrawCut(const CutLine& cut);
     void DrawCropMarks();
@@ -73,20 +79,45 @@ double PlanPage::DrawLogo(double right, double top) {
     return size.width() + 3;
 }
 
+// Answers how wide it is, in millimeters; its rim reaches into the margin.
+double PlanPage::DrawCode(double left, double top) {
+    if (kit_.Code.IsNone()) {
+        return 0;
+    }
+    constexpr double kRimMm = 1.5;
+    constexpr double kSide = Design::kHeading + kRimMm;
+    kit_.Code.Draw(painter_, {Mm(left - kRimMm), Mm(top - kRimMm)}, Mm(kSide));
+    return kSide - kRimMm;
+}
+
+// The number stands below the page's name.
+void PlanPage::DrawOrder(double left, double top, double room) {
+    if (kit_.Code.IsNone()) {
+        return;
+    }
+    painter_.setPen(Qt::black);
+    painter_.setFont(TextFont(FontMm(3)));
+    DrawLineOfText(painter_, MmRect(left, top + 9.6, room, 4), Qt::AlignLeft, kit_.OrderLine());
+}
+
 void PlanPage::DrawHeading() {
     const double top = Design::kMargin;
-    const double left = Design::kLeft;
     const double right = sheet_.Width - Design::kMargin;
-    painter_.setPen(Qt::black);
+    const double left = Design::kLeft + DrawCode(Design::kLeft, top);
+    const double all = right - left - 62 - 30;
+    const bool cramped = !kit_.Code.IsNone() && all < kLeastHeading + kWidestLogo;
+    painter_.setPen(kit_.Ink());
     painter_.setFont(TextFont(FontMm(4.4), Weight::Bold));
-    const double logo = DrawLogo(right - 30 - 62, top);
-    const double room = right - left - 62 - 30 - logo;
+    const double room = all - (cramped ? 0 : DrawLogo(right - 30 - 62, top));
     DrawLineOfText(painter_, MmRect(left, top, room, 6), Qt::AlignLeft,
                    ToQt("Page " + tile_.Name()) + PageCount());
+    painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(3)));
-    DrawLineOfText(painter_, MmRect(left, top + 6, room, 5), Qt::AlignLeft,
+    DrawLineOfText(painter_, MmRect(left, top + (kit_.Code.IsNone() ? 6 : 5.4), room, 5),
+                   Qt::AlignLeft,
                    ToQt(kit_.Title() +
                         (kit_.Settings.Maker.empty() ? "" : "  \u2022  " + kit_.Settings.Maker)));
+    DrawOrder(left, top, room);
     DrawRuler(painter_, {Mm(right - 30 - 58), Mm(top + 5)}, kit_.Settings.InInches());
     (void)DrawPageMap(painter_, kit_.Plan.Pages, MmRect(right - 26, top, 26, Design::kHeading - 1),
                       &tile_);

@@ -242,6 +242,7 @@ void AddRunOptions(CLI::App& app, KitOptions& kit) {
            "--no-compare", [&kit] { kit.Compared = false; },
            "leaves the comparison with the photo out of it")
         ->disable_flag_override();
+    AddSwitch(app, {"--needs", "", "adds to it what every paint is needed for"}, kit.Needs);
     AddValue(app, {"--jobs", "N", "makes so many kits side by side (1)"},
              [&kit](const std::string& option, const std::string& value) {
                  kit.Jobs = static_cast<int>(

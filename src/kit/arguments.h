@@ -50,6 +50,7 @@ struct KitOptions {
     bool Figures = false;  // compared with the photo, which takes a while
     bool Compared = true;  // the same with Json
     bool Json = false;
+    bool Needs = false;  // of every paint, in the JSON
     bool Quiet = false;
 };
 

@@ -23,6 +23,7 @@ struct Surroundings {
     std::filesystem::path Shipped = {};  // holds the Data and Pictures that ship
     std::string_view Version = {};
     std::filesystem::path Program = {};  // to be run for a kit in a process of its own
+    std::filesystem::path Studio = {};   // to join PDFs; empty where the build cannot
     /// Reads photos that are no plain bitmaps; null where the build cannot.
     const PhotoDecoder* Decoder = nullptr;
     /// Draws the symbols anew into a folder and names the file; empty where there are no fonts.

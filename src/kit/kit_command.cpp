@@ -17,6 +17,7 @@
 #include "kit/terminal_ui.h"
 #include "kitfile/kit_photo.h"
 #include "kitfile/kit_places.h"
+#include "plan/leaflet.h"
 #include "shelf/shelf_file.h"
 #include "shell/workplace.h"
 #include "startup/start_up.h"
@@ -48,6 +49,7 @@ class KitRun {
         PrepareSettings(place);
         PreparePaints(place);
         ApplySettings(place, options_);
+        (void)ReadLeaflet(options_.Plan.Shop, {});
         (void)PrepareFolders(folder_);  // last: a wrong setting leaves nothing behind
         warnings_ = ui_.TakeMessages();
     }
@@ -185,6 +187,7 @@ void RequireSettings(const KitOptions& options, const Surroundings& around) {
     PrepareSettings(place);
     PreparePaints(place);
     ApplySettings(place, options);
+    (void)ReadLeaflet(options.Plan.Shop, {});
 }
 
 bool RunKit(const KitOptions& options, const Surroundings& around) {

@@ -92,6 +92,20 @@ Json JsonOf(const KitFigures& figures) {
             {"hours", figures.Hours}};
 }
 
+Json JsonOf(const KitNeeds& kit) {
+    Json paints = Json::array();
+    for (const PaintNeed& need : kit.Needs) {
+        const PaintColor& paint = kit.Paints[need.Paint];
+        paints.push_back({{"set", paint.Mfg},
+                          {"name", paint.PaintName},
+                          {"code", paint.PaintCode},
+                          {"color", HexOf(paint)},
+                          {"cm2", need.Cm2},
+                          {"ml", need.Ml}});
+    }
+    return {{"potMl", kit.Use.PotMl}, {"paints", std::move(paints)}};
+}
+
 Json JsonOf(const KitReport& report) {
     Json json = {{"photo", report.Photo},
                  {"picture", report.Picture},
@@ -121,6 +135,9 @@ Json JsonOf(const KitReport& report) {
     }
     if (report.Plan) {
         json["plan"] = JsonOf(*report.Plan);
+    }
+    if (report.Needs) {
+        json["needs"] = JsonOf(*report.Needs);
     }
     json["milliseconds"] = Json::object();
     for (const auto& [step, number] : report.Milliseconds) {

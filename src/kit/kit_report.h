@@ -9,6 +9,7 @@
 #include "output/kit_figures.h"
 #include "output/sheet_record.h"
 #include "plan/plan_figures.h"
+#include "plan/shopping.h"
 #include "shell/settings.h"
 
 namespace vendrel {
@@ -36,6 +37,7 @@ struct KitReport {
     std::optional<SeenFigures> Seen;                           // when asked for
     std::optional<NumberingCounts> Numbering;                  // when a sheet was made
     std::optional<PlanFigures> Plan;                           // when the pdf was
+    std::optional<KitNeeds> Needs;                             // when asked for
     std::vector<std::pair<std::string, double>> Milliseconds;  // per step, in order
     std::vector<std::pair<std::string, std::string>> Files;    // output name and path
     std::string List;                                          // of the kit; empty without files

@@ -203,6 +203,33 @@ void NameKit(Workplace& place, const KitOptions& options, KitReport& report) {
     }
 }
 
+// Stands in where no page is drawn: a canvas that is given needs no fonts to be laid out.
+class NoFonts final : public Exporter {
+  public:
+    [[nodiscard]] SymbolAspects Aspects(const PaintMarks& /*marks*/) const override {
+        SymbolAspects aspects;
+        aspects.fill(1);
+        return aspects;
+    }
+    [[nodiscard]] Surface Preview(PlannedKit& /*kit*/, int /*longest*/) const override {
+        return {};
+    }
+    void Write(OutputId /*output*/, PlannedKit& /*kit*/, const Target& target) const override {
+        throw FileError(target.Place, "cannot be drawn without fonts.");
+    }
+};
+
+// As its pages have them, or on the canvas that the figures hold for.
+KitNeeds NeedsOf(const Workplace& place, const KitOptions& options, const Exporter* exporter) {
+    const NoFonts noFonts;
+    PlanSettings plan = options.Plan;
+    if (exporter == nullptr && !plan.HasCanvas()) {
+        plan.CanvasCm = kUsualCanvasCm;
+    }
+    PlannedKit planned(place, exporter != nullptr ? *exporter : noFonts, plan);
+    return {place.State->PictureName, place.State->PaintColors, planned.Needs(), plan.Use};
+}
+
 // What is made of a grid, whatever it came from.
 void PaintAndWrite(Workplace& place, const KitOptions& options, const TakenPhoto& taken,
                    const Exporter* exporter, KitReport& report) {
@@ -214,6 +241,9 @@ void PaintAndWrite(Workplace& place, const KitOptions& options, const TakenPhoto
         Timed(report, "kit file", [&] { KeepKit(place, options, taken, report); });
     }
     WriteOutputs(place, options, exporter, report);
+    if (options.Needs) {
+        Timed(report, "needs", [&] { report.Needs = NeedsOf(place, options, exporter); });
+    }
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "kit/option_kinds.h"
+#include "kit/shop_face_options.h"
 #include "kit/size_options.h"
 
 namespace vendrel {
@@ -112,6 +113,7 @@ void AddShopOptions(CLI::App& app, KitOptions& kit) {
     AddText(app, {"--maker", "TEXT", "puts your name or address on the pdf's pages"},
             kit.Plan.Maker);
     AddText(app, {"--logo", "FILE", "puts a picture there too"}, kit.Plan.Logo);
+    AddShopFaceOptions(app, kit.Plan.Shop);
 }
 
 }  // namespace

@@ -124,7 +124,22 @@ class KitWriter {
         if (plan.Symbols == SymbolStyle::Mine) {
             AddLabels(print);
         }
+        if (plan.Shop != ShopFace{}) {
+            print["shop"] = Shop(plan.Shop);
+        }
         return With("print", std::move(print));
+    }
+
+    [[nodiscard]] KitJson Shop(const ShopFace& shop) const {
+        KitJson fields = KitJson::array();
+        for (const auto& [name, value] : shop.Fields) {
+            fields.push_back(name + "=" + value);
+        }
+        return With("print.shop", {{"order", shop.Order},
+                                   {"address", shop.Address},
+                                   {"accent", shop.Accent ? HexOfColor(*shop.Accent) : ""},
+                                   {"leaflet", shop.Leaflet.string()},
+                                   {"fields", std::move(fields)}});
     }
 
     // Of every paint, so that the plan comes out the same however the shelf changes.

@@ -13,6 +13,7 @@
 #include "support/counter.h"
 #include "support/disk.h"
 #include "support/error.h"
+#include "support/placeholders.h"
 #include "support/text_file.h"
 
 namespace vendrel {
@@ -164,6 +165,31 @@ OwnLabels ReadLabels(ObjectReader& print, const PaintList& paints) {
     return read;
 }
 
+ShopFace ReadShop(ObjectReader shop) {
+    ShopFace read;
+    read.Order = shop.Words("order");
+    if (read.Order.size() > kLongestOrder) {
+        shop.Refuse("order", "must have 100 characters at most");
+    }
+    read.Address = shop.List("address");
+    if (const std::string accent = shop.Words("accent"); !accent.empty()) {
+        read.Accent = ColorFromHex(accent);
+        if (!read.Accent) {
+            shop.Refuse("accent", "must be a color as in #1F5FA8");
+        }
+    }
+    read.Leaflet = shop.Words("leaflet");
+    for (const std::string& field : shop.List("fields")) {
+        const std::size_t equals = field.find('=');
+        if (equals == field.npos || PlaceholderName(field.substr(0, equals)).empty()) {
+            shop.Refuse("fields", "must have entries as in \"table=7\"");
+        }
+        read.Fields[PlaceholderName(field.substr(0, equals))] = field.substr(equals + 1);
+    }
+    shop.KeepUnknown();
+    return read;
+}
+
 PlanSettings ReadPrint(ObjectReader print, const PaintList& paints) {
     PlanSettings plan;
     plan.Sheet = ReadPaper(print.Object("paper"));
@@ -182,6 +208,9 @@ PlanSettings ReadPrint(ObjectReader print, const PaintList& paints) {
     plan.Logo = print.Words("logo");
     if (plan.Symbols == SymbolStyle::Mine) {
         plan.Labels = ReadLabels(print, paints);
+    }
+    if (print.Has("shop")) {
+        plan.Shop = ReadShop(print.Object("shop"));
     }
     print.KeepUnknown();
     return plan;

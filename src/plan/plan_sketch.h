@@ -10,6 +10,7 @@
 #include "plan/paint_marks.h"
 #include "plan/paint_needs.h"
 #include "plan/painted_regions.h"
+#include "plan/shop_face.h"
 #include "plan/symbol_room.h"
 #include "plan/symbol_style.h"
 #include "shell/work_state.h"
@@ -43,6 +44,7 @@ struct PlanSettings {
     bool GroupBySet = false;          // the chart's paints
     std::string Maker = {};           // whose kit it is: a name or a line of address; may be empty
     std::filesystem::path Logo = {};  // a picture file; empty: none
+    ShopFace Shop = {};
 
     bool operator==(const PlanSettings&) const = default;
     [[nodiscard]] bool InInches() const { return InchCanvas || Sheet.Inches; }

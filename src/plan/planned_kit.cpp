@@ -15,6 +15,7 @@ bool IsLaidOutAlike(PlanSettings one, const PlanSettings& other) {
     one.GroupBySet = other.GroupBySet;
     one.Maker = other.Maker;
     one.Logo = other.Logo;
+    one.Shop = other.Shop;
     return one == other;
 }
 

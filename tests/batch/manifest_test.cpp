@@ -4,6 +4,7 @@
 
 #include "batch/batch_run.h"
 #include "batch/merge_manifests.h"
+#include "batch/paint_totals.h"
 #include "batch/report_page.h"
 #include "support/temp_folder.h"
 
@@ -53,6 +54,23 @@ TEST(Manifest, OfShardsIsOneAndPrefersWhatWasMade) {
     const Manifest merged = MergeManifests(files.Path());
     EXPECT_EQ(merged.size(), 2U);
     EXPECT_TRUE(merged.at("1").Done);
+}
+
+TEST(PaintTotals, AddUpWhatOrdersSaid) {
+    const auto said = [](const std::string& order, const char* ml) {
+        ManifestEntry entry = Entry(order, true, "");
+        entry.Figures =
+            R"({"needs":{"potMl":20,"paints":[{"set":"S","name":"Red, deep","code":"1",)"
+            R"("color":"#C08060","cm2":60,"ml":)" +
+            std::string(ml) + "}]}}";
+        return entry;
+    };
+    const ManifestEntry one = said("1", "10");
+    const ManifestEntry two = said("2", "8.5");
+    const ManifestEntry failed = Entry("3", false, "");
+    EXPECT_EQ(FormatTotals(TotalPaints({{nullptr, &one}, {nullptr, &two}, {nullptr, &failed}}, {})),
+              "\xEF\xBB\xBFset,name,code,color,cm2,ml,left ml,buy ml,pots,orders\r\n"
+              "S,\"Red, deep\",1,#C08060,120.0,18.5,0.0,21.3,2,1; 2\r\n");
 }
 
 TEST(Report, WarnsOfWhatAPainterWouldSee) {

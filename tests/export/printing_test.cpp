@@ -13,6 +13,7 @@
 #include "cleanup/paint_pass.h"
 #include "convert/bitmap_reader.h"
 #include "export/color_chart_image.h"
+#include "export/pdf_join.h"
 #include "export/print_symbols.h"
 #include "export/qt_exporter.h"
 #include "export/symbol_likeness.h"
@@ -143,6 +144,48 @@ TEST_F(Printing, AMakersLogoMustBeAPicture) {
     ASSERT_TRUE(logo.save(QString::fromStdString(settings.Logo.string())));
     EXPECT_GT(Pdf(settings).size(), named.size());
     EXPECT_FALSE(named == plain);
+}
+
+int Pages(const std::string& pdf) {
+    return Count(pdf, "/Type /Page") - Count(pdf, "/Type /Pages");
+}
+
+TEST_F(Printing, AShopsOrderHasItsNumberAndALeaflet) {
+    PlanSettings settings{.CanvasCm = 40};
+    const std::string plain = Pdf(settings);
+    settings.Shop.Order = "A-7";
+    const std::string numbered = Pdf(settings);
+    settings.Shop.Accent = Rgb(31, 95, 168);
+    EXPECT_FALSE(numbered == plain || Pdf(settings) == numbered);
+    EXPECT_EQ(Count(Write(OutputId::Page, settings), "Order A-7: "), 3);
+    settings.Shop.Leaflet = easel_.Files.Write("hello.txt", "# {order}\n\n{gift}");
+    EXPECT_THROW((void)Pdf(settings), FormatError);
+    settings.Shop.Fields["gift"] = "";
+    for (int i = 0; i < 2000; ++i) {
+        settings.Shop.Fields["gift"] += "words ";
+    }
+    const std::string printed = Pdf(settings);
+    EXPECT_EQ(Pages(printed), Pages(plain) + 4);
+    QHashSeed::resetRandomGlobalSeed();
+    EXPECT_TRUE(Pdf(settings) == printed);
+    settings.Shop.Order = std::string(5000, 'x');
+    EXPECT_THROW((void)Pdf(settings), Error);
+}
+
+TEST_F(Printing, APrintRunHasThePagesOfAllAndTheSameBytesEveryTime) {
+    const std::string one = Pdf({.Sheet = Paper::A4, .CanvasCm = 40});
+    const std::string other = Pdf({.Sheet = Paper::A3, .CanvasCm = 20});
+    const auto first = easel_.Files.Write("b.pdf", one);
+    const auto second = easel_.Files.Write("a.pdf", other);
+    JoinPdfs({first, second, first}, easel_.Files / "run.pdf");
+    const std::string run = easel_.Files.Read("run.pdf");
+    EXPECT_EQ(Pages(run), 2 * Pages(one) + Pages(other));
+    EXPECT_EQ(Count(run, "/Title "), 3);
+    JoinPdfs({first, second, first}, easel_.Files / "again.pdf");
+    EXPECT_TRUE(easel_.Files.Read("again.pdf") == run);
+    easel_.Files.Write("a.pdf", other.substr(0, 20));
+    EXPECT_THROW(JoinPdfs({first, second}, easel_.Files / "run.pdf"), FileError);
+    EXPECT_TRUE(easel_.Files.Read("run.pdf") == run);
 }
 
 TEST_F(Printing, TheShoppingListIsATable) {

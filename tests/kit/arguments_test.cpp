@@ -58,7 +58,8 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
     EXPECT_EQ(kit.Plan.CanvasCm, 60.5);
     const KitOptions paintable =
         Parse({"kit", "a.bmp", "--match=plain", "--paintable", "--smallest", "9.5mm2",
-               "--detail=70", "--title", "Cat", "--lines=steps", "--gray", "80"})
+               "--detail=70", "--title", "Cat", "--lines=steps", "--gray", "80", "--address",
+               "1 Shore Rd|| Hull\\nUK", "--field", "Gift-For=a=b"})
             .Kit;
     EXPECT_TRUE(paintable.Chosen.Paintable);
     EXPECT_EQ(paintable.Chosen.Match, Matching::Plain);
@@ -66,6 +67,8 @@ TEST(Arguments, EveryOptionArrivesWithValuesBehindOrInside) {
     EXPECT_EQ(paintable.Chosen.Detail, 70);
     EXPECT_EQ(paintable.Plan.CanvasCm, 40);
     EXPECT_EQ(paintable.Title, "Cat");
+    EXPECT_THAT(paintable.Plan.Shop.Address, ElementsAre("1 Shore Rd", "Hull", "UK"));
+    EXPECT_EQ(paintable.Plan.Shop.Fields.at("gift for"), "a=b");
     EXPECT_EQ(paintable.Plan.Lines, LineShape::Steps);
     EXPECT_EQ(paintable.Plan.Gray, 80);
     EXPECT_EQ(kit.Plan.Lines, LineShape::ByKit);
@@ -169,6 +172,11 @@ TEST(Arguments, WrongUsageIsAnsweredWithASentenceThatNamesTheWord) {
         {{"kit", "a.bmp", "--canvas", "9cm"}, "10cm to 300cm"},
         {{"kit", "a.bmp", "--canvas", "nan"}, "10cm to 300cm"},
         {{"kit", "a.bmp", "--canvas", "60mm"}, "10cm to 300cm"},
+        {{"kit", "a.bmp", "--accent=blue"}, "#1F5FA8"},
+        {{"kit", "a.bmp", "--accent=#FFE040"}, "choose a darker color"},
+        {{"kit", "a.bmp", "--field", "gift"}, "NAME=VALUE"},
+        {{"kit", "a.bmp", "--order", "1\n2"}, "at most 100"},
+        {{"kit", "a.bmp", "--address", "a|b|c|d|e|f|g"}, "one to six lines"},
         {{"kit", "a.bmp", "--json=yes"}, "--json takes no value"},
         {{"kit", "a.bmp", "--sets", "Oils", "--template", "Skin"}, "not by both"},
         {{"symbols", "a.bmp"}, "a.bmp"},

@@ -55,20 +55,25 @@ KitFile OddKit() {
     kit.FinalColors = 2;
     kit.PaintableKit = true;
     kit.SeenPerStipple = 3.0625;
-    kit.Print = {.Sheet = Paper::Legal,
-                 .CanvasCm = 60,
-                 .Canvas = {400, 500},
-                 .BleedMm = 20,
-                 .InchCanvas = true,
-                 .Symbols = SymbolStyle::Mine,
-                 .Labels = {{IdOf(Paint(1, "Sand")), {"A2", false}},
-                            {IdOf(Paint(2, "Sea")), {"C", true}}},
-                 .Lines = LineShape::Steps,
-                 .Gray = 70,
-                 .Use = {3, 40.5, 59},
-                 .GroupBySet = true,
-                 .Maker = "Ann",
-                 .Logo = "/home/ann/logo.png"};
+    kit.Print = {
+        .Sheet = Paper::Legal,
+        .CanvasCm = 60,
+        .Canvas = {400, 500},
+        .BleedMm = 20,
+        .InchCanvas = true,
+        .Symbols = SymbolStyle::Mine,
+        .Labels = {{IdOf(Paint(1, "Sand")), {"A2", false}}, {IdOf(Paint(2, "Sea")), {"C", true}}},
+        .Lines = LineShape::Steps,
+        .Gray = 70,
+        .Use = {3, 40.5, 59},
+        .GroupBySet = true,
+        .Maker = "Ann",
+        .Logo = "/home/ann/logo.png",
+        .Shop = {.Order = "A-7",
+                 .Address = {"Ann", "1 Shore Rd"},
+                 .Accent = Rgb(31, 95, 168),
+                 .Leaflet = "hello.txt",
+                 .Fields = {{"gift", "a=b"}, {"note", ""}}}};
     kit.Source = {{"Craft", "Oils"}, {}};
     kit.Choice = {Paint(1, "Sand"), Paint(2, "Sea"), Paint(3, "Sky")};
     kit.Owned = {1, 3};
