@@ -12,7 +12,7 @@ namespace vendrel {
 namespace {
 
 namespace fs = std::filesystem;
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 
 std::string LastLine(const std::string& text) {
     const std::vector<std::string> lines = SplitLines(text);

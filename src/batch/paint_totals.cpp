@@ -12,7 +12,7 @@
 namespace vendrel {
 namespace {
 
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 
 PaintColor PaintIn(const Json& need) {
     PaintColor paint;

@@ -13,7 +13,7 @@ namespace vendrel {
 namespace {
 
 namespace fs = std::filesystem;
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 
 constexpr std::string_view kHead = R"(<!DOCTYPE html>
 <html lang="en">

@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kLook = 100;  // milliseconds between two looks at whether to stop
+constexpr int kRemakeLook = 100;  // milliseconds between two looks at whether to stop
 
 class OrdersRemade {
   public:
@@ -44,7 +44,7 @@ class OrdersRemade {
             while (next < plan_.size() && pool_.Running() < jobs) {
                 Start(next++);
             }
-            for (const WorkerResult& result : pool_.Await(kLook)) {
+            for (const WorkerResult& result : pool_.Await(kRemakeLook)) {
                 const std::string& order = plan_[result.Index].What->Id;
                 progress.Ended(order, Compare(order, result));
             }

@@ -28,7 +28,7 @@ struct PaintNeed {
     int Paint = 0;
     double Cm2 = 0;
     double Ml = 0;
-    int Pots = 0;                    // 0 when their size is not known
+    int Pots = 0;                      // 0 when their size is not known
     std::vector<std::string> Pages{};  // of the plan where it occurs
 };
 
