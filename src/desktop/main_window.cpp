@@ -17,6 +17,7 @@
 #include "desktop/arrivals.h"
 #include "desktop/dialogs.h"
 #include "desktop/text.h"
+#include "forms/paint_source.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -39,6 +40,7 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
       captureFrame_(new ZoomView(place.Frames->CaptureFrame.Picture)),
       emptyPage_(new QWidget),
       zoom_(MakeZoom()),
+      source_(new QPushButton),
       hint_(new ValueLabel("StatusHint", tr("Status"))),
       progress_(new QProgressBar) {
     setObjectName(QStringLiteral("Main"));
@@ -111,6 +113,10 @@ void MainWindow::Arrange() {
     progress_->setFixedWidth(120);
     progress_->setTextVisible(false);
     progress_->hide();
+    source_->setObjectName(QStringLiteral("PaintsFrom"));
+    source_->setFlat(true);
+    source_->setToolTip(tr("Where paints come from"));
+    connect(source_, &QPushButton::clicked, this, [this] { Choose(MenuId::ChoosePaintSource); });
     setCentralWidget(MakeMiddle());
     resize(kFirstSize.boundedTo(screen()->availableSize() - kWindowFrame));
 }
@@ -120,6 +126,7 @@ QWidget* MainWindow::MakeMiddle() {
     auto* status = new QHBoxLayout;
     status->setContentsMargins(6, 2, 6, 2);
     status->addWidget(hint_, 1);
+    status->addWidget(source_);
     status->addWidget(progress_);
     status->addWidget(zoom_);
     auto* middle = new QWidget;
@@ -206,6 +213,10 @@ void MainWindow::MirrorStatus() {
     const WorkDisplay& display = ui_.Display();
     hint_->Show(display.ShowRuns ? tr("Escape or a click on the picture ends the show.")
                                  : Text(form_.StatusHint()));
+    const QString source = Text(PaintSourceText(place_.State));
+    source_->setText(tr("Paints: %1").arg(WithoutMnemonics(source)));
+    source_->setAccessibleName(tr("Paints come from: %1").arg(source));
+    source_->setEnabled(place_.MainMenu[MenuId::TemplateMenu].Enabled);
     progress_->setVisible(display.Total > 0);
     if (display.Total > 0) {
         progress_->setRange(0, display.Total);
