@@ -54,8 +54,8 @@ void ImportListDialog::AddLine(const ImportProposal& proposal, const PaintList& 
     auto* box = new QComboBox;
     box->setAccessibleName(tr("Paint for %1").arg(Text(proposal.Text)));
     for (const int paint : proposal.Paints) {
-        box->addItem(SwatchIcon(ColorOf(catalogue[paint])),
-                     Text(catalogue[paint].Mfg + ": " + PaintLabel(catalogue[paint])), paint);
+        box->addItem(SwatchIcon(ColorOf(catalogue[paint])), Text(PaintLabel(catalogue[paint])),
+                     paint);
     }
     lines_->setItemWidget(line, 2, box);
     paints_.push_back(box);

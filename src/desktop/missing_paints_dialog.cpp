@@ -15,9 +15,9 @@
 namespace vendrel {
 namespace {
 
-constexpr QSize kPreview(300, 300);
+constexpr QSize kMissingPreview(300, 300);
 
-QString ToBuy(const ShoppingItem& item) {
+QString BuyText(const ShoppingItem& item) {
     const QString ml = QObject::tr("%1 ml").arg(item.BuyMl, 0, 'f', 1);
     return item.Pots == 0   ? ml
            : item.Pots == 1 ? QObject::tr("%1, 1 pot").arg(ml)
@@ -70,7 +70,7 @@ QWidget* MissingPaintsDialog::MakePicture() {
     auto* frame = new QGroupBox(tr("The kit"));
     auto* column = new QVBoxLayout(frame);
     picture_->setAlignment(Qt::AlignCenter);
-    picture_->setMinimumSize(kPreview);
+    picture_->setMinimumSize(kMissingPreview);
     column->addWidget(picture_, 1);
     return frame;
 }
@@ -93,8 +93,8 @@ void MissingPaintsDialog::Mirror() {
         ml += paint.Item.BuyMl;
         const QString label = Text(PaintLabel(paint.Item.Paint));
         items.push_back({ColorOf(paint.Item.Paint), kNoColor,
-                         tr("%1   %2").arg(label, ToBuy(paint.Item)),
-                         tr("%1, %2 to buy").arg(label, ToBuy(paint.Item))});
+                         tr("%1   %2").arg(BuyText(paint.Item), label),
+                         tr("%1, %2 to buy").arg(label, BuyText(paint.Item))});
     }
     MirrorPaints(*missing_, items, form_.Chosen());
     summary_->Show(items.empty() ? tr("You have all paints of this kit.")
@@ -106,7 +106,7 @@ void MissingPaintsDialog::Mirror() {
     MirrorSubstitutes();
     picture_->setPixmap(QPixmap::fromImage(
         ToImage(form_.Picture())
-            .scaled(picture_->size().expandedTo(kPreview) * 0.95, Qt::KeepAspectRatio)));
+            .scaled(picture_->size().expandedTo(kMissingPreview) * 0.95, Qt::KeepAspectRatio)));
 }
 
 void MissingPaintsDialog::MirrorSubstitutes() {

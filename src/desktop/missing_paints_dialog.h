@@ -30,7 +30,7 @@ class MissingPaintsDialog : public FormDialog {
     [[nodiscard]] QLayout* MakeEnd();
     void MirrorSubstitutes();
 
-    MissingPaints form_;
+    MissingPaintsForm form_;
     QListWidget* missing_;
     QListWidget* substitutes_;
     QPushButton* use_;

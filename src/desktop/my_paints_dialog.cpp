@@ -29,10 +29,10 @@ std::optional<Color> AskColor(QWidget& parent, Color first, const QString& title
                            : std::nullopt;
 }
 
-constexpr std::pair<int, int> kWidths[] = {{MyPaintsModel::Name, 230},  {MyPaintsModel::Set, 130},
-                                           {MyPaintsModel::Code, 80},   {MyPaintsModel::Label, 56},
-                                           {MyPaintsModel::MlLeft, 64}, {MyPaintsModel::Pots, 50},
-                                           {MyPaintsModel::Note, 120}};
+constexpr std::pair<int, int> kPaintColumnWidths[] = {
+    {MyPaintsModel::Name, 230}, {MyPaintsModel::Set, 130},   {MyPaintsModel::Code, 80},
+    {MyPaintsModel::Label, 56}, {MyPaintsModel::MlLeft, 64}, {MyPaintsModel::Pots, 50},
+    {MyPaintsModel::Note, 120}};
 
 }  // namespace
 
@@ -53,7 +53,7 @@ MyPaintsDialog::MyPaintsDialog(const ViewContext& context, QWidget* parent)
     halves->addWidget(MakeSets());
     halves->addWidget(MakeTable());
     halves->setStretchFactor(1, 1);
-    halves->setSizes({210, 850});
+    halves->setSizes({250, 850});
     auto* all = new QVBoxLayout(this);
     all->addLayout(MakeSearch());
     all->addWidget(halves, 1);
@@ -71,6 +71,7 @@ QWidget* MyPaintsDialog::MakeSets() {
     column->setContentsMargins({});
     column->addWidget(LabelFor(*setList_, tr("&Sets")));
     column->addWidget(setList_, 1);
+    setList_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(setList_, &QListWidget::currentRowChanged, this, [this] { Search(); });
     connect(setList_, &QListWidget::itemChanged, this,
             [this](const QListWidgetItem* item) { SetTicked(*item); });
@@ -108,7 +109,7 @@ QWidget* MyPaintsDialog::MakeTable() {
     table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     table_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     table_->installEventFilter(this);
-    for (const auto& [field, width] : kWidths) {
+    for (const auto& [field, width] : kPaintColumnWidths) {
         table_->setColumnWidth(field, width);
     }
     connect(model_, &MyPaintsModel::Ticked, this, &MyPaintsDialog::Tick, Qt::QueuedConnection);

@@ -16,23 +16,23 @@
 namespace vendrel {
 namespace {
 
-constexpr int kQuietMs = 120;  // before the photo is tried again
-constexpr QSize kPreview(420, 320);
+constexpr int kSourceQuietMs = 120;  // before the photo is tried again
+constexpr QSize kSourcePreview(420, 320);
 // The slider goes from "whatever helps a little" to "only what changes the picture", each step a
 // fifth more.
 constexpr int kWorthSteps = 40;
 constexpr double kLeastWorth = 0.005;
-constexpr double kStep = 1.2;
+constexpr double kWorthStep = 1.2;
 
 double WorthAt(int position) {
-    return position == 0 ? 0 : kLeastWorth * std::pow(kStep, position - 1);
+    return position == 0 ? 0 : kLeastWorth * std::pow(kWorthStep, position - 1);
 }
 
 int PositionOf(double worth) {
     return worth < kLeastWorth
                ? 0
-               : std::clamp(1 + static_cast<int>(
-                                    std::lround(std::log(worth / kLeastWorth) / std::log(kStep))),
+               : std::clamp(1 + static_cast<int>(std::lround(std::log(worth / kLeastWorth) /
+                                                             std::log(kWorthStep))),
                             1, kWorthSteps);
 }
 
@@ -45,6 +45,7 @@ PaintSourceDialog::PaintSourceDialog(const ViewContext& context, QWidget* parent
       template_(Named<QRadioButton>("FromTemplate", tr("A template"))),
       owned_(Named<QRadioButton>("FromOwned", tr("What I own"))),
       templates_(Named<QComboBox>("SourceTemplate", tr("Template"))),
+      byEye_(Named<QCheckBox>("SourceByEye", tr("Match colors by eye"))),
       first_(Named<QCheckBox>("OwnedFirst", tr("What I own first"))),
       worth_(Named<QSlider>("BuyWorth", tr("What buying a paint must be worth"))),
       worthText_(Value("BuyWorthText")),
@@ -63,7 +64,7 @@ PaintSourceDialog::PaintSourceDialog(const ViewContext& context, QWidget* parent
     all->addLayout(halves, 1);
     all->addLayout(MakeEnd());
     soon_.setSingleShot(true);
-    soon_.setInterval(kQuietMs);
+    soon_.setInterval(kSourceQuietMs);
     connect(&soon_, &QTimer::timeout, this, &PaintSourceDialog::Measure);
     resize(900, 460);
 }
@@ -71,6 +72,7 @@ PaintSourceDialog::PaintSourceDialog(const ViewContext& context, QWidget* parent
 QWidget* PaintSourceDialog::MakeSources() {
     auto* frame = new QGroupBox(tr("Paints come from"));
     template_->setText(tr("A &template"));
+    byEye_->setText(tr("Match colors by &eye"));
     auto* rows = new QVBoxLayout(frame);
     rows->addWidget(sets_);
     auto* row = new QHBoxLayout;
@@ -78,6 +80,7 @@ QWidget* PaintSourceDialog::MakeSources() {
     row->addWidget(templates_, 1);
     rows->addLayout(row);
     rows->addWidget(owned_);
+    rows->addWidget(byEye_);
     auto* shops = new QHBoxLayout;
     shops->addWidget(MakeButton("OpenMyPaints", tr("&My Paints…"),
                                 [this] { Context().Place.Screen.OpenForm(FormId::MyPaints); }));
@@ -96,7 +99,6 @@ QWidget* PaintSourceDialog::MakeSources() {
 QWidget* PaintSourceDialog::MakeBuying() {
     auto* frame = new QGroupBox(tr("Buying"));
     first_->setText(tr("What I own goes &first"));
-    first_->setToolTip(tr("Colors are matched by eye then."));
     worth_->setOrientation(Qt::Horizontal);
     worth_->setRange(0, kWorthSteps);
     worth_->setPageStep(5);
@@ -107,6 +109,7 @@ QWidget* PaintSourceDialog::MakeBuying() {
     rows->addRow(LabelFor(*worth_, tr("A paint must be &worth")), worth_);
     rows->addRow(QString(), worthText_);
     rows->addRow(LabelFor(*most_, tr("&Buy at most")), most_);
+    connect(byEye_, &QCheckBox::clicked, this, &PaintSourceDialog::Change);
     connect(first_, &QCheckBox::clicked, this, &PaintSourceDialog::Change);
     connect(worth_, &QSlider::valueChanged, this, &PaintSourceDialog::Change);
     connect(most_, &QSpinBox::valueChanged, this, &PaintSourceDialog::Change);
@@ -116,7 +119,7 @@ QWidget* PaintSourceDialog::MakeBuying() {
 QWidget* PaintSourceDialog::MakeFigures() {
     auto* frame = new QGroupBox(tr("What that makes of the photo"));
     preview_->setAlignment(Qt::AlignCenter);
-    preview_->setMinimumSize(kPreview);
+    preview_->setMinimumSize(kSourcePreview);
     figures_->WrapWhole();
     auto* column = new QVBoxLayout(frame);
     column->addWidget(preview_, 1);
@@ -149,6 +152,8 @@ void PaintSourceDialog::Mirror() {
     sets_->setChecked(wish.From == PaintsFrom::Sets);
     template_->setChecked(wish.From == PaintsFrom::Template);
     owned_->setChecked(wish.From == PaintsFrom::Owned);
+    byEye_->setChecked(wish.ByEye || (wish.From != PaintsFrom::Owned && wish.Buying.Asked));
+    byEye_->setEnabled(wish.From == PaintsFrom::Owned || !wish.Buying.Asked);
     if (templates_->count() != static_cast<int>(form_.Templates().size())) {
         templates_->clear();
         for (const std::string& name : form_.Templates()) {
@@ -164,9 +169,7 @@ void PaintSourceDialog::Mirror() {
     first_->setChecked(buying);
     worth_->setEnabled(buying);
     most_->setEnabled(buying);
-    if (std::abs(WorthAt(worth_->value()) - wish.Buying.Worth) > kLeastWorth / 2) {
-        worth_->setValue(PositionOf(wish.Buying.Worth));
-    }
+    worth_->setValue(PositionOf(wish.Buying.Worth));
     most_->setValue(wish.Buying.MostToBuy);
     worthText_->setText(tr("at least %1 of seen difference").arg(wish.Buying.Worth, 0, 'f', 3));
     worthText_->setEnabled(buying);
@@ -177,11 +180,16 @@ void PaintSourceDialog::Change() {
     wish.From = sets_->isChecked()       ? PaintsFrom::Sets
                 : template_->isChecked() ? PaintsFrom::Template
                                          : PaintsFrom::Owned;
+    if (byEye_->isEnabled()) {
+        wish.ByEye = byEye_->isChecked();
+    }
     if (templates_->currentIndex() >= 0) {
         wish.Template = templates_->currentText().toStdString();
     }
     if (wish.From != PaintsFrom::Owned) {
-        wish.Buying = {first_->isChecked(), WorthAt(worth_->value()), most_->value()};
+        const bool moved = worth_->value() != PositionOf(wish.Buying.Worth);
+        wish.Buying = {first_->isChecked(), moved ? WorthAt(worth_->value()) : wish.Buying.Worth,
+                       most_->value()};
     }
     Run([&] { form_.Choose(wish); });
     soon_.start();
@@ -199,7 +207,7 @@ void PaintSourceDialog::Measure() {
         }
         preview_->setPixmap(QPixmap::fromImage(
             ToImage(figures->Picture)
-                .scaled(preview_->size().expandedTo(kPreview) * 0.95, Qt::KeepAspectRatio)));
+                .scaled(preview_->size().expandedTo(kSourcePreview) * 0.95, Qt::KeepAspectRatio)));
         figures_->Show(tr("%1 paints: %2 owned, %3 to buy. Mean seen difference %4.")
                            .arg(figures->Paints)
                            .arg(figures->Paints - figures->ToBuy)

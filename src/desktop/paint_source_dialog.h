@@ -35,11 +35,12 @@ class PaintSourceDialog : public FormDialog {
     void Change();
     void Measure();
 
-    PaintSource form_;
+    PaintSourceForm form_;
     QRadioButton* sets_;
     QRadioButton* template_;
     QRadioButton* owned_;
     QComboBox* templates_;
+    QCheckBox* byEye_;
     QCheckBox* first_;
     QSlider* worth_;
     QLabel* worthText_;

@@ -50,8 +50,8 @@ bool IsPainted(const Workplace& place) {
 std::vector<Substitute> SubstitutesFor(const PaintColor& paint, const Shelf& shelf) {
     std::vector<Substitute> found;
     for (const NearPaint& near :
-         NearestOwned(shelf, ColorOf(paint), MissingPaints::kSubstitutes + 1)) {
-        if (IdOf(*near.Paint) != IdOf(paint) && found.size() < MissingPaints::kSubstitutes) {
+         NearestOwned(shelf, ColorOf(paint), MissingPaintsForm::kSubstitutes + 1)) {
+        if (IdOf(*near.Paint) != IdOf(paint) && found.size() < MissingPaintsForm::kSubstitutes) {
             found.push_back({PaintOf(*near.Paint), near.Paint->Label, near.Seen});
         }
     }
@@ -60,13 +60,13 @@ std::vector<Substitute> SubstitutesFor(const PaintColor& paint, const Shelf& she
 
 }  // namespace
 
-void MissingPaints::Form_Load() {
+void MissingPaintsForm::Form_Load() {
     RequireGrid(place_.State);
     exchanges_ = 0;
     Measure();
 }
 
-void MissingPaints::Measure() {
+void MissingPaintsForm::Measure() {
     const BusyPointer busy(place_.Screen);
     shelf_ = ReadShelf(place_.Folder);
     SeeInCatalogue(shelf_, place_.State->MasterColors);
@@ -88,13 +88,13 @@ void MissingPaints::Measure() {
     picture_ = StipplesSmall(place_.State);
 }
 
-void MissingPaints::Missing_Click(int missing) {
+void MissingPaintsForm::Missing_Click(int missing) {
     if (Holds(missing_, missing)) {
         chosen_ = missing;
     }
 }
 
-void MissingPaints::Use_Click(int substitute) {
+void MissingPaintsForm::Use_Click(int substitute) {
     if (!Holds(missing_, chosen_) || !Holds(At(missing_, chosen_).Nearest, substitute)) {
         return;
     }
@@ -119,7 +119,7 @@ void MissingPaints::Use_Click(int substitute) {
     PaintAgain(painted);
 }
 
-void MissingPaints::Undo_Click() {
+void MissingPaintsForm::Undo_Click() {
     if (exchanges_ > 0) {
         --exchanges_;
         const bool painted = IsPainted(place_);
@@ -128,14 +128,14 @@ void MissingPaints::Undo_Click() {
     }
 }
 
-void MissingPaints::PaintAgain(bool painted) {
+void MissingPaintsForm::PaintAgain(bool painted) {
     if (painted) {
         PaintItNow_Click(place_);
     }
     Measure();
 }
 
-void MissingPaints::Done_Click() {
+void MissingPaintsForm::Done_Click() {
     place_.Screen.CloseForm(FormId::MissingPaints);
 }
 

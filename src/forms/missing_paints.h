@@ -24,12 +24,12 @@ struct MissingPaint {
 };
 
 /// What the kit at hand lacks on the shelf, and what could stand in for it.
-class MissingPaints {
+class MissingPaintsForm {
   public:
     static constexpr int kSubstitutes = 3;
 
     /// `fonts` and the plan's settings decide how much paint the pages ask for.
-    MissingPaints(Workplace& place, const Exporter& fonts, PlanSettings plan)
+    MissingPaintsForm(Workplace& place, const Exporter& fonts, PlanSettings plan)
         : place_(place), fonts_(fonts), plan_(std::move(plan)) {}
 
     /// Throws Error while there is no grid, FileError and FormatError for the shelf.

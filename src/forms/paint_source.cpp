@@ -60,11 +60,11 @@ double MeanSeenOf(const Workplace& place) {
 
 }  // namespace
 
-const std::vector<std::string>& PaintSource::SelectedSets() const {
+const std::vector<std::string>& PaintSourceForm::SelectedSets() const {
     return place_.State->SelectedPaintsList;
 }
 
-void PaintSource::Form_Load() {
+void PaintSourceForm::Form_Load() {
     WorkState& state = place_.State;
     shelf_ = ReadShelf(place_.Folder);
     SeeInCatalogue(shelf_, state.MasterColors);
@@ -78,24 +78,26 @@ void PaintSource::Form_Load() {
     wish_ = {owned                ? PaintsFrom::Owned
              : state.TemplateMode ? PaintsFrom::Template
                                   : PaintsFrom::Sets,
-             owned ? "" : state.SelectedTemplate, state.Chosen.Buying};
+             owned ? "" : state.SelectedTemplate, state.Chosen.Match == Matching::ByEye,
+             state.Chosen.Buying};
     if (wish_.Template.empty() && !templates_.empty()) {
         wish_.Template = templates_.front();
     }
 }
 
-void PaintSource::Choose(const PaintSourceWish& wish) {
+void PaintSourceForm::Choose(const PaintSourceWish& wish) {
     wish_ = wish;
 }
 
 // The shelf's paints reach the palette the way of a template, but in a copy nothing is written.
-void PaintSource::Apply(Workplace& place) const {
+void PaintSourceForm::Apply(Workplace& place) const {
     WorkState& state = place.State;
     const bool owned = wish_.From == PaintsFrom::Owned;
     state.Chosen.Buying = wish_.Buying;
     state.Chosen.Buying.Asked = wish_.Buying.Asked && !owned;
+    const bool byEye = wish_.ByEye || state.Chosen.Buying.Asked;
+    state.Chosen.Match = byEye ? Matching::ByEye : Matching::Plain;
     if (state.Chosen.Buying.Asked) {
-        state.Chosen.Match = Matching::ByEye;
         state.OwnedPaints = owned_;
     }
     if (wish_.From == PaintsFrom::Sets) {
@@ -111,7 +113,7 @@ void PaintSource::Apply(Workplace& place) const {
     RestorePaintColors(place);
 }
 
-std::optional<PaintSourceFigures> PaintSource::Figures() const {
+std::optional<PaintSourceFigures> PaintSourceForm::Figures() const {
     const bool needsOwned = wish_.From == PaintsFrom::Owned || wish_.Buying.Asked;
     if (!place_.State->PictureLoaded || (needsOwned && owned_.Empty()) ||
         (wish_.From == PaintsFrom::Template && wish_.Template.empty())) {
@@ -132,7 +134,7 @@ std::optional<PaintSourceFigures> PaintSource::Figures() const {
                               .Picture = SmallPicture(scratch.State)};
 }
 
-void PaintSource::AcceptButton_Click() {
+void PaintSourceForm::AcceptButton_Click() {
     const bool owned = wish_.From == PaintsFrom::Owned;
     if ((owned || wish_.Buying.Asked) && owned_.Empty()) {
         RefuseEmptyShelf(place_.Folder);
@@ -159,7 +161,7 @@ void PaintSource::AcceptButton_Click() {
     }
 }
 
-void PaintSource::CancelButton_Click() {
+void PaintSourceForm::CancelButton_Click() {
     place_.Screen.CloseForm(FormId::PaintSource);
 }
 

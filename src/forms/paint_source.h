@@ -16,6 +16,7 @@ enum class PaintsFrom { Sets, Template, Owned };
 struct PaintSourceWish {
     PaintsFrom From = PaintsFrom::Sets;
     std::string Template{};  // its name
+    bool ByEye = false;      // colors are matched so; always where what is owned goes first
     OwnedFirst Buying{};     // has no meaning where all paints are owned
 
     bool operator==(const PaintSourceWish&) const = default;
@@ -31,9 +32,9 @@ struct PaintSourceFigures {
 
 /// One choice of where paints come from: sets, a template or what is owned, and whether that goes
 /// first.
-class PaintSource {
+class PaintSourceForm {
   public:
-    explicit PaintSource(Workplace& place) : place_(place) {}
+    explicit PaintSourceForm(Workplace& place) : place_(place) {}
 
     /// Throws FileError, FormatError for a shelf that cannot be read.
     void Form_Load();
