@@ -42,25 +42,40 @@ void DrawBigLabel(QPainter& painter, const QRectF& box, const QString& label) {
                      Qt::black);
 }
 
-void DrawPaintText(QPainter& painter, const QRectF& box, const PaintColor& paint) {
-    const double mm = std::clamp(box.height() / kUnitsPerMm / 4.2, kSmallestText, 3.2);
-    const QString name = ToQt(paint.PaintName);
-    const QString small =
-        ToQt(paint.PaintCode.empty() ? paint.Mfg : paint.PaintCode + ", " + paint.Mfg);
-    const QRectF above(box.left(), box.top(), box.width(), box.height() * 0.62);
-    const QRectF below(box.left(), above.bottom(), box.width(), box.height() * 0.38);
-    painter.setFont(TextFont(FontMm(mm), Weight::Bold));
-    const int wrapped = Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap;
-    if (painter.fontMetrics().boundingRect(above.toRect(), wrapped, name).height() >
-        above.height()) {
-        painter.setFont(TextFont(FontMm(std::max(mm * 0.8, kSmallestText))));
+// Larger than half of the label's letters a name says no more.
+QFont WrappedFont(const QRectF& box, int flags, const QString& text) {
+    for (double mm = std::min(box.height() / kUnitsPerMm / 2.6, 3.2);; mm *= 0.93) {
+        const QFont font = TextFont(FontMm(std::max(mm, kSmallestText)), Weight::Bold);
+        const QRectF drawn = QFontMetricsF(font).boundingRect(box, flags, text);
+        if (mm <= kSmallestText ||
+            (drawn.width() <= box.width() && drawn.height() <= box.height())) {
+            return font;
+        }
     }
+}
+
+void DrawPaintText(QPainter& painter, const QRectF& box, const PaintColor& paint) {
+    const QRectF above(box.left(), box.top(), box.width(), box.height() * 0.6);
+    const QRectF below(box.left(), above.bottom(), box.width(), box.height() * 0.4);
+    constexpr int kWrapped = Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap;
     painter.save();
     painter.setClipRect(above);
-    painter.drawText(above, wrapped, name);
+    painter.setFont(WrappedFont(above, kWrapped, ToQt(paint.PaintName)));
+    painter.drawText(above, kWrapped, ToQt(paint.PaintName));
     painter.restore();
-    painter.setFont(TextFont(FontMm(std::max(mm * 0.75, kSmallestText))));
-    DrawLineOfText(painter, below, Qt::AlignLeft | Qt::AlignTop, small);
+    const double mm = std::clamp(box.height() / kUnitsPerMm / 7, kSmallestText, 2.4);
+    painter.setFont(TextFont(FontMm(mm)));
+    const double line = QFontMetricsF(painter.font()).lineSpacing();
+    const bool two = !paint.PaintCode.empty() && 2 * line <= below.height();
+    const QString code = ToQt(paint.PaintCode);
+    const QString first = two || paint.Mfg.empty() ? code
+                          : code.isEmpty()         ? ToQt(paint.Mfg)
+                                                   : code + ", " + ToQt(paint.Mfg);
+    DrawLineOfText(painter, below, Qt::AlignLeft | Qt::AlignTop, first);
+    if (two) {
+        DrawLineOfText(painter, below.adjusted(0, line, 0, 0), Qt::AlignLeft | Qt::AlignTop,
+                       ToQt(paint.Mfg));
+    }
 }
 
 void DrawSticker(QPainter& painter, const PlanRect& place, const Sticker& sticker) {

@@ -4,6 +4,7 @@
 #include "forms/my_paints.h"
 #include "forms/paint_source.h"
 #include "forms/small_photo.h"
+#include "paints/restore.h"
 #include "plan/blank_exporter.h"
 #include "shelf/shelf_file.h"
 #include "support/error.h"
@@ -166,6 +167,7 @@ TEST(MissingPaints, AnExchangeStaysOverTheNextConversionAndGoesByUndo) {
     form.Use_Click(0);
     EXPECT_EQ(form.Missing().size(), missing - 1);
     EXPECT_TRUE(has("Mud") && !has(before));
+    RestorePaintColors(photo.Place);
     photo.Convert();
     EXPECT_TRUE(has("Mud") && !has(before));
     form.Undo_Click();
