@@ -33,7 +33,7 @@ StickersDialog::StickersDialog(QWidget* parent)
     size->addWidget(height_);
     auto* rows = new QFormLayout(this);
     rows->addRow(tr("&Sheet"), sheet_);
-    rows->addRow(tr("&Label"), size);
+    rows->addRow(LabelFor(*width_, tr("&Label")), size);
     rows->addRow(tr("Labels &gone already"), used_);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("&Save PDF…"));

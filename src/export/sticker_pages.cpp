@@ -68,14 +68,16 @@ void DrawPaintText(QPainter& painter, const QRectF& box, const PaintColor& paint
     const double line = QFontMetricsF(painter.font()).lineSpacing();
     const bool two = !paint.PaintCode.empty() && 2 * line <= below.height();
     const QString code = ToQt(paint.PaintCode);
-    const QString first = two || paint.Mfg.empty() ? code
-                          : code.isEmpty()         ? ToQt(paint.Mfg)
-                                                   : code + ", " + ToQt(paint.Mfg);
-    DrawLineOfText(painter, below, Qt::AlignLeft | Qt::AlignTop, first);
     if (two) {
-        DrawLineOfText(painter, below.adjusted(0, line, 0, 0), Qt::AlignLeft | Qt::AlignTop,
-                       ToQt(paint.Mfg));
+        const QRectF upper(below.left(), below.top(), below.width(), below.height() / 2);
+        DrawLineOfText(painter, upper, Qt::AlignLeft | Qt::AlignVCenter, code);
+        DrawLineOfText(painter, upper.translated(0, upper.height()),
+                       Qt::AlignLeft | Qt::AlignVCenter, ToQt(paint.Mfg));
+        return;
     }
+    const QString both = code.isEmpty() || paint.Mfg.empty() ? code + ToQt(paint.Mfg)
+                                                             : code + ", " + ToQt(paint.Mfg);
+    DrawLineOfText(painter, below, Qt::AlignLeft | Qt::AlignTop, both);
 }
 
 void DrawSticker(QPainter& painter, const PlanRect& place, const Sticker& sticker) {
