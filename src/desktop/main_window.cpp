@@ -24,6 +24,7 @@ namespace vendrel {
 namespace {
 
 constexpr QSize kFirstSize(1000, 800);
+constexpr int kNarrowestSource = 60;
 // Title bar and borders as window managers draw them; known exactly only once shown.
 constexpr QSize kWindowFrame(16, 48);
 
@@ -115,6 +116,9 @@ void MainWindow::Arrange() {
     progress_->hide();
     source_->setObjectName(QStringLiteral("PaintsFrom"));
     source_->setFlat(true);
+    // Long names must not keep the window wide.
+    source_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    source_->setMinimumWidth(kNarrowestSource);
     source_->setToolTip(tr("Where paints come from"));
     connect(source_, &QPushButton::clicked, this, [this] { Choose(MenuId::ChoosePaintSource); });
     setCentralWidget(MakeMiddle());

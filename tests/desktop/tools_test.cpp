@@ -243,7 +243,7 @@ void ToolsTest::ThePdfWindowTellsWhatACanvasDoesToTheSymbols() {
     const QImage letters = Find<QLabel>(window, "PlanPage").pixmap().toImage();
     QTest::keyClick(&Find<QComboBox>(window, "PlanSymbols"), Qt::Key_End);
     QTRY_VERIFY(Find<QLabel>(window, "PlanPage").pixmap().toImage() != letters);
-    QCOMPARE(desktop_->Form().Everything().Plan().Settings().Symbols, SymbolStyle::Signs);
+    QCOMPARE(desktop_->Form().Everything().Plan().Settings().Symbols, SymbolStyle::Mine);
     Press(window, "CancelPdf");
 }
 
