@@ -25,7 +25,8 @@ bool NeedsStudio(std::span<const std::string_view> words) {
         const Arguments arguments = vendrel::ParseArguments(words);
         return arguments.What == Command::Window || arguments.What == Command::Symbols ||
                (arguments.What == Command::Kit && arguments.Kit.Outputs.Chosen.NeedsFonts()) ||
-               (arguments.What == Command::Paints && !arguments.Paints.Missing.empty()) ||
+               (arguments.What == Command::Paints &&
+                (!arguments.Paints.Missing.empty() || !arguments.Paints.Stickers.empty())) ||
                (arguments.What == Command::Shop && !arguments.Shop.Undo);
     } catch (const vendrel::UsageError&) {
         return false;  // wrong usage is explained faster

@@ -9,7 +9,10 @@
 #include "desktop/kit_pdf_dialog.h"
 #include "desktop/kit_photo_dialog.h"
 #include "desktop/make_paintable_dialog.h"
+#include "desktop/missing_paints_dialog.h"
+#include "desktop/my_paints_dialog.h"
 #include "desktop/paint_shop_dialog.h"
+#include "desktop/paint_source_dialog.h"
 #include "desktop/save_everything_dialog.h"
 #include "desktop/save_kit_dialog.h"
 #include "desktop/template_shop_dialog.h"
@@ -43,6 +46,12 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<ColorMatcherDialog>(context, parent);
         case FormId::MakePaintable:
             return std::make_unique<MakePaintableDialog>(context, parent);
+        case FormId::MyPaints:
+            return std::make_unique<MyPaintsDialog>(context, parent);
+        case FormId::PaintSource:
+            return std::make_unique<PaintSourceDialog>(context, parent);
+        case FormId::MissingPaints:
+            return std::make_unique<MissingPaintsDialog>(context, parent);
         case FormId::TouchUp:
             return std::make_unique<TouchUpDialog>(context, parent);
         case FormId::About:

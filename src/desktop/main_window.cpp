@@ -17,12 +17,14 @@
 #include "desktop/arrivals.h"
 #include "desktop/dialogs.h"
 #include "desktop/text.h"
+#include "forms/paint_source.h"
 #include "support/error.h"
 
 namespace vendrel {
 namespace {
 
 constexpr QSize kFirstSize(1000, 800);
+constexpr int kNarrowestSource = 60;
 // Title bar and borders as window managers draw them; known exactly only once shown.
 constexpr QSize kWindowFrame(16, 48);
 
@@ -39,6 +41,7 @@ MainWindow::MainWindow(Workplace& place, MainForm& form, QtUi& ui)
       captureFrame_(new ZoomView(place.Frames->CaptureFrame.Picture)),
       emptyPage_(new QWidget),
       zoom_(MakeZoom()),
+      source_(new QPushButton),
       hint_(new ValueLabel("StatusHint", tr("Status"))),
       progress_(new QProgressBar) {
     setObjectName(QStringLiteral("Main"));
@@ -111,6 +114,13 @@ void MainWindow::Arrange() {
     progress_->setFixedWidth(120);
     progress_->setTextVisible(false);
     progress_->hide();
+    source_->setObjectName(QStringLiteral("PaintsFrom"));
+    source_->setFlat(true);
+    // Long names must not keep the window wide.
+    source_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    source_->setMinimumWidth(kNarrowestSource);
+    source_->setToolTip(tr("Where paints come from"));
+    connect(source_, &QPushButton::clicked, this, [this] { Choose(MenuId::ChoosePaintSource); });
     setCentralWidget(MakeMiddle());
     resize(kFirstSize.boundedTo(screen()->availableSize() - kWindowFrame));
 }
@@ -120,6 +130,7 @@ QWidget* MainWindow::MakeMiddle() {
     auto* status = new QHBoxLayout;
     status->setContentsMargins(6, 2, 6, 2);
     status->addWidget(hint_, 1);
+    status->addWidget(source_);
     status->addWidget(progress_);
     status->addWidget(zoom_);
     auto* middle = new QWidget;
@@ -206,6 +217,10 @@ void MainWindow::MirrorStatus() {
     const WorkDisplay& display = ui_.Display();
     hint_->Show(display.ShowRuns ? tr("Escape or a click on the picture ends the show.")
                                  : Text(form_.StatusHint()));
+    const QString source = Text(PaintSourceText(place_.State));
+    source_->setText(tr("Paints: %1").arg(WithoutMnemonics(source)));
+    source_->setAccessibleName(tr("Paints come from: %1").arg(source));
+    source_->setEnabled(place_.MainMenu[MenuId::TemplateMenu].Enabled);
     progress_->setVisible(display.Total > 0);
     if (display.Total > 0) {
         progress_->setRange(0, display.Total);

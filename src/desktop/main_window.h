@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSessionManager>
 #include <QStackedWidget>
 #include <map>
@@ -70,6 +71,7 @@ class MainWindow : public QMainWindow {
     ZoomView* captureFrame_;
     QWidget* emptyPage_;
     ZoomControls* zoom_;
+    QPushButton* source_;
     ValueLabel* hint_;
     QProgressBar* progress_;
     bool ending_ = false;

@@ -167,8 +167,8 @@ void PlanPanel::Name() {
     bleed_->setRange(0, kWidestBleedMm);
     bleed_->setSuffix(tr(" mm"));
     bleed_->setToolTip(tr("Outlines run on past the canvas, to wrap it round a frame."));
-    symbols_->addItems(
-        {tr("The sheet's letters"), tr("The clearest letters"), tr("Numbers"), tr("Signs")});
+    symbols_->addItems({tr("The sheet's letters"), tr("The clearest letters"), tr("Numbers"),
+                        tr("Signs"), tr("My labels")});
     lines_->addItems({tr("As the kit has them"), tr("Smooth curves"), tr("Steps, as painted")});
     gray_->setOrientation(Qt::Horizontal);
     gray_->setRange(kLightestGray, kDarkestGray);

@@ -7,6 +7,7 @@
 #include "export/plan_preview.h"
 #include "export/print_symbols.h"
 #include "export/shopping_list.h"
+#include "export/sticker_pages.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -17,6 +18,11 @@ SymbolAspects QtExporter::Aspects(const PaintMarks& marks) const {
 
 Surface QtExporter::Preview(PlannedKit& kit, int longest) const {
     return PreviewPlan(kit, longest);
+}
+
+void QtExporter::WriteStickers(const std::vector<Sticker>& stickers, const StickerSheet& sheet,
+                               int used, const Target& target) const {
+    WriteStickerPages(stickers, sheet, used, target);
 }
 
 void QtExporter::Write(OutputId output, PlannedKit& kit, const Target& target) const {

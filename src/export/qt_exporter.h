@@ -10,6 +10,8 @@ class QtExporter final : public Exporter {
   public:
     [[nodiscard]] SymbolAspects Aspects(const PaintMarks& marks) const override;
     [[nodiscard]] Surface Preview(PlannedKit& kit, int longest) const override;
+    void WriteStickers(const std::vector<Sticker>& stickers, const StickerSheet& sheet, int used,
+                       const Target& target) const override;
     void Write(OutputId output, PlannedKit& kit, const Target& target) const override;
 
   private:

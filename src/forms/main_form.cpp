@@ -59,6 +59,9 @@ constexpr ClickHandler kHandlers[] = {
     {Set40Colors, &MainForm::Set40Colors_Click},
     {Set50Colors, &MainForm::Set50Colors_Click},
     {RunTemplateShop, &MainForm::RunTemplateShop_Click},
+    {ShowMyPaints, &MainForm::ShowMyPaints_Click},
+    {ChoosePaintSource, &MainForm::ChoosePaintSource_Click},
+    {ShowMissingPaints, &MainForm::ShowMissingPaints_Click},
     {NextBestColors, &MainForm::NextBestColors_Click},
     {AveragePixel, &MainForm::AveragePixel_Click},
     {SamplePixel, &MainForm::SamplePixel_Click},
@@ -352,6 +355,18 @@ void MainForm::SetFinalPaints(int finalColors) {
 void MainForm::RunTemplateShop_Click() {
     SetupMenuItems(place_.MainMenu, 2);
     place_.Screen.OpenForm(FormId::TemplateShop);
+}
+
+void MainForm::ShowMyPaints_Click() {
+    place_.Screen.OpenForm(FormId::MyPaints);
+}
+
+void MainForm::ChoosePaintSource_Click() {
+    place_.Screen.OpenForm(FormId::PaintSource);
+}
+
+void MainForm::ShowMissingPaints_Click() {
+    place_.Screen.OpenForm(FormId::MissingPaints);
 }
 
 void MainForm::NextBestColors_Click() {

@@ -62,6 +62,9 @@ class MainForm {
     void Set40Colors_Click();
     void Set50Colors_Click();
     void RunTemplateShop_Click();
+    void ShowMyPaints_Click();
+    void ChoosePaintSource_Click();
+    void ShowMissingPaints_Click();
     void NextBestColors_Click();
     void AveragePixel_Click();
     void SamplePixel_Click();

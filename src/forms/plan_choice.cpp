@@ -2,10 +2,14 @@
 
 #include <algorithm>
 
+#include "shelf/shelf_file.h"
+
 namespace vendrel {
 
 void PlanChoice::Measure(const Workplace& place, const Exporter& exporter) {
     exporter_ = &exporter;
+    folder_ = &place.Folder;
+    TakeLabels(settings_);
     figures_.reset();
     kit_.emplace(place, exporter, settings_);
     // Chosen for another painting, it may be wider than this one can be.
@@ -20,7 +24,17 @@ void PlanChoice::Restore(const PlanSettings& settings) {
     settings_ = settings;
 }
 
-void PlanChoice::Choose(const PlanSettings& wanted) {
+// A kit keeps the labels it was saved with until its symbols are chosen anew.
+void PlanChoice::TakeLabels(PlanSettings& settings) const {
+    const bool chosenAnew = settings_.Symbols != SymbolStyle::Mine || settings.Labels.empty();
+    if (settings.Symbols == SymbolStyle::Mine && chosenAnew && folder_ != nullptr) {
+        settings.Labels = LabelsOnShelf(ReadShelf(*folder_));
+    }
+}
+
+void PlanChoice::Choose(const PlanSettings& chosen) {
+    PlanSettings wanted = chosen;
+    TakeLabels(wanted);
     if (kit_) {
         (void)LayOutSheets(kit_->Sketch(), wanted);  // refuses what cannot be printed
         kit_->Choose(wanted);

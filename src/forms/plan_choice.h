@@ -16,7 +16,8 @@ class PlanChoice {
     /// Of a kit that was not painted yet: whether it can be printed is seen when it is measured.
     void Restore(const PlanSettings& settings);
     /// Throws Error for what cannot be printed, and keeps what was chosen before.
-    void Choose(const PlanSettings& wanted);
+    /// The labels of the shelf come with SymbolStyle::Mine.
+    void Choose(const PlanSettings& chosen);
 
     [[nodiscard]] const PlanSettings& Settings() const { return settings_; }
     /// Of the settings; nothing before the painting is measured.
@@ -29,7 +30,10 @@ class PlanChoice {
     [[nodiscard]] Surface Preview(int longest);
 
   private:
+    void TakeLabels(PlanSettings& settings) const;
+
     const Exporter* exporter_ = nullptr;
+    const ProgramFolder* folder_ = nullptr;
     PlanSettings settings_;
     std::optional<PlannedKit> kit_;
     std::optional<PlanFigures> figures_;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "eye/lab.h"
@@ -8,8 +9,10 @@
 #include "kit/shelf_commands.h"
 #include "kit/shelf_desk.h"
 #include "paints/foreign_catalogue.h"
+#include "plan/sticker_sheet.h"
 #include "shelf/nearest_owned.h"
 #include "shelf/paint_import.h"
+#include "support/csv_table.h"
 #include "support/decimals.h"
 #include "support/error.h"
 #include "support/text_file.h"
@@ -279,6 +282,48 @@ void AddTable(const ShelfDesk& desk, const PaintsOptions& options, const Surroun
                << " paints, " << read.Faults.size() << " lines left out\n";
 }
 
+StickerSheet SheetNamed(const std::string& word) {
+    const std::span<const StickerSheet> sheets = StickerSheets();
+    const auto toNumber = [&word](std::string_view text) {
+        const auto number = CsvNumber(text, ';', 1000);
+        if (!number) {
+            throw UsageError("--sheet cannot be \"" + word +
+                             "\"; choose list, the number of a sheet or a size such as 40x20.");
+        }
+        return *number;
+    };
+    if (const std::size_t by = word.find('x'); by != word.npos) {
+        constexpr double kMargin = 7;
+        return StickerGrid({210, 297},
+                           {toNumber(word.substr(0, by)), toNumber(word.substr(by + 1))}, kMargin);
+    }
+    const double number = word.empty() ? 1 : toNumber(word);
+    if (number != std::floor(number) || number < 1 || number > static_cast<double>(sheets.size())) {
+        throw UsageError("--sheet " + word + " is none of the sheets 1 to " +
+                         std::to_string(sheets.size()) + "; --sheet list shows them.");
+    }
+    return sheets[static_cast<std::size_t>(number) - 1];
+}
+
+void PrintStickers(ShelfDesk& desk, const PaintsOptions& options, std::ostream& out) {
+    if (options.Sheet == "list") {
+        int number = 0;
+        for (const StickerSheet& sheet : StickerSheets()) {
+            out << ++number << "  " << sheet.Name << '\n';
+        }
+        return;
+    }
+    const StickerSheet sheet = SheetNamed(options.Sheet);
+    if (options.Used >= sheet.Count()) {
+        throw UsageError("--used " + std::to_string(options.Used) +
+                         " leaves no label of a sheet of " + std::to_string(sheet.Count()) + ".");
+    }
+    const std::vector<Sticker> stickers = StickersOf(desk.Owned());
+    desk.Fonts().WriteStickers(stickers, sheet, options.Used, options.Stickers);
+    out << Printable(options.Stickers.string()) << ": " << stickers.size()
+        << (stickers.size() == 1 ? " label\n" : " labels\n");
+}
+
 }  // namespace
 
 void RunPaints(const PaintsOptions& options, const Surroundings& around) {
@@ -287,6 +332,8 @@ void RunPaints(const PaintsOptions& options, const Surroundings& around) {
         ListMissing(desk, options, around.Out);
     } else if (!options.Import.empty()) {
         Import(desk, options, around.Out);
+    } else if (!options.Stickers.empty()) {
+        PrintStickers(desk, options, around.Out);
     } else if (!options.Label.empty()) {
         Relabel(desk, options);
     } else if (!options.AddCatalogue.empty()) {

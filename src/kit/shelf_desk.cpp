@@ -38,17 +38,22 @@ KitNeeds ShelfDesk::NeedsOf(const std::string& kit) {
     if (!photo.Problem.empty()) {
         throw FileError(file, photo.Problem);
     }
-    if (exporter_ == nullptr && around_.MakeExporter) {
-        exporter_ = around_.MakeExporter();
-    }
-    if (exporter_ == nullptr) {
-        throw Error("This build has no fonts to lay out a kit's pages with; build it with Qt.");
-    }
+    const Exporter& fonts = Fonts();
     WorkState state = state_;
     Workplace place{state, frames_, menu_, ui_, folder_};
     ui_.SetScreen(read.Board);
     PrepareSettings(place);
-    return NeedsOfKit(place, read, photo.File, *exporter_);
+    return NeedsOfKit(place, read, photo.File, fonts);
+}
+
+const Exporter& ShelfDesk::Fonts() {
+    if (exporter_ == nullptr && around_.MakeExporter) {
+        exporter_ = around_.MakeExporter();
+    }
+    if (exporter_ == nullptr) {
+        throw Error("This build has no fonts to lay out pages with; build it with Qt.");
+    }
+    return *exporter_;
 }
 
 std::string TitleOf(const PaintColor& paint) {

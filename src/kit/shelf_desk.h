@@ -29,6 +29,8 @@ class ShelfDesk {
 
     /// What a kit file needs: a path, or the name of one in Kits. Throws Error.
     [[nodiscard]] KitNeeds NeedsOf(const std::string& kit);
+    /// Throws Error in a build without fonts.
+    [[nodiscard]] const Exporter& Fonts();
 
   private:
     const Surroundings& around_;

@@ -54,6 +54,18 @@ void AddPaintsOptions(CLI::App& app, PaintsOptions& paints) {
          "where they are in it, as in name=2,hex=5; of set, name,\ncode, hex, red, green, blue, "
          "l, a and b"},
         paints.Columns);
+    AddText(app, {"--stickers", "FILE", "writes labels for your pots as a PDF at true size"},
+            paints.Stickers);
+    AddText(app,
+            {"--sheet", "SHEET",
+             "with --stickers: a common sheet by its number (list shows\nthem) or labels of a size "
+             "on A4, as in 40x20 millimeters"},
+            paints.Sheet);
+    AddValue(app, {"--used", "N", "with --stickers: labels that the first sheet lacks already"},
+             [&paints](const std::string& option, const std::string& value) {
+                 paints.Used =
+                     static_cast<int>(ToNumber(option, value, {"", 0, 1000, "a number of labels"}));
+             });
     AddSwitch(app, {"--json", "", "prints JSON"}, paints.Json);
 }
 
@@ -71,13 +83,17 @@ void AddShopOptions(CLI::App& app, ShopOptions& shop) {
 void RequireOneTask(const PaintsOptions& paints) {
     const int tasks = (paints.Missing.empty() ? 0 : 1) + (paints.Import.empty() ? 0 : 1) +
                       (paints.AddCatalogue.empty() ? 0 : 1) + (paints.Label.empty() ? 0 : 1) +
-                      (paints.OwnedOnly || paints.Near ? 1 : 0);
+                      (paints.OwnedOnly || paints.Near ? 1 : 0) + (paints.Stickers.empty() ? 0 : 1);
     if (tasks > 1) {
         throw UsageError(
-            "Choose one of --missing, --import, --label, --add-catalogue, or --owned and --near.");
+            "Choose one of --missing, --import, --label, --add-catalogue, --stickers, or --owned "
+            "and --near.");
     }
     if (!paints.Take.empty() && paints.Import.empty()) {
         throw UsageError("--take goes with --import FILE.");
+    }
+    if ((!paints.Sheet.empty() || paints.Used > 0) && paints.Stickers.empty()) {
+        throw UsageError("--sheet and --used go with --stickers FILE.");
     }
     if (!paints.Columns.empty() && paints.AddCatalogue.empty()) {
         throw UsageError("--columns goes with --add-catalogue FILE.");

@@ -21,6 +21,9 @@ struct PaintsOptions {
     std::vector<std::string> Label;      // "paint=label"
     std::filesystem::path AddCatalogue;  // a table
     std::string Columns;                 // of it
+    std::filesystem::path Stickers;      // a PDF to write
+    std::string Sheet;                   // of labels
+    int Used = 0;                        // labels of the first sheet
     bool Json = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include "output/output_id.h"
 #include "plan/planned_kit.h"
+#include "plan/sticker_sheet.h"
 #include "support/surface.h"
 #include "support/target.h"
 
@@ -22,6 +23,11 @@ class Exporter {
     /// The first page of the plan as it would be printed, so many pixels at its longer side. Throws
     /// as Write.
     [[nodiscard]] virtual Surface Preview(PlannedKit& kit, int longest) const = 0;
+
+    /// Writes pot labels at true size, see StickerPlace. Throws Error without any or for a missing
+    /// font, FileError.
+    virtual void WriteStickers(const std::vector<Sticker>& stickers, const StickerSheet& sheet,
+                               int used, const Target& target) const = 0;
 
     /// Writes the color chart, the kit's pages, its plan as a drawing, the page to paint along with
     /// or the list of paints to `target`, whole or not at all. The painted picture stays as it is.

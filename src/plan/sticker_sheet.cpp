@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "support/error.h"
 
@@ -44,6 +45,20 @@ StickerSheet StickerGrid(const SizeMm& paper, const SizeMm& label, double margin
     sheet.Left = (paper.Width - sheet.Across * label.Width) / 2;
     sheet.Top = (paper.Height - sheet.Down * label.Height) / 2;
     return sheet;
+}
+
+std::vector<Sticker> StickersOf(const Shelf& shelf) {
+    std::vector<Sticker> stickers;
+    for (const ShelfPaint& paint : shelf.Paints) {
+        if (paint.IsLeft() && !paint.Label.empty()) {
+            stickers.push_back({paint.Label, PaintOf(paint)});
+        }
+    }
+    // 2 before 10, as one looks for them.
+    std::ranges::stable_sort(stickers, {}, [](const Sticker& sticker) {
+        return std::pair(sticker.Label.size(), sticker.Label);
+    });
+    return stickers;
 }
 
 std::vector<StickerPlace> PlaceStickers(const StickerSheet& sheet, int count, int used) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "plan/outlines.h"
 #include "plan/paper.h"
+#include "shelf/shelf.h"
 
 namespace vendrel {
 
@@ -32,6 +34,14 @@ struct StickerSheet {
 /// As many labels of a size as a paper holds, side by side in its middle, with `margin` around that
 /// printers cannot reach. Throws Error when it holds none.
 [[nodiscard]] StickerSheet StickerGrid(const SizeMm& paper, const SizeMm& label, double margin);
+
+/// What is written on a pot.
+struct Sticker {
+    std::string Label;
+    PaintColor Paint;
+};
+/// Of the paints that are left and have a label, by their labels.
+[[nodiscard]] std::vector<Sticker> StickersOf(const Shelf& shelf);
 
 /// Where a sticker goes.
 struct StickerPlace {

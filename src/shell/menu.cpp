@@ -42,6 +42,9 @@ constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {Set50Colors, "Set50Colors", "50 Colors", SetPaintMax},
     {TemplateMenu, "TemplateMenu", "Tools", kMenuBar},
     {RunTemplateShop, "RunTemplateShop", "Template Shop", TemplateMenu},
+    {ShowMyPaints, "ShowMyPaints", "My Paints\u2026", TemplateMenu},
+    {ChoosePaintSource, "ChoosePaintSource", "Where Paints Come From\u2026", TemplateMenu},
+    {ShowMissingPaints, "ShowMissingPaints", "What Is Missing\u2026", TemplateMenu, false},
     {NextBestColors, "NextBestColors", "Color Matcher", TemplateMenu},
     {SampleMethod, "SampleMethod", "Color Sample Method", TemplateMenu},
     {AveragePixel, "AveragePixel", "Pixel Averaging", SampleMethod},
@@ -87,7 +90,8 @@ void SetupMenuItems(Menu& menu, int stage) {
     }
     menu[ChangeToStipples].Enabled = stage == 2;
     menu[PaintItNow].Enabled = stage == 3;
-    Enable(menu, {ColorPickerSelect, MakeItPaintable, SaveStipples}, stage == 3 || stage == 4);
+    Enable(menu, {ColorPickerSelect, MakeItPaintable, SaveStipples, ShowMissingPaints},
+           stage == 3 || stage == 4);
     // A setting that waits for its stipples is no reason to lose a kit.
     Enable(menu, {SaveKit, SaveKitAs}, stage >= 2 && stage <= 4);
     menu[PrintMenu].Enabled = stage == 4;

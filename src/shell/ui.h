@@ -29,6 +29,9 @@ enum class FormId {
     TemplateShop,
     ColorMatcher,
     MakePaintable,
+    MyPaints,
+    PaintSource,
+    MissingPaints,
     About
 };
 

@@ -25,19 +25,6 @@ void KeepRecoverable(Workplace& place) {
     }
 }
 
-void LayOnAgain(Workplace& place) {
-    WorkState& state = place.State;
-    // Until the photo is changed to stipples the edits wait.
-    if (!place.MainMenu[MenuId::ColorPickerSelect].Enabled) {
-        return;
-    }
-    state.LaidOn = Sentence(LayOnBase(state, state, state));
-    EraseToColor(EaselOf(place), kBlack);
-    DrawStipplePicture(place);
-    SetupMenuItems(place.MainMenu, 3);
-    EditsWereLaidOn(place);
-}
-
 void GoBetweenBases(KitEdits& edits, const KitEdits* from, const KitEdits* to) {
     if (from != nullptr && to != nullptr && edits.Base == from->Base &&
         edits.BasePaints == from->BasePaints) {
@@ -58,6 +45,19 @@ void EditsWereLaidOn(Workplace& place) {
     KeepRecoverable(place);
 }
 
+void LayEditsAgain(Workplace& place) {
+    WorkState& state = place.State;
+    // Until the photo is changed to stipples the edits wait.
+    if (!place.MainMenu[MenuId::ColorPickerSelect].Enabled) {
+        return;
+    }
+    state.LaidOn = Sentence(LayOnBase(state, state, state));
+    EraseToColor(EaselOf(place), kBlack);
+    DrawStipplePicture(place);
+    SetupMenuItems(place.MainMenu, 3);
+    EditsWereLaidOn(place);
+}
+
 std::string TouchUpToUndo(const EditPast& past) {
     return past.DoneMoments > 0 ? past.Moments[past.DoneMoments - 1].Name : std::string();
 }
@@ -73,7 +73,7 @@ void UndoLastTouchUp(Workplace& place) {
         const EditMoment& step = state.Moments[--state.DoneMoments];
         state.Edits = *step.Before;
         GoBetweenBases(state, step.BaseAfter.get(), step.BaseBefore.get());
-        LayOnAgain(place);
+        LayEditsAgain(place);
     }
 }
 
@@ -83,7 +83,7 @@ void RedoLastTouchUp(Workplace& place) {
         const EditMoment& step = state.Moments[state.DoneMoments++];
         state.Edits = *step.After;
         GoBetweenBases(state, step.BaseBefore.get(), step.BaseAfter.get());
-        LayOnAgain(place);
+        LayEditsAgain(place);
     }
 }
 

@@ -10,6 +10,10 @@ namespace vendrel {
 /// same, and is kept recoverable in place of what was kept before. Throws FileError.
 void EditsWereLaidOn(Workplace& place);
 
+/// Lays the edits on the base again, if the photo is changed to stipples; stipples are drawn anew.
+/// Throws FileError.
+void LayEditsAgain(Workplace& place);
+
 // Steps of touching up, accepted ones, whatever was chosen for the kit since. Names are empty where
 // there is no step.
 [[nodiscard]] std::string TouchUpToUndo(const EditPast& past);

@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <memory>
 
 #include "desktop/studio.h"
@@ -33,6 +34,7 @@ class ToolsTest : public QObject {
     }
     void TemplateShopKeepsWhatIsAddedAndRemoved();
     void ColorMatcherExchangesAndConverts();
+    void KeysTickSeveralPaintsAndTheKitIsPaintedWithThem();
     void MakesAKitPaintableAsTheMouseProtectsIt();
     void AKitSavedUnderANameKeepsIt();
     void ThePdfWindowTellsWhatACanvasDoesToTheSymbols();
@@ -95,6 +97,35 @@ void ToolsTest::ColorMatcherExchangesAndConverts() {
         QVERIFY(paint.PaintName != before);
     }
     QVERIFY(desktop_->Place().MainMenu[MenuId::PaintItNow].Enabled);
+}
+
+void ToolsTest::KeysTickSeveralPaintsAndTheKitIsPaintedWithThem() {
+    QVERIFY(Choose(desktop_->Window(), "ChangeToStipples"));
+    QVERIFY(Choose(desktop_->Window(), "ShowMyPaints"));
+    QWidget* window = QApplication::activeModalWidget();
+    auto& table = Find<QTreeView>(*window, "MyPaintsTable");
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Home);
+    for (int i = 1; i < 5; ++i) {
+        QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
+    }
+    QTest::keyClick(&table, Qt::Key_Space);
+    QVERIFY(Find<QLabel>(*window, "MyPaintsSummary").text().startsWith(QLatin1String("5 paints")));
+    QVERIFY(Spoken(Find<QLabel>(*window, "MyPaintsSummary")).contains(QLatin1String("5 paints")));
+    QTest::keyClick(&table, Qt::Key_Space);  // none left
+    Press(*window, "MyPaintsUndo");
+    Press(*window, "MyPaintsDone");
+    QVERIFY(Choose(desktop_->Window(), "ChoosePaintSource"));
+    window = QApplication::activeModalWidget();
+    QTRY_VERIFY(Find<QLabel>(*window, "SourceFigures").text().contains(QLatin1String("to buy")));
+    QTest::mouseClick(&Find<QRadioButton>(*window, "FromOwned"), Qt::LeftButton, {}, {8, 8});
+    Press(*window, "AcceptSource");
+    QVERIFY(desktop_->Place().State->PaintCount <= 5);
+    QVERIFY(Find<QPushButton>(desktop_->Window(), "PaintsFrom").text().contains("own"));
+    QVERIFY(Choose(desktop_->Window(), "ShowMissingPaints"));
+    window = QApplication::activeModalWidget();
+    QVERIFY(Find<QLabel>(*window, "MissingSummary").text().contains(QLatin1String("have all")));
+    Press(*window, "MissingDone");
 }
 
 void ToolsTest::MakesAKitPaintableAsTheMouseProtectsIt() {
@@ -212,7 +243,7 @@ void ToolsTest::ThePdfWindowTellsWhatACanvasDoesToTheSymbols() {
     const QImage letters = Find<QLabel>(window, "PlanPage").pixmap().toImage();
     QTest::keyClick(&Find<QComboBox>(window, "PlanSymbols"), Qt::Key_End);
     QTRY_VERIFY(Find<QLabel>(window, "PlanPage").pixmap().toImage() != letters);
-    QCOMPARE(desktop_->Form().Everything().Plan().Settings().Symbols, SymbolStyle::Signs);
+    QCOMPARE(desktop_->Form().Everything().Plan().Settings().Symbols, SymbolStyle::Mine);
     Press(window, "CancelPdf");
 }
 

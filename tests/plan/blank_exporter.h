@@ -15,6 +15,8 @@ class BlankExporter : public Exporter {
     Surface Preview(PlannedKit& /*kit*/, int longest) const override {
         return Surface(longest, longest);
     }
+    void WriteStickers(const std::vector<Sticker>& /*stickers*/, const StickerSheet& /*sheet*/,
+                       int /*used*/, const Target& /*target*/) const override {}
 };
 
 }  // namespace vendrel::test

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QHashFunctions>
+#include <QtGui/QPageLayout>
+#include <QtGui/QPdfWriter>
+#include <string>
+
+#include "plan/paper.h"
+
+namespace vendrel {
+
+// Fonts and pictures are written in the order of hash tables, which the toolkit seeds by chance.
+class SteadyHashes {
+  public:
+    SteadyHashes() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~SteadyHashes() { QHashSeed::resetRandomGlobalSeed(); }
+    SteadyHashes(const SteadyHashes&) = delete;
+    SteadyHashes& operator=(const SteadyHashes&) = delete;
+};
+
+/// The whole sheet, lying where it is wider than high.
+[[nodiscard]] QPageLayout PdfLayoutOf(const SizeMm& sheet);
+
+/// The unit of the pages (export/pdf_units.h), the meaning of their colors and the title.
+void PreparePdf(QPdfWriter& writer, const std::string& title);
+
+/// Takes out of a finished file what chance and clock put there.
+void SettlePdf(QByteArray& pdf);
+
+}  // namespace vendrel
