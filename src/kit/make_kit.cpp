@@ -214,7 +214,16 @@ class NoFonts final : public Exporter {
     [[nodiscard]] Surface Preview(PlannedKit& /*kit*/, int /*longest*/) const override {
         return {};
     }
+    void WriteStickers(const std::vector<Sticker>& /*stickers*/, const StickerSheet& /*sheet*/,
+                       int /*used*/, const Target& target) const override {
+        Refuse(target);
+    }
     void Write(OutputId /*output*/, PlannedKit& /*kit*/, const Target& target) const override {
+        Refuse(target);
+    }
+
+  private:
+    [[noreturn]] static void Refuse(const Target& target) {
         throw FileError(target.Place, "cannot be drawn without fonts.");
     }
 };
