@@ -71,4 +71,10 @@ double ChromaOf(const Lab& lab) {
     return std::sqrt(lab.A * lab.A + lab.B * lab.B);
 }
 
+double HueAngleOf(const Lab& lab) {
+    constexpr double kGrayChroma = 6;  // below it a paint has no hue to the eye
+    constexpr double kBehindAll = 10;
+    return ChromaOf(lab) < kGrayChroma ? kBehindAll : std::atan2(lab.B, lab.A);
+}
+
 }  // namespace vendrel

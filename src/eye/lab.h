@@ -23,4 +23,7 @@ struct Lab {
 /// How far a color is from gray.
 [[nodiscard]] double ChromaOf(const Lab& lab);
 
+/// Its angle around the color circle, -pi..pi; behind all of them for what looks gray.
+[[nodiscard]] double HueAngleOf(const Lab& lab);
+
 }  // namespace vendrel

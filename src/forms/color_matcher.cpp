@@ -9,6 +9,7 @@
 #include "edits/kit_base.h"
 #include "edits/layer_recorder.h"
 #include "forms/require_grid.h"
+#include "forms/small_picture.h"
 #include "output/chart_contents.h"
 #include "paints/paint_sets.h"
 #include "paints/template_file.h"
@@ -23,28 +24,6 @@
 
 namespace vendrel {
 namespace {
-
-Surface DrawSmall(const WorkState& state) {
-    Surface small(state.Stipples.Across(), state.Stipples.Down());
-    for (int y = 1; y <= state.Stipples.Down(); ++y) {
-        for (int x = 1; x <= state.Stipples.Across(); ++x) {
-            small.Set(x - 1, y - 1, ColorOf(state.PaintColors[state.Stipples(x, y).ColorIndex]));
-        }
-    }
-    return small;
-}
-
-std::vector<CellPos> StipplesOf(const StippleGrid& grid, int paint) {
-    std::vector<CellPos> places;
-    for (int y = 1; y <= grid.CellsDown; ++y) {
-        for (int x = 1; x <= grid.CellsAcross; ++x) {
-            if (grid.Stipples(x, y).ColorIndex == paint) {
-                places.push_back({x, y});
-            }
-        }
-    }
-    return places;
-}
 
 bool IsExchanged(const EditLayer& edits, const PaintColor& paint) {
     return std::ranges::any_of(edits.Exchanges, [&paint](const PaintExchange& exchange) {
@@ -148,7 +127,7 @@ bool ColorMatcher::AnyExchanged() const {
 void ColorMatcher::ShowPreview() {
     ScratchPlace scratch(place_);
     Exchange(scratch.Place);
-    preview_ = DrawSmall(scratch.State);
+    preview_ = SmallPicture(scratch.State);
     CountRows(scratch.State);
 }
 
@@ -192,7 +171,7 @@ void ColorMatcher::Exchange(Workplace& place) const {
             palette[from] = current;
         }
         recorder.Exchange(recorder.NumberOf(original), recorder.NumberOf(current),
-                          StipplesOf(state, row));
+                          StipplesPaintedWith(state, row));
     }
     state.Edits = recorder.Layer();
     SetPalette(state, std::move(palette));

@@ -8,6 +8,7 @@
 #include "edits/kit_base.h"
 #include "edits/layer_recorder.h"
 #include "forms/require_grid.h"
+#include "forms/small_picture.h"
 #include "plan/planned_kit.h"
 #include "shelf/nearest_owned.h"
 #include "shelf/shelf_file.h"
@@ -19,32 +20,6 @@
 
 namespace vendrel {
 namespace {
-
-std::vector<CellPos> StipplesPaintedWith(const StippleGrid& grid, int paint) {
-    std::vector<CellPos> places;
-    for (int y = 1; y <= grid.CellsDown; ++y) {
-        for (int x = 1; x <= grid.CellsAcross; ++x) {
-            if (grid.Stipples(x, y).ColorIndex == paint) {
-                places.push_back({x, y});
-            }
-        }
-    }
-    return places;
-}
-
-Surface StipplesSmall(const WorkState& state) {
-    Surface small(state.CellsAcross, state.CellsDown);
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            small.Set(x - 1, y - 1, ColorOf(state.PaintColors[state.Stipples(x, y).ColorIndex]));
-        }
-    }
-    return small;
-}
-
-bool IsPainted(const Workplace& place) {
-    return place.MainMenu[MenuId::PrintMenu].Enabled;
-}
 
 // More of itself is what is missing.
 std::vector<Substitute> SubstitutesFor(const PaintColor& paint, const Shelf& shelf) {
@@ -85,7 +60,7 @@ void MissingPaintsForm::Measure() {
         }
     }
     chosen_ = missing_.empty() ? -1 : std::clamp(chosen_, 0, static_cast<int>(missing_.size()) - 1);
-    picture_ = StipplesSmall(place_.State);
+    picture_ = SmallPicture(place_.State);
 }
 
 void MissingPaintsForm::Missing_Click(int missing) {

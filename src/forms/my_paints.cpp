@@ -22,7 +22,6 @@ namespace vendrel {
 namespace {
 
 constexpr double kMostMl = 1'000'000;
-constexpr double kHuelessChroma = 8;  // below it a paint has no hue to the eye
 
 std::string StandingText(const ShelfPaint& paint, const PaintList& catalogue) {
     const CatalogueStanding standing = StandingOf(paint, catalogue);
@@ -48,9 +47,7 @@ std::string Shortest(double number) {
 // Grays come last, light ones first.
 std::pair<double, double> HueKey(const PaintColor& paint) {
     const Lab lab = LabOf(ColorOf(paint));
-    const double chroma = std::hypot(lab.A, lab.B);
-    const double hue = chroma < kHuelessChroma ? 10 : std::atan2(lab.B, lab.A);
-    return {hue, -lab.L};
+    return {HueAngleOf(lab), -lab.L};
 }
 
 bool HasAllWords(const std::string& lower, std::string_view words) {

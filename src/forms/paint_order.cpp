@@ -1,7 +1,6 @@
 #include "forms/paint_order.h"
 
 #include <algorithm>
-#include <cmath>
 #include <set>
 #include <utility>
 
@@ -14,12 +13,6 @@
 namespace vendrel {
 namespace {
 
-constexpr double kGrayChroma = 6;
-
-double HueOf(const Lab& lab) {
-    return ChromaOf(lab) < kGrayChroma ? 10 : std::atan2(lab.B, lab.A);
-}
-
 double KeyOf(const PaintColor& paint, PaintOrder order) {
     if (order == PaintOrder::Symbol) {
         return 0;
@@ -27,7 +20,7 @@ double KeyOf(const PaintColor& paint, PaintOrder order) {
     const Lab lab = LabOf(ColorOf(paint));
     switch (order) {
         case PaintOrder::Hue:
-            return HueOf(lab);
+            return HueAngleOf(lab);
         case PaintOrder::Lightness:
             return -lab.L;
         case PaintOrder::Use:

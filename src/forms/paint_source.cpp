@@ -5,6 +5,7 @@
 #include "cleanup/paint_pass.h"
 #include "convert/photo_import.h"
 #include "convert/stipple_conversion.h"
+#include "forms/small_picture.h"
 #include "paints/owned_paints.h"
 #include "paints/paint_sets.h"
 #include "paints/restore.h"
@@ -32,16 +33,6 @@ void TakeTemplate(WorkState& state, const std::string& name) {
     state.TemplateLoaded = true;
     state.SelectedTemplate = name;
     state.FinalColors = state.Chosen.FinalPaints;
-}
-
-Surface SmallPicture(const WorkState& state) {
-    Surface small(state.CellsAcross, state.CellsDown);
-    for (int y = 1; y <= state.CellsDown; ++y) {
-        for (int x = 1; x <= state.CellsAcross; ++x) {
-            small.Set(x - 1, y - 1, ColorOf(state.PaintColors[state.Stipples(x, y).ColorIndex]));
-        }
-    }
-    return small;
 }
 
 double MeanSeenOf(const Workplace& place) {
