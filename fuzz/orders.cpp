@@ -21,7 +21,7 @@ void Read(Bytes bytes) {
         Require(order.Id.find('/') == std::string::npos && !order.Id.starts_with('.'),
                 "an order's folder lies elsewhere");
         ids.push_back(order.Id);
-        (void)WordsOver({"--sets", "A", "--paintable"}, order);
+        (void)WordsOver({"--sets=A", "--paintable"}, order);
     }
     std::ranges::sort(ids);
     Require(std::ranges::adjacent_find(ids) == ids.end(), "two orders have one folder");

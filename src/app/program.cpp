@@ -24,6 +24,11 @@ void AskToStop(int signal) {
     std::signal(signal, SIG_DFL);
 }
 
+fs::path OwnProgram() {
+    std::error_code ignored;
+    return fs::read_symlink("/proc/self/exe", ignored);
+}
+
 // Where Data and Pictures lie: beside an installed program, else in the tree it was built from.
 fs::path ShippedFolder() {
     std::error_code ignored;
@@ -39,8 +44,7 @@ fs::path ShippedFolder() {
 }  // namespace
 
 fs::path OwnFolder() {
-    std::error_code ignored;
-    return fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    return OwnProgram().parent_path();
 }
 
 std::vector<std::string_view> WordsOf(int argc, char** argv) {
@@ -67,7 +71,7 @@ int RunProgram(std::span<const std::string_view> words, const QtParts& parts) {
         .ErrIsTerminal = isatty(STDERR_FILENO) != 0,
         .Shipped = shipped,
         .Version = VENDREL_VERSION,
-        .Program = OwnFolder() / "vendrel",
+        .Program = OwnProgram(),  // either half makes kits
         .Studio = parts.Studio,
         .Decoder = parts.Decoder,
         .MakeSymbols = parts.MakeSymbols,

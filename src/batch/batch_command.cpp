@@ -1,6 +1,7 @@
 #include "batch/batch_command.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "batch/batch_options.h"
 #include "batch/batch_run.h"
@@ -12,8 +13,10 @@
 #include "batch/read_orders.h"
 #include "batch/report_page.h"
 #include "batch/verify_orders.h"
+#include "kit/kit_keeping.h"
 #include "kit/printable.h"
 #include "support/decimals.h"
+#include "support/disk.h"
 #include "support/error.h"
 #include "support/whole_file.h"
 
@@ -129,7 +132,19 @@ bool ReadsAllColumns(const OrderList& list, const BatchOptions& options) {
                                [](const Order& order) { return HasLeaflet(order.Words); });
 }
 
-int Run(const BatchOptions& options, const Surroundings& around) {
+// An order's folder has no kits of the shop, so the one that all are like is found from here.
+std::vector<std::string> LikeFound(std::vector<std::string> words, const ProgramFolder& folder) {
+    constexpr std::string_view kLike = "--like=";
+    for (std::string& word : words) {
+        if (word.starts_with(kLike)) {
+            word.replace(kLike.size(), word.npos,
+                         FullPath(FindKit(folder, word.substr(kLike.size()))).string());
+        }
+    }
+    return words;
+}
+
+int Run(BatchOptions options, const Surroundings& around) {
     if (options.Task == BatchTask::Help) {
         around.Out << BatchHelpText();
         return kDone;
@@ -143,6 +158,8 @@ int Run(const BatchOptions& options, const Surroundings& around) {
     if (!options.PrintRun.empty()) {
         RequireJoiner(around);
     }
+    options.Words =
+        LikeFound(std::move(options.Words), ProgramFolder(options.Folder, around.Shipped));
     OrderList list = ReadOrders(options.Orders);
     CheckOrders(list, options, around);
     if (!options.Quiet && !ReadsAllColumns(list, options)) {

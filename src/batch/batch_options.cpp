@@ -168,28 +168,14 @@ class BatchWords {
         if (kit.FromGrid || !kit.KitPhoto.empty()) {
             throw UsageError("--from-grid and --photo are for one kit, not for a batch.");
         }
-        if (lists == 1) {
-            options_.Orders = kit.Photos.front();
-            options_.Words.erase(std::ranges::find(options_.Words, kit.Photos.front()));
-        }
-        JoinFileWords();
-        // What is said meanwhile makes no kit another one.
-        std::erase_if(options_.Words, [](const std::string& word) {
-            return word == "--quiet" || word == "--json";
-        });
+        options_.Orders = lists == 1 ? kit.Photos.front() : "";
         options_.Folder = kit.Folder;
         options_.Quiet = kit.Quiet;
         options_.Json = kit.Json;
-    }
-
-    // A setting that names a file is one word, so that the file can be seen to change.
-    void JoinFileWords() {
-        std::vector<std::string>& words = options_.Words;
-        for (std::size_t i = 0; i + 1 < words.size(); ++i) {
-            if (words[i] == "--like" || words[i] == "--leaflet" || words[i] == "--logo") {
-                words[i] += "=" + words[i + 1];
-                words.erase(words.begin() + static_cast<std::ptrdiff_t>(i) + 1);
-            }
+        options_.Words = kit.SettingWords;
+        // What is said meanwhile, and where, makes no kit another one.
+        for (const char* own : {"--quiet", "--json", "--folder"}) {
+            options_.Words = WithoutOption(options_.Words, own);
         }
     }
 

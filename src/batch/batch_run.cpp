@@ -12,7 +12,6 @@
 #include "batch/report_page.h"
 #include "kitset/sha256.h"
 #include "shelf/shelf_file.h"
-#include "shell/ui.h"
 #include "support/disk.h"
 #include "support/error.h"
 #include "support/held_file.h"
@@ -23,8 +22,6 @@ namespace vendrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int kLook = 100;  // milliseconds between two looks at whether to stop
 
 bool IsThere(const ManifestEntry::File& file, const fs::path& root) {
     std::error_code missing;
@@ -57,21 +54,16 @@ class OrdersRun {
           progress_(around.Err, around.ErrIsTerminal, options.Quiet, CountToMake()) {}
 
     BatchOutcome Run() {
-        const std::size_t jobs =
-            static_cast<std::size_t>(options_.Jobs > 0 ? options_.Jobs : UsualJobs());
-        auto next = plan_.begin();
-        while (next != plan_.end() || pool_.Running() > 0) {
-            while (next != plan_.end() && pool_.Running() < jobs) {
-                Begin(*next++);
-            }
-            for (const WorkerResult& result : pool_.Await(kLook)) {
-                End(result);
-            }
-            progress_.Show();
-            if (around_.StopAsked != nullptr && *around_.StopAsked) {
-                throw Stop{};
-            }
-        }
+        RunSideBySide(
+            {.Count = plan_.size(),
+             .Jobs = JobsOr(options_.Jobs),
+             .Start = [this](std::size_t index, WorkerPool& pool) { Begin(plan_[index], pool); },
+             .End = [this](const WorkerResult& result) { End(result); },
+             .Pause =
+                 [this] {
+                     progress_.Show();
+                     RequireGoingOn(around_);
+                 }});
         outcome_.Seconds = progress_.Pace().Seconds;
         WriteWholeFile(places_.Whole(), FormatManifest(OfThisList(), around_.Version));
         WriteReport();
@@ -105,7 +97,7 @@ class OrdersRun {
             plan_, [this](const PlannedOrder& order) { return !IsMade(order); }));
     }
 
-    void Begin(const PlannedOrder& order) {
+    void Begin(const PlannedOrder& order, WorkerPool& pool) {
         if (IsMade(order)) {
             ++(order.Need == OrderNeed::Nothing ? outcome_.Kept : outcome_.Failed);
             if (order.Need == OrderNeed::Failed) {
@@ -116,7 +108,7 @@ class OrdersRun {
             return;
         }
         try {
-            Start(order);
+            Start(order, pool);
         } catch (const Error& error) {  // of this order's folder or photo; the others go on
             ManifestEntry entry{.Order = order.What->Id,
                                 .Inputs = order.Inputs,
@@ -126,7 +118,7 @@ class OrdersRun {
         }
     }
 
-    void Start(const PlannedOrder& order) {
+    void Start(const PlannedOrder& order, WorkerPool& pool) {
         if (!order.Unreadable.empty()) {
             throw Error(order.Unreadable);
         }
@@ -136,8 +128,8 @@ class OrdersRun {
             fs::remove_all(folder);
         }
         CopyData(options_.Folder, folder);
-        pool_.Start({static_cast<std::size_t>(&order - plan_.data()), around_.Program,
-                     KitWords(*order.What, order.Words, folder)});
+        pool.Start({static_cast<std::size_t>(&order - plan_.data()), around_.Program,
+                    KitWords(*order.What, order.Words, folder)});
     }
 
     void End(const WorkerResult& result) {
@@ -188,7 +180,6 @@ class OrdersRun {
     std::vector<PlannedOrder> plan_;
     ManifestWriter lines_;
     BatchProgress progress_;
-    WorkerPool pool_;
     BatchOutcome outcome_;
 };
 
@@ -219,6 +210,7 @@ OrderNeed NeedOf(const ManifestEntry* known, const std::string& inputs, const fs
 
 std::vector<PlannedOrder> PlanOrders(const OrderList& list, const BatchOptions& options,
                                      const Manifest& known, std::string_view version) {
+    const std::string shared = SharedInputs(options.Folder, version);
     std::vector<PlannedOrder> plan;
     for (std::size_t i = 0; i < list.Orders.size(); ++i) {
         if (options.Part && !options.Part->Has(i)) {
@@ -227,7 +219,7 @@ std::vector<PlannedOrder> PlanOrders(const OrderList& list, const BatchOptions& 
         const Order& order = list.Orders[i];
         PlannedOrder planned{&order, WordsWithOrder(WordsOver(options.Words, order), order)};
         try {
-            planned.Inputs = InputsOf(order, planned.Words, options.Folder, version);
+            planned.Inputs = InputsOf(order, planned.Words, shared);
         } catch (const FileError& error) {  // this order's alone
             planned.Unreadable = error.what();
         }

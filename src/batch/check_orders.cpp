@@ -137,7 +137,7 @@ class OrderCheck {
         }
         KitOptions kit = KitOf(WordsOver(options_.Words, order));
         if (!kit.Like.empty()) {
-            kit = OptionsLike(kit);
+            kit = OptionsLike(kit, ReadKitFile(kit.Like));
         }
         if (!options_.PrintRun.empty() && !kit.Outputs.Chosen.Has(OutputId::Pdf)) {
             Fault(order, "outputs", "a print run needs a pdf of each order. Add pdf to it.");

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "support/csv_table.h"
 #include "support/error.h"
@@ -99,15 +100,11 @@ std::vector<std::string> WordsOfField(const OrderColumn& column, std::string_vie
 }
 
 std::vector<std::string> WithoutOption(const std::vector<std::string>& words,
-                                       std::string_view option, bool hasValue) {
+                                       std::string_view option) {
     std::vector<std::string> kept;
-    for (auto word = words.begin(); word != words.end(); ++word) {
-        if (*word == option) {
-            word += hasValue && std::next(word) != words.end() ? 1 : 0;
-        } else if (!word->starts_with(std::string(option) + "=")) {
-            kept.push_back(*word);
-        }
-    }
+    std::ranges::copy_if(words, std::back_inserter(kept), [option](const std::string& word) {
+        return word.substr(0, word.find('=')) != option;
+    });
     return kept;
 }
 

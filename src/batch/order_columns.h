@@ -31,8 +31,8 @@ struct OrderColumn {
 [[nodiscard]] std::vector<std::string> WordsOfField(const OrderColumn& column,
                                                     std::string_view field);
 
-/// Settings without all that sets one option: "--sets A", "--sets=A", "--paintable".
+/// Settings, a word each, without all that sets one option: "--sets=A", "--paintable".
 [[nodiscard]] std::vector<std::string> WithoutOption(const std::vector<std::string>& words,
-                                                     std::string_view option, bool hasValue);
+                                                     std::string_view option);
 
 }  // namespace vendrel

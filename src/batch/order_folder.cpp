@@ -9,6 +9,7 @@
 #include "kitset/sha256.h"
 #include "support/disk.h"
 #include "support/error.h"
+#include "support/letter_case.h"
 #include "support/same_bytes.h"
 #include "support/text_file.h"
 #include "support/whole_file.h"
@@ -26,7 +27,7 @@ std::vector<fs::path> DataFiles(const fs::path& root) {
     std::vector<fs::path> files;
     for (const char* folder : {"Data", "Data/catalogues", "templates"}) {
         for (const auto& entry : EntriesOf(root / folder)) {
-            const std::string ending = entry.path().extension().string();
+            const std::string ending = ToLower(entry.path().extension().string());
             if ((ending == ".csv" || ending == ".txt") && IsFile(entry.path())) {
                 files.push_back(fs::path(folder) / entry.path().filename());
             }
@@ -70,10 +71,20 @@ void CopyData(const fs::path& root, const fs::path& orderFolder) {
     }
 }
 
-std::string InputsOf(const Order& order, const std::vector<std::string>& words,
-                     const fs::path& root, std::string_view version) {
+std::string SharedInputs(const fs::path& root, std::string_view version) {
     RunningSha256 sum;
     AddText(sum, version);
+    for (const fs::path& file : DataFiles(root)) {
+        AddText(sum, file.string());
+        AddText(sum, SumOfFile(root / file));
+    }
+    return sum.Hex();
+}
+
+std::string InputsOf(const Order& order, const std::vector<std::string>& words,
+                     std::string_view shared) {
+    RunningSha256 sum;
+    AddText(sum, shared);
     const std::string photo = SumOfFile(order.Photo);
     if (photo.empty()) {
         (void)OpenRegular(order.Photo);  // says why
@@ -86,10 +97,6 @@ std::string InputsOf(const Order& order, const std::vector<std::string>& words,
         const bool file = std::ranges::any_of(
             kFileOptions, [&](std::string_view option) { return word.starts_with(option); });
         AddText(sum, file ? SumOfFile(word.substr(word.find('=') + 1)) : "");
-    }
-    for (const fs::path& file : DataFiles(root)) {
-        AddText(sum, file.string());
-        AddText(sum, SumOfFile(root / file));
     }
     return sum.Hex();
 }

@@ -35,9 +35,12 @@ class BatchPlaces {
 /// so that its kit is the same wherever and whenever it is made again. Throws FileError.
 void CopyData(const std::filesystem::path& root, const std::filesystem::path& orderFolder);
 
-/// Of all that a kit depends on: photo, settings, data, the program's version. Throws FileError
-/// when the photo cannot be read.
+/// Of what all kits of a batch depend on: that data, and the program's version.
+[[nodiscard]] std::string SharedInputs(const std::filesystem::path& root, std::string_view version);
+
+/// Of all that a kit depends on: photo, settings, what is shared. Throws FileError when the photo
+/// cannot be read.
 [[nodiscard]] std::string InputsOf(const Order& order, const std::vector<std::string>& words,
-                                   const std::filesystem::path& root, std::string_view version);
+                                   std::string_view shared);
 
 }  // namespace vendrel

@@ -192,12 +192,12 @@ std::vector<std::string> WordsOver(const std::vector<std::string>& common, const
             order.Words, [&](const std::string& word) { return word.starts_with(option); });
     };
     if (gives("--sets=") || gives("--template=")) {
-        words = WithoutOption(WithoutOption(words, "--sets", true), "--template", true);
+        words = WithoutOption(WithoutOption(words, "--sets"), "--template");
     }
     for (const auto& [heading, field] : order.Fields) {
         const OrderColumn column = ColumnOf(heading);
         if (column.Kind == ColumnKind::Switch && !field.empty()) {
-            words = WithoutOption(words, column.Option, false);
+            words = WithoutOption(words, column.Option);
         }
     }
     words.insert(words.end(), order.Words.begin(), order.Words.end());

@@ -6,7 +6,6 @@
 #include "batch/batch_run.h"
 #include "batch/kit_worker.h"
 #include "kitset/sha256.h"
-#include "shell/ui.h"
 #include "support/disk.h"
 #include "support/worker_pool.h"
 
@@ -14,8 +13,6 @@ namespace vendrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int kRemakeLook = 100;  // milliseconds between two looks at whether to stop
 
 class OrdersRemade {
   public:
@@ -37,22 +34,19 @@ class OrdersRemade {
 
     std::vector<std::string> Run() {
         BatchProgress progress(around_.Err, around_.ErrIsTerminal, options_.Quiet, plan_.size());
-        const std::size_t jobs =
-            static_cast<std::size_t>(options_.Jobs > 0 ? options_.Jobs : UsualJobs());
-        std::size_t next = 0;
-        while (next < plan_.size() || pool_.Running() > 0) {
-            while (next < plan_.size() && pool_.Running() < jobs) {
-                Start(next++);
-            }
-            for (const WorkerResult& result : pool_.Await(kRemakeLook)) {
-                const std::string& order = plan_[result.Index].What->Id;
-                progress.Ended(order, Compare(order, result));
-            }
-            progress.Show();
-            if (around_.StopAsked != nullptr && *around_.StopAsked) {
-                throw Stop{};
-            }
-        }
+        RunSideBySide({.Count = plan_.size(),
+                       .Jobs = JobsOr(options_.Jobs),
+                       .Start = [this](std::size_t index, WorkerPool& pool) { Start(index, pool); },
+                       .End =
+                           [&](const WorkerResult& result) {
+                               const std::string& order = plan_[result.Index].What->Id;
+                               progress.Ended(order, Compare(order, result));
+                           },
+                       .Pause =
+                           [&] {
+                               progress.Show();
+                               RequireGoingOn(around_);
+                           }});
         return std::move(sentences_);
     }
 
@@ -60,11 +54,11 @@ class OrdersRemade {
     // As deep as the orders, so that no name is longer than it was.
     [[nodiscard]] fs::path Scratch() const { return places_.Root() / ".remade"; }
 
-    void Start(std::size_t index) {
+    void Start(std::size_t index, WorkerPool& pool) {
         const PlannedOrder& order = plan_[index];
         const fs::path folder = Scratch() / order.What->Id;
         CopyData(options_.Folder, folder);
-        pool_.Start({index, around_.Program, KitWords(*order.What, order.Words, folder)});
+        pool.Start({index, around_.Program, KitWords(*order.What, order.Words, folder)});
     }
 
     std::string Compare(const std::string& order, const WorkerResult& result) {
@@ -92,7 +86,6 @@ class OrdersRemade {
     BatchPlaces places_;
     Manifest known_;
     std::vector<PlannedOrder> plan_;
-    WorkerPool pool_;
     std::vector<std::string> sentences_;
 };
 

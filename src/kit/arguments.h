@@ -25,10 +25,11 @@ struct KitOutputs {
 
 /// `vendrel kit`: photos or kits, and the settings that hold for all of them.
 struct KitOptions {
-    std::vector<std::string> Words;       // behind "kit", as they were given
-    std::vector<std::string> Photos;      // and kit files
-    std::shared_ptr<const KitFile> From;  // the kit that is made again or changed
-    std::filesystem::path KitPhoto;       // of a kit, in place of the one in Pictures
+    std::vector<std::string> Words;         // behind "kit", as they were given
+    std::vector<std::string> SettingWords;  // all but the photos, as "--name=value" each
+    std::vector<std::string> Photos;        // and kit files
+    std::shared_ptr<const KitFile> From;    // the kit that is made again or changed
+    std::filesystem::path KitPhoto;         // of a kit, in place of the one in Pictures
     std::filesystem::path Folder = ".";
     Settings Chosen;
     std::optional<Matching> Match;  // asked for by name
@@ -83,12 +84,7 @@ struct Arguments {
 /// The same options over the settings of a kit file, which hold where the words say nothing else.
 [[nodiscard]] KitOptions OptionsOver(const KitOptions& given, std::shared_ptr<const KitFile> kit);
 
-/// The same over the settings of the kit named by Like, which gives nothing else.
-[[nodiscard]] KitOptions OptionsLike(const KitOptions& given);
-
-[[nodiscard]] std::string_view HelpText();
-[[nodiscard]] std::string KitHelpText();
-[[nodiscard]] std::string PaintsHelpText();
-[[nodiscard]] std::string ShopHelpText();
+/// The same over the settings of a kit that gives nothing else; the answer is like none.
+[[nodiscard]] KitOptions OptionsLike(const KitOptions& given, const KitFile& kit);
 
 }  // namespace vendrel

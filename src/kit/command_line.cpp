@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "kit/arguments.h"
+#include "kit/help.h"
 #include "kit/kit_command.h"
 #include "kit/printable.h"
 #include "kit/shelf_commands.h"
@@ -97,6 +98,12 @@ void Complain(const Surroundings& around, const std::exception& failure) {
 }
 
 }  // namespace
+
+void RequireGoingOn(const Surroundings& around) {
+    if (around.StopAsked != nullptr && around.StopAsked->load(std::memory_order_relaxed)) {
+        throw Stop{};
+    }
+}
 
 int RunToTheEdge(const Surroundings& around, const std::function<int()>& command) {
     try {

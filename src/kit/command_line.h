@@ -40,6 +40,9 @@ struct Surroundings {
     const std::atomic<bool>* StopAsked = nullptr;
 };
 
+/// Throws Stop once the program should end.
+void RequireGoingOn(const Surroundings& around);
+
 /// Runs a command. Every failure ends here, as a sentence on Err. Answers the exit status as
 /// RunCommandLine does, or what the command answers.
 [[nodiscard]] int RunToTheEdge(const Surroundings& around, const std::function<int()>& command);

@@ -172,11 +172,16 @@ class KitRun {
     std::vector<std::string> warnings_;  // of the data that every kit is made with
 };
 
+KitOptions LikeItsKit(const KitOptions& options, const Surroundings& around) {
+    const ProgramFolder folder(options.Folder, around.Shipped);
+    return OptionsLike(options, ReadKitFile(FindKit(folder, options.Like.string())));
+}
+
 }  // namespace
 
 void RequireSettings(const KitOptions& options, const Surroundings& around) {
     if (!options.Like.empty()) {
-        return RequireSettings(OptionsLike(options), around);
+        return RequireSettings(LikeItsKit(options, around), around);
     }
     const ProgramFolder folder(options.Folder, around.Shipped);
     TerminalUi screen(around.Err, Chatter::None, options.Screen, around.StopAsked);
@@ -192,7 +197,7 @@ void RequireSettings(const KitOptions& options, const Surroundings& around) {
 
 bool RunKit(const KitOptions& options, const Surroundings& around) {
     if (!options.Like.empty()) {
-        return RunKit(OptionsLike(options), around);
+        return RunKit(LikeItsKit(options, around), around);
     }
     if (options.Jobs > 1 && options.Photos.size() > 1) {
         RequireSettings(options, around);

@@ -173,9 +173,25 @@ std::vector<WorkerResult> WorkerPool::Await(int milliseconds) {
     return ended;
 }
 
-int UsualJobs() {
+void RunSideBySide(const SideBySide& work) {
+    constexpr int kLook = 100;  // milliseconds between two pauses
+    WorkerPool pool;
+    std::size_t next = 0;
+    while (next < work.Count || pool.Running() > 0) {
+        while (next < work.Count && pool.Running() < work.Jobs) {
+            work.Start(next++, pool);
+        }
+        for (WorkerResult& result : pool.Await(kLook)) {
+            work.End(std::move(result));
+        }
+        work.Pause();
+    }
+}
+
+std::size_t JobsOr(int asked) {
     const auto cores = static_cast<long long>(std::max(1U, std::thread::hardware_concurrency()));
-    return static_cast<int>(std::clamp(FreeKilobytes() / kKilobytesPerKit, 1LL, cores));
+    return static_cast<std::size_t>(
+        asked > 0 ? asked : std::clamp(FreeKilobytes() / kKilobytesPerKit, 1LL, cores));
 }
 
 }  // namespace vendrel

@@ -55,7 +55,18 @@ class WorkerPool {
     std::vector<Worker> workers_;
 };
 
-/// So many kits fit side by side into this machine's processors and free memory; 1 or more.
-[[nodiscard]] int UsualJobs();
+/// Work of several programs, so many at a time.
+struct SideBySide {
+    std::size_t Count = 0;
+    std::size_t Jobs = 1;
+    std::function<void(std::size_t index, WorkerPool& pool)> Start;  // may find nothing to do
+    std::function<void(WorkerResult result)> End;
+    std::function<void()> Pause;  // now and then; what it throws ends all
+};
+/// Does it; programs that still run are told to end when this throws.
+void RunSideBySide(const SideBySide& work);
+
+/// So many as were asked for; 0: as many kits as this machine's processors and free memory hold.
+[[nodiscard]] std::size_t JobsOr(int asked);
 
 }  // namespace vendrel
