@@ -41,6 +41,8 @@ std::string_view Said(OrderNeed need) {
             return "to be made";
         case OrderNeed::Anew:
             return "has changed, to be made anew";
+        case OrderNeed::TouchedUp:
+            return "has changed, but was touched up: move its folder away";
         case OrderNeed::Failed:
             return "failed before";
     }

@@ -23,24 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsThere(const ManifestEntry::File& file, const fs::path& root) {
-    std::error_code missing;
-    return fs::file_size(root / file.Place, missing) == file.Bytes && !missing;
-}
-
-// What the painter has put into an order's folder, or touched up there, is not the batch's to take.
-void RequireUntouched(const ManifestEntry& known, const BatchPlaces& places) {
-    for (const auto& entry : EntriesOf(places.Of(known.Order) / "Kits")) {
-        const fs::path place = entry.path().lexically_relative(places.Root());
-        const auto made = std::ranges::find(known.Files, place, &ManifestEntry::File::Place);
-        if (made == known.Files.end() || made->Sum != SumOfFile(entry.path())) {
-            throw FileError(entry.path(),
-                            "was touched up since it was made, and the order has changed. Move "
-                            "the order's folder away, then run the batch again.");
-        }
-    }
-}
-
 class OrdersRun {
   public:
     OrdersRun(const OrderList& list, const BatchOptions& options, const Surroundings& around)
@@ -98,6 +80,9 @@ class OrdersRun {
     }
 
     void Begin(const PlannedOrder& order, WorkerPool& pool) {
+        if (order.Need == OrderNeed::TouchedUp) {
+            return Refuse(order);
+        }
         if (IsMade(order)) {
             ++(order.Need == OrderNeed::Nothing ? outcome_.Kept : outcome_.Failed);
             if (order.Need == OrderNeed::Failed) {
@@ -118,13 +103,21 @@ class OrdersRun {
         }
     }
 
+    // What the manifest has of it stays: moved away it is made again.
+    void Refuse(const PlannedOrder& order) {
+        ++outcome_.Failed;
+        progress_.Ended(order.What->Id, places_.Of(order.What->Id).string() +
+                                            ": was touched up since it was made, and the order "
+                                            "has changed. Move this folder away, then run the "
+                                            "batch again.");
+    }
+
     void Start(const PlannedOrder& order, WorkerPool& pool) {
         if (!order.Unreadable.empty()) {
             throw Error(order.Unreadable);
         }
         const fs::path folder = places_.Of(order.What->Id);
         if (order.Need == OrderNeed::Anew) {
-            RequireUntouched(manifest_.at(order.What->Id), places_);
             fs::remove_all(folder);
         }
         CopyData(options_.Folder, folder);
@@ -191,21 +184,6 @@ void WriteReports(const std::vector<ReportedOrder>& orders, const BatchPlaces& p
     const std::vector<PaintTotal> totals = TotalPaints(orders, shelf);
     WriteWholeFile(places.Paints(), FormatTotals(totals));
     WriteWholeFile(places.Report(), ReportPage(orders, totals, places));
-}
-
-OrderNeed NeedOf(const ManifestEntry* known, const std::string& inputs, const fs::path& root) {
-    if (known == nullptr) {
-        return OrderNeed::Making;
-    }
-    if (known->Inputs != inputs) {
-        return known->Done ? OrderNeed::Anew : OrderNeed::Making;
-    }
-    if (!known->Done) {
-        return OrderNeed::Failed;
-    }
-    const bool all = std::ranges::all_of(
-        known->Files, [&](const ManifestEntry::File& file) { return IsThere(file, root); });
-    return all ? OrderNeed::Nothing : OrderNeed::Making;
 }
 
 std::vector<PlannedOrder> PlanOrders(const OrderList& list, const BatchOptions& options,

@@ -4,20 +4,11 @@
 #include "batch/manifest.h"
 #include "batch/order.h"
 #include "batch/order_folder.h"
+#include "batch/order_need.h"
 #include "batch/report_page.h"
 #include "kit/command_line.h"
 
 namespace vendrel {
-
-/// What an order needs.
-enum class OrderNeed {
-    Nothing,  // made as it is asked for, and its files are there
-    Making,   // never made, or files are missing
-    Anew,     // made from another photo, with other settings, or by another version
-    Failed    // failed as it is asked for; made again only when asked to
-};
-[[nodiscard]] OrderNeed NeedOf(const ManifestEntry* known, const std::string& inputs,
-                               const std::filesystem::path& root);
 
 /// What a run comes to.
 struct BatchOutcome {

@@ -42,6 +42,10 @@ TEST(Manifest, SaysWhatAnOrderNeeds) {
     files.Write("Orders/1/a.stp", "abc");
     EXPECT_EQ(NeedOf(&made, "now", files.Path()), OrderNeed::Nothing);
     EXPECT_EQ(NeedOf(&made, "then", files.Path()), OrderNeed::Anew);
+    files.Write("Orders/1/Kits/a.kit", "by hand");
+    EXPECT_EQ(NeedOf(&made, "then", files.Path()), OrderNeed::TouchedUp);
+    files.Write("Orders/1/a.stp", "abcd");
+    EXPECT_EQ(NeedOf(&made, "now", files.Path()), OrderNeed::Nothing) << "its results too";
     EXPECT_EQ(NeedOf(&failed, "now", files.Path()), OrderNeed::Failed);
     EXPECT_EQ(NeedOf(&failed, "then", files.Path()), OrderNeed::Making);
 }
