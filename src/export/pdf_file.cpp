@@ -3,6 +3,7 @@
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QMarginsF>
 #include <algorithm>
+#include <vector>
 
 #include "export/pdf_units.h"
 #include "export/print_fonts.h"
@@ -10,26 +11,60 @@
 namespace vendrel {
 namespace {
 
-// Takes the same room, for the file is full of byte positions. What follows is the zone: "+01'00'",
-// "+01:00" or "Z".
-void FixDate(QByteArray& pdf, QByteArrayView key, QByteArrayView fixed, char closing) {
-    const qsizetype at = pdf.lastIndexOf(key);
-    const qsizetype end = at < 0 ? -1 : pdf.indexOf(closing, at + key.size());
-    if (end < at + key.size() + fixed.size()) {
-        return;
-    }
-    pdf.replace(at + key.size(), fixed.size(), fixed.data(), fixed.size());
-    for (qsizetype i = at + key.size() + fixed.size(); i < end; ++i) {
-        char& c = pdf.data()[i];
-        c = c == '-' ? '+' : c >= '0' && c <= '9' ? '0' : c;
-    }
+// What was taken out of a file, by where it was.
+struct Cut {
+    qsizetype At = 0;
+    qsizetype Bytes = 0;
+};
+
+Cut Replace(QByteArray& pdf, qsizetype from, qsizetype end, const QByteArray& by) {
+    pdf.replace(from, end - from, by);
+    return {from, end - from - by.size()};
 }
 
-// The hour of printing says nothing about a kit, and with it no two files would be alike.
-void FixDates(QByteArray& pdf) {
-    FixDate(pdf, "/CreationDate (D:", "20000101000000", ')');
-    FixDate(pdf, "xmp:CreateDate=\"", "2000-01-01T00:00:00", '"');
-    FixDate(pdf, "xmp:ModifyDate=\"", "2000-01-01T00:00:00", '"');
+// The hour and zone of printing say nothing about a kit, and with them no two files would be alike.
+std::vector<Cut> FixDates(QByteArray& pdf) {
+    const auto fix = [&pdf](QByteArrayView key, char closing, const char* date) -> Cut {
+        const qsizetype at = pdf.indexOf(key);
+        const qsizetype end = at < 0 ? -1 : pdf.indexOf(closing, at + key.size());
+        return end < 0 ? Cut{} : Replace(pdf, at + key.size(), end, date);
+    };
+    // From the back, so that all places are those of the file as it was.
+    std::vector<Cut> cuts = {fix("xmp:ModifyDate=\"", '"', "2000-01-01T00:00:00Z"),
+                             fix("xmp:CreateDate=\"", '"', "2000-01-01T00:00:00Z")};
+    constexpr QByteArrayView kLength = "/Subtype /XML\n/Length ";
+    const qsizetype length = pdf.indexOf(kLength) + kLength.size();
+    const qsizetype end = pdf.indexOf('\n', length);
+    const qsizetype bytes = pdf.sliced(length, end - length).toLongLong();
+    cuts.push_back(
+        Replace(pdf, length, end, QByteArray::number(bytes - cuts[0].Bytes - cuts[1].Bytes)));
+    cuts.push_back(fix("/CreationDate (D:", ')', "20000101000000Z"));
+    return cuts;
+}
+
+// The table of where every object begins stands at the end, and where it begins behind it.
+void MoveObjects(QByteArray& pdf, const std::vector<Cut>& cuts) {
+    constexpr qsizetype kEntry = 20;  // "0000000117 00000 n \n"
+    constexpr qsizetype kDigits = 10;
+    const auto moved = [&cuts](qsizetype at) {
+        qsizetype to = at;
+        for (const Cut& cut : cuts) {
+            to -= cut.At < at ? cut.Bytes : 0;
+        }
+        return to;
+    };
+    constexpr QByteArrayView kStart = "startxref\n";
+    const qsizetype start = pdf.lastIndexOf(kStart) + kStart.size();
+    const qsizetype end = pdf.indexOf(' ', start);
+    const qsizetype table = moved(pdf.sliced(start, end - start).toLongLong());
+    Replace(pdf, start, end, QByteArray::number(table));
+    const qsizetype count = pdf.indexOf(' ', table) + 1;  // of "xref\n0 123\n"
+    qsizetype entry = pdf.indexOf('\n', count) + 1;
+    for (auto left = pdf.sliced(count, entry - count - 1).toLongLong(); left > 0; --left) {
+        const qsizetype at = moved(pdf.sliced(entry, kDigits).toLongLong());
+        pdf.replace(entry, kDigits, QByteArray::number(at).rightJustified(kDigits, '0'));
+        entry += kEntry;
+    }
 }
 
 // The toolkit tells files apart by chance, this one by what they hold.
@@ -70,7 +105,7 @@ void PreparePdf(QPdfWriter& writer, const std::string& title) {
 }
 
 void SettlePdf(QByteArray& pdf) {
-    FixDates(pdf);
+    MoveObjects(pdf, FixDates(pdf));
     FixId(pdf);
 }
 
