@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <utility>
 
+#include "support/in_parts.h"
 #include "support/list.h"
 
 namespace vendrel {
@@ -14,27 +16,25 @@ double AreaOf(const InscribedBox& box) {
 }
 
 // Walks the picture row by row and keeps for every column how far the pixel's region reaches up.
-// All boxes that can grow no further show up where a shorter column ends them.
+// All boxes that can grow no further show up where a shorter column ends them. Looks at a part of
+// the regions.
 class BoxSearch {
   public:
-    BoxSearch(const PaintedRegions& regions, const std::function<double(int)>& aspectOf)
-        : ids_(regions.Ids),
+    BoxSearch(const PixelGrid& ids, const std::function<double(int)>& aspectOf, const Slice& part,
+              std::vector<InscribedBox>& best)
+        : ids_(ids),
           aspectOf_(aspectOf),
+          part_(part),
           reach_(static_cast<std::size_t>(ids_.Across()) + 1),
-          best_(regions.List.size()) {
-        for (std::size_t i = 0; i < best_.size(); ++i) {
-            best_[i].Region = static_cast<int>(i);
-        }
-    }
+          best_(best) {}
 
-    std::vector<InscribedBox> Run() {
+    void Run() {
         for (int y = 0; y <= ids_.Down(); ++y) {
             UpdateReach(y);
             for (int x = 0; x <= ids_.Across();) {
                 x = SearchRun(x, y);
             }
         }
-        return std::move(best_);
     }
 
   private:
@@ -53,7 +53,8 @@ class BoxSearch {
     // One run of pixels of the same region, from column x on; answers where the next one begins.
     int SearchRun(int x, int y) {
         const int id = ids_(x, y);
-        if (const int end = EndOfRun(x, y); GoesOn(x, end, y)) {
+        if (const int end = EndOfRun(x, y);
+            id < part_.First || id >= part_.End || GoesOn(x, end, y)) {
             return end;
         }
         const double aspect = aspectOf_(id);
@@ -102,16 +103,23 @@ class BoxSearch {
 
     const PixelGrid& ids_;
     const std::function<double(int)>& aspectOf_;
+    Slice part_;
     std::vector<int> reach_;
     std::vector<Open> open_;
-    std::vector<InscribedBox> best_;
+    std::vector<InscribedBox>& best_;
 };
 
 }  // namespace
 
 std::vector<InscribedBox> FindRoomiestBoxes(const PaintedRegions& regions,
                                             const std::function<double(int)>& aspectOf) {
-    return BoxSearch(regions, aspectOf).Run();
+    const int count = static_cast<int>(regions.List.size());
+    std::vector<InscribedBox> best(regions.List.size());
+    for (int i = 0; i < count; ++i) {
+        At(best, i).Region = i;
+    }
+    InParts(count, [&](const Slice& part) { BoxSearch(regions.Ids, aspectOf, part, best).Run(); });
+    return best;
 }
 
 }  // namespace vendrel

@@ -18,7 +18,7 @@ struct InscribedBox {
 };
 
 /// The roomiest box of every region, by region. `aspectOf` says how wide a region's symbol is for
-/// its height.
+/// its height; several threads ask it.
 [[nodiscard]] std::vector<InscribedBox> FindRoomiestBoxes(
     const PaintedRegions& regions, const std::function<double(int)>& aspectOf);
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "plan/leaders.h"
+#include "support/in_parts.h"
 #include "support/list.h"
 
 namespace vendrel {
@@ -38,9 +39,12 @@ class Placement {
 
   private:
     void PlaceFirst() {
-        for (const PlanLabel& place : places_.OfRegions) {
-            OthersOf(place).push_back(Fitted(place));
-        }
+        InParts(static_cast<int>(places_.OfRegions.size()), [this](const Slice& part) {
+            for (int i = part.First; i < part.End; ++i) {
+                const PlanLabel& place = At(places_.OfRegions, i);
+                OthersOf(place).push_back(Fitted(place));
+            }
+        });
     }
 
     // Every piece that a page shows of a region has a symbol of its own, if one can be read there:
