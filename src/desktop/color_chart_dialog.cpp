@@ -12,7 +12,7 @@
 namespace vendrel {
 namespace {
 
-enum Column { kSymbol, kPaint, kStipples, kShare, kColumns };
+enum ChartColumn { kSymbolColumn, kPaintColumn, kStipplesColumn, kShareColumn, kChartColumns };
 
 }  // namespace
 
@@ -27,12 +27,12 @@ ColorChartDialog::ColorChartDialog(const ViewContext& context, QWidget* parent)
     connect(order_, &QComboBox::activated, this, [this](int index) {
         Run([this, index] { form_.Order_Click(static_cast<ChartOrder>(index)); });
     });
-    table_->setColumnCount(kColumns);
+    table_->setColumnCount(kChartColumns);
     table_->setHorizontalHeaderLabels({tr("Symbol"), tr("Paint"), tr("Stipples"), tr("Share")});
     table_->verticalHeader()->hide();
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->horizontalHeader()->setSectionResizeMode(kPaint, QHeaderView::Stretch);
+    table_->horizontalHeader()->setSectionResizeMode(kPaintColumn, QHeaderView::Stretch);
     table_->setIconSize(QSize(32, 20));
     auto* save = Named<QPushButton>("SaveChart", tr("Save Color Chart"));
     save->setText(tr("&Save Color Chart"));
@@ -69,13 +69,13 @@ void ColorChartDialog::FillRow(int line, const ChartRow& row) {
         return item;
     };
     QTableWidgetItem* symbol =
-        put(kSymbol, QString(QLatin1Char(form_.Symbol(row))), Qt::AlignHCenter);
+        put(kSymbolColumn, QString(QLatin1Char(form_.Symbol(row))), Qt::AlignHCenter);
     QFont bold = table_->font();
     bold.setBold(true);
     symbol->setFont(bold);
-    put(kPaint, Text(row.Label), Qt::AlignLeft)->setIcon(SwatchIcon(row.Swatch));
-    put(kStipples, QString::number(row.Stipples), Qt::AlignRight);
-    put(kShare, Text(ShareText(row.ShareTenths)), Qt::AlignRight);
+    put(kPaintColumn, Text(row.Label), Qt::AlignLeft)->setIcon(SwatchIcon(row.Swatch));
+    put(kStipplesColumn, QString::number(row.Stipples), Qt::AlignRight);
+    put(kShareColumn, Text(ShareText(row.ShareTenths)), Qt::AlignRight);
 }
 
 void ColorChartDialog::Mirror() {

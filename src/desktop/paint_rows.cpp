@@ -13,7 +13,7 @@
 namespace vendrel {
 namespace {
 
-enum Column { kSymbol, kName, kCount };
+enum RowColumn { kSymbol, kName, kCount };
 
 constexpr int kFigureMargin = 12;  // pixels
 
@@ -110,7 +110,7 @@ bool PaintRows::ShowRow(int at, const TouchUpPaint& paint) {
     }
     const bool used = paint.Count > 0;
     if (before.Count < 0 || (before.Count > 0) != used) {
-        for (const Column column : {kSymbol, kName, kCount}) {
+        for (const RowColumn column : {kSymbol, kName, kCount}) {
             row.setForeground(column, palette().brush(used ? QPalette::Active : QPalette::Disabled,
                                                       QPalette::Text));
         }

@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::array kEdges = {1.0,  2.0,  3.0,  4.0,  5.0,  6.0,  8.0,  10.0, 12.0,
                                14.0, 16.0, 20.0, 24.0, 28.0, 32.0, 40.0, 48.0, 64.0};
-constexpr int kWheelStep = 120;
 constexpr int kMostParts = 8;            // of what is drawn anew, each by itself
 constexpr std::size_t kMostMarks = 100;  // more are drawn faster with all between them
 constexpr int kSmallestRing = 18;        // pixels: found at a glance whatever the zoom
@@ -289,10 +288,12 @@ void TouchUpCanvas::mouseReleaseEvent(QMouseEvent* event) {
 void TouchUpCanvas::wheelEvent(QWheelEvent* event) {
     wheel_ += event->angleDelta().y();
     const QPointF around = event->position();
-    for (; wheel_ >= kWheelStep; wheel_ -= kWheelStep) {
+    for (; wheel_ >= QWheelEvent::DefaultDeltasPerStep;
+         wheel_ -= QWheelEvent::DefaultDeltasPerStep) {
         ZoomTo(EdgeAbove(place_.Edge), around);
     }
-    for (; wheel_ <= -kWheelStep; wheel_ += kWheelStep) {
+    for (; wheel_ <= -QWheelEvent::DefaultDeltasPerStep;
+         wheel_ += QWheelEvent::DefaultDeltasPerStep) {
         ZoomTo(EdgeBelow(place_.Edge), around);
     }
     event->accept();

@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::array kSteps = {10.0,  15.0,  20.0,  25.0,  33.0,  50.0,  67.0,  80.0, 100.0,
                                125.0, 150.0, 200.0, 300.0, 400.0, 500.0, 600.0, 800.0};
-constexpr int kWheelStep = 120;
 
 double StepAbove(double percent) {
     return *std::upper_bound(kSteps.begin(), kSteps.end() - 1, percent + 0.5);
@@ -240,10 +239,12 @@ void ZoomView::wheelEvent(QWheelEvent* event) {
         return;
     }
     wheel_ += event->angleDelta().y();
-    for (; wheel_ >= kWheelStep; wheel_ -= kWheelStep) {
+    for (; wheel_ >= QWheelEvent::DefaultDeltasPerStep;
+         wheel_ -= QWheelEvent::DefaultDeltasPerStep) {
         ZoomTo(StepAbove(percent_), event->position());
     }
-    for (; wheel_ <= -kWheelStep; wheel_ += kWheelStep) {
+    for (; wheel_ <= -QWheelEvent::DefaultDeltasPerStep;
+         wheel_ += QWheelEvent::DefaultDeltasPerStep) {
         ZoomTo(StepBelow(percent_), event->position());
     }
     event->accept();
