@@ -1,7 +1,5 @@
 #include "desktop/plan_panel.h"
 
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
@@ -32,7 +30,7 @@ QDoubleSpinBox* Length(const char* name, const QString& spoken) {
 }
 
 // Shows a length without telling anybody; what the painter typed stays as it is.
-void Show(QDoubleSpinBox& box, double mm, double unit, double most) {
+void ShowLength(QDoubleSpinBox& box, double mm, double unit, double most) {
     const QSignalBlocker quiet(&box);
     const QString suffix = unit == kMmPerInch ? QObject::tr(" in") : QObject::tr(" cm");
     if (box.suffix() != suffix || std::abs(box.maximum() * unit - most) > unit / 20) {
@@ -85,9 +83,7 @@ PlanPanel::PlanPanel(const QWidget& window)
       coverage_(Length("Coverage", tr("Area that 1 milliliter of paint covers"))),
       pot_(Length("PotSize", tr("Size of a pot of paint in milliliters"))),
       bySet_(Named<QCheckBox>("GroupBySet", tr("Group the chart's paints by their sets"))),
-      maker_(Named<QLineEdit>("KitMaker", tr("Your name or address on the pages"))),
-      logo_(Named<QPushButton>("KitLogo", tr("Choose a logo for the pages"))),
-      noLogo_(Named<QPushButton>("NoKitLogo", tr("No logo"))),
+      shop_(new ShopFacePanel),
       page_(Value("PlanPage")),
       pages_(Value("PlanPages")),
       canvas_(Value("PlanCanvas")),
@@ -99,7 +95,8 @@ PlanPanel::PlanPanel(const QWidget& window)
     AddTab(tr("Paper and &canvas"), &PlanPanel::AddSizes);
     AddTab(tr("Lines and s&ymbols"), &PlanPanel::AddLooks);
     AddTab(tr("Pai&nt"), &PlanPanel::AddPaint);
-    AddTab(tr("Make&r"), &PlanPanel::AddMaker);
+    tabs_->addTab(shop_, tr("Make&r"));
+    own_.push_back(shop_);
     const int height = PageHeightOn(window);
     page_->setFixedSize(static_cast<int>(std::lround(height * kPageShape)), height);
     page_->setAlignment(Qt::AlignCenter);
@@ -119,7 +116,7 @@ PlanPanel::PlanPanel(const QWidget& window)
     ConnectSizes();
     ConnectLooks();
     ConnectPaint();
-    ConnectMaker();
+    connect(shop_, &ShopFacePanel::Changed, this, &PlanPanel::Change);
     ConnectTabs();
 }
 
@@ -181,8 +178,6 @@ void PlanPanel::Name() {
     pot_->setSuffix(tr(" ml"));
     pot_->setSpecialValueText(tr("not counted"));
     bySet_->setText(tr("Paints &grouped by set"));
-    maker_->setPlaceholderText(tr("Your name or address"));
-    noLogo_->setText(tr("N&o logo"));
 }
 
 void PlanPanel::AddSizes(QFormLayout& rows) {
@@ -206,11 +201,6 @@ void PlanPanel::AddPaint(QFormLayout& rows) {
     rows.addRow(LabelFor(*coverage_, tr("1 ml co&vers")), Row({coverage_}));
     rows.addRow(LabelFor(*pot_, tr("&Pots of")), Row({pot_}));
     rows.addRow(tr("Chart"), bySet_);
-}
-
-void PlanPanel::AddMaker(QFormLayout& rows) {
-    rows.addRow(LabelFor(*maker_, tr("&Maker")), maker_);
-    rows.addRow(QString(), Row({logo_, noLogo_}));
 }
 
 QGroupBox* PlanPanel::MakeFigures() {
@@ -302,23 +292,6 @@ void PlanPanel::ConnectPaint() {
             [this](bool on) { Change([on](PlanSettings& plan) { plan.GroupBySet = on; }); });
 }
 
-void PlanPanel::ConnectMaker() {
-    connect(maker_, &QLineEdit::textEdited, this, [this](const QString& text) {
-        Change([&text](PlanSettings& plan) { plan.Maker = text.toStdString(); });
-    });
-    connect(logo_, &QPushButton::clicked, this, &PlanPanel::ChooseLogo);
-    connect(noLogo_, &QPushButton::clicked, this,
-            [this] { Change([](PlanSettings& plan) { plan.Logo.clear(); }); });
-}
-
-void PlanPanel::ChooseLogo() {
-    const QString file = QFileDialog::getOpenFileName(this, tr("A Logo for the Pages"), {},
-                                                      tr("Pictures (*.png *.jpg *.jpeg *.bmp)"));
-    if (!file.isEmpty()) {
-        Change([&file](PlanSettings& plan) { plan.Logo = file.toStdString(); });
-    }
-}
-
 void PlanPanel::ChangePaper() {
     const auto index = static_cast<std::size_t>(paper_->currentIndex());
     const Paper own = PaperOf({paperWidth_->value(), paperHeight_->value()}, false);
@@ -344,9 +317,13 @@ void PlanPanel::showEvent(QShowEvent* event) {
 }
 
 std::vector<QWidget*> PlanPanel::Controls() const {
-    return {paper_,  paperWidth_, paperHeight_, legible_, chosenSize_, width_, bothSides_,
-            across_, down_,       inches_,      bleed_,   symbols_,    lines_, gray_,
-            coats_,  coverage_,   pot_,         bySet_,   maker_,      logo_,  noLogo_};
+    std::vector<QWidget*> controls = {paper_,    paperWidth_, paperHeight_, legible_, chosenSize_,
+                                      width_,    bothSides_,  across_,      down_,    inches_,
+                                      bleed_,    symbols_,    lines_,       gray_,    coats_,
+                                      coverage_, pot_,        bySet_};
+    const std::vector<QWidget*> shop = shop_->Controls();
+    controls.insert(controls.end(), shop.begin(), shop.end());
+    return controls;
 }
 
 void PlanPanel::Mirror(PlanChoice& shown) {
@@ -371,9 +348,9 @@ void PlanPanel::MirrorSizes(const PlanSettings& settings) {
     paperWidth_->setEnabled(own);
     paperHeight_->setEnabled(own);
     (sized ? bothSides_ : wide ? chosenSize_ : legible_)->setChecked(true);
-    Show(*width_, wide ? settings.CanvasCm * 10 : 0, Unit(), widestCm_ * 10);
-    Show(*across_, sized ? settings.Canvas.Width : 0, Unit(), kLargestCanvasCm * 10);
-    Show(*down_, sized ? settings.Canvas.Height : 0, Unit(), kLargestCanvasCm * 10);
+    ShowLength(*width_, wide ? settings.CanvasCm * 10 : 0, Unit(), widestCm_ * 10);
+    ShowLength(*across_, sized ? settings.Canvas.Width : 0, Unit(), kLargestCanvasCm * 10);
+    ShowLength(*down_, sized ? settings.Canvas.Height : 0, Unit(), kLargestCanvasCm * 10);
     width_->setEnabled(wide);
     across_->setEnabled(sized);
     down_->setEnabled(sized);
@@ -389,12 +366,7 @@ void PlanPanel::MirrorLooks(const PlanSettings& settings) {
     lines_->setCurrentIndex(static_cast<int>(settings.Lines));
     const QSignalBlocker quietGray(gray_);
     gray_->setValue(settings.Gray);
-    if (maker_->text() != Text(settings.Maker)) {
-        maker_->setText(Text(settings.Maker));
-    }
-    const QString logo = QFileInfo(Text(settings.Logo.string())).fileName();
-    logo_->setText(logo.isEmpty() ? tr("Lo&go...") : logo);
-    noLogo_->setEnabled(!logo.isEmpty());
+    shop_->Mirror(settings);
 }
 
 void PlanPanel::MirrorPaint(const PlanSettings& settings) {

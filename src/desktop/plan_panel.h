@@ -7,16 +7,14 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTimer>
-#include <functional>
 #include <vector>
 
+#include "desktop/shop_face_panel.h"
 #include "forms/plan_choice.h"
 
 namespace vendrel {
@@ -50,24 +48,21 @@ class PlanPanel : public QWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
-    using Edit = std::function<void(PlanSettings&)>;
+    using Edit = ShopFacePanel::Edit;
 
     void Name();
     void AddTab(const QString& title, void (PlanPanel::*fill)(QFormLayout& rows));
     void AddSizes(QFormLayout& rows);
     void AddLooks(QFormLayout& rows);
     void AddPaint(QFormLayout& rows);
-    void AddMaker(QFormLayout& rows);
     [[nodiscard]] QGroupBox* MakeFigures();
     void ConnectSizes();
     void ConnectLooks();
     void ConnectPaint();
-    void ConnectMaker();
     void ConnectTabs();
     void Change(const Edit& edit);
     void ChangePaper();
     void ChangeCanvas();
-    void ChooseLogo();
     void MirrorSizes(const PlanSettings& settings);
     void MirrorLooks(const PlanSettings& settings);
     void MirrorPaint(const PlanSettings& settings);
@@ -99,9 +94,7 @@ class PlanPanel : public QWidget {
     QDoubleSpinBox* coverage_;
     QDoubleSpinBox* pot_;
     QCheckBox* bySet_;
-    QLineEdit* maker_;
-    QPushButton* logo_;
-    QPushButton* noLogo_;
+    ShopFacePanel* shop_;
     QLabel* page_;
     QLabel* pages_;
     QLabel* canvas_;

@@ -23,7 +23,6 @@ std::string ToOrder(const std::string& option, const std::string& value) {
 
 // Lines end with a line's end, | or the two characters \n, as a shell leaves them.
 std::vector<std::string> ToAddress(const std::string& option, const std::string& value) {
-    constexpr std::size_t kMostLines = 6;
     std::vector<std::string> lines;
     std::string text = value;
     for (auto at = text.find("\\n"); at != text.npos; at = text.find("\\n", at)) {
@@ -36,7 +35,8 @@ std::vector<std::string> ToAddress(const std::string& option, const std::string&
             }
         }
     }
-    if (lines.empty() || lines.size() > kMostLines || std::ranges::any_of(lines, HasControls)) {
+    if (lines.empty() || lines.size() > kMostAddressLines ||
+        std::ranges::any_of(lines, HasControls)) {
         RefuseValue(option, value, "one to six lines with | between them");
     }
     return lines;

@@ -23,7 +23,8 @@ struct ShopFace {
 };
 
 /// The longest order number whose code is still read from a page's small print.
-inline constexpr std::size_t kLongestOrder = 100;
+inline constexpr std::size_t kLongestOrder = 100;  // bytes
+inline constexpr std::size_t kMostAddressLines = 6;
 
 /// "#RRGGBB"; nothing for what is no color.
 [[nodiscard]] std::optional<Color> ColorFromHex(const std::string& text);
