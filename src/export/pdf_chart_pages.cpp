@@ -15,12 +15,10 @@
 namespace vendrel {
 namespace {
 
-constexpr double kMargin = 15;
 constexpr double kTop = 38;     // of the first row
 constexpr double kRow = 8.6;    // holds a swatch of 8 mm
 constexpr double kFooter = 12;  // the sums
 constexpr double kBottom = 12;
-const QColor kFaint(90, 90, 90);
 const QColor kRule(200, 200, 200);
 
 // Left edge and width of the columns, in millimeters from the margin; Paint takes what is left.
@@ -83,7 +81,7 @@ class ChartPage {
     void DrawSums(double top);
 
   private:
-    [[nodiscard]] double Right() const { return kit_.FrontPaper.Width - kMargin; }
+    [[nodiscard]] double Right() const { return kit_.FrontPaper.Width - kFrontMargin; }
     [[nodiscard]] const PaintColor& ColorOfRow(const PaintNeed& need) const {
         return kit_.Place.State->PaintColors[need.Paint];
     }
@@ -102,24 +100,23 @@ class ChartPage {
 
 void ChartPage::Write(const Column& column, double top, double height, int flags,
                       const QString& text) {
-    DrawLineOfText(painter_, MmRect(kMargin + column.Left, top, column.Width, height), flags, text);
+    DrawLineOfText(painter_, MmRect(kFrontMargin + column.Left, top, column.Width, height), flags,
+                   text);
 }
 
 void ChartPage::Rule(double at) {
     painter_.setPen(QPen(kRule, Mm(0.1)));
-    painter_.drawLine(QPointF(Mm(kMargin), Mm(at)), QPointF(Mm(Right()), Mm(at)));
+    painter_.drawLine(QPointF(Mm(kFrontMargin), Mm(at)), QPointF(Mm(Right()), Mm(at)));
     painter_.setPen(Qt::black);
 }
 
 void ChartPage::DrawHeading(int page, int pages) {
-    const double width = Right() - kMargin - kit_.OrderCorner();
+    const double width = Right() - kFrontMargin - kit_.OrderCorner();
     DrawOrderCorner(painter_, kit_);
     painter_.setPen(kit_.Ink());
-    painter_.setFont(TextFont(FontMm(7), Weight::Bold));
-    DrawLineOfText(painter_, MmRect(kMargin, kMargin, width, 10), Qt::AlignLeft,
-                   ToQt(kit_.Title()));
+    DrawTitle(painter_, MmRect(kFrontMargin, kFrontMargin, width, 10), 7, ToQt(kit_.Title()));
     painter_.setFont(TextFont(FontMm(3.6)));
-    painter_.setPen(kFaint);
+    painter_.setPen(kFaintInk);
     const WorkState& state = kit_.Place.State;
     QStringList facts{"Color chart", QString("%1 paints").arg(state.PaintCount),
                       "kit " + ToQt(KitMark(state, state, state))};
@@ -132,7 +129,7 @@ void ChartPage::DrawHeading(int page, int pages) {
     if (pages > 1) {
         facts << QString("page %1 of %2").arg(page).arg(pages);
     }
-    DrawLineOfText(painter_, MmRect(kMargin, kMargin + 10, width, 7), Qt::AlignLeft,
+    DrawLineOfText(painter_, MmRect(kFrontMargin, kFrontMargin + 10, width, 7), Qt::AlignLeft,
                    facts.join("  \u2022  "));
     painter_.setFont(TextFont(FontMm(2.7)));
     const double top = kTop - 6;
@@ -146,19 +143,19 @@ void ChartPage::DrawHeading(int page, int pages) {
         Write(kPots, top, 5, Qt::AlignRight, "Pots");
     }
     if (kit_.Plan.Pages.Tiles.size() > 1) {
-        Write({kPagesLeft, Right() - kMargin - kPagesLeft}, top, 5, Qt::AlignLeft, "On pages");
+        Write({kPagesLeft, Right() - kFrontMargin - kPagesLeft}, top, 5, Qt::AlignLeft, "On pages");
     }
     Rule(kTop);
-    kit_.DrawRule(painter_, Mm(kMargin), Mm(kTop - 0.3), Mm(Right() - kMargin));
+    kit_.DrawRule(painter_, Mm(kFrontMargin), Mm(kTop - 0.3), Mm(Right() - kFrontMargin));
     painter_.setPen(Qt::black);
 }
 
 void ChartPage::DrawSwatch(const PaintNeed& need, double top) {
-    painter_.setPen(QPen(kFaint, Mm(0.1)));
+    painter_.setPen(QPen(kFaintInk, Mm(0.1)));
     painter_.setBrush(ToQt(ColorOf(ColorOfRow(need))));
-    painter_.drawRect(MmRect(kMargin + kSwatch.Left, top + 0.3, kSwatch.Width, kRow - 0.6));
+    painter_.drawRect(MmRect(kFrontMargin + kSwatch.Left, top + 0.3, kSwatch.Width, kRow - 0.6));
     painter_.setBrush(Qt::NoBrush);
-    painter_.drawRect(MmRect(kMargin + kDab.Left, top + 0.3, kDab.Width, kRow - 0.6));
+    painter_.drawRect(MmRect(kFrontMargin + kDab.Left, top + 0.3, kDab.Width, kRow - 0.6));
     painter_.setPen(Qt::black);
 }
 
@@ -167,7 +164,7 @@ void ChartPage::MarkNewLabel(const PaintNeed& need, double top) {
     const std::vector<OwnLabel>& labels = kit_.Marks.Labels;
     if (Holds(labels, need.Paint - 1) && At(labels, need.Paint - 1).IsNew) {
         painter_.setFont(TextFont(FontMm(2)));
-        painter_.setPen(kFaint);
+        painter_.setPen(kFaintInk);
         Write(kSymbol, top + 6, 2.4, Qt::AlignHCenter, "new");
         painter_.setPen(Qt::black);
     }
@@ -187,7 +184,7 @@ void ChartPage::WriteName(const PaintNeed& need, double top) {
         size -= 0.1;
         painter_.setFont(TextFont(FontMm(size)));
     }
-    painter_.setPen(kFaint);
+    painter_.setPen(kFaintInk);
     Write(kPaint, top + 4.6, 3.4, Qt::AlignLeft, order);
     painter_.setPen(Qt::black);
 }
@@ -204,16 +201,16 @@ void ChartPage::WriteFigures(const PaintNeed& need, double top, double height) {
 void ChartPage::DrawRow(const Row& row, double top) {
     if (row.Need == nullptr) {
         painter_.setFont(TextFont(FontMm(3.4), Weight::Bold));
-        DrawLineOfText(painter_, MmRect(kMargin, top, Right() - kMargin, kRow), Qt::AlignLeft,
-                       ToQt(row.Heading));
+        DrawLineOfText(painter_, MmRect(kFrontMargin, top, Right() - kFrontMargin, kRow),
+                       Qt::AlignLeft, ToQt(row.Heading));
         Rule(top + kRow);
         return;
     }
     const PaintNeed& need = *row.Need;
     DrawSwatch(need, top);
-    kit_.Symbols.DrawInLine(painter_, SymbolOf(kit_.Place.State->PaintColors, need.Paint),
-                            {Mm(kMargin + kSymbol.Left + kSymbol.Width / 2), Mm(top + kRow / 2)},
-                            Mm(3.2));
+    kit_.Symbols.DrawInLine(
+        painter_, SymbolOf(kit_.Place.State->PaintColors, need.Paint),
+        {Mm(kFrontMargin + kSymbol.Left + kSymbol.Width / 2), Mm(top + kRow / 2)}, Mm(3.2));
     MarkNewLabel(need, top);
     WriteName(need, top);
     painter_.setFont(TextFont(FontMm(3.2)));
@@ -228,7 +225,8 @@ void ChartPage::WritePages(const PaintNeed& need, double top) {
     if (all == 1) {
         return;
     }
-    const QRectF box = MmRect(kMargin + kPagesLeft, top, Right() - kMargin - kPagesLeft, kRow);
+    const QRectF box =
+        MmRect(kFrontMargin + kPagesLeft, top, Right() - kFrontMargin - kPagesLeft, kRow);
     const QString pages = PagesText(kit_.Plan.Pages.Tiles, need.Pages);
     constexpr int kFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
     for (const double size : {2.6, 2.3, 2.0}) {
@@ -246,9 +244,9 @@ void ChartPage::DrawSums(double top) {
     Write(kPaint, top, 7, Qt::AlignLeft, "Together");
     WriteFigures(SumOf(kit_.Needs), top, 7);
     painter_.setFont(TextFont(FontMm(2.7)));
-    painter_.setPen(kFaint);
+    painter_.setPen(kFaintInk);
     DrawLineOfText(
-        painter_, MmRect(kMargin, top + 7, Right() - kMargin, 5), Qt::AlignLeft,
+        painter_, MmRect(kFrontMargin, top + 7, Right() - kFrontMargin, 5), Qt::AlignLeft,
         "Milliliters are for " + ToQt(UseText(kit_.Settings.Use, kit_.Settings.InInches())) + ".");
     painter_.setPen(Qt::black);
 }

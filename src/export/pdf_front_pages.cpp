@@ -14,13 +14,11 @@
 namespace vendrel {
 namespace {
 
-constexpr double kMargin = 15;
 constexpr double kMakerMm = 16;  // height of the maker's line on the cover
 constexpr double kNameMm = 6;    // and with an address below it
 constexpr double kAddressLineMm = 4.1;
 constexpr double kCodeMm = 19;    // of the cover's code
 constexpr double kCodeRimMm = 3;  // white around it
-const QColor kFaint(90, 90, 90);
 
 QSizeF Fitted(const Surface& picture, const QSizeF& room) {
     return QSizeF(picture.Width(), picture.Height()).scaled(room, Qt::KeepAspectRatio);
@@ -28,7 +26,7 @@ QSizeF Fitted(const Surface& picture, const QSizeF& room) {
 
 void DrawPicture(QPainter& painter, const Surface& picture, const QRectF& at) {
     painter.drawImage(at, ToImage(picture));
-    painter.setPen(QPen(kFaint, Mm(0.1)));
+    painter.setPen(QPen(kFaintInk, Mm(0.1)));
     painter.drawRect(at);
 }
 
@@ -78,7 +76,7 @@ CoverPlaces PlacesOn(const QRectF& room, const Surface& painting, const Surface&
 
 void DrawCaption(QPainter& painter, const QRectF& picture, const QString& text) {
     painter.setFont(TextFont(FontMm(3.5)));
-    painter.setPen(kFaint);
+    painter.setPen(kFaintInk);
     painter.drawText(QRectF(picture.left(), picture.bottom() + Mm(1), picture.width(), Mm(6)),
                      Qt::AlignHCenter | Qt::AlignVCenter, text);
 }
@@ -94,7 +92,7 @@ void DrawPalette(QPainter& painter, const KitPages& kit, const QRectF& box) {
     const double down = std::min(step, (box.height() + Mm(kGap)) / rows);
     const QSizeF swatch(step - Mm(kGap), down - Mm(kGap));
     const double top = box.bottom() + Mm(kGap) - rows * down;
-    painter.setPen(QPen(kFaint, Mm(0.1)));
+    painter.setPen(QPen(kFaintInk, Mm(0.1)));
     for (int i = 0; i < count; ++i) {
         const QPointF corner(box.left() + i % kAcross * step, top + i / kAcross * down);
         painter.fillRect(QRectF(corner, swatch), ToQt(ColorOf(paints[i + 1])));
@@ -135,7 +133,7 @@ void DrawMakerLines(QPainter& painter, const KitPages& kit, const QRectF& box) {
     const double height = name + Mm(kAddressLineMm) * static_cast<double>(address.size());
     double top = box.center().y() - height / 2;
     painter.setFont(TextFont(FontMm(4.5)));
-    painter.setPen(kFaint);
+    painter.setPen(kFaintInk);
     if (name > 0) {
         DrawLineOfText(painter, {box.left(), top, box.width(), name}, Qt::AlignLeft,
                        ToQt(kit.Settings.Maker));
@@ -190,8 +188,9 @@ double DrawCoverFoot(QPainter& painter, const KitPages& kit) {
     if (height == 0) {
         return 0;
     }
-    const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
-    const QRectF box(Mm(kMargin), Mm(kit.FrontPaper.Height - kMargin - height), width, Mm(height));
+    const double width = Mm(kit.FrontPaper.Width - 2 * kFrontMargin);
+    const QRectF box(Mm(kFrontMargin), Mm(kit.FrontPaper.Height - kFrontMargin - height), width,
+                     Mm(height));
     const QRectF left = DrawCoverCode(painter, kit, box);
     if (HasMaker(kit)) {
         DrawMaker(painter, kit, left);
@@ -202,25 +201,25 @@ double DrawCoverFoot(QPainter& painter, const KitPages& kit) {
 }
 
 void DrawCoverHeading(QPainter& painter, const KitPages& kit) {
-    const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
+    const double width = Mm(kit.FrontPaper.Width - 2 * kFrontMargin);
     // The mark has a place of its own: whatever else is cut short, it must be told from others.
     constexpr double kMarkWidth = 40;
     painter.setPen(kit.Ink());
-    painter.setFont(TextFont(FontMm(11), Weight::Bold));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width - Mm(kMarkWidth), Mm(16)},
-                   Qt::AlignLeft, ToQt(kit.Title()));
+    DrawTitle(painter, {Mm(kFrontMargin), Mm(kFrontMargin), width - Mm(kMarkWidth), Mm(16)}, 11,
+              ToQt(kit.Title()));
     painter.setFont(TextFont(FontMm(4.5)));
-    painter.setPen(kFaint);
+    painter.setPen(kFaintInk);
     DrawLineOfText(
-        painter, {Mm(kMargin) + width - Mm(kMarkWidth), Mm(kMargin + 5.4), Mm(kMarkWidth), Mm(8)},
+        painter,
+        {Mm(kFrontMargin) + width - Mm(kMarkWidth), Mm(kFrontMargin + 5.4), Mm(kMarkWidth), Mm(8)},
         Qt::AlignRight, "kit " + ToQt(KitMark(kit.Place.State, kit.Place.State, kit.Place.State)));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 16), width, Mm(8)}, Qt::AlignLeft,
+    DrawLineOfText(painter, {Mm(kFrontMargin), Mm(kFrontMargin + 16), width, Mm(8)}, Qt::AlignLeft,
                    KitSummary(kit));
     painter.setFont(TextFont(FontMm(3.5)));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin + 22.5), width, Mm(5)}, Qt::AlignLeft,
-                   kit.StyleNote());
+    DrawLineOfText(painter, {Mm(kFrontMargin), Mm(kFrontMargin + 22.5), width, Mm(5)},
+                   Qt::AlignLeft, kit.StyleNote());
     if (kit.StyleNote().isEmpty()) {
-        kit.DrawRule(painter, Mm(kMargin), Mm(kMargin + 25.5), width);
+        kit.DrawRule(painter, Mm(kFrontMargin), Mm(kFrontMargin + 25.5), width);
     }
 }
 
@@ -287,10 +286,10 @@ double DrawSteps(QPainter& painter, const QStringList& steps, double top, double
     painter.setPen(Qt::black);
     int number = 0;
     for (const QString& step : steps) {
-        painter.drawText(QRectF(Mm(kMargin), top, Mm(kIndent), Mm(6)), Qt::AlignLeft,
+        painter.drawText(QRectF(Mm(kFrontMargin), top, Mm(kIndent), Mm(6)), Qt::AlignLeft,
                          QString("%1.").arg(++number));
         QRectF used;
-        painter.drawText(QRectF(Mm(kMargin + kIndent), top, width - Mm(kIndent), Mm(30)),
+        painter.drawText(QRectF(Mm(kFrontMargin + kIndent), top, width - Mm(kIndent), Mm(30)),
                          Qt::AlignLeft | Qt::TextWordWrap, step, &used);
         top = used.bottom() + Mm(1.8);
     }
@@ -320,7 +319,7 @@ QRectF PictureOnMap(QPainter& painter, const KitPages& kit, const QRectF& box) {
     const QSizeF size = QSizeF(canvas.Width, canvas.Height).scaled(box.size(), Qt::KeepAspectRatio);
     const QRectF outer(QPointF(box.center().x() - size.width() / 2, box.top()), size);
     if (canvas != picture) {
-        painter.setPen(QPen(kFaint, Mm(0.2), Qt::DashLine));
+        painter.setPen(QPen(kFaintInk, Mm(0.2), Qt::DashLine));
         painter.drawRect(outer);
     }
     const double scale = size.width() / canvas.Width;
@@ -352,8 +351,8 @@ void KitPages::DrawRule(QPainter& painter, double left, double top, double width
 void DrawOrderCorner(QPainter& painter, const KitPages& kit) {
     constexpr double kSide = 17;
     constexpr double kRim = 2;  // of white around the code, which may reach beyond the margin
-    const double left = kit.FrontPaper.Width - kMargin - kSide + kRim;
-    kit.Code.Draw(painter, {Mm(left), Mm(kMargin - kRim)}, Mm(kSide));
+    const double left = kit.FrontPaper.Width - kFrontMargin - kSide + kRim;
+    kit.Code.Draw(painter, {Mm(left), Mm(kFrontMargin - kRim)}, Mm(kSide));
 }
 
 QString KitPages::StyleNote() const {
@@ -362,26 +361,27 @@ QString KitPages::StyleNote() const {
 
 void DrawCoverPage(QPainter& painter, const KitPages& kit) {
     DrawCoverHeading(painter, kit);
-    const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
-    const double bottom = Mm(kit.FrontPaper.Height - kMargin) - DrawCoverFoot(painter, kit);
-    const double top = Mm(kMargin + (kit.StyleNote().isEmpty() ? 28 : 31));
-    DrawCoverPictures(painter, kit, {Mm(kMargin), top, width, bottom - top});
+    const double width = Mm(kit.FrontPaper.Width - 2 * kFrontMargin);
+    const double bottom = Mm(kit.FrontPaper.Height - kFrontMargin) - DrawCoverFoot(painter, kit);
+    const double top = Mm(kFrontMargin + (kit.StyleNote().isEmpty() ? 28 : 31));
+    DrawCoverPictures(painter, kit, {Mm(kFrontMargin), top, width, bottom - top});
 }
 
 void DrawMapPage(QPainter& painter, const KitPages& kit) {
     const bool whole = kit.Settings.Sheet.IsCanvas();
-    const double width = Mm(kit.FrontPaper.Width - 2 * kMargin);
+    const double width = Mm(kit.FrontPaper.Width - 2 * kFrontMargin);
     DrawOrderCorner(painter, kit);
     painter.setPen(kit.Ink());
     painter.setFont(TextFont(FontMm(7), Weight::Bold));
-    DrawLineOfText(painter, {Mm(kMargin), Mm(kMargin), width - Mm(kit.OrderCorner()), Mm(12)},
+    DrawLineOfText(painter,
+                   {Mm(kFrontMargin), Mm(kFrontMargin), width - Mm(kit.OrderCorner()), Mm(12)},
                    Qt::AlignLeft, whole ? "Printing the canvas" : "Putting the plan together");
-    kit.DrawRule(painter, Mm(kMargin), Mm(kMargin + 13), width - Mm(kit.OrderCorner()));
-    const double top =
-        DrawSteps(painter, whole ? StepsToStretch(kit) : StepsToGlue(kit), Mm(kMargin + 16), width);
-    DrawTrueRuler(painter, kit, {Mm(kMargin), top + Mm(11)});
-    const QRectF box(Mm(kMargin), top + Mm(24), width,
-                     Mm(kit.FrontPaper.Height - kMargin) - top - Mm(24));
+    kit.DrawRule(painter, Mm(kFrontMargin), Mm(kFrontMargin + 13), width - Mm(kit.OrderCorner()));
+    const double top = DrawSteps(painter, whole ? StepsToStretch(kit) : StepsToGlue(kit),
+                                 Mm(kFrontMargin + 16), width);
+    DrawTrueRuler(painter, kit, {Mm(kFrontMargin), top + Mm(11)});
+    const QRectF box(Mm(kFrontMargin), top + Mm(24), width,
+                     Mm(kit.FrontPaper.Height - kFrontMargin) - top - Mm(24));
     const QRectF picture = PictureOnMap(painter, kit, box);
     painter.drawImage(picture, Faded(ToImage(kit.Painting)));
     if (whole) {

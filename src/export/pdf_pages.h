@@ -15,6 +15,10 @@
 namespace vendrel {
 
 inline constexpr double kOrderCornerMm = 17;
+/// Around what stands on a front page, in millimeters.
+inline constexpr double kFrontMargin = 15;
+/// Of what is read second.
+inline constexpr QColor kFaintInk{90, 90, 90};
 
 /// Everything the pages are drawn from.
 struct KitPages {

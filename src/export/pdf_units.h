@@ -24,5 +24,8 @@ inline constexpr int kPdfResolution = 2540;  // units to the inch
 
 /// One line of text in a box, cut short to fit, in the painter's font.
 void DrawLineOfText(QPainter& painter, const QRectF& box, int flags, const QString& text);
+/// A title as large as the box allows, bold: on one line down to two thirds of `millimeters`, else
+/// on two. Cut short only where even these are too few.
+void DrawTitle(QPainter& painter, const QRectF& box, double millimeters, const QString& text);
 
 }  // namespace vendrel
