@@ -109,14 +109,24 @@ TEST(CropFrame, StaysInsideThePhotoAndInShapeWhateverIsDoneToIt) {
 }
 
 TEST(CropFrame, ADraggedCornerLeavesTheOppositeOneInPlace) {
+    const auto edge = [](const CropRect& rect, bool left, bool top) {
+        return std::pair(left ? rect.Left : rect.Left + rect.Width,
+                         top ? rect.Top : rect.Top + rect.Height);
+    };
     CropFrame frame({3000, 3000}, kEasy);
-    const CropRect before = frame.Rect();
-    frame.DragCorner(CropCorner::TopLeft, 1000, before.Top + 800);
-    const CropRect after = frame.Rect();
-    EXPECT_NEAR(after.Width, 2000, 30);
-    EXPECT_LE(after.Width, 2010);
-    EXPECT_EQ(after.Left + after.Width, before.Left + before.Width);
-    EXPECT_EQ(after.Top + after.Height, before.Top + before.Height);
+    for (const auto corner : {CropCorner::TopLeft, CropCorner::TopRight, CropCorner::BottomLeft,
+                              CropCorner::BottomRight}) {
+        const bool left = corner == CropCorner::TopLeft || corner == CropCorner::BottomLeft;
+        const bool top = corner == CropCorner::TopLeft || corner == CropCorner::TopRight;
+        frame = CropFrame({3000, 3000}, kEasy);
+        const CropRect before = frame.Rect();
+        frame.DragCorner(corner, left ? 1000 : 2000,
+                         edge(before, left, top).second + (top ? 800 : -800));
+        const CropRect after = frame.Rect();
+        EXPECT_NEAR(after.Width, 2000, 30);
+        EXPECT_LE(after.Width, 2010);
+        EXPECT_EQ(edge(after, !left, !top), edge(before, !left, !top));
+    }
     frame.DragCorner(CropCorner::TopLeft, 5000, 5000);
     EXPECT_GE(frame.Rect().Height, 60);
     EXPECT_LE(frame.Rect().Height, 140);
