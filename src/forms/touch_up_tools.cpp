@@ -127,7 +127,12 @@ void TouchUpForm::PointerUp() {
     figuresStale_ = true;
 }
 
+// What was pasted and floats is the last that was done.
 void TouchUpForm::Undo_Click() {
+    if (selection_->Floating() != nullptr) {
+        (void)Escape_Click();
+        return;
+    }
     controls_.Status = editor_->CanUndo() ? "Undone: " + editor_->UndoName() : "";
     KeepPaintInHand([this] { Touched(editor_->Undo()); });
     Follow();
@@ -249,6 +254,7 @@ void TouchUpForm::Paste_Click(std::string_view text, CellPos middle) {
     Touched(selection_->PutDown());
     selection_->Paste(text, middle);
     Follow();
+    controls_.Status = controls_.Selected + ", Escape gives them up.";
 }
 
 void TouchUpForm::PutDown_Click() {
@@ -256,6 +262,7 @@ void TouchUpForm::PutDown_Click() {
 }
 
 bool TouchUpForm::Escape_Click() {
+    controls_.Status.clear();
     const bool dropped = selection_->Drop();
     Follow();
     return dropped;
