@@ -156,6 +156,7 @@ void MainWindow::OpenForm(FormId form) {
     const QWidget* below = QApplication::activeModalWidget();
     std::unique_ptr<FormDialog>& dialog = dialogs_[form];
     const QSize before = dialog ? dialog->size() : QSize();
+    const bool maximized = dialog && dialog->isMaximized();
     dialog = MakeDialog(form, {place_, form_, edge_}, this);
     if (dialog) {
         dialog->Prepare();
@@ -165,6 +166,9 @@ void MainWindow::OpenForm(FormId form) {
             // Over the dialog it was opened from, which waits for it.
             dialog->winId();
             dialog->windowHandle()->setTransientParent(below->windowHandle());
+        }
+        if (maximized) {
+            dialog->setWindowState(Qt::WindowMaximized);
         }
         dialog->open();
         dialog->Load();

@@ -60,7 +60,6 @@ void TouchUpForm::Form_Load() {
     editor_ = std::make_unique<TouchUp>(place_);
     controls_ = {};
     controls_.Brush.Paint = 1;
-    paintBefore_ = 1;
     lonerAt_ = {};
     lineFrom_.reset();
     const WorkState& state = *place_.State;
