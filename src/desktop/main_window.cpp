@@ -156,7 +156,6 @@ void MainWindow::OpenForm(FormId form) {
     const QWidget* below = QApplication::activeModalWidget();
     std::unique_ptr<FormDialog>& dialog = dialogs_[form];
     const QSize before = dialog ? dialog->size() : QSize();
-    const bool maximized = dialog && dialog->isMaximized();
     dialog = MakeDialog(form, {place_, form_, edge_}, this);
     if (dialog) {
         dialog->Prepare();
@@ -167,7 +166,7 @@ void MainWindow::OpenForm(FormId form) {
             dialog->winId();
             dialog->windowHandle()->setTransientParent(below->windowHandle());
         }
-        if (maximized) {
+        if (maximized_.contains(form)) {
             dialog->setWindowState(Qt::WindowMaximized);
         }
         dialog->open();
@@ -179,6 +178,11 @@ void MainWindow::OpenForm(FormId form) {
 void MainWindow::CloseForm(FormId form) {
     // Kept until it is opened again: the caller may be one of its own handlers.
     if (const auto found = dialogs_.find(form); found != dialogs_.end() && found->second) {
+        if (found->second->isMaximized()) {  // hidden it no longer tells
+            maximized_.insert(form);
+        } else {
+            maximized_.erase(form);
+        }
         found->second->hide();
     }
 }
