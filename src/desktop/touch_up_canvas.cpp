@@ -281,6 +281,7 @@ void TouchUpCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void TouchUpCanvas::mouseMoveEvent(QMouseEvent* event) {
+    mouseIn_ = event->position();
     // Scrolling moves the picture under a mouse that lies still.
     if (event->globalPosition() != mouseAt_) {
         mouseAt_ = event->globalPosition();
@@ -292,7 +293,6 @@ void TouchUpCanvas::mouseMoveEvent(QMouseEvent* event) {
         panFrom_ = now;
         return;
     }
-    mouseIn_ = event->position();
     const CellPos at = place_.CellAt(mouseIn_);
     const bool moved = pointer_ != at;
     PointTo(at);
