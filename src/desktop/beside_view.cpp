@@ -14,9 +14,12 @@ BesideView::BesideView(TouchUpCanvas& canvas, QWidget* parent) : QWidget(parent)
     connect(&canvas, &TouchUpCanvas::Moved, this, [this] { update(); });
     connect(&canvas, &TouchUpCanvas::Pointed, this, [this] {
         update(mark_);
-        mark_ = canvas_.WhereItLies().RectOf(canvas_.PointedCell()).adjusted(-3, -3, 3, 3);
-        update(mark_);
+        update(MarkedNow());
     });
+}
+
+QRect BesideView::MarkedNow() const {
+    return canvas_.WhereItLies().RectOf(canvas_.PointedCell()).adjusted(-3, -3, 3, 3);
 }
 
 void BesideView::Show(Beside what) {
@@ -43,7 +46,8 @@ void BesideView::paintEvent(QPaintEvent* event) {
     }
     canvas_.Sheet().PaintPicture(painter, isPhoto ? canvas_.Sheet().Photo() : painting_,
                                  canvas_.WhereItLies());
-    const QRect cell = canvas_.WhereItLies().RectOf(canvas_.PointedCell());
+    mark_ = MarkedNow();
+    const QRect cell = mark_.adjusted(3, 3, -3, -3);
     painter.setPen(Qt::black);
     painter.drawRect(cell.adjusted(-1, -1, 0, 0));
     painter.setPen(Qt::white);

@@ -27,10 +27,12 @@ class BesideView : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    [[nodiscard]] QRect MarkedNow() const;
+
     TouchUpCanvas& canvas_;
     Beside shows_ = Beside::Nothing;
     QImage painting_;
-    QRect mark_;  // of the pointer
+    QRect mark_;  // of the pointer, as drawn
     QString trouble_;
 };
 

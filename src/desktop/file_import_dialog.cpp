@@ -32,6 +32,7 @@ FileImportDialog::FileImportDialog(const ViewContext& context, QWidget* parent)
       folder_(new QLabel),
       importDir_(Named<QListWidget>("ImportDir", tr("Folders"))),
       importFile_(Named<QListWidget>("ImportFile", tr("Photos"))),
+      files_(LabelFor(*importFile_, {})),
       panel_(new FitPanel(FitPanel::Shows::ChosenWay)),
       okButton_(Named<QPushButton>("OKButton", tr("OK"))),
       cancelButton_(Named<QPushButton>("CancelButton", tr("Cancel"))) {
@@ -58,7 +59,7 @@ void FileImportDialog::Arrange() {
     columns->addLayout(Column({LabelFor(*importDrive_, tr("&Drive")), importDrive_,
                                LabelFor(*importDir_, tr("F&olders")), importDir_}),
                        2);
-    columns->addLayout(Column({LabelFor(*importFile_, tr("&Photos")), importFile_}), 3);
+    columns->addLayout(Column({files_, importFile_}), 3);
     columns->addLayout(Column({new QLabel(tr("Preview")), panel_}));
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(columns, 1);
@@ -102,6 +103,8 @@ void FileImportDialog::OpenFolder() {
 void FileImportDialog::Mirror() {
     const FileImportControls& shown = form_.Controls();
     setWindowTitle(Text(shown.Caption));
+    files_->setText(Text(shown.Files));
+    importFile_->setAccessibleName(files_->text().remove(QLatin1Char('&')));
     const QSignalBlocker quiet(importDrive_);
     importDrive_->clear();
     for (const Drive& drive : shown.ImportDrive) {

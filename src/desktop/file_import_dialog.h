@@ -33,6 +33,7 @@ class FileImportDialog : public FormDialog {
     QLabel* folder_;
     QListWidget* importDir_;
     QListWidget* importFile_;
+    QLabel* files_;
     FitPanel* panel_;
     QPushButton* okButton_;
     QPushButton* cancelButton_;

@@ -120,7 +120,7 @@ void FitPanel::Mirror(const FitControls& shown) {
     description_->Show(Text(every ? shown.Title : shown.Description));
     preview_->setAccessibleDescription(description_->text());
     if (shown.Preview.Empty()) {
-        preview_->setText(shown.Description.empty() ? tr("No photo chosen") : tr("No preview"));
+        preview_->setText(shown.Description.empty() ? tr("Nothing chosen") : tr("No preview"));
     } else {
         QPixmap picture = QPixmap::fromImage(ToImage(shown.Preview));
         if (const int height = preview_->contentsRect().height(); picture.height() > height) {

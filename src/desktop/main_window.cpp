@@ -166,6 +166,9 @@ void MainWindow::OpenForm(FormId form) {
             dialog->winId();
             dialog->windowHandle()->setTransientParent(below->windowHandle());
         }
+        if (maximized_.contains(form)) {
+            dialog->setWindowState(Qt::WindowMaximized);
+        }
         dialog->open();
         dialog->Load();
         dialog->Mirror();
@@ -175,6 +178,11 @@ void MainWindow::OpenForm(FormId form) {
 void MainWindow::CloseForm(FormId form) {
     // Kept until it is opened again: the caller may be one of its own handlers.
     if (const auto found = dialogs_.find(form); found != dialogs_.end() && found->second) {
+        if (found->second->isMaximized()) {  // hidden it no longer tells
+            maximized_.insert(form);
+        } else {
+            maximized_.erase(form);
+        }
         found->second->hide();
     }
 }

@@ -8,6 +8,7 @@
 #include <QStackedWidget>
 #include <map>
 #include <memory>
+#include <set>
 
 #include "desktop/form_dialog.h"
 #include "desktop/menu_actions.h"
@@ -76,6 +77,7 @@ class MainWindow : public QMainWindow {
     QProgressBar* progress_;
     bool ending_ = false;
     std::map<FormId, std::unique_ptr<FormDialog>> dialogs_;
+    std::set<FormId> maximized_;  // when they were closed
 };
 
 }  // namespace vendrel

@@ -18,10 +18,17 @@ QColor ToQColor(Color color) {
     return {RedOf(color), GreenOf(color), BlueOf(color)};
 }
 
-// Close to white, but with enough left to find one's way.
-Color Paled(Color color) {
-    const auto pale = [](int level) { return 255 - (255 - level) / 7; };
+constexpr int kPaleGray = 255;
+constexpr int kDimGray = 85;  // where a light paint stands out
+
+// All of one gray, but with enough left to find one's way.
+Color Paled(Color color, int gray) {
+    const auto pale = [gray](int level) { return gray + (level - gray) / 7; };
     return Rgb(pale(RedOf(color)), pale(GreenOf(color)), pale(BlueOf(color)));
+}
+
+bool IsLight(Color color) {
+    return 3 * RedOf(color) + 6 * GreenOf(color) + BlueOf(color) > 1900;
 }
 
 }  // namespace
@@ -57,9 +64,11 @@ void SheetPainter::Follow(const TouchUpForm& form, const CellRect& dirty) {
 void SheetPainter::TakePalette(const TouchUpControls& shown) {
     palette_ = shown.Palette;
     glyphs_.Clear();
+    const int chosen = palette_.Holds(shown.Brush.Paint) ? shown.Brush.Paint : 0;
+    const int gray = IsLight(palette_[chosen].Swatch) ? kDimGray : kPaleGray;
     for (int i = 1; i <= palette_.Count() && shown.Alone; ++i) {
         if (i != shown.Brush.Paint) {
-            palette_[i].Swatch = Paled(palette_[i].Swatch);
+            palette_[i].Swatch = Paled(palette_[i].Swatch, gray);
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <utility>
@@ -46,7 +47,7 @@ TouchUpAreasPanel::TouchUpAreasPanel(EditorWork work, QWidget* parent)
       hard_(new ValueLabel("Hard", tr("Areas hard to paint"))),
       below_(Named<QSpinBox>("MergeBelow", tr("Merge areas below"))),
       unit_(Named<QComboBox>("MergeUnit", tr("Unit of merging"))),
-      preview_(Check("MergePreview", tr("Pre&view"), tr("Show what merging would change"), work_,
+      preview_(Check("MergePreview", tr("Previ&ew"), tr("Show what merging would change"), work_,
                      &TouchUpForm::MergePreview_Click)),
       mergeText_(new ValueLabel("MergeText", tr("What merging would do"))),
       merge_(EditorButton<QPushButton>("MergeAreas", tr("&Merge"),
@@ -93,6 +94,8 @@ QWidget* TouchUpAreasPanel::MakeMerging() {
     below_->setFocusPolicy(Qt::StrongFocus);
     unit_->addItems({tr("stipples"), tr("mm²")});
     connect(below_, &QSpinBox::valueChanged, this, &TouchUpAreasPanel::TellBelow);
+    connect(below_->findChild<QLineEdit*>(), &QLineEdit::returnPressed, this,
+            &TouchUpAreasPanel::Typed);
     connect(unit_, &QComboBox::activated, this, &TouchUpAreasPanel::TellBelow);
     auto* column = new QVBoxLayout(box);
     column->addLayout(RowOf({below_, unit_, preview_, merge_}));

@@ -22,6 +22,10 @@ class TouchUpAreasPanel : public QWidget {
     QPushButton* NextLoner;
     QPushButton* NextHard;
 
+  signals:
+    /// A number was typed to its end.
+    void Typed();
+
   private:
     [[nodiscard]] QWidget* MakePrinted();
     [[nodiscard]] QWidget* MakeMerging();

@@ -26,6 +26,14 @@ double EdgeBelow(double edge) {
     return *(std::lower_bound(kEdges.begin() + 1, kEdges.end(), edge - 0.01) - 1);
 }
 
+// How far what reaches from `from` to `to` must go, so that no room is left beside it needlessly.
+int BackInto(int first, int last, int from, int to) {
+    if (to - from <= last - first) {
+        return (first + last - from - to) / 2;
+    }
+    return std::min(0, first - from) + std::max(0, last - to);
+}
+
 }  // namespace
 
 TouchUpCanvas::TouchUpCanvas(TouchUpForm& form, QWidget* parent)
@@ -94,6 +102,10 @@ void TouchUpCanvas::ShowActualSize() {
 
 void TouchUpCanvas::CenterOn(CellPos at) {
     PanBy(viewport()->rect().center() - MiddleOf(at));
+    const QRect sheet = place_.RectOf(sheet_.Bounds());
+    const QRect room = viewport()->rect();
+    PanBy({BackInto(room.left(), room.right(), sheet.left(), sheet.right()),
+           BackInto(room.top(), room.bottom(), sheet.top(), sheet.bottom())});
 }
 
 CellRect TouchUpCanvas::Shown() const {
@@ -122,29 +134,34 @@ void TouchUpCanvas::ZoomTo(double edge, QPointF around) {
         return;
     }
     fits_ = false;
-    const QPointF spot = (around - place_.Corner) / place_.Edge;
+    if (around != zoom_.Around || place_.Corner != zoom_.Corner) {
+        zoom_.Spot = (around - place_.Corner) / place_.Edge;
+    }
     place_.Edge = edge;
     Place();
-    ScrollTo({qRound(spot.x() * edge - around.x()), qRound(spot.y() * edge - around.y())});
+    ScrollTo(
+        {qRound(zoom_.Spot.x() * edge - around.x()), qRound(zoom_.Spot.y() * edge - around.y())});
+    zoom_.Around = around;
+    zoom_.Corner = place_.Corner;
     emit Zoomed();
 }
 
-// Sets scroll bars and corner after the zoom, the window's size or the sheet changed.
+// Sets scroll bars and corner after the zoom, the window's size or the sheet changed. Zoomed in,
+// half the view may lie beyond the sheet: else what the mouse is on near an edge would run away.
 void TouchUpCanvas::Place() {
     const QSize sheet = SheetPlace{{}, place_.Edge}.RectOf(sheet_.Bounds()).size();
     const auto setUp = [this](QScrollBar* bar, int whole, int seen) {
-        bar->setRange(0, fits_ ? 0 : std::max(0, whole - seen));
+        const int beyond = fits_ ? std::min(0, whole - seen) / 2 : -seen / 2;
+        bar->setRange(beyond, fits_ ? beyond : whole - seen - beyond);
         bar->setPageStep(seen);
         bar->setSingleStep(std::max(1, static_cast<int>(place_.Edge)));
     };
     const QSize room = viewport()->size();
     setUp(horizontalScrollBar(), sheet.width(), room.width());
     setUp(verticalScrollBar(), sheet.height(), room.height());
-    place_.Corner = {sheet.width() <= room.width() ? (room.width() - sheet.width()) / 2
-                                                   : -horizontalScrollBar()->value(),
-                     sheet.height() <= room.height() ? (room.height() - sheet.height()) / 2
-                                                     : -verticalScrollBar()->value()};
+    place_.Corner = {-horizontalScrollBar()->value(), -verticalScrollBar()->value()};
     viewport()->update();
+    FollowMouse();
     emit Moved();
 }
 
@@ -173,7 +190,15 @@ void TouchUpCanvas::scrollContentsBy(int dx, int dy) {
     const QPoint way = std::exchange(scrolled_, QPoint());
     place_.Corner += way;
     viewport()->scroll(way.x(), way.y());
+    FollowMouse();
     emit Moved();
+}
+
+// The picture has moved under a mouse that lies still.
+void TouchUpCanvas::FollowMouse() {
+    if (pointer_) {
+        PointTo(place_.CellAt(mouseIn_));
+    }
 }
 
 void TouchUpCanvas::GoTo(CellPos at) {
@@ -182,7 +207,7 @@ void TouchUpCanvas::GoTo(CellPos at) {
     cursorShown_ = true;
     cursorLeads_ = true;
     // With a margin, so that what surrounds a stipple shows too.
-    const QRect around = CursorRect().adjusted(-60, -60, 60, 60);
+    const QRect around = CursorRect().adjusted(-60, -60, 60, 60) & place_.RectOf(sheet_.Bounds());
     const QRect room = viewport()->rect();
     if (!room.contains(around)) {
         PanBy(room.center() - around.center());
@@ -255,6 +280,7 @@ void TouchUpCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void TouchUpCanvas::mouseMoveEvent(QMouseEvent* event) {
+    mouseIn_ = event->position();
     // Scrolling moves the picture under a mouse that lies still.
     if (event->globalPosition() != mouseAt_) {
         mouseAt_ = event->globalPosition();
@@ -266,7 +292,7 @@ void TouchUpCanvas::mouseMoveEvent(QMouseEvent* event) {
         panFrom_ = now;
         return;
     }
-    const CellPos at = place_.CellAt(event->position());
+    const CellPos at = place_.CellAt(mouseIn_);
     const bool moved = pointer_ != at;
     PointTo(at);
     if (drag_ == Drag::Tool && moved) {
@@ -288,6 +314,7 @@ void TouchUpCanvas::mouseReleaseEvent(QMouseEvent* event) {
 void TouchUpCanvas::wheelEvent(QWheelEvent* event) {
     wheel_ += event->angleDelta().y();
     const QPointF around = event->position();
+    mouseIn_ = around;
     for (; wheel_ >= QWheelEvent::DefaultDeltasPerStep;
          wheel_ -= QWheelEvent::DefaultDeltasPerStep) {
         ZoomTo(EdgeAbove(place_.Edge), around);

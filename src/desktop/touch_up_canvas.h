@@ -80,12 +80,21 @@ class TouchUpCanvas : public QAbstractScrollArea {
   private:
     enum class Drag { None, Tool, Pan };
 
+    /// The zoom before: turned on without a move it keeps its spot, and whole pixels add up to
+    /// nothing.
+    struct LastZoom {
+        QPointF Around;  // in the viewport
+        QPointF Spot;    // in stipples
+        QPoint Corner;   // of the sheet afterwards
+    };
+
     void FollowOverlays();
     [[nodiscard]] double FitEdge() const;
     void ZoomTo(double edge, QPointF around);
     [[nodiscard]] QPointF ZoomSpot() const;
     void Place();
     void PointTo(std::optional<CellPos> at);
+    void FollowMouse();
     void MoveCursor(int dx, int dy);
     void PanBy(QPoint way);
     void ScrollTo(QPoint to);
@@ -102,6 +111,7 @@ class TouchUpCanvas : public QAbstractScrollArea {
     SheetPainter sheet_;
     int stippleSize_ = 1;
     SheetPlace place_;
+    LastZoom zoom_;
     EditorLook look_;
     bool fits_ = true;  // zoomed to be seen whole, at any size of the window
     bool blinkOn_ = false;
@@ -118,6 +128,7 @@ class TouchUpCanvas : public QAbstractScrollArea {
     bool cursorShown_ = false;
     bool cursorLeads_ = false;  // it moved later than the mouse
     QPointF mouseAt_;           // on the screen
+    QPointF mouseIn_;           // in the viewport
 };
 
 }  // namespace vendrel

@@ -1,5 +1,6 @@
 #include "desktop/touch_up_dialog.h"
 
+#include <QAbstractSpinBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -34,6 +35,14 @@ QScrollArea* Scrolling(QWidget* panel) {
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(panel);
     return area;
+}
+
+// What a number takes for itself while it is typed. Letters and undoing stay the editor's.
+bool IsOfNumber(const QKeyEvent& key) {
+    const bool isUndo = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+    const bool isTool = key.key() >= Qt::Key_A && key.key() <= Qt::Key_BracketRight &&
+                        !key.modifiers().testFlag(Qt::ControlModifier);
+    return !isUndo && !isTool;
 }
 
 }  // namespace
@@ -113,11 +122,12 @@ QWidget* TouchUpDialog::MakeSide() {
     tabs->setObjectName(QStringLiteral("Panels"));
     tabs->setAccessibleName(tr("Panels"));
     tabs->setDocumentMode(true);
-    tabs->addTab(paints_, tr("Paints"));
-    tabs->addTab(Scrolling(view_), tr("View"));
-    tabs->addTab(Scrolling(areas_), tr("Areas"));
-    tabs->addTab(Scrolling(selection_), tr("Selection"));
-    tabs->addTab(history_, tr("History"));
+    tabs->addTab(paints_, tr("Pain&ts"));
+    tabs->addTab(Scrolling(view_), tr("&View"));
+    tabs->addTab(Scrolling(areas_), tr("A&reas"));
+    tabs->addTab(Scrolling(selection_), tr("Sele&ction"));
+    tabs->addTab(history_, tr("&History"));
+    connect(tabs, &QTabWidget::currentChanged, this, &TouchUpDialog::LeaveAreas);
     auto* side = new QSplitter(Qt::Vertical);
     side->setFixedWidth(kSideWidth);
     side->setChildrenCollapsible(false);
@@ -144,6 +154,15 @@ EditorWork TouchUpDialog::Work() {
     return [this](const std::function<void(TouchUpForm&)>& work) {
         RunOpen([this, &work] { work(form_); });
     };
+}
+
+// What merging would do hides what is painted: it is for whoever looks at the figures beside it.
+void TouchUpDialog::LeaveAreas() {
+    RunOpen([this] {
+        if (!areas_->isVisible() && form_.Areas().Controls().Preview) {
+            form_.MergePreview_Click();
+        }
+    });
 }
 
 void TouchUpDialog::RunOpen(const std::function<void()>& work) {
@@ -175,6 +194,7 @@ void TouchUpDialog::Connect() {
     connect(tools_->Fit, &QToolButton::clicked, canvas_, &TouchUpCanvas::Fit);
     connect(tools_->ActualSize, &QToolButton::clicked, canvas_, &TouchUpCanvas::ShowActualSize);
     connect(tools_, &TouchUpToolBar::Sized, canvas_, qOverload<>(&TouchUpCanvas::setFocus));
+    connect(areas_, &TouchUpAreasPanel::Typed, canvas_, qOverload<>(&TouchUpCanvas::setFocus));
     connect(view_, &TouchUpViewPanel::BesideChosen, this, &TouchUpDialog::ShowBeside);
     connect(painting_, &PaintingJob::Painted, beside_, &BesideView::SetPainting);
     const std::pair<QKeySequence, QAbstractButton*> keys[] = {
@@ -401,6 +421,12 @@ void TouchUpDialog::changeEvent(QEvent* event) {
 bool TouchUpDialog::eventFilter(QObject* watched, QEvent* event) {
     const bool pressed = event->type() == QEvent::KeyPress;
     const auto* widget = qobject_cast<const QWidget*>(watched);
+    const bool isNumber = qobject_cast<const QAbstractSpinBox*>(watched) != nullptr;
+    if (isNumber && event->type() == QEvent::ShortcutOverride && widget->window() == this &&
+        !IsOfNumber(static_cast<QKeyEvent&>(*event))) {
+        event->ignore();
+        return true;
+    }
     if ((!pressed && event->type() != QEvent::KeyRelease) || widget == nullptr ||
         widget->window() != this) {
         return FormDialog::eventFilter(watched, event);
@@ -409,8 +435,8 @@ bool TouchUpDialog::eventFilter(QObject* watched, QEvent* event) {
     if (key.key() == Qt::Key_Space && !key.isAutoRepeat()) {
         canvas_->HoldSpace(pressed);
     }
-    // The palette would search its rows for them.
-    const bool inList = watched == &paints_->List() || watched == history_;
+    // The palette would search its rows for them, and a number take no notice.
+    const bool inList = watched == &paints_->List() || watched == history_ || isNumber;
     if (inList && pressed && key.key() == kPhotoKey) {
         keyPressEvent(&key);
     }

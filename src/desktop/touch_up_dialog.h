@@ -55,6 +55,7 @@ class TouchUpDialog : public FormDialog {
     void CopySelection();
     void PasteSelection();
     void ShowBeside();
+    void LeaveAreas();
     void MirrorBlinking();
     void MirrorStatus();
     void PointedAt(CellPos at);

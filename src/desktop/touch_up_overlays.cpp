@@ -122,7 +122,7 @@ OverlayState TouchUpOverlays::State() const {
             .Hard = form_.Areas().Hard().size(),
             .Selected = selection.Cells().Count(),
             .Tool = form_.Controls().Tool,
-            .BrushSize = form_.Controls().Brush.Size,
+            .Brush = form_.Controls().Brush,
             .Moving = selection.Dragging() || selection.Floating() != nullptr};
 }
 
@@ -280,18 +280,12 @@ void TouchUpOverlays::PaintBrush(QPainter& painter, CellPos at, const SheetPlace
     const TouchUpTool tool = form_.Controls().Tool;
     const bool paints =
         tool == TouchUpTool::Brush || tool == TouchUpTool::Fill || tool == TouchUpTool::Replace;
-    QRegion region;
-    for (const CellPos& cell : cells) {
-        region += place.RectOf(cell);
-    }
-    if (paints) {
-        painter.setClipRegion(region, Qt::IntersectClip);
-        painter.fillRect(region.boundingRect(), PaintColorOf(form_.Controls().Brush.Paint));
-        painter.setClipping(false);
-    }
     CellRect bounds;
     for (const CellPos& cell : cells) {
         bounds.Include(cell);
+        if (paints) {
+            painter.fillRect(place.RectOf(cell), PaintColorOf(form_.Controls().Brush.Paint));
+        }
     }
     const auto has = [&cells](CellPos cell) {
         return std::ranges::find(cells, cell) != cells.end();

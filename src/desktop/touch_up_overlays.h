@@ -18,7 +18,7 @@ struct OverlayState {
     std::size_t Hard = 0;
     int Selected = 0;
     TouchUpTool Tool = TouchUpTool::Brush;
-    int BrushSize = 1;
+    EditBrush Brush;
     bool Moving = false;  // the selection is being chosen, or something floats
 
     bool operator==(const OverlayState&) const = default;

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <utility>
 
+#include "desktop/paint_items.h"
 #include "desktop/text.h"
 
 namespace vendrel {
@@ -69,6 +70,7 @@ TouchUpToolBar::TouchUpToolBar(EditorWork work, QWidget* parent)
       size_(Named<QSpinBox>("BrushSize", tr("Brush size in stipples"))),
       round_(EditorButton("BrushRound", tr("Round"), tr("Round brush (Q)"), work_,
                           &TouchUpForm::BrushShape_Click)),
+      swap_(EditorButton("SwapPaints", {}, {}, work_, &TouchUpForm::SwapPaints_Click)),
       zoom_(new ValueLabel("Zoom", tr("Zoom"))) {
     rows_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
     rows_->setContentsMargins(0, 0, 0, 0);
@@ -84,6 +86,8 @@ TouchUpToolBar::TouchUpToolBar(EditorWork work, QWidget* parent)
 }
 
 void TouchUpToolBar::AddTools() {
+    swap_->setIconSize({40, 20});
+    halves_[0]->addWidget(swap_);
     halves_[0]->addWidget(new QLabel(tr("Brush")));
     halves_[1]->addWidget(new QLabel(tr("Select")));
     for (std::size_t i = 0; i < kTools.size(); ++i) {
@@ -98,12 +102,12 @@ void TouchUpToolBar::AddTools() {
     }
 }
 
-// As wide as the usual steps' names, so that nothing moves with each of them.
+// As wide as the longest of the steps' names, so that nothing moves with each of them.
 void TouchUpToolBar::AddSteps() {
     halves_[0]->addSpacing(8);
     for (QToolButton* button : {Undo, Redo}) {
         button->setMinimumWidth(
-            button->fontMetrics().horizontalAdvance(QStringLiteral("Undo Clean Up")) + 12);
+            button->fontMetrics().horizontalAdvance(QStringLiteral("Undo Erase Selection")) + 12);
         halves_[0]->addWidget(button);
     }
     halves_[0]->addStretch(1);
@@ -177,6 +181,7 @@ void TouchUpToolBar::Mirror(const TouchUpControls& shown) {
         MirrorTool(*tools_[i], kTools[i].Tool == shown.Tool &&
                                    (kTools[i].Size == 0 || kTools[i].Size == shown.Brush.Size));
     }
+    MirrorPaints(shown);
     const QSignalBlocker quiet(size_);
     size_->setValue(shown.Brush.Size);
     MirrorTool(*round_, shown.Brush.Round);
@@ -184,6 +189,22 @@ void TouchUpToolBar::Mirror(const TouchUpControls& shown) {
     Redo->setText(Text(shown.RedoCaption));
     Undo->setEnabled(shown.UndoEnabled);
     Redo->setEnabled(shown.RedoEnabled);
+}
+
+// Whatever panel shows: what the tools paint with, and what X would bring.
+void TouchUpToolBar::MirrorPaints(const TouchUpControls& shown) {
+    const OneBased<TouchUpPaint>& paints = shown.Palette;
+    if (!paints.Holds(shown.Brush.Paint) || !paints.Holds(shown.PaintBefore)) {
+        return;
+    }
+    const TouchUpPaint& now = paints[shown.Brush.Paint];
+    const TouchUpPaint& before = paints[shown.PaintBefore];
+    const QString hint = tr("%1 in hand; %2 before (X)").arg(Text(now.Label), Text(before.Label));
+    if (swap_->toolTip() != hint) {
+        swap_->setToolTip(hint);
+        swap_->setAccessibleName(hint);
+        swap_->setIcon(SwatchIcon(now.Swatch, before.Swatch));
+    }
 }
 
 void TouchUpToolBar::ShowZoom(double edge) {

@@ -43,11 +43,13 @@ class TouchUpToolBar : public QWidget {
     void AddSteps();
     void AddZoom();
     void Use(std::size_t tool);
+    void MirrorPaints(const TouchUpControls& shown);
 
     EditorWork work_;
     std::vector<QToolButton*> tools_;
     QSpinBox* size_;
     QToolButton* round_;
+    QToolButton* swap_;
     ValueLabel* zoom_;
     QBoxLayout* rows_ = nullptr;
     std::array<QHBoxLayout*, 2> halves_{};

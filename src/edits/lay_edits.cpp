@@ -154,6 +154,7 @@ class EditLaying {
         }
         report.Edits = static_cast<int>(layer_.Cells.size() + exchanges_.size());
         report.Kept = report.Edits;
+        report.Joined = std::max(0, laid_.Paints.Count() - base_.Paints.Count());
         for (int paint = 1; paint <= all_.Count(); ++paint) {
             if (standIns[paint] > 0) {
                 report.Kept -= standIns[paint];
@@ -227,10 +228,16 @@ std::string Sentence(const LayReport& report) {
         return {};
     }
     const std::string edits = report.Edits == 1 ? " edit kept" : " edits kept";
-    if (report.Kept == report.Edits) {
-        return (report.Edits == 1 ? "" : "All ") + std::to_string(report.Edits) + edits;
+    std::string text = std::to_string(report.Edits) + edits;
+    if (report.Kept < report.Edits) {
+        text = std::to_string(report.Kept) + " of " + text;
+    } else if (report.Edits > 1) {
+        text = "All " + text;
     }
-    std::string text = std::to_string(report.Kept) + " of " + std::to_string(report.Edits) + edits;
+    if (report.Joined > 0) {
+        text += ", " + std::to_string(report.Joined) + " more paint" +
+                (report.Joined == 1 ? "" : "s") + " for them";
+    }
     for (const StandIn& standIn : report.StandIns) {
         text += ", " + std::to_string(standIn.Edits) + " took " + standIn.Took.PaintName +
                 " instead of " + standIn.Wanted.PaintName;

@@ -19,11 +19,12 @@ struct StandIn {
 struct LayReport {
     int Edits = 0;
     int Kept = 0;
+    int Joined = 0;                 // paints more than the base has
     std::vector<StandIn> StandIns;  // most edits first
 };
 
-/// "All 214 edits kept", "212 of 214 edits kept, 2 took Warm Flesh instead of Light Flesh"; empty
-/// when there was none.
+/// "All 214 edits kept", "All 214 edits kept, 8 more paints for them", "212 of 214 edits kept, 2
+/// took Warm Flesh instead of Light Flesh"; empty when there was none.
 [[nodiscard]] std::string Sentence(const LayReport& report);
 
 /// The paint that looks most like `wanted`, from 1; of those alike the first. `skip` is left out, 0

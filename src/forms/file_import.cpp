@@ -76,6 +76,7 @@ void FileImport::Form_Load() {
 
 void FileImport::ShowKits() {
     controls_.Caption = "Open Kit or Photo";
+    controls_.Files = "Kits and &photos";
     const std::vector<fs::path> kits = kits_->Recent();
     ShowFolder(kits.empty() ? place_.Folder.Path("Pictures") : kits.front().parent_path());
 }

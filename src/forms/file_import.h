@@ -20,6 +20,7 @@ namespace vendrel {
 /// What the photo chooser shows. Indexes count from 0; -1 is nothing.
 struct FileImportControls {
     std::string Caption = "Load Photo";
+    std::string Files = "&Photos";  // what the list holds, & before its letter
     std::vector<Drive> ImportDrive;
     int DriveIndex = -1;
     std::filesystem::path Folder;

@@ -60,7 +60,6 @@ void TouchUpForm::Form_Load() {
     editor_ = std::make_unique<TouchUp>(place_);
     controls_ = {};
     controls_.Brush.Paint = 1;
-    paintBefore_ = 1;
     lonerAt_ = {};
     lineFrom_.reset();
     const WorkState& state = *place_.State;
@@ -368,9 +367,10 @@ void TouchUpForm::FollowSteps() {
     if (!Sheet().HoldsPaint(controls_.Brush.Paint)) {
         controls_.Brush.Paint = 1;
     }
-    controls_.UndoEnabled = editor_->CanUndo();
+    const bool floats = selection_->Floating() != nullptr;
+    controls_.UndoEnabled = floats || editor_->CanUndo();
     controls_.RedoEnabled = editor_->CanRedo();
-    controls_.UndoCaption = StepCaption("Undo", editor_->UndoName());
+    controls_.UndoCaption = StepCaption("Undo", floats ? "Paste" : editor_->UndoName());
     controls_.RedoCaption = StepCaption("Redo", editor_->RedoName());
     controls_.LoadEnabled = editor_->CanLoad();
     controls_.Unsaved = editor_->HasChanges();

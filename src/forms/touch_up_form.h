@@ -60,7 +60,8 @@ struct KeptControls {
 /// What the touch-up window shows.
 struct TouchUpControls {
     TouchUpTool Tool = TouchUpTool::Brush;
-    EditBrush Brush;  // size and shape, and the paint of all tools
+    EditBrush Brush;      // size and shape, and the paint of all tools
+    int PaintBefore = 1;  // in hand before the one that is
     OneBased<TouchUpPaint> Palette;
     PaintOrder Order = PaintOrder::Symbol;
     std::vector<int> Rows;    // the paints, from 1, in that order
@@ -257,7 +258,6 @@ class TouchUpForm {
     CellPos lonerAt_;  // {0, 0} until one was stepped to
     std::optional<TouchUpAreas> areas_;
     std::optional<TouchUpSelection> selection_;
-    int paintBefore_ = 1;              // in hand before the one that is
     std::optional<CellPos> lineFrom_;  // where the brush was last
 };
 

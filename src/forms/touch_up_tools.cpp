@@ -35,7 +35,7 @@ void TouchUpForm::BrushShape_Click() {
 
 void TouchUpForm::PaintList_Click(int paint) {
     if (Sheet().HoldsPaint(paint) && paint != controls_.Brush.Paint) {
-        paintBefore_ = std::exchange(controls_.Brush.Paint, paint);
+        controls_.PaintBefore = std::exchange(controls_.Brush.Paint, paint);
         MarkAgain();
         FollowChosenPaint();
         TouchedAlone();
@@ -43,7 +43,7 @@ void TouchUpForm::PaintList_Click(int paint) {
 }
 
 void TouchUpForm::SwapPaints_Click() {
-    PaintList_Click(paintBefore_);
+    PaintList_Click(controls_.PaintBefore);
 }
 
 void TouchUpForm::PointerDown(CellPos at, PressKeys keys) {
@@ -127,7 +127,12 @@ void TouchUpForm::PointerUp() {
     figuresStale_ = true;
 }
 
+// What was pasted and floats is the last that was done.
 void TouchUpForm::Undo_Click() {
+    if (selection_->Floating() != nullptr) {
+        (void)Escape_Click();
+        return;
+    }
     controls_.Status = editor_->CanUndo() ? "Undone: " + editor_->UndoName() : "";
     KeepPaintInHand([this] { Touched(editor_->Undo()); });
     Follow();
@@ -147,7 +152,7 @@ void TouchUpForm::Step_Click(int done) {
 
 void TouchUpForm::KeepPaintInHand(const std::function<void()>& step) {
     const PaintColor inHand = Sheet().Paints()[controls_.Brush.Paint];
-    const PaintColor before = Sheet().Paints()[paintBefore_];
+    const PaintColor before = Sheet().Paints()[controls_.PaintBefore];
     step();
     const PaintList& paints = Sheet().Paints();
     const auto follow = [&paints](int& at, const PaintColor& paint) {
@@ -156,7 +161,7 @@ void TouchUpForm::KeepPaintInHand(const std::function<void()>& step) {
         }
     };
     follow(controls_.Brush.Paint, inHand);
-    follow(paintBefore_, before);
+    follow(controls_.PaintBefore, before);
 }
 
 void TouchUpForm::Do(const std::function<CellRect()>& step) {
@@ -249,6 +254,7 @@ void TouchUpForm::Paste_Click(std::string_view text, CellPos middle) {
     Touched(selection_->PutDown());
     selection_->Paste(text, middle);
     Follow();
+    controls_.Status = controls_.Selected + ", Escape gives them up.";
 }
 
 void TouchUpForm::PutDown_Click() {
@@ -256,6 +262,7 @@ void TouchUpForm::PutDown_Click() {
 }
 
 bool TouchUpForm::Escape_Click() {
+    controls_.Status.clear();
     const bool dropped = selection_->Drop();
     Follow();
     return dropped;
@@ -312,7 +319,7 @@ void TouchUpForm::RemovePaint_Click() {
 
 void TouchUpForm::MovePaint_Click(int from, int to) {
     if (Sheet().HoldsPaint(from) && Sheet().HoldsPaint(to) && from != to) {
-        ChangePalette("Sort Paints", EditIntent::Order, WithPaintMoved(Sheet(), from, to));
+        ChangePalette("Move Paint", EditIntent::Order, WithPaintMoved(Sheet(), from, to));
     }
 }
 

@@ -281,6 +281,8 @@ KitReport MakeKit(Workplace& place, const KitOptions& options, KitPhotos& photos
     } else {
         if (options.From) {
             place.State->Edits = options.From->Layer.Edits;
+            // Made so in the window, which settings alone do not tell.
+            place.State->Chosen.Paintable |= options.From->PaintableKit;
         }
         Timed(report, "convert", [&] { report.PaintsMatched = ChangeToStipples_Click(place); });
         if (!place.State->LaidOn.empty()) {

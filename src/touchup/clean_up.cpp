@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "cleanup/area_search.h"
-
 namespace vendrel {
 namespace {
 
@@ -59,19 +57,6 @@ std::vector<CellChange> PlanCleanUp(const EditSheet& sheet, int level) {
         }
     }
     return changes;
-}
-
-int CountAreasAfter(const EditSheet& sheet, const std::vector<CellChange>& changes) {
-    Grid<StippleCell> after(sheet.Across(), sheet.Down());
-    for (int y = 1; y <= sheet.Down(); ++y) {
-        for (int x = 1; x <= sheet.Across(); ++x) {
-            after(x, y).ColorIndex = sheet.PaintAt({x, y});
-        }
-    }
-    for (const CellChange& change : changes) {
-        after(change.X, change.Y).ColorIndex = change.To;
-    }
-    return CountAreas(after);
 }
 
 }  // namespace vendrel

@@ -14,7 +14,4 @@ inline constexpr int kHighestCleanLevel = 8;
 /// Where two paints would do, the one on more neighbours wins, then the lower index.
 [[nodiscard]] std::vector<CellChange> PlanCleanUp(const EditSheet& sheet, int level);
 
-/// How many areas the paint pass would find once `changes` were made.
-[[nodiscard]] int CountAreasAfter(const EditSheet& sheet, const std::vector<CellChange>& changes);
-
 }  // namespace vendrel

@@ -14,6 +14,8 @@ struct EditBrush {
     int Size = 1;   // stipples across, 1..kLargestBrush
     int Paint = 0;  // 1..FoundCount
     bool Round = false;
+
+    bool operator==(const EditBrush&) const = default;
 };
 
 /// The stipples under the brush, row-major. A brush of two reaches right and down, one of three

@@ -217,7 +217,7 @@ void TouchUp::LowerCleanLevel() {
 CleanUpPreview TouchUp::PreviewCleanUp() const {
     std::vector<CellChange> changes = PlanCleanUp(sheet_, place_.State->CleanLevel);
     LeaveOutWhatMayNotBePainted(changes);
-    return {static_cast<int>(changes.size()), CountAreasAfter(sheet_, changes)};
+    return {static_cast<int>(changes.size()), CountPrintedAfter(sheet_, changes)};
 }
 
 CellRect TouchUp::CleanUp() {

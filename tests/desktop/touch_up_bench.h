@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
@@ -51,6 +52,11 @@ class TouchUpBench {
         return Find<QToolButton>(*canvas_->window(), "Undo").text();
     }
     void ChoosePaint(int paint) { Rows().setCurrentItem(Rows().topLevelItem(paint - 1)); }
+    void Hover(QPoint at) {
+        QMouseEvent move(QEvent::MouseMove, at, canvas_->viewport()->mapToGlobal(at), Qt::NoButton,
+                         {}, {});
+        QApplication::sendEvent(canvas_->viewport(), &move);
+    }
     void Drag(QPoint from, QPoint to) {
         QTest::mousePress(canvas_->viewport(), Qt::LeftButton, {}, from);
         QTest::mouseMove(canvas_->viewport(), to);

@@ -63,8 +63,12 @@ void TouchUpClosingTest::SavingTheKitFreesTheCancelFromItsQuestion() {
     QVERIFY(!std::filesystem::exists(stipples) && !Button("LoadIt").isEnabled());
     QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     QVERIFY(std::filesystem::exists(stipples) && Button("LoadIt").isEnabled());
+    canvas_->window()->showMaximized();
     Button("Cancel").click();
     QVERIFY(!canvas_->isVisible());
+    QVERIFY(Choose(desktop_->Window(), "ColorPickerSelect"));
+    QVERIFY2(QApplication::activeModalWidget()->isMaximized(), "as it was closed");
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
     QVERIFY(desktop_->Window().findChild<QAction*>(QStringLiteral("LoadStipples"))->isEnabled());
 }
 

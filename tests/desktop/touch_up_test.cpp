@@ -85,15 +85,31 @@ void TouchUpWindowTest::RightClickPicksThePaint() {
 
 void TouchUpWindowTest::WheelZoomsAtThePointer() {
     const double fit = canvas_->Edge();
-    const QPoint spot = At(State().CellsAcross / 3, State().CellsDown / 2);
-    QWheelEvent turn(spot, canvas_->viewport()->mapToGlobal(spot), {}, {0, 3600}, Qt::NoButton, {},
-                     Qt::NoScrollPhase, false);
-    QApplication::sendEvent(canvas_->viewport(), &turn);
-    QCOMPARE(canvas_->Edge(), TouchUpCanvas::kLargestEdge);
-    const QPoint now = At(State().CellsAcross / 3, State().CellsDown / 2);
-    QVERIFY2((now - spot).manhattanLength() <= 2 * TouchUpCanvas::kLargestEdge, "it has run away");
-    QTest::keyClick(canvas_, Qt::Key_0);
-    QCOMPARE(canvas_->Edge(), fit);
+    for (const CellPos cell :
+         {CellPos{State().CellsAcross / 3, 2}, CellPos{1, State().CellsDown}}) {
+        const QPoint spot = At(cell.X, cell.Y);
+        Hover(spot);
+        for (int turns = 0; turns < 30; ++turns) {
+            QWheelEvent turn(spot, canvas_->viewport()->mapToGlobal(spot), {}, {0, 120},
+                             Qt::NoButton, {}, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(canvas_->viewport(), &turn);
+        }
+        QCOMPARE(canvas_->Edge(), TouchUpCanvas::kLargestEdge);
+        QVERIFY2((At(cell.X, cell.Y) - spot).manhattanLength() <= TouchUpCanvas::kLargestEdge / 2,
+                 "it has run away");
+        QCOMPARE(canvas_->PointedCell(), cell);
+        QTest::keyClick(canvas_, Qt::Key_0);
+        QCOMPARE(canvas_->Edge(), fit);
+    }
+    for (int steps = 0; steps < 30; ++steps) {
+        Find<QToolButton>(*canvas_->window(), "ZoomIn").click();
+    }
+    canvas_->CenterOn({1, 1});
+    const QPoint corner = At(1, 1) - QPoint(32, 32);
+    QVERIFY2(corner.manhattanLength() <= 2, "no room is left beside the sheet needlessly");
+    Hover(At(3, 2));
+    canvas_->CenterOn({State().CellsAcross, 1});
+    QVERIFY2(canvas_->PointedCell().X > 3, "the brush stays under a mouse that lies still");
 }
 
 void TouchUpWindowTest::SpaceDragsWhereverTheKeyboardIs() {
@@ -159,6 +175,9 @@ void TouchUpWindowTest::EveryWidgetHasANameAndAKeyOfItsOwn() {
             const bool leads = label->isVisible() && label->buddy() != nullptr;
             keys << (leads ? QKeySequence::mnemonic(label->text()).toString() : QString());
         }
+        for (int tab = 0; tab < panels.count(); ++tab) {
+            keys << QKeySequence::mnemonic(panels.tabText(tab)).toString();
+        }
         keys.removeAll(QString());
         QCOMPARE(keys.removeDuplicates(), 0);
     }
@@ -197,6 +216,11 @@ void TouchUpWindowTest::PressesWithKeysPickEraseAndDrawLines() {
     QTest::keyClick(canvas_, Qt::Key_Q);
     QTest::mouseClick(picture, Qt::LeftButton, {}, At(3, 3));
     QVERIFY2(PaintAt(3, 2) == 2 && PaintAt(2, 2) == 1, "a round brush of three is a cross");
+    const auto shown = [picture] { return picture->grab().toImage(); };
+    Hover(At(12, 12));
+    QVERIFY2(shown().pixelColor(At(12, 11)).green() == 200 &&
+                 shown().pixelColor(At(11, 11)).green() == 0,
+             "and so is what shows under the mouse");
     QTest::mouseClick(picture, Qt::LeftButton, Qt::ShiftModifier, At(9, 3));
     QCOMPARE(PaintAt(6, 2), 2);
     QCOMPARE(UndoText(), QStringLiteral("Undo Line"));
@@ -227,6 +251,10 @@ void TouchUpWindowTest::SelectionsAreMovedCopiedMirroredAndPasted() {
     QTest::keyClick(canvas_, Qt::Key_Right);
     QCOMPARE(PaintAt(9, 9), 2);
     QTest::keySequence(canvas_, QKeySequence(QKeySequence::Copy));
+    QTest::keySequence(canvas_, QKeySequence(QKeySequence::Paste));
+    QCOMPARE(UndoText(), QStringLiteral("Undo Paste"));
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QCOMPARE(UndoText(), QStringLiteral("Undo Move"));  // it is the floating ones that went
     QTest::keySequence(canvas_, QKeySequence(QKeySequence::Paste));
     QTest::keyClick(canvas_, Qt::Key_Return);
     QCOMPARE(UndoText(), QStringLiteral("Undo Paste"));
@@ -264,8 +292,22 @@ void TouchUpWindowTest::AreasAreOutlinedMarkedAndMerged() {
     Find<QCheckBox>(window, "MergePreview").click();
     QVERIFY(Find<QLabel>(window, "MergeText").text().startsWith("1 stipple would change"));
     const QImage marked = canvas_->viewport()->grab().toImage();
+    auto& below = Find<QSpinBox>(window, "MergeBelow");
+    Find<QTabWidget>(window, "Panels").setCurrentIndex(2);
     Find<QPushButton>(window, "MergeAreas").click();
     QCOMPARE(State().EditStipples, State().Stipples);
+    below.setFocus();
+    QTest::keyClick(&below, Qt::Key_F);
+    QVERIFY2(Find<QToolButton>(window, "Fill").isChecked(), "a number has no use for letters");
+    QTest::keySequence(&below, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QVERIFY2(State().EditStipples != State().Stipples, "the editor's undo, not the number's");
+    QTest::keyClick(&below, Qt::Key_7);
+    QTest::keyClick(&below, Qt::Key_Return);
+    QVERIFY(canvas_->hasFocus());
+    QTest::keySequence(canvas_, QKeySequence(Qt::CTRL | Qt::Key_Y));
+    QVERIFY(Find<QCheckBox>(window, "MergePreview").isChecked());
+    Find<QTabWidget>(window, "Panels").setCurrentIndex(0);
+    QVERIFY2(!Find<QCheckBox>(window, "MergePreview").isChecked(), "it would hide what is painted");
     QVERIFY(canvas_->viewport()->grab().toImage() != marked);
     QCOMPARE(UndoText(), QStringLiteral("Undo Merge Areas"));
 }

@@ -150,13 +150,13 @@ TEST_F(TouchUpFormTest, FindsBlinksAndCleansUpALoner) {
     EXPECT_EQ(Shown().Loners, "1 loner left");
     EXPECT_EQ(form_->NextLoner_Click(), (CellPos{3, 3}));
     EXPECT_EQ(Shown().Loners, "1 loner left; column 3, row 3");
-    EXPECT_EQ(Shown().CleanPreview, "1 stipple would change, 9 areas left");
+    EXPECT_EQ(Shown().CleanPreview, "1 stipple would change, 4 areas left");
     form_->BlinkPaint_Click();
     EXPECT_THAT(form_->Marked(), SizeIs(static_cast<std::size_t>(Counts()[3])));
     form_->CleanUp_Click();
     EXPECT_EQ(State().EditStipples, before_);
     EXPECT_EQ(Shown().UndoCaption, "Undo Clean Up");
-    EXPECT_EQ(Shown().CleanPreview, "0 stipples would change, 9 areas left");
+    EXPECT_EQ(Shown().CleanPreview, "0 stipples would change, 4 areas left");
     EXPECT_FALSE(Shown().CleanEnabled);
     EXPECT_EQ(Shown().Loners, "No loners");
     form_->BlinkPaint_Click();
@@ -361,7 +361,7 @@ TEST_F(TouchUpFormTest, PaintsAreSortedOfferedAddedAndPasted) {
     form_->Undo_Click();
     form_->Paste_Click("\"Vendrel stipples\",1\n1,1,1\n9,9,9,\"Other\",\"K\",\"Coal\"\n1\n",
                        {2, 2});
-    EXPECT_EQ(Shown().UndoCaption, "Undo Replace Paint") << "it floats";
+    EXPECT_EQ(Shown().UndoCaption, "Undo Paste");
     form_->PutDown_Click();
     EXPECT_EQ(Shown().Palette[5].Name, "Coal");
     EXPECT_EQ(form_->Sheet().PaintAt({2, 2}), 5);

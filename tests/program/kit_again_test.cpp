@@ -67,6 +67,18 @@ TEST(KitAgain, BecomesAnotherKitUnderATitleOfItsOwn) {
     EXPECT_EQ(studio.Files.Read("Kits/ball.kit"), kit);
 }
 
+TEST(KitAgain, SistersOfKitsMadePaintableInTheWindowArePaintable) {
+    Studio studio;
+    studio.AddPhoto("ball.bmp");
+    ASSERT_EQ(studio.Kit({studio.Path("ball.bmp"), "--paintable", "--save-kit"}), 0);
+    std::string kit = studio.Files.Read("Kits/ball.kit");
+    const std::string chosen = "\"paintable\": true";  // of the settings; the grid's is further on
+    kit.replace(kit.find(chosen), chosen.size(), "\"paintable\": false");
+    studio.Files.Write("Kits/ball.kit", kit);
+    ASSERT_EQ(studio.Kit({"ball.kit", "--final-paints", "16", "--title", "sister", "--json"}), 0);
+    EXPECT_THAT(studio.Out, HasSubstr(chosen));
+}
+
 TEST(KitAgain, AsksForThePhotoThatMovedOrChanged) {
     Studio studio;
     studio.AddPhoto("ball.bmp");

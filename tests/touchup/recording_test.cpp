@@ -101,7 +101,7 @@ void EditSomehow(TouchUp& editor, WorkState& state, std::mt19937& random) {
         [&] {
             const int last = editor.Sheet().PaintCount();
             editor.ChangePalette(
-                "Sort Paints", EditIntent::Order,
+                "Move Paint", EditIntent::Order,
                 WithPaintMoved(editor.Sheet(), 1 + upTo(static_cast<unsigned>(last)), last));
         },
         [&] {

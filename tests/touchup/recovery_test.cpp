@@ -136,17 +136,19 @@ TEST(Recovery, LaysItsEditsOverWhatOtherSettingsGive) {
         Rows Restored;  // the paint that was painted with stands first, by hand
         const char* Report;
     };
-    for (const Case& test :
-         {Case{{"11222", "11222"}, 3, {"12111", "22111"}, ""},
-          {{"11112", "11112"}, 2, {"12221", "22221"}, "All 2 edits kept"},
-          {{"1111", "1111", "1111"}, 1, {"1222", "2222", "2222"}, "1 edit kept"}}) {
+    for (const Case& test : {Case{{"11222", "11222"}, 3, {"12111", "22111"}, ""},
+                             {{"11112", "11112"}, 2, {"12221", "22221"}, "All 2 edits kept"},
+                             {{"1111", "1111", "1111"},
+                              1,
+                              {"1222", "2222", "2222"},
+                              "1 edit kept, 1 more paint for them"}}) {
         KitBench bench({"11222", "11222"}, 3);
         LayOverConversion(bench.State);
         {
             TouchUp crashed(bench.Place);
             crashed.Replace(2, 3);
             crashed.BeginStroke({1, 1}, {1, 3});
-            crashed.ChangePalette("Sort Paints", EditIntent::Order,
+            crashed.ChangePalette("Move Paint", EditIntent::Order,
                                   WithPaintMoved(crashed.Sheet(), 3, 1));
             crashed.KeepRecovery(At(1));
             bench.State.Recovery.reset();

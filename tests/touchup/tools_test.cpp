@@ -61,7 +61,7 @@ TEST(Erasing, GivesBackWhatTheConversionGaveHoweverThePaletteIsNow) {
     TouchUp editor(bench.Place);
     editor.Fill({1, 1}, 4);
     editor.Fill({3, 1}, 4);
-    editor.ChangePalette("Sort Paints", EditIntent::Paint, WithPaintMoved(editor.Sheet(), 1, 4));
+    editor.ChangePalette("Move Paint", EditIntent::Paint, WithPaintMoved(editor.Sheet(), 1, 4));
     EXPECT_EQ(bench.Edited(), (Rows{"333", "223"})) << "2, 3 and 4 moved up";
     editor.BeginErasing({1, 1}, {.Size = 1});
     editor.StrokeTo({3, 1});
@@ -208,7 +208,7 @@ TEST(PaletteSteps, AddRemoveAndMovePaintsWithTheirStipples) {
     editor.ChangePalette("Add Paint", EditIntent::Paint,
                          WithPaints(editor.Sheet(), {{1, 2, 3, "Set", "X", "Paint X", 7}}));
     EXPECT_EQ(names(), "1,2,3,X,");
-    editor.ChangePalette("Sort Paints", EditIntent::Paint, WithPaintMoved(editor.Sheet(), 3, 1));
+    editor.ChangePalette("Move Paint", EditIntent::Paint, WithPaintMoved(editor.Sheet(), 3, 1));
     EXPECT_EQ(names(), "3,1,2,X,");
     EXPECT_EQ(bench.Edited(), (Rows{"231", "111"}));
     const int heir = StandInByEye(bench.State.FoundColors, bench.State.FoundColors[1], 1);
@@ -253,24 +253,22 @@ TEST(CleanUp, RepaintsWhatItsPreviewAnnouncedInOneStep) {
         Rows After;
         CleanUpPreview Preview;
     };
-    // The areas are those of the search, which never steps into the last column or row from
-    // inside: these count for themselves.
     const Case cases[] = {
-        {8, {"1111", "1311", "1111", "1111"}, {"1111", "1111", "1111", "1111"}, {1, 4}},
-        {8, {"2111", "1311", "1111", "1111"}, {"2111", "1311", "1111", "1111"}, {0, 6}},
-        {7, {"2111", "1311", "1111", "1111"}, {"2111", "1111", "1111", "1111"}, {1, 5}},
-        {6, {"222", "131", "111"}, {"222", "131", "111"}, {0, 7}},
-        {5, {"222", "131", "111"}, {"222", "111", "111"}, {1, 4}},
+        {8, {"1111", "1311", "1111", "1111"}, {"1111", "1111", "1111", "1111"}, {1, 1}},
+        {8, {"2111", "1311", "1111", "1111"}, {"2111", "1311", "1111", "1111"}, {0, 3}},
+        {7, {"2111", "1311", "1111", "1111"}, {"2111", "1111", "1111", "1111"}, {1, 2}},
+        {6, {"222", "131", "111"}, {"222", "131", "111"}, {0, 3}},
+        {5, {"222", "131", "111"}, {"222", "111", "111"}, {1, 2}},
         // Neighbours outside the grid count as none: a side has five, a corner three.
-        {6, {"121", "111", "113"}, {"121", "111", "113"}, {0, 5}},
-        {5, {"121", "111", "113"}, {"111", "111", "113"}, {1, 4}},
-        {4, {"121", "111", "113"}, {"111", "111", "113"}, {1, 4}},
-        {3, {"121", "111", "113"}, {"111", "111", "111"}, {2, 4}},
+        {6, {"121", "111", "113"}, {"121", "111", "113"}, {0, 3}},
+        {5, {"121", "111", "113"}, {"111", "111", "113"}, {1, 2}},
+        {4, {"121", "111", "113"}, {"111", "111", "113"}, {1, 2}},
+        {3, {"121", "111", "113"}, {"111", "111", "111"}, {2, 1}},
         // Every stipple goes by what its neighbours were before the pass.
         {2, {"12", "21"}, {"21", "12"}, {4, 4}},
         // Two paints would do: the one on more neighbours, then the lower index.
-        {3, {"555", "434", "444"}, {"555", "444", "444"}, {1, 4}},
-        {4, {"555", "536", "666"}, {"555", "556", "666"}, {1, 5}},
+        {3, {"555", "434", "444"}, {"555", "444", "444"}, {1, 2}},
+        {4, {"555", "536", "666"}, {"555", "556", "666"}, {1, 2}},
     };
     for (const Case& test : cases) {
         SCOPED_TRACE(testing::PrintToString(test.Before) + std::to_string(test.Level));
