@@ -19,6 +19,7 @@ constexpr double kTop = 38;     // of the first row
 constexpr double kRow = 8.6;    // holds a swatch of 8 mm
 constexpr double kFooter = 12;  // the sums
 constexpr double kBottom = 12;
+constexpr double kLeastMl = 0.1;  // no paint of the kit takes none
 const QColor kRule(200, 200, 200);
 
 // Left edge and width of the columns, in millimeters from the margin; Paint takes what is left.
@@ -192,7 +193,8 @@ void ChartPage::WriteName(const PaintNeed& need, double top) {
 void ChartPage::WriteFigures(const PaintNeed& need, double top, double height) {
     const double area = kit_.Settings.InInches() ? need.Cm2 / kCm2PerSqIn : need.Cm2;
     Write(kArea, top, height, Qt::AlignRight, ToQt(Decimals(area, area < 9.95 ? 1 : 0)));
-    Write(kMl, top, height, Qt::AlignRight, ToQt(Decimals(need.Ml, need.Ml < 9.95 ? 1 : 0)));
+    const double ml = std::max(need.Ml, kLeastMl);
+    Write(kMl, top, height, Qt::AlignRight, ToQt(Decimals(ml, ml < 9.95 ? 1 : 0)));
     if (kit_.Settings.Use.PotMl > 0) {
         Write(kPots, top, height, Qt::AlignRight, QString::number(need.Pots));
     }

@@ -63,13 +63,13 @@ class Placement {
     void OfferToPieces(const std::vector<PlanLabel>& offers, std::vector<bool>& has) {
         for (const PlanLabel& offer : offers) {
             std::vector<PlanLabel>& others = OthersOf(offer);
-            const double smallest = std::min(others.front().Height * kAsGood, rules_.LegibleHeight);
+            const double smallest = SmallestBeside(others.front());
             const std::size_t piece = PieceUnder(offer);
             if (has[piece] || offer.Height < smallest) {
                 continue;
             }
             const PlanLabel label = Fitted(offer);
-            if (label.Height >= smallest && PieceUnder(label) == piece &&
+            if (label.Height >= smallest && PieceUnder(label) == piece && !IsOnCut(label) &&
                 std::ranges::none_of(
                     others, [&](const PlanLabel& other) { return Overlap(label, other); })) {
                 others.push_back(label);
@@ -78,15 +78,19 @@ class Placement {
         }
     }
 
-    // A symbol on a cut would be trimmed in half; one a little smaller beside it is better.
+    // A symbol on a cut would be trimmed in half; one beside it that can be read is better.
     void KeepOffTheCuts() {
         for (const PlanLabel& label : places_.OfPieces) {
             PlanLabel& first = OthersOf(label).front();
-            if (IsOnCut(first) && label.Height >= first.Height * kAsGood) {
+            if (const double least = SmallestBeside(first);
+                IsOnCut(first) && label.Height >= least) {
                 const PlanLabel beside = Fitted(label);
-                first = beside.Height >= first.Height * kAsGood ? beside : first;
+                first = beside.Height >= least && !IsOnCut(beside) ? beside : first;
             }
         }
+    }
+    [[nodiscard]] double SmallestBeside(const PlanLabel& first) const {
+        return std::min(first.Height * kAsGood, rules_.LegibleHeight);
     }
 
     void PlaceOnLattice() {
@@ -97,7 +101,7 @@ class Placement {
                 continue;
             }
             const PlanLabel label = Fitted(offer);
-            if (label.Height >= smallest && !IsTooClose(label, others)) {
+            if (label.Height >= smallest && !IsOnCut(label) && !IsTooClose(label, others)) {
                 others.push_back(label);
             }
         }

@@ -46,24 +46,29 @@ class TakenPlaces {
     TakenPlaces(const PixelGrid& ids, double side)
         : side_(side), squares_(SquareAt(ids.Across()) + 1, SquareAt(ids.Down()) + 1) {}
 
-    void Add(const PlanRect& box, const std::optional<PlanLine>& leader) {
+    // Answers under which number it is known.
+    int Add(const PlanRect& box, const std::optional<PlanLine>& leader) {
         const int number = static_cast<int>(taken_.size());
         taken_.push_back({box, leader});
         Each(box, [&](std::vector<int>& square) { square.push_back(number); });
         if (leader) {
             Each(BoundsOf(*leader), [&](std::vector<int>& square) { square.push_back(number); });
         }
+        return number;
     }
     [[nodiscard]] bool IsFree(const PlanRect& box) {
-        return AllNear(box, [&](const Taken& taken) {
+        return AllNear(box, [&](int number) {
+            const Taken& taken = At(taken_, number);
             return !Overlap(box, taken.Box) &&
                    (!taken.Leader || ClipLine(*taken.Leader, box).empty());
         });
     }
-    [[nodiscard]] bool IsFree(const PlanLine& leader) {
-        return AllNear(BoundsOf(leader), [&](const Taken& taken) {
-            return ClipLine(leader, taken.Box).empty() &&
-                   (!taken.Leader || !Cross(leader, *taken.Leader));
+    // But for the place that it leads from.
+    [[nodiscard]] bool IsFree(const PlanLine& leader, int own) {
+        return AllNear(BoundsOf(leader), [&](int number) {
+            const Taken& taken = At(taken_, number);
+            return number == own || (ClipLine(leader, taken.Box).empty() &&
+                                     (!taken.Leader || !Cross(leader, *taken.Leader)));
         });
     }
 
@@ -90,8 +95,7 @@ class TakenPlaces {
     [[nodiscard]] bool AllNear(const PlanRect& part, Test test) {
         bool all = true;
         Each(part, [&](const std::vector<int>& square) {
-            all = all &&
-                  std::ranges::all_of(square, [&](int number) { return test(At(taken_, number)); });
+            all = all && std::ranges::all_of(square, test);
         });
         return all;
     }
@@ -114,22 +118,25 @@ class Leading {
           served_(regions.List.size()),
           hosts_(regions.List.size()) {}
 
+    // What cannot be moved stays, so nobody's line may lead through where a small symbol stands.
     void Run() {
+        std::vector<int> places;
         for (const PlanLabel& label : labels_) {
+            places.push_back(Take(label));
             if (!IsTooSmall(label)) {
-                Take(label);
                 served_[static_cast<std::size_t>(label.Region)] = true;
                 if (label.Height >= legible_) {
                     hosts_[static_cast<std::size_t>(label.Region)] = true;
                 }
             }
         }
-        for (PlanLabel& label : labels_) {
-            if (IsTooSmall(label)) {
-                if (!served_[static_cast<std::size_t>(label.Region)]) {
-                    label = Outside(label).value_or(label);
+        for (std::size_t i = 0; i < labels_.size(); ++i) {
+            if (PlanLabel& label = labels_[i];
+                IsTooSmall(label) && !served_[static_cast<std::size_t>(label.Region)]) {
+                if (const auto outside = Outside(label, places[i])) {
+                    label = *outside;
+                    (void)Take(label);
                 }
-                Take(label);
             }
         }
     }
@@ -141,12 +148,13 @@ class Leading {
     [[nodiscard]] double AspectOf(const PlanLabel& label) const {
         return rules_.Aspects[regions_[label.Region].Value];
     }
-    void Take(const PlanLabel& label) {
-        taken_.Add(BoxOf(label, AspectOf(label)),
-                   label.PointsAt ? std::optional(LeaderOf(label, AspectOf(label))) : std::nullopt);
+    int Take(const PlanLabel& label) {
+        return taken_.Add(
+            BoxOf(label, AspectOf(label)),
+            label.PointsAt ? std::optional(LeaderOf(label, AspectOf(label))) : std::nullopt);
     }
 
-    [[nodiscard]] std::optional<PlanLabel> Outside(const PlanLabel& label) {
+    [[nodiscard]] std::optional<PlanLabel> Outside(const PlanLabel& label, int place) {
         for (int step = 0; step < kSteps; ++step) {
             const double way = kNearest + step * kStep;
             for (int direction = 0; direction < kDirections; ++direction) {
@@ -156,14 +164,14 @@ class Leading {
                                        label.Centre.Y + way * legible_ * std::sin(angle)},
                                       legible_,
                                       label.Centre};
-                if (MayStand(moved)) {
+                if (MayStand(moved, place)) {
                     return moved;
                 }
             }
         }
         return std::nullopt;
     }
-    [[nodiscard]] bool MayStand(const PlanLabel& label) {
+    [[nodiscard]] bool MayStand(const PlanLabel& label, int place) {
         const int x = static_cast<int>(std::floor(label.Centre.X));
         const int y = static_cast<int>(std::floor(label.Centre.Y));
         if (!regions_.Ids.Holds(x, y)) {
@@ -176,7 +184,7 @@ class Leading {
                !rules_.Cuts.Meet(box) && rules_.Cuts.AreTogether(label.Centre, *label.PointsAt) &&
                taken_.IsFree(Grown(box, kGap * legible_)) &&
                fit_.At(label.Centre, aspect, host).Height >= legible_ &&
-               taken_.IsFree(LeaderOf(label, aspect));
+               taken_.IsFree(LeaderOf(label, aspect), place);
     }
 
     std::vector<PlanLabel>& labels_;
