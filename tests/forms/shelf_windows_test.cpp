@@ -128,8 +128,8 @@ TEST(PaintSource, WhatIsOwnedReachesTheKitAsATemplateAndSetsComeBack) {
     ChangeShelf(photo.Place.Folder, [&](Shelf& shelf) {
         AddToShelf(shelf, {120, 80, 30, "Mine", "", "Mud", 0});
     });
-    form.Form_Load();
-    form.Choose(wish);
+    form.ReadOwned();  // from the window over it
+    EXPECT_EQ(form.Wish(), wish);
     EXPECT_EQ(form.Figures()->ToBuy, 0);
     EXPECT_EQ(photo.State.PaintCount, 2);  // figures change nothing
     form.AcceptButton_Click();
