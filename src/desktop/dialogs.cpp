@@ -1,6 +1,7 @@
 #include "desktop/dialogs.h"
 
 #include "desktop/about_dialog.h"
+#include "desktop/add_catalogue_dialog.h"
 #include "desktop/color_chart_dialog.h"
 #include "desktop/color_matcher_dialog.h"
 #include "desktop/crop_photo_dialog.h"
@@ -15,6 +16,7 @@
 #include "desktop/paint_source_dialog.h"
 #include "desktop/save_everything_dialog.h"
 #include "desktop/save_kit_dialog.h"
+#include "desktop/shopping_dialog.h"
 #include "desktop/template_shop_dialog.h"
 #include "desktop/touch_up_dialog.h"
 
@@ -52,6 +54,10 @@ std::unique_ptr<FormDialog> MakeDialog(FormId form, const ViewContext& context, 
             return std::make_unique<PaintSourceDialog>(context, parent);
         case FormId::MissingPaints:
             return std::make_unique<MissingPaintsDialog>(context, parent);
+        case FormId::Shopping:
+            return std::make_unique<ShoppingDialog>(context, parent);
+        case FormId::AddCatalogue:
+            return std::make_unique<AddCatalogueDialog>(context, parent);
         case FormId::TouchUp:
             return std::make_unique<TouchUpDialog>(context, parent);
         case FormId::About:

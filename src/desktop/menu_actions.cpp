@@ -57,6 +57,8 @@ constexpr Keys kKeys[] = {
     {ShowMyPaints, 'y'},
     {ChoosePaintSource, 'F'},
     {ShowMissingPaints, 'I'},
+    {ShowShopping, 'L'},
+    {AddPaintCatalogue, 'A'},
     {NextBestColors, 'C'},
     {SampleMethod, 'S'},
     {AveragePixel, 'A'},

@@ -15,7 +15,8 @@
 namespace vendrel {
 namespace {
 
-constexpr QSize kMissingPreview(300, 300);
+constexpr QSize kMissingPreview(300, 260);
+constexpr int kSubstitutesHeight = 76;  // of as many as there ever are
 
 QString BuyText(const ShoppingItem& item) {
     const QString ml = QObject::tr("%1 ml").arg(item.BuyMl, 0, 'f', 1);
@@ -36,15 +37,17 @@ MissingPaintsDialog::MissingPaintsDialog(const ViewContext& context, QWidget* pa
       picture_(Named<QLabel>("MissingPicture", tr("The kit"))),
       summary_(new ValueLabel("MissingSummary", tr("What is missing"))) {
     setWindowTitle(tr("What Is Missing"));
+    auto* other = new QVBoxLayout;
+    other->addWidget(MakeSubstitutes());
+    other->addWidget(MakePicture(), 1);
     auto* columns = new QHBoxLayout;
-    columns->addWidget(MakeMissing(), 4);
-    columns->addWidget(MakeSubstitutes(), 4);
-    columns->addWidget(MakePicture(), 3);
+    columns->addWidget(MakeMissing(), 1);
+    columns->addLayout(other, 1);
     auto* all = new QVBoxLayout(this);
     all->addWidget(summary_);
     all->addLayout(columns, 1);
     all->addLayout(MakeEnd());
-    resize(1100, 540);
+    resize(1000, 620);
 }
 
 QWidget* MissingPaintsDialog::MakeMissing() {
@@ -58,7 +61,8 @@ QWidget* MissingPaintsDialog::MakeMissing() {
 QWidget* MissingPaintsDialog::MakeSubstitutes() {
     auto* frame = new QGroupBox(tr("Your &nearest: missing and own side by side"));
     auto* column = new QVBoxLayout(frame);
-    column->addWidget(substitutes_, 1);
+    substitutes_->setFixedHeight(kSubstitutesHeight);
+    column->addWidget(substitutes_);
     use_ = MakeButton("UseSubstitute", tr("&Use That One Instead"),
                       [this] { form_.Use_Click(substitutes_->currentRow()); });
     OnTaken(*substitutes_, [this] { use_->click(); });

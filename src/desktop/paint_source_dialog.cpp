@@ -144,6 +144,21 @@ void PaintSourceDialog::Load() {
     soon_.start();
 }
 
+// My Paints was open over it, perhaps.
+bool PaintSourceDialog::event(QEvent* event) {
+    const bool handled = FormDialog::event(event);
+    if (event->type() == QEvent::WindowActivate) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                Run([this] { form_.ReadOwned(); });
+                soon_.start();
+            },
+            Qt::QueuedConnection);
+    }
+    return handled;
+}
+
 void PaintSourceDialog::Mirror() {
     const PaintSourceWish& wish = form_.Wish();
     const QSignalBlocker quiet[] = {QSignalBlocker(worth_), QSignalBlocker(most_)};

@@ -25,6 +25,7 @@ class PaintSourceDialog : public FormDialog {
     void Mirror() override;
 
   protected:
+    bool event(QEvent* event) override;
     void Dismiss() override { form_.CancelButton_Click(); }
 
   private:

@@ -18,12 +18,24 @@
 namespace vendrel {
 namespace {
 
-std::vector<PaintItem> ItemsOf(const PaintList& paints) {
-    std::vector<PaintItem> items;
-    for (const PaintColor& paint : paints) {
-        items.push_back({ColorOf(paint), kNoColor, Text(PaintLabel(paint))});
+std::vector<int> RowsChosenIn(const QListWidget& list) {
+    std::vector<int> rows;
+    for (const QListWidgetItem* item : list.selectedItems()) {
+        rows.push_back(list.row(item));
     }
-    return items;
+    std::ranges::sort(rows);
+    return rows;
+}
+
+// The last of them is where the keyboard goes on.
+void ChooseRows(QListWidget& list, int first, int count) {
+    if (count > 0) {
+        list.setCurrentRow(first + count - 1, QItemSelectionModel::ClearAndSelect);
+        for (int row = first; row < first + count; ++row) {
+            list.item(row)->setSelected(true);
+        }
+        list.scrollToItem(list.item(first + count - 1));
+    }
 }
 
 std::filesystem::path PathOf(const QString& file) {
@@ -44,6 +56,7 @@ TemplateShopDialog::TemplateShopDialog(const ViewContext& context, QWidget* pare
       paintList_(Named<QListWidget>("TemplatePaints", tr("Paints of the template"))),
       setBox_(Named<QComboBox>("SearchSet", tr("Paint set to search"))),
       searchText_(Named<QLineEdit>("SearchText", tr("Search set, name or code"))),
+      ownedOnly_(Named<QCheckBox>("SearchOwned", tr("My paints alone"))),
       nearButton_(nullptr),
       foundList_(Named<QListWidget>("FoundPaints", tr("Paints of the catalogue"))) {
     setWindowTitle(tr("Template Shop"));
@@ -104,11 +117,12 @@ QWidget* TemplateShopDialog::MakePaints() {
     connect(swatches_, &SwatchBox::Resized, this, [this] { MirrorTemplate(); });
     column->addWidget(swatches_);
     column->addWidget(paintList_, 1);
+    paintList_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto* row = new QHBoxLayout;
     for (QPushButton* button : {MakeButton("RemovePaint", tr("Re&move"),
-                                           [this] { form_.RemovePaint_Click(ChosenPaint()); }),
-                                MakeButton("PaintUp", tr("U&p"), [this] { MovePaint(-1); }),
-                                MakeButton("PaintDown", tr("D&own"), [this] { MovePaint(1); })}) {
+                                           [this] { form_.RemovePaints_Click(ChosenPaints()); }),
+                                MakeButton("PaintUp", tr("U&p"), [this] { MovePaints(-1); }),
+                                MakeButton("PaintDown", tr("D&own"), [this] { MovePaints(1); })}) {
         needTemplate_.push_back(button);
         row->addWidget(button);
     }
@@ -124,14 +138,26 @@ QWidget* TemplateShopDialog::MakeCatalogue() {
     searchText_->setClearButtonEnabled(true);
     column->addWidget(searchText_);
     nearButton_ = MakeButton("SearchNear", tr("&Nearest to a Color…"), [this] { PickColor(); });
-    column->addWidget(nearButton_);
+    ownedOnly_->setText(tr("My paints a&lone"));
+    auto* narrow = new QHBoxLayout;
+    narrow->addWidget(nearButton_, 1);
+    narrow->addWidget(ownedOnly_);
+    column->addLayout(narrow);
+    foundList_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     column->addWidget(foundList_, 1);
-    needTemplate_.push_back(
-        MakeButton("AddPaint", tr("Add to &Template"), [this] { AddChosenPaint(); }));
-    column->addWidget(needTemplate_.back());
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {MakeButton("AddPaint", tr("Add to &Template"),
+                                           [this] { Added(form_.AddPaints_Click(ChosenRows())); }),
+                                MakeButton("AddWholeSet", tr("Add Whole &Set"),
+                                           [this] { Added(form_.AddSets_Click(ChosenRows())); })}) {
+        needTemplate_.push_back(button);
+        buttons->addWidget(button, 1);
+    }
+    column->addLayout(buttons);
+    connect(ownedOnly_, &QCheckBox::clicked, this, [this] { Search(); });
     connect(setBox_, &QComboBox::activated, this, [this] { Search(); });
     connect(searchText_, &QLineEdit::textChanged, this, [this] { Search(); });
-    OnTaken(*foundList_, [this] { Run([this] { AddChosenPaint(); }); });
+    OnTaken(*foundList_, [this] { Run([this] { Added(form_.AddPaints_Click(ChosenRows())); }); });
     return frame;
 }
 
@@ -162,17 +188,18 @@ void TemplateShopDialog::MirrorTemplate() {
                               : tr("%1 [%2 paints]").arg(Text(form_.Chosen())).arg(count);
     paintsFrame_->setTitle(WithoutMnemonics(title));
     swatches_->SetTitle(title);
-    MirrorPaints(*paintList_, ItemsOf(shown.Paints), std::min(paintList_->currentRow(), count - 1));
+    MirrorPaints(*paintList_, ItemsOf({shown.Paints.begin(), shown.Paints.end()}),
+                 std::min(paintList_->currentRow(), count - 1));
     swatches_->SetLayout(LayOutSwatches(swatches_->width(), swatches_->height(), count,
                                         Context().Place.Screen.Screen().Twips.X));
 }
 
 void TemplateShopDialog::MirrorCatalogue() {
-    std::vector<PaintItem> items;
+    std::vector<PaintColor> found;
     for (const int row : form_.Controls().Found) {
-        const PaintColor& paint = Context().Place.State->MasterColors[row];
-        items.push_back({ColorOf(paint), kNoColor, Text(PaintLabel(paint))});
+        found.push_back(Context().Place.State->MasterColors[row]);
     }
+    const std::vector<PaintItem> items = ItemsOf(found);
     MirrorPaints(*foundList_, items,
                  std::min(foundList_->currentRow(), static_cast<int>(items.size()) - 1));
     nearButton_->setText(search_.Near ? tr("&Nearest to This Color (Click to End)")
@@ -183,6 +210,7 @@ void TemplateShopDialog::MirrorCatalogue() {
 void TemplateShopDialog::Search() {
     search_.Text = searchText_->text().toStdString();
     search_.Set = setBox_->currentData().toString().toStdString();
+    search_.OwnedOnly = ownedOnly_->isChecked();
     Run([this] { form_.Search_Change(search_); });
 }
 
@@ -227,28 +255,49 @@ void TemplateShopDialog::ChooseExport() {
     }
 }
 
-void TemplateShopDialog::AddChosenPaint() {
-    const int row = foundList_->currentRow();
-    if (row < 0) {
-        return;
+std::vector<PaintItem> TemplateShopDialog::ItemsOf(const std::vector<PaintColor>& paints) const {
+    std::vector<PaintItem> items;
+    for (const PaintColor& paint : paints) {
+        const QString label = Text(PaintLabel(paint));
+        const auto owned = form_.OwnedAs(paint);
+        items.push_back({ColorOf(paint), kNoColor, label,
+                         owned ? tr("%1, yours, label %2").arg(label, Text(*owned)) : QString(),
+                         owned.has_value()});
     }
-    if (form_.AddPaint_Click(At(form_.Controls().Found, row))) {
+    return items;
+}
+
+std::vector<int> TemplateShopDialog::ChosenRows() const {
+    std::vector<int> rows;
+    for (const int row : RowsChosenIn(*foundList_)) {
+        rows.push_back(At(form_.Controls().Found, row));
+    }
+    return rows;
+}
+
+void TemplateShopDialog::Added(int paints) {
+    MirrorTemplate();
+    ChooseRows(*paintList_, paintList_->count() - paints, paints);
+}
+
+std::vector<int> TemplateShopDialog::ChosenPaints() const {
+    std::vector<int> paints = RowsChosenIn(*paintList_);
+    for (int& paint : paints) {
+        ++paint;
+    }
+    return paints;
+}
+
+void TemplateShopDialog::MovePaints(int by) {
+    const std::vector<int> paints = ChosenPaints();
+    if (form_.MovePaints_Click(paints, by)) {
         MirrorTemplate();
+        paintList_->clearSelection();
+        for (const int paint : paints) {
+            paintList_->item(paint + by - 1)->setSelected(true);
+        }
+        paintList_->setCurrentRow(paints.back() + by - 1, QItemSelectionModel::NoUpdate);
     }
-    paintList_->setCurrentRow(paintList_->count() - 1);
-}
-
-int TemplateShopDialog::ChosenPaint() const {
-    return paintList_->currentRow() + 1;
-}
-
-void TemplateShopDialog::MovePaint(int by) {
-    const int to = ChosenPaint() + by;
-    if (to < 1 || to > paintList_->count()) {
-        return;
-    }
-    form_.MovePaint_Click(ChosenPaint(), to);
-    paintList_->setCurrentRow(to - 1);
 }
 
 }  // namespace vendrel

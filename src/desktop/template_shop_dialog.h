@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -7,6 +8,7 @@
 #include <QPushButton>
 
 #include "desktop/form_dialog.h"
+#include "desktop/paint_items.h"
 #include "desktop/swatch_box.h"
 #include "forms/template_shop.h"
 
@@ -37,10 +39,13 @@ class TemplateShopDialog : public FormDialog {
                  const std::function<void(const std::string&)>& use);
     void ChooseImport();
     void ChooseExport();
-    void AddChosenPaint();
-    /// The paint of the template that is chosen, from 1; 0 none.
-    [[nodiscard]] int ChosenPaint() const;
-    void MovePaint(int by);
+    [[nodiscard]] std::vector<PaintItem> ItemsOf(const std::vector<PaintColor>& paints) const;
+    /// Of the catalogue.
+    [[nodiscard]] std::vector<int> ChosenRows() const;
+    void Added(int paints);
+    /// Of the template, from 1.
+    [[nodiscard]] std::vector<int> ChosenPaints() const;
+    void MovePaints(int by);
 
     TemplateShop form_;
     PaintSearch search_;
@@ -50,6 +55,7 @@ class TemplateShopDialog : public FormDialog {
     QListWidget* paintList_;
     QComboBox* setBox_;
     QLineEdit* searchText_;
+    QCheckBox* ownedOnly_;
     QPushButton* nearButton_;
     QListWidget* foundList_;
     std::vector<QPushButton*> needTemplate_;

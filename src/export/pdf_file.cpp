@@ -1,5 +1,6 @@
 #include "export/pdf_file.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QMarginsF>
 #include <algorithm>
@@ -7,6 +8,8 @@
 
 #include "export/pdf_units.h"
 #include "export/print_fonts.h"
+#include "support/error.h"
+#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -107,6 +110,26 @@ void PreparePdf(QPdfWriter& writer, const std::string& title) {
 void SettlePdf(QByteArray& pdf) {
     MoveObjects(pdf, FixDates(pdf));
     FixId(pdf);
+}
+
+void WritePdf(const std::string& title, const SizeMm& sheet, const Target& target,
+              const std::function<void(QPdfWriter&, QPainter&)>& draw) {
+    const SteadyHashes steady;
+    QByteArray pdf;
+    QBuffer buffer(&pdf);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        PreparePdf(writer, title);
+        writer.setPageLayout(PdfLayoutOf(sheet));
+        QPainter painter;
+        if (!painter.begin(&writer)) {
+            throw Error("The pages cannot be drawn. Is there enough memory?");
+        }
+        draw(writer, painter);
+    }
+    SettlePdf(pdf);
+    WriteWholeFile(target, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
 }
 
 }  // namespace vendrel

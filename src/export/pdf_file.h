@@ -3,10 +3,13 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QHashFunctions>
 #include <QtGui/QPageLayout>
+#include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
+#include <functional>
 #include <string>
 
 #include "plan/paper.h"
+#include "support/target.h"
 
 namespace vendrel {
 
@@ -27,5 +30,10 @@ void PreparePdf(QPdfWriter& writer, const std::string& title);
 
 /// Takes out of a finished file what chance and clock put there.
 void SettlePdf(QByteArray& pdf);
+
+/// A file of pages that are drawn at once, whole, and the same whenever the same is drawn. Throws
+/// FileError, Error, and what `draw` throws.
+void WritePdf(const std::string& title, const SizeMm& sheet, const Target& target,
+              const std::function<void(QPdfWriter&, QPainter&)>& draw);
 
 }  // namespace vendrel

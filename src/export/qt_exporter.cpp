@@ -7,6 +7,7 @@
 #include "export/plan_preview.h"
 #include "export/print_symbols.h"
 #include "export/shopping_list.h"
+#include "export/shopping_pages.h"
 #include "export/sticker_pages.h"
 #include "support/error.h"
 
@@ -23,6 +24,10 @@ Surface QtExporter::Preview(PlannedKit& kit, int longest) const {
 void QtExporter::WriteStickers(const std::vector<Sticker>& stickers, const StickerSheet& sheet,
                                int used, const Target& target) const {
     WriteStickerPages(stickers, sheet, used, target);
+}
+
+void QtExporter::WriteShopping(const ShoppingPage& page, const Target& target) const {
+    WriteShoppingPages(page, target);
 }
 
 void QtExporter::Write(OutputId output, PlannedKit& kit, const Target& target) const {

@@ -12,6 +12,7 @@ class QtExporter final : public Exporter {
     [[nodiscard]] Surface Preview(PlannedKit& kit, int longest) const override;
     void WriteStickers(const std::vector<Sticker>& stickers, const StickerSheet& sheet, int used,
                        const Target& target) const override;
+    void WriteShopping(const ShoppingPage& page, const Target& target) const override;
     void Write(OutputId output, PlannedKit& kit, const Target& target) const override;
 
   private:

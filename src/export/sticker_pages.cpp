@@ -1,6 +1,5 @@
 #include "export/sticker_pages.h"
 
-#include <QtCore/QBuffer>
 #include <QtGui/QFontMetricsF>
 #include <algorithm>
 
@@ -8,7 +7,6 @@
 #include "export/pdf_units.h"
 #include "export/print_fonts.h"
 #include "support/error.h"
-#include "support/whole_file.h"
 
 namespace vendrel {
 namespace {
@@ -99,12 +97,8 @@ void DrawSticker(QPainter& painter, const PlanRect& place, const Sticker& sticke
                   sticker.Paint);
 }
 
-void DrawSheets(QPdfWriter& writer, const std::vector<Sticker>& stickers, const StickerSheet& sheet,
-                int used) {
-    QPainter painter;
-    if (!painter.begin(&writer)) {
-        throw Error("The labels cannot be drawn. Is there enough memory?");
-    }
+void DrawSheets(QPdfWriter& writer, QPainter& painter, const std::vector<Sticker>& stickers,
+                const StickerSheet& sheet, int used) {
     int page = 0;
     const auto places = PlaceStickers(sheet, static_cast<int>(stickers.size()), used);
     for (std::size_t i = 0; i < stickers.size(); ++i) {
@@ -128,18 +122,10 @@ void WriteStickerPages(const std::vector<Sticker>& stickers, const StickerSheet&
     if (stickers.empty()) {
         throw Error("There are no paints of yours to label. Tick some in My Paints (Tools).");
     }
-    const SteadyHashes steady;
-    QByteArray pdf;
-    QBuffer buffer(&pdf);
-    buffer.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter writer(&buffer);
-        PreparePdf(writer, "Labels of My Paints");
-        writer.setPageLayout(PdfLayoutOf(sheet.Paper));
-        DrawSheets(writer, stickers, sheet, used);
-    }
-    SettlePdf(pdf);
-    WriteWholeFile(target, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
+    WritePdf("Labels of My Paints", sheet.Paper, target,
+             [&](QPdfWriter& writer, QPainter& painter) {
+                 DrawSheets(writer, painter, stickers, sheet, used);
+             });
 }
 
 }  // namespace vendrel

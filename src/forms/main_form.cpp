@@ -62,6 +62,8 @@ constexpr ClickHandler kHandlers[] = {
     {ShowMyPaints, &MainForm::ShowMyPaints_Click},
     {ChoosePaintSource, &MainForm::ChoosePaintSource_Click},
     {ShowMissingPaints, &MainForm::ShowMissingPaints_Click},
+    {ShowShopping, &MainForm::ShowShopping_Click},
+    {AddPaintCatalogue, &MainForm::AddPaintCatalogue_Click},
     {NextBestColors, &MainForm::NextBestColors_Click},
     {AveragePixel, &MainForm::AveragePixel_Click},
     {SamplePixel, &MainForm::SamplePixel_Click},
@@ -367,6 +369,14 @@ void MainForm::ChoosePaintSource_Click() {
 
 void MainForm::ShowMissingPaints_Click() {
     place_.Screen.OpenForm(FormId::MissingPaints);
+}
+
+void MainForm::ShowShopping_Click() {
+    place_.Screen.OpenForm(FormId::Shopping);
+}
+
+void MainForm::AddPaintCatalogue_Click() {
+    place_.Screen.OpenForm(FormId::AddCatalogue);
 }
 
 void MainForm::NextBestColors_Click() {

@@ -65,6 +65,8 @@ class MainForm {
     void ShowMyPaints_Click();
     void ChoosePaintSource_Click();
     void ShowMissingPaints_Click();
+    void ShowShopping_Click();
+    void AddPaintCatalogue_Click();
     void NextBestColors_Click();
     void AveragePixel_Click();
     void SamplePixel_Click();

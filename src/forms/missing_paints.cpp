@@ -7,14 +7,13 @@
 #include "cleanup/paint_pass.h"
 #include "edits/kit_base.h"
 #include "edits/layer_recorder.h"
+#include "forms/needs_of_kits.h"
 #include "forms/require_grid.h"
 #include "forms/small_picture.h"
-#include "plan/planned_kit.h"
 #include "shelf/nearest_owned.h"
 #include "shelf/shelf_file.h"
 #include "shell/busy_pointer.h"
 #include "shell/paint_id.h"
-#include "shell/scratch_place.h"
 #include "support/list.h"
 #include "touchup/laid_edits.h"
 
@@ -45,16 +44,8 @@ void MissingPaintsForm::Measure() {
     const BusyPointer busy(place_.Screen);
     shelf_ = ReadShelf(place_.Folder);
     SeeInCatalogue(shelf_, place_.State->MasterColors);
-    KitNeeds needs{place_.State->PictureName, place_.State->PaintColors, {}, plan_.Use};
-    if (IsPainted(place_)) {
-        needs.Needs = PlannedKit(place_, fonts_, plan_).Needs();
-    } else {
-        ScratchPlace scratch(place_);
-        PaintItNow_Click(scratch.Place);
-        needs.Needs = PlannedKit(scratch.Place, fonts_, plan_).Needs();
-    }
     missing_.clear();
-    for (ShoppingItem& item : ListShopping(shelf_, {needs})) {
+    for (ShoppingItem& item : ListShopping(shelf_, {NeedsOfKitAtHand(place_, fonts_, plan_)})) {
         if (item.BuyMl > 0) {
             missing_.push_back({item, SubstitutesFor(item.Paint, shelf_)});
         }

@@ -55,11 +55,15 @@ const std::vector<std::string>& PaintSourceForm::SelectedSets() const {
     return place_.State->SelectedPaintsList;
 }
 
+void PaintSourceForm::ReadOwned() {
+    shelf_ = ReadShelf(place_.Folder);
+    SeeInCatalogue(shelf_, place_.State->MasterColors);
+    owned_ = OwnedPaints(shelf_);
+}
+
 void PaintSourceForm::Form_Load() {
     WorkState& state = place_.State;
-    shelf_ = ReadShelf(place_.Folder);
-    SeeInCatalogue(shelf_, state.MasterColors);
-    owned_ = OwnedPaints(shelf_);
+    ReadOwned();
     if (!state.PaintShopLoaded) {
         FillSelectedPaintsList(state, state);
     }

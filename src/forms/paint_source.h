@@ -39,6 +39,8 @@ class PaintSourceForm {
     /// Throws FileError, FormatError for a shelf that cannot be read.
     void Form_Load();
     void Choose(const PaintSourceWish& wish);
+    /// Something else may have changed what is owned. Throws as Form_Load.
+    void ReadOwned();
     /// Puts the choice in force. A photo that was changed to stipples is changed again, with its
     /// edits, and painted again if it was. Throws Error, with everything as it was.
     void AcceptButton_Click();

@@ -1,6 +1,7 @@
 #include "forms/template_shop.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "convert/stipple_conversion.h"
@@ -11,6 +12,7 @@
 #include "paints/restore.h"
 #include "paints/template_file.h"
 #include "paints/template_library.h"
+#include "shelf/shelf_file.h"
 #include "shell/paint_id.h"
 #include "shell/scratch_place.h"
 #include "support/disk.h"
@@ -51,8 +53,25 @@ PaintList PaintsOfPhoto(const Workplace& place) {
 }  // namespace
 
 void TemplateShop::Form_Load() {
+    ReadOwned();
     ListAndChoose("");
     Search_Change({});
+}
+
+// Templates are no less useful where it cannot be told what is owned.
+void TemplateShop::ReadOwned() {
+    try {
+        for (const ShelfPaint& paint : ReadShelf(place_.Folder).Paints) {
+            owned_.emplace(IdOf(paint), paint.Label);
+        }
+    } catch (const Error& error) {
+        place_.Screen.ShowMessage("Warning", error.what());
+    }
+}
+
+std::optional<std::string> TemplateShop::OwnedAs(const PaintColor& paint) const {
+    const auto found = owned_.find(IdOf(paint));
+    return found == owned_.end() ? std::nullopt : std::optional(found->second);
 }
 
 int TemplateShop::Preselected() const {
@@ -142,7 +161,8 @@ void TemplateShop::Search_Change(const PaintSearch& search) {
     const std::string text = ToLower(search.Text);
     controls_.Found.clear();
     for (int row = 1; row <= place_.State->MasterCount; ++row) {
-        if (Matches(place_.State->MasterColors[row], search, text)) {
+        const PaintColor& paint = place_.State->MasterColors[row];
+        if (Matches(paint, search, text) && (!search.OwnedOnly || OwnedAs(paint))) {
             controls_.Found.push_back(row);
         }
     }
@@ -169,42 +189,67 @@ void TemplateShop::Store(PaintList paints) {
     controls_.ChosenIsTemplate = true;
 }
 
-bool TemplateShop::AddPaint_Click(int catalogueRow) {
+int TemplateShop::AddPaints_Click(const std::vector<int>& catalogueRows) {
     (void)RequireChosen();
-    const PaintColor& paint = place_.State->MasterColors[catalogueRow];
     PaintList paints = controls_.Paints;
-    if (std::ranges::any_of(paints,
-                            [&](const PaintColor& other) { return SamePaint(other, paint); })) {
+    std::set<PaintId> there;
+    for (const PaintColor& paint : paints) {
+        there.insert(IdOf(paint));
+    }
+    for (const int row : catalogueRows) {
+        const PaintColor& paint = place_.State->MasterColors[row];
+        if (there.insert(IdOf(paint)).second) {
+            paints.Add(paint);
+        }
+    }
+    const int added = paints.Count() - controls_.Paints.Count();
+    if (added > 0) {
+        Store(std::move(paints));
+    }
+    return added;
+}
+
+int TemplateShop::AddSets_Click(const std::vector<int>& catalogueRows) {
+    std::set<std::string> sets;
+    for (const int row : catalogueRows) {
+        sets.insert(place_.State->MasterColors[row].Mfg);
+    }
+    std::vector<int> rows;
+    for (int row = 1; row <= place_.State->MasterCount; ++row) {
+        if (sets.contains(place_.State->MasterColors[row].Mfg)) {
+            rows.push_back(row);
+        }
+    }
+    return AddPaints_Click(rows);
+}
+
+void TemplateShop::RemovePaints_Click(const std::vector<int>& paints) {
+    PaintList left;
+    for (int paint = 1; paint <= controls_.Paints.Count(); ++paint) {
+        if (std::ranges::find(paints, paint) == paints.end()) {
+            left.Add(controls_.Paints[paint]);
+        }
+    }
+    if (left.Count() < controls_.Paints.Count()) {
+        Store(std::move(left));
+    }
+}
+
+bool TemplateShop::MovePaints_Click(const std::vector<int>& paints, int by) {
+    PaintList moved = controls_.Paints;
+    const auto fits = [&](int paint) { return moved.Holds(paint) && moved.Holds(paint + by); };
+    if (paints.empty() || !std::ranges::all_of(paints, fits)) {
         return false;
     }
-    paints.Add(paint);
-    Store(std::move(paints));
+    std::vector<int> order = paints;
+    if (by > 0) {
+        std::ranges::reverse(order);  // the last one makes room for those before it
+    }
+    for (const int paint : order) {
+        std::swap(moved[paint], moved[paint + by]);
+    }
+    Store(std::move(moved));
     return true;
-}
-
-void TemplateShop::RemovePaint_Click(int paint) {
-    if (!controls_.Paints.Holds(paint)) {
-        return;
-    }
-    PaintList paints = controls_.Paints;
-    paints.Remove(paint);
-    Store(std::move(paints));
-}
-
-void TemplateShop::MovePaint_Click(int paint, int to) {
-    const int last = controls_.Paints.Count();
-    to = std::clamp(to, 1, std::max(last, 1));
-    if (paint < 1 || paint > last || paint == to) {
-        return;
-    }
-    PaintList paints = controls_.Paints;
-    const auto at = paints.begin() - 1;
-    if (paint < to) {
-        std::rotate(at + paint, at + paint + 1, at + to + 1);
-    } else {
-        std::rotate(at + to, at + paint, at + paint + 1);
-    }
-    Store(std::move(paints));
 }
 
 void TemplateShop::FillFromPhoto_Click() {

@@ -1,20 +1,23 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "shell/paint_id.h"
 #include "shell/workplace.h"
 
 namespace vendrel {
 
 /// What to look for in the catalogue.
 struct PaintSearch {
-    std::string Text;           // part of set, name or code, without regard to case; empty: all
-    std::string Set;            // one set only; empty: all
-    std::optional<Color> Near;  // nearest first; else catalogue order
+    std::string Text{};           // part of set, name or code, without regard to case; empty: all
+    std::string Set{};            // one set only; empty: all
+    std::optional<Color> Near{};  // nearest first; else catalogue order
+    bool OwnedOnly = false;       // the painter's own alone
 };
 
 /// What the template shop shows. Indexes count from 0; -1 is nothing.
@@ -46,12 +49,16 @@ class TemplateShop {
     void DeleteTemplate_Click();
 
     void Search_Change(const PaintSearch& search);
-    /// Adds a paint of the catalogue (row from 1) at the end; one that is there is not added
-    /// twice. Throws Error for a name with a double quote. True when it was added.
-    bool AddPaint_Click(int catalogueRow);
+    /// Adds paints of the catalogue (rows from 1) at the end; what is there is not added twice.
+    /// Throws Error for a name with a double quote. Answers how many were added.
+    int AddPaints_Click(const std::vector<int>& catalogueRows);
+    /// The same with all of the sets that these paints are of.
+    int AddSets_Click(const std::vector<int>& catalogueRows);
     /// Paints of the template count from 1.
-    void RemovePaint_Click(int paint);
-    void MovePaint_Click(int paint, int to);
+    void RemovePaints_Click(const std::vector<int>& paints);
+    /// Moves paints (ascending) one place up or down (by -1 or 1) together. False where one of them
+    /// stands at the end.
+    bool MovePaints_Click(const std::vector<int>& paints, int by);
 
     /// Replaces the paints by all that the photo is matched to with the selected sets. The work on
     /// the photo itself stays as it is.
@@ -64,6 +71,8 @@ class TemplateShop {
     [[nodiscard]] const TemplateShopControls& Controls() const { return controls_; }
     /// The chosen template's name; empty when none is chosen.
     [[nodiscard]] std::string Chosen() const;
+    /// The label of an owned paint's pot; nothing for others.
+    [[nodiscard]] std::optional<std::string> OwnedAs(const PaintColor& paint) const;
     /// Names of the catalogue's sets.
     [[nodiscard]] std::vector<std::string> Sets() const;
 
@@ -74,8 +83,10 @@ class TemplateShop {
     /// False when the chosen file is no template and shall not be written over.
     [[nodiscard]] bool MayOverwrite();
     void Store(PaintList paints);
+    void ReadOwned();
 
     Workplace& place_;
+    std::map<PaintId, std::string> owned_;  // with their labels
     TemplateShopControls controls_;
 };
 

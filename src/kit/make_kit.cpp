@@ -218,6 +218,9 @@ class NoFonts final : public Exporter {
                        int /*used*/, const Target& target) const override {
         Refuse(target);
     }
+    void WriteShopping(const ShoppingPage& /*page*/, const Target& target) const override {
+        Refuse(target);
+    }
     void Write(OutputId /*output*/, PlannedKit& /*kit*/, const Target& target) const override {
         Refuse(target);
     }

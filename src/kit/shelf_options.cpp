@@ -73,6 +73,7 @@ void AddShopOptions(CLI::App& app, ShopOptions& shop) {
     AddText(app, {"--folder", "DIR", "works in DIR instead of the folder it is started in"},
             shop.Folder);
     AddText(app, {"--csv", "FILE", "writes what is to buy as a table"}, shop.Csv);
+    AddText(app, {"--pdf", "FILE", "writes it as a page to print and tick off"}, shop.Pdf);
     AddSwitch(app, {"--painted", "", "takes what the kits used off your paints"}, shop.Painted);
     AddSwitch(app, {"--undo", "", "gives back what the last --painted of the kits took"},
               shop.Undo);

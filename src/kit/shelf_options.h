@@ -32,6 +32,7 @@ struct ShopOptions {
     std::filesystem::path Folder = ".";
     std::vector<std::string> Kits;
     std::filesystem::path Csv;
+    std::filesystem::path Pdf;  // the same as a page to print
     bool Painted = false;
     bool Undo = false;
     bool Json = false;

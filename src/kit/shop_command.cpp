@@ -69,6 +69,9 @@ void Shop(ShelfDesk& desk, const ShopOptions& options, std::ostream& out) {
     if (!options.Csv.empty()) {
         WriteWholeFile(options.Csv, ShoppingCsv(items));
     }
+    if (!options.Pdf.empty()) {
+        desk.Fonts().WriteShopping({items, kits}, options.Pdf);
+    }
     if (!options.Json) {
         PrintList(items, out);
         return;

@@ -11,7 +11,8 @@ KitNeeds NeedsOfKit(Workplace& place, const KitFile& kit, const std::filesystem:
     TakeKit(place, kit, photo);
     PaintItNow_Click(place);
     PlannedKit planned(place, fonts, kit.Print);
-    return {kit.Title, place.State->PaintColors, planned.Needs(), kit.Print.Use};
+    return {kit.Title,     place.State->PaintColors, planned.Needs(),
+            kit.Print.Use, planned.Marks(),          kit.Print.InInches()};
 }
 
 }  // namespace vendrel

@@ -2,6 +2,7 @@
 
 #include "output/output_id.h"
 #include "plan/planned_kit.h"
+#include "plan/shopping.h"
 #include "plan/sticker_sheet.h"
 #include "support/surface.h"
 #include "support/target.h"
@@ -28,6 +29,10 @@ class Exporter {
     /// font, FileError.
     virtual void WriteStickers(const std::vector<Sticker>& stickers, const StickerSheet& sheet,
                                int used, const Target& target) const = 0;
+
+    /// Writes a list to take along to the shop, with boxes to tick. Throws Error when there is
+    /// nothing to buy or for a missing font, FileError.
+    virtual void WriteShopping(const ShoppingPage& page, const Target& target) const = 0;
 
     /// Writes the color chart, the kit's pages, its plan as a drawing, the page to paint along with
     /// or the list of paints to `target`, whole or not at all. The painted picture stays as it is.

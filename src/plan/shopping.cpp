@@ -5,6 +5,7 @@
 #include "shell/paint_id.h"
 #include "support/csv_table.h"
 #include "support/decimals.h"
+#include "support/list.h"
 
 namespace vendrel {
 namespace {
@@ -22,6 +23,7 @@ void LookOnShelf(const Shelf& shelf, double potMl, ShoppingItem& item) {
     constexpr double kNothing = 0.005;
     const ShelfPaint* const owned =
         IdOf(item.Paint).Named() ? FindOnShelf(shelf, IdOf(item.Paint)) : nullptr;
+    item.Label = owned != nullptr ? owned->Label : "";
     if (owned != nullptr && owned->IsLeft()) {
         item.IsOwned = true;
         item.IsUnknown = !owned->MlLeft;
@@ -50,11 +52,13 @@ std::vector<ShoppingItem> BySet(std::vector<ShoppingItem> items) {
 std::vector<ShoppingItem> ListShopping(const Shelf& shelf, const std::vector<KitNeeds>& kits) {
     std::vector<ShoppingItem> items;
     double potMl = 0;
-    for (const KitNeeds& kit : kits) {
+    for (int i = 0; i < std::ssize(kits); ++i) {
+        const KitNeeds& kit = At(kits, i);
         potMl = std::max(potMl, kit.Use.PotMl);
         for (const PaintNeed& need : kit.Needs) {
             ShoppingItem& item = ItemOf(items, kit.Paints[need.Paint]);
             item.NeededMl += need.Ml;
+            item.In.push_back({i, need.Paint});
             if (item.Kits.empty() || item.Kits.back() != kit.Title) {
                 item.Kits.push_back(kit.Title);
             }
@@ -85,6 +89,20 @@ std::string ShoppingCsv(const std::vector<ShoppingItem>& items) {
                 "," + CsvField(kits) + "\r\n";
     }
     return text;
+}
+
+SizeMm ShoppingPage::Sheet() const {
+    return !Kits.empty() && Kits.front().Inches ? Paper::Letter.Size : Paper::A4.Size;
+}
+
+ShoppingSum SumOf(const std::vector<ShoppingItem>& items) {
+    ShoppingSum sum;
+    for (const ShoppingItem& item : items) {
+        sum.Paints += item.BuyMl > 0 ? 1 : 0;
+        sum.Ml += item.BuyMl;
+        sum.Pots += item.Pots;
+    }
+    return sum;
 }
 
 std::string HexOf(const PaintColor& paint) {

@@ -45,6 +45,8 @@ constexpr std::array<MenuEntry, kMenuEntryCount> kEntries = {{
     {ShowMyPaints, "ShowMyPaints", "My Paints\u2026", TemplateMenu},
     {ChoosePaintSource, "ChoosePaintSource", "Where Paints Come From\u2026", TemplateMenu},
     {ShowMissingPaints, "ShowMissingPaints", "What Is Missing\u2026", TemplateMenu, false},
+    {ShowShopping, "ShowShopping", "Shopping List\u2026", TemplateMenu},
+    {AddPaintCatalogue, "AddPaintCatalogue", "Add Catalogue\u2026", TemplateMenu},
     {NextBestColors, "NextBestColors", "Color Matcher", TemplateMenu},
     {SampleMethod, "SampleMethod", "Color Sample Method", TemplateMenu},
     {AveragePixel, "AveragePixel", "Pixel Averaging", SampleMethod},

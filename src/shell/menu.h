@@ -48,6 +48,8 @@ enum class MenuId {
     ShowMyPaints,
     ChoosePaintSource,
     ShowMissingPaints,
+    ShowShopping,
+    AddPaintCatalogue,
     NextBestColors,
     SampleMethod,
     AveragePixel,

@@ -32,6 +32,8 @@ enum class FormId {
     MyPaints,
     PaintSource,
     MissingPaints,
+    Shopping,
+    AddCatalogue,
     About
 };
 

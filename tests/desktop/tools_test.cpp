@@ -35,6 +35,7 @@ class ToolsTest : public QObject {
     void TemplateShopKeepsWhatIsAddedAndRemoved();
     void ColorMatcherExchangesAndConverts();
     void KeysTickSeveralPaintsAndTheKitIsPaintedWithThem();
+    void TheShoppingListFollowsKitsPotsAndPainting();
     void MakesAKitPaintableAsTheMouseProtectsIt();
     void AKitSavedUnderANameKeepsIt();
     void ThePdfWindowTellsWhatACanvasDoesToTheSymbols();
@@ -44,6 +45,15 @@ class ToolsTest : public QObject {
   private:
     static void Press(QWidget& window, const char* button) {
         QTest::mouseClick(&Find<QPushButton>(window, button), Qt::LeftButton);
+    }
+
+    /// Answers the file dialog that comes next.
+    static void NameNextFile(const std::filesystem::path& file) {
+        QTimer::singleShot(0, qApp, [file] {
+            auto& name = Find<QLineEdit>(*QApplication::activeModalWidget(), "fileNameEdit");
+            name.setText(QString::fromStdString(file.string()));
+            QTest::keyClick(&name, Qt::Key_Return);
+        });
     }
 
     static QString Spoken(QObject& of) {
@@ -74,6 +84,16 @@ void ToolsTest::TemplateShopKeepsWhatIsAddedAndRemoved() {
     Press(shop, "AddPaint");
     QCOMPARE(Find<QListWidget>(shop, "TemplatePaints").count(), 2);
     Find<QListWidget>(shop, "TemplatePaints").setCurrentRow(0);
+    Press(shop, "RemovePaint");
+    found.setFocus();
+    QTest::keyClick(&found, Qt::Key_Home);
+    QTest::keyClick(&found, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(&found, Qt::Key_Return);
+    auto& listed = Find<QListWidget>(shop, "TemplatePaints");
+    const auto chosen = listed.selectedItems().size();
+    QVERIFY(chosen > 0);
+    Press(shop, "PaintUp");
+    QCOMPARE(listed.selectedItems().size(), chosen);
     Press(shop, "RemovePaint");
     Press(shop, "TemplateShopDone");
     QVERIFY(!shop.isVisible());
@@ -126,6 +146,57 @@ void ToolsTest::KeysTickSeveralPaintsAndTheKitIsPaintedWithThem() {
     window = QApplication::activeModalWidget();
     QVERIFY(Find<QLabel>(*window, "MissingSummary").text().contains(QLatin1String("have all")));
     Press(*window, "MissingDone");
+}
+
+void ToolsTest::TheShoppingListFollowsKitsPotsAndPainting() {
+    MainWindow& main = desktop_->Window();
+    const auto& files = studio_->Files;
+    QVERIFY(Choose(main, "ChangeToStipples") && Choose(main, "SaveKit"));
+    std::filesystem::copy(files / "Kits/PBNLady.kit", files / "Kits/again.kit");
+    const PaintColor& first = desktop_->Place().State->PaintColors[1];
+    files.Write("Data/mypaints.csv", "set,name,code,ml left\n" + first.Mfg + "," + first.PaintName +
+                                         "," + first.PaintCode + ",500\n");
+    QVERIFY(Choose(main, "ShowShopping"));
+    QWidget& window = *QApplication::activeModalWidget();
+    auto& kits = Find<QListWidget>(window, "ShoppedKits");
+    const auto summary = [&window] { return Find<QLabel>(window, "ShoppingSummary").text(); };
+    const QString one = summary();
+    QVERIFY2(one.endsWith("Of 1 more you have enough."), qPrintable(one));
+    NameNextFile(files / "Kits/again.kit");
+    Press(window, "AddKits");
+    QCOMPARE(kits.count(), 2);
+    const QString both = summary();
+    QVERIFY(both != one);
+    kits.setFocus();
+    QTest::keyClick(&kits, Qt::Key_Down);
+    for (const QString& next : {one, both}) {
+        QTest::keyClick(&kits, Qt::Key_Space);
+        QTRY_COMPARE(summary(), next);
+    }
+    auto& pot = Find<QDoubleSpinBox>(window, "PotOf");
+    pot.selectAll();
+    QTest::keyClicks(&pot, "20");
+    QTest::keyClick(&pot, Qt::Key_Tab);
+    QVERIFY2(summary().contains(" pots with "), qPrintable(summary()));
+    const auto shelf = [&files] { return files.Read("Data/mypaints.csv"); };
+    Press(window, "IPaintedIt");
+    const std::string painted = shelf();
+    QVERIFY(painted.find("PBNLady") != painted.npos && kits.item(1)->text().endsWith("painted"));
+    QVERIFY(!Find<QPushButton>(window, "IPaintedIt").isEnabled());
+    Press(window, "UndoPainted");
+    QVERIFY(shelf().find("PBNLady") == std::string::npos);
+    std::string pages[2];
+    for (std::string& page : pages) {
+        NameNextFile(files / "list.pdf");
+        Press(window, "SaveShoppingPage");
+        page = files.Read("list.pdf");
+        std::filesystem::remove(files / "list.pdf");
+    }
+    QVERIFY(pages[0].starts_with("%PDF") && pages[0] == pages[1]);
+    QTest::keyClick(&kits, Qt::Key_Delete);
+    QCOMPARE(kits.count(), 1);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QVERIFY(!window.isVisible());
 }
 
 void ToolsTest::MakesAKitPaintableAsTheMouseProtectsIt() {

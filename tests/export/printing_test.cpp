@@ -18,6 +18,7 @@
 #include "export/qt_exporter.h"
 #include "export/symbol_likeness.h"
 #include "output/symbol_set.h"
+#include "shelf/labels.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -251,7 +252,11 @@ TEST_F(Printing, SymbolsStandWhereTheyAreMeasured) {
 // What the orders of letters and signs promise, by the measure they were made with.
 TEST_F(Printing, TheFirstSymbolsOfAStyleAreToldApartBest) {
     const auto worst = [](SymbolStyle style, int paints) {
-        const PrintSymbols symbols(style, paints);
+        PaintMarks marks{style, paints};
+        for (const std::string& label : NextFreeLabels({}, paints)) {
+            marks.Labels.push_back({label});
+        }
+        const PrintSymbols symbols(marks);
         std::vector<SymbolDrawing> drawings;
         for (int i = 1; i <= paints; ++i) {
             drawings.push_back([&symbols, i](QPainter& painter, QPointF centre, double height) {
@@ -270,6 +275,8 @@ TEST_F(Printing, TheFirstSymbolsOfAStyleAreToldApartBest) {
     };
     EXPECT_LT(worst(SymbolStyle::Clear, 32), 0.88);
     EXPECT_LT(worst(SymbolStyle::Signs, 50), 0.91);
+    EXPECT_LT(worst(SymbolStyle::Mine, 32), 0.88);
+    EXPECT_LT(worst(SymbolStyle::Mine, 50), 0.91);
     EXPECT_GT(worst(SymbolStyle::Letters, 50), 0.93) << "8 and B";
     EXPECT_EQ(LettersFor(SymbolStyle::Clear, 3), "7AL");
 }

@@ -1,8 +1,10 @@
 #include <gmock/gmock.h>
 
+#include "forms/add_catalogue.h"
 #include "forms/missing_paints.h"
 #include "forms/my_paints.h"
 #include "forms/paint_source.h"
+#include "forms/shopping.h"
 #include "forms/small_photo.h"
 #include "paints/restore.h"
 #include "plan/blank_exporter.h"
@@ -126,8 +128,8 @@ TEST(PaintSource, WhatIsOwnedReachesTheKitAsATemplateAndSetsComeBack) {
     ChangeShelf(photo.Place.Folder, [&](Shelf& shelf) {
         AddToShelf(shelf, {120, 80, 30, "Mine", "", "Mud", 0});
     });
-    form.Form_Load();
-    form.Choose(wish);
+    form.ReadOwned();  // from the window over it
+    EXPECT_EQ(form.Wish(), wish);
     EXPECT_EQ(form.Figures()->ToBuy, 0);
     EXPECT_EQ(photo.State.PaintCount, 2);  // figures change nothing
     form.AcceptButton_Click();
@@ -143,10 +145,12 @@ TEST(PaintSource, WhatIsOwnedReachesTheKitAsATemplateAndSetsComeBack) {
     EXPECT_EQ(photo.State.PaintCount, 2);
 }
 
+struct Fonts : test::BlankExporter {
+    void Write(OutputId, PlannedKit&, const Target&) const override {}
+};
+
 TEST(MissingPaints, AnExchangeStaysOverTheNextConversionAndGoesByUndo) {
-    struct Fonts : test::BlankExporter {
-        void Write(OutputId, PlannedKit&, const Target&) const override {}
-    } fonts;
+    const Fonts fonts;
     test::SmallPhoto photo;
     photo.Convert();
     ChangeShelf(photo.Place.Folder, [&](Shelf& shelf) {
@@ -172,6 +176,103 @@ TEST(MissingPaints, AnExchangeStaysOverTheNextConversionAndGoesByUndo) {
     EXPECT_TRUE(has("Mud") && !has(before));
     form.Undo_Click();
     EXPECT_TRUE(!has("Mud") && has(before));
+}
+
+// Two saved kits of one photo, the second of them at hand.
+struct TwoKits : test::SmallPhoto {
+    TwoKits() {
+        Convert();
+        ChangeShelf(Place.Folder, [this](Shelf& shelf) {
+            AddToShelf(shelf, State.PaintColors[1]).MlLeft = 5;
+            AddToShelf(shelf, State.PaintColors[2]);
+        });
+        for (const char* title : {"one", "two"}) {
+            EXPECT_TRUE(Desk.SaveAs_Click(title));
+        }
+        Form.Form_Load();
+    }
+    struct OnCanvas : PlanChoice {
+        OnCanvas() { Restore({.CanvasCm = 40}); }
+    } Print;
+    KitDesk Desk{Place, nullptr, Print};
+    const Fonts Drawn;
+    ShoppingForm Form{Place, Drawn, Desk, Print.Settings()};
+};
+
+TEST(Shopping, AddsKitsUpAndNamesThoseThatCannotBeRead) {
+    TwoKits kits;
+    ShoppingForm& form = kits.Form;
+    ASSERT_EQ(form.Rows().size(), 1U);  // of the other nobody knows how much is left
+    const double one = form.Rows()[0].NeededMl;
+    form.AddKits_Click(
+        {kits.Files / "Kits/one.kit", kits.Files / "Kits/gone.kit", kits.Files / "Kits/two.kit"});
+    ASSERT_EQ(form.Kits().size(), 2U);
+    EXPECT_EQ(kits.Screen.Messages.size(), 1U);
+    EXPECT_EQ(form.Told(), "two is in the list already.");
+    EXPECT_NEAR(form.Rows()[0].NeededMl, 2 * one, 1e-9);
+    EXPECT_EQ(form.Rows()[0].Label, "A");
+    form.ShowAll_Click(true);
+    EXPECT_EQ(form.Rows().size(), 2U);
+    form.Pot_Change(20);
+    EXPECT_GT(form.Rows()[0].Pots, 1);
+    EXPECT_THAT(form.Summary(), testing::EndsWith("Of 1 more you have enough."));
+    form.SaveTable_Click(kits.Files / "list.csv");
+    EXPECT_THAT(kits.Files.Read("list.csv"), testing::HasSubstr(",two; one\r\n"));
+    form.RemoveKits_Click({0, 1});
+    EXPECT_THROW(form.SaveTable_Click(kits.Files / "none.csv"), Error);
+}
+
+TEST(Shopping, APaintedKitTakesWhatItUsedAndAsksForNothingMore) {
+    TwoKits kits;
+    ShoppingForm& form = kits.Form;
+    const Shelf before = ReadShelf(kits.Place.Folder);
+    form.AddKits_Click({kits.Files / "Kits/one.kit"});
+    form.Painted_Click(1);
+    EXPECT_EQ(ReadShelf(kits.Place.Folder).Paints[0].MlLeft, 0);
+    EXPECT_TRUE(form.Kits()[1].Painted && !form.Kits()[1].Counts);
+    EXPECT_EQ(form.Rows()[0].In.size(), 1U);
+    EXPECT_EQ(form.Told(), "one: 5.0 ml taken off 1 paint of yours.");
+    form.Count_Click(0, false);
+    EXPECT_TRUE(form.Rows().empty());
+    form.Form_Load();  // what was painted is known from the shelf
+    form.AddKits_Click({kits.Files / "Kits/one.kit"});
+    EXPECT_FALSE(form.Kits()[1].Counts);
+    form.UndoPainted_Click(1);
+    EXPECT_EQ(ReadShelf(kits.Place.Folder), before);
+    EXPECT_EQ(form.Rows()[0].In.size(), 2U);
+    EXPECT_THROW(form.UndoPainted_Click(1), Error);
+}
+
+TEST(AddCatalogue, TakesWhatCanBeReadAndNamesTheRest) {
+    test::SmallPhoto photo;
+    photo.Files.Write("Shop 7.csv",
+                      "No.;Farbe;L;a;b\n1;Sky;60,5;-3;-30\n2;Fog;gray;0;0\n"
+                      ";;50;0;0\n3;Ink;20;5;-10\n");
+    AddCatalogueForm form(photo.Place);
+    form.File_Chosen(photo.Files / "Shop 7.csv");
+    EXPECT_EQ(form.ColumnNames()[1], "2  Farbe  (Sky)");
+    CatalogueColumns columns = form.Columns();  // Lab, and the names are in no language it knows
+    columns.Name = 1;
+    form.Columns_Change(columns);
+    form.Set_Change("Shop");
+    EXPECT_EQ(form.Summary(), "2 paints in 1 set, 2 lines left out.");
+    EXPECT_THAT(form.Faults()[0], testing::StartsWith("Line 3"));
+    columns.Lab = {};
+    form.Columns_Change(columns);
+    EXPECT_TRUE(form.Paints().Empty());
+    EXPECT_THROW(form.AcceptButton_Click(), Error);
+    columns.Lab = {2, 3, 4};
+    form.Columns_Change(columns);
+    const std::vector<PaintSet> sets(photo.State.PaintSets.begin(), photo.State.PaintSets.end());
+    form.AcceptButton_Click();
+    EXPECT_EQ(photo.State.MasterColors[6].PaintName, "Ink");
+    EXPECT_EQ(photo.State.PaintSets[4].Name, "Shop");
+    for (int set = 1; set <= 3; ++set) {
+        EXPECT_EQ(photo.State.PaintSets[set].Selected,
+                  sets[static_cast<std::size_t>(set) - 1].Selected);
+    }
+    EXPECT_THROW(form.AcceptButton_Click(), FileError);  // it is there
+    EXPECT_THROW(form.File_Chosen(photo.Files.Write("none.csv", "\n")), FormatError);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "forms/small_photo.h"
 #include "paints/paints.h"
 #include "paints/template_file.h"
+#include "shelf/shelf_file.h"
 #include "support/error.h"
 
 namespace vendrel {
@@ -33,23 +34,41 @@ TEST(TemplateShop, RefusesNamesThatCannotBeFiles) {
 TEST(TemplateShop, KeepsPaintsInTheOrderGivenAndOnce) {
     Shop shop;
     shop.Form.AddTemplate_Click("Sea");
-    EXPECT_TRUE(shop.Form.AddPaint_Click(1));
-    EXPECT_TRUE(shop.Form.AddPaint_Click(2));
-    EXPECT_TRUE(shop.Form.AddPaint_Click(3));
-    EXPECT_FALSE(shop.Form.AddPaint_Click(2));
-    shop.Form.MovePaint_Click(3, 1);
-    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Green Red Ochre, dark");
-    shop.Form.MovePaint_Click(1, 99);
-    shop.Form.RemovePaint_Click(1);
+    EXPECT_EQ(shop.Form.AddPaints_Click({1, 2}), 2);
+    EXPECT_EQ(shop.Form.AddPaints_Click({3, 2, 3}), 1);
+    EXPECT_TRUE(shop.Form.MovePaints_Click({2, 3}, -1));
+    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Ochre, dark Green Red");
+    EXPECT_FALSE(shop.Form.MovePaints_Click({1, 3}, -1));
+    EXPECT_TRUE(shop.Form.MovePaints_Click({1, 2}, 1));
+    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Red Ochre, dark Green");
+    shop.Form.RemovePaints_Click({1});
     EXPECT_EQ(shop.Files.Read("templates/Sea.csv"),
               " 2\r\n120,80,30,\"Warm, soft\",\"PY43\",\"Ochre, dark\"\r\n"
               "0,200,0,\"Cold\",\"PG7\",\"Green\"\r\n");
+    EXPECT_EQ(shop.Form.AddSets_Click({2, 4}), 2);  // of two sets what is not there
+    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Ochre, dark Green Red Night");
+    shop.Form.RemovePaints_Click({2, 4});
+    EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Ochre, dark Red");
+}
+
+TEST(TemplateShop, MarksWhatIsOwnedAndFindsItAlone) {
+    Shop shop;
+    const PaintColor& green = shop.State.MasterColors[3];
+    ChangeShelf(shop.Place.Folder, [&](Shelf& shelf) { AddToShelf(shelf, green); });
+    shop.Form.Form_Load();
+    EXPECT_EQ(shop.Form.OwnedAs(green), "A");
+    EXPECT_FALSE(shop.Form.OwnedAs(shop.State.MasterColors[1]));
+    shop.Form.Search_Change({.OwnedOnly = true});
+    EXPECT_THAT(shop.Form.Controls().Found, ElementsAre(3));
+    shop.Files.Write("Data/mypaints.csv", "name\n\"never closed");
+    shop.Form.Form_Load();
+    EXPECT_EQ(shop.Screen.Messages.size(), 1U);
 }
 
 TEST(TemplateShop, RenamesDuplicatesAndDeletesWhatThePaintShopUses) {
     Shop shop;
     shop.Form.AddTemplate_Click("Sea");
-    shop.Form.AddPaint_Click(2);
+    shop.Form.AddPaints_Click({2});
     shop.Form.DuplicateTemplate_Click("Sky");
     EXPECT_EQ(test::NamesOf(shop.Form.Controls().Paints), "Ochre, dark");
     shop.State.SelectedTemplate = "Sky";
@@ -77,9 +96,9 @@ TEST(TemplateShop, NeverOverwritesWhatIsNoTemplateWithoutAsking) {
     EXPECT_THROW(shop.Form.TemplateList_Click(0), FormatError);
     EXPECT_EQ(shop.Form.Chosen(), "list");
     shop.Screen.Answers = {false, true};
-    shop.Form.AddPaint_Click(1);
+    shop.Form.AddPaints_Click({1});
     EXPECT_EQ(shop.Files.Read("templates/list.csv"), "eggs\r\nmilk\r\n");
-    shop.Form.AddPaint_Click(1);
+    shop.Form.AddPaints_Click({1});
     EXPECT_EQ(test::NamesOf(ReadTemplate(shop.Files / "templates/list.csv")), "Red");
 }
 

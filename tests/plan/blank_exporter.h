@@ -17,6 +17,7 @@ class BlankExporter : public Exporter {
     }
     void WriteStickers(const std::vector<Sticker>& /*stickers*/, const StickerSheet& /*sheet*/,
                        int /*used*/, const Target& /*target*/) const override {}
+    void WriteShopping(const ShoppingPage& /*page*/, const Target& /*target*/) const override {}
 };
 
 }  // namespace vendrel::test
