@@ -182,9 +182,9 @@ class ShelfReader {
                             "\". Choose one to three letters or digits.");
         }
         for (const auto& [other, line] : labels_) {
-            if (AreLabelsAlike(label, other)) {
-                Refuse(row, "has the label " + label + ", which looks like " + other + " of line " +
-                                std::to_string(line) + ". Choose another or leave it empty.");
+            if (label == other) {  // pots that carry labels much alike are the painter's to relabel
+                Refuse(row, "has the label " + label + ", which line " + std::to_string(line) +
+                                " has too. Choose another or leave it empty.");
             }
         }
         labels_.emplace_back(label, row.Line);

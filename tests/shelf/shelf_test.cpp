@@ -57,7 +57,7 @@ TEST(ShelfFile, RefusesWithTheLineWhatCouldBeMisread) {
           {"name,ml left\nRed,-1\n", "has \"-1\" for ml left"},
           {"name,pots\nRed,1.5\n", "Write a whole number"},
           {"name,red,green,blue\nRed,1,,3\n", "Give all three or none"},
-          {"name,label\nRed,A0\nBlue,ao\n", "line 3: has the label AO, which looks like A0"},
+          {"name,label\nRed,A0\nBlue,a0\n", "line 3: has the label A0, which line 2 has too"},
           {"name,label\nRed,A-\n", "Choose one to three letters or digits"},
           {"name\nRed\n\nRED\n", "line 4: lists the paint of line 2 again"},
           {"name\n\"Red\nBlue\n", "line 2: a quote is opened and never closed"},
