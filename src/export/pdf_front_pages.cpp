@@ -238,45 +238,54 @@ QString RulerStep(const KitPages& kit) {
                : "Measure the ruler below: it must be exactly 5 cm long.";
 }
 
-// How far the picture's edges are from the canvas's.
+// How far the picture's edges are from the canvas's; it fills one of its sides.
 QString MarginStep(const KitPages& kit) {
     const PlanPoint& at = kit.Plan.PictureAt;
     const double unit = kit.Settings.InInches() ? kMmPerInch : 10;
+    const bool beside = at.X >= at.Y;
     return QString(
                "The canvas is of another shape than the picture. It stands in the middle: leave "
-               "%1 %3 free at the left and right and %2 %3 at the top and bottom.")
-        .arg(at.X / unit, 0, 'f', 1)
-        .arg(at.Y / unit, 0, 'f', 1)
-        .arg(kit.Settings.InInches() ? "in" : "cm");
+               "%1 %2 free at the %3.")
+        .arg((beside ? at.X : at.Y) / unit, 0, 'f', 1)
+        .arg(kit.Settings.InInches() ? "in" : "cm")
+        .arg(beside ? "left and right" : "top and bottom");
 }
 
 QStringList StepsToGlue(const KitPages& kit) {
-    QStringList steps{
-        kFirstStep,
-        RulerStep(kit),
-        "Where a page has crop marks, cut off the left margin, the top margin or both along them. "
-        "The strips beyond the dashed blue lines on the right and below stay on: the next pages "
-        "are glued over them.",
-        "Lay the cut edge of the next page on the dashed line, so that the halves of the round "
-        "marks meet, and glue page to page, row by row, as the map shows.",
-        QString("Cut off the outer margins, glue the plan onto the canvas or board, or trace it, "
-                "and fill every outline with the paint of its symbol. ") +
-            PaintStep(kit),
-        "Keep the color chart at hand: it has the paints' codes, and the lists on the pages vanish "
-        "under their neighbors."};
-    if (kit.Plan.Canvas != kit.Plan.Pages.Canvas) {
-        steps.insert(steps.size() - 1, MarginStep(kit));
+    const bool several = kit.Plan.Pages.Tiles.size() > 1;
+    QStringList steps{kFirstStep, RulerStep(kit)};
+    if (several) {
+        steps << "Where a page has crop marks, cut off the left margin, the top margin or both "
+                 "along them. The strips beyond the dashed blue lines on the right and below stay "
+                 "on: the next pages are glued over them."
+              << "Lay the cut edge of the next page on the dashed line, so that the halves of the "
+                 "round marks meet, and glue page to page, row by row, as the map shows.";
     }
+    if (kit.Plan.Canvas != kit.Plan.Pages.Canvas) {
+        steps << MarginStep(kit);
+    }
+    steps << QString(
+                 "Cut off the outer margins, glue the plan onto the canvas or board, or trace "
+                 "it, and fill every outline with the paint of its symbol. ") +
+                 PaintStep(kit);
+    steps << (several ? "Keep the color chart at hand: it has the paints' codes, and the lists on "
+                        "the pages vanish under their neighbors."
+                      : "Keep the color chart at hand: it has the paints' codes.");
     return steps;
 }
 
 QStringList StepsToStretch(const KitPages& kit) {
-    return {"Have the last page printed on canvas at its actual size (100 %), with its crop marks.",
-            "Measure the ruler at its foot: like the one below it must be exactly " +
-                QString(kit.Settings.InInches() ? "2 inches and 5 cm long." : "5 cm long."),
-            "The thin line is the edge of the canvas. What lies beyond is the bleed: it is wrapped "
-            "round the frame, and the outlines run on there.",
-            QString("Fill every outline with the paint of its symbol. ") + PaintStep(kit)};
+    QStringList steps{
+        "Have the last page printed on canvas at its actual size (100 %), with its crop marks.",
+        "Measure the ruler at its foot: like the one below it must be exactly " +
+            QString(kit.Settings.InInches() ? "2 inches and 5 cm long." : "5 cm long."),
+        "The thin line is the edge of the canvas. What lies beyond is the bleed: it is wrapped "
+        "round the frame, and the outlines run on there."};
+    if (kit.Plan.Canvas != kit.Plan.Pages.Canvas) {
+        steps << MarginStep(kit);
+    }
+    steps << QString("Fill every outline with the paint of its symbol. ") + PaintStep(kit);
+    return steps;
 }
 
 // Answers where the text ends.

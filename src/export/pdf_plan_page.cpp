@@ -185,11 +185,11 @@ void PlanPage::DrawLegend() {
     const double left = beside ? sheet_.Width - Design::kMargin - paper_.Beside : Design::kLeft;
     const double top = beside ? Design::kPictureTop + Design::kLegendTitle
                               : sheet_.Height - Design::kMargin - rows * Design::kLegendRow;
-    // The heading goes with the top margin where that is cut off.
+    // The page's heading goes with the top margin where that is cut off; the list has its own.
     painter_.setPen(Qt::black);
     painter_.setFont(TextFont(FontMm(3), Weight::Bold));
-    DrawLineOfText(painter_, MmRect(left, top - 4.2, Design::ListWidth(paper_), 4),
-                   beside ? Qt::AlignLeft : Qt::AlignRight, ToQt("Page " + tile_.Name()));
+    DrawLineOfText(painter_, MmRect(left, top - 4.2, Design::ListWidth(paper_), 4), Qt::AlignLeft,
+                   ToQt("Page " + tile_.Name()));
     for (std::size_t i = 0; i < paints.size(); ++i) {
         const int column = static_cast<int>(i) / rows;
         const int row = static_cast<int>(i) % rows;
