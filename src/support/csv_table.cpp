@@ -10,7 +10,7 @@
 namespace vendrel {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\xC2\xA0";  // and the blank that no line breaks at
+constexpr auto kBlanks = std::to_array<std::string_view>({" ", "\t", "\xC2\xA0"});
 
 class CsvReader {
   public:
@@ -137,11 +137,21 @@ bool MayBeThousands(std::string_view text, std::size_t mark, double most) {
 }  // namespace
 
 std::string_view Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == text.npos) {
-        return {};
+    // The blank that no line breaks at has two bytes, which other letters have too.
+    for (bool goesOn = true; goesOn;) {
+        goesOn = false;
+        for (const std::string_view blank : kBlanks) {
+            if (text.starts_with(blank)) {
+                text.remove_prefix(blank.size());
+                goesOn = true;
+            }
+            if (text.ends_with(blank)) {
+                text.remove_suffix(blank.size());
+                goesOn = true;
+            }
+        }
     }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    return text;
 }
 
 CsvTable ParseCsv(std::string_view text, const std::filesystem::path& file) {

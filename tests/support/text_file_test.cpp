@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include "support/csv_table.h"
 #include "support/error.h"
 #include "support/letter_case.h"
 #include "support/temp_folder.h"
@@ -54,6 +55,12 @@ TEST(TextFile, RefusesWhatIsNoFileWithoutWaiting) {
         EXPECT_THAT([&] { (void)ReadTextFile(file); },
                     testing::ThrowsMessage<FileError>(testing::HasSubstr(problem)));
     }
+}
+
+TEST(Trimmed, TakesBlanksAndNoHalfLetters) {
+    EXPECT_EQ(Trimmed("\xC2\xA0 Voil\xC3\xA0\t\xC2\xA0"), "Voil\xC3\xA0");
+    EXPECT_EQ(Trimmed(" \xC2\xBD oz"), "\xC2\xBD oz");
+    EXPECT_EQ(Trimmed(" \xC2\xA0"), "");
 }
 
 }  // namespace
