@@ -4,7 +4,8 @@
 
 namespace vendrel::fuzz {
 
-const std::size_t kMemoryPerByte = sizeof(Color) * 256;
+// A picture of one row is held twice while it is read.
+const std::size_t kMemoryPerByte = sizeof(Color) * 256 * 2;
 
 void Read(Bytes bytes) {
     const NoPhotoDecoder decoder;
