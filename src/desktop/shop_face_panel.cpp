@@ -67,6 +67,7 @@ void ShopFacePanel::Name() {
     noLogo_->setText(tr("N&o logo"));
     address_->setTabChangesFocus(true);
     address_->setPlaceholderText(tr("Lines for the cover"));
+    address_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     address_->setFixedHeight(kAddressLines * fontMetrics().lineSpacing() +
                              2 * (address_->frameWidth() + 4));
     color_->setText(tr("Co&lor..."));
