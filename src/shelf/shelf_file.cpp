@@ -317,6 +317,12 @@ void AppendRow(std::string& text, const std::vector<std::string>& fields, char s
     text += "\r\n";
 }
 
+// A heading tells what separates the fields, so no name in it may say otherwise.
+std::string HeadingField(const std::string& name, char separator) {
+    const std::size_t other = name.find_first_of(";\t,");
+    return CsvField(name, other == name.npos ? separator : name[other]);
+}
+
 // Changes take a moment; a program that stands still must not keep the others waiting for ever.
 std::shared_ptr<const HeldFile> HoldShelf(const fs::path& file) {
     using namespace std::chrono_literals;
@@ -351,7 +357,11 @@ std::string FormatShelf(const Shelf& shelf) {
     std::string text = "\xEF\xBB\xBF";  // tells a spreadsheet the encoding
     std::vector<std::string> heading(kColumns.begin(), kColumns.end());
     heading.insert(heading.end(), shelf.OtherColumns.begin(), shelf.OtherColumns.end());
-    AppendRow(text, heading, shelf.Separator);
+    for (std::size_t i = 0; i < heading.size(); ++i) {
+        text += (i > 0 ? std::string(1, shelf.Separator) : "") +
+                HeadingField(heading[i], shelf.Separator);
+    }
+    text += "\r\n";
     for (const ShelfPaint& paint : shelf.Paints) {
         AppendRow(text, FieldsOf(paint, shelf), shelf.Separator);
     }
